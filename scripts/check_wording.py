@@ -1,0 +1,66 @@
+#!/usr/bin/env python3
+"""Checks the words of the repository, and the length of its files.
+
+The repository explains itself: it names no numbered papers that a reader does not have, no folder
+of one developer's machine, and leaves no notes of unfinished work. Exit status 1 with one line for
+each offence.
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+
+RULES = [
+    (re.compile(r"(?<![\w.])/(?:work|root|Users/\w+)/"), "a folder of one machine"),
+    (re.compile(r"\b(?:P[a]rt|S[e]ction|Ch[a]pter)s? \d+(?:\.\d+)?\b"), "a paper the reader lacks"),
+    (re.compile(r"\bsp[e]c(?:ification)?s?\b", re.IGNORECASE), "a paper the reader lacks"),
+    (re.compile(r"\b(?:T[O]DO|F[I]XME|X[X]X)\b"), "unfinished work: open an issue"),
+]
+SOURCE_SUFFIXES = {".cpp", ".h", ".py", ".sh", ".cmake"}
+LONGEST = 600  # lines
+BINARY_SUFFIXES = {".png", ".jpg", ".kvs", ".wav", ".mid", ".bmp", ".ico", ".ttf"}
+SKIPPED = {"COPYING"}
+
+
+def tracked_files(root):
+    """Files git knows or would take; the corpus of the fuzz targets is bytes, not words."""
+    listing = subprocess.run(
+        ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+        cwd=root, check=True, capture_output=True).stdout.decode("utf-8")
+    for name in sorted(filter(None, listing.split("\0"))):
+        path = root / name
+        if path.is_file() and name not in SKIPPED and not name.startswith("fuzz/corpus/"):
+            yield name, path
+
+
+def check_file(name, path):
+    for pattern, why in RULES:
+        if pattern.search(name):
+            yield name, 0, why
+    if path.suffix in BINARY_SUFFIXES:
+        return
+    try:
+        lines = path.read_text(encoding="utf-8").splitlines()
+    except UnicodeDecodeError:
+        return
+    for number, line in enumerate(lines, 1):
+        for pattern, why in RULES:
+            match = pattern.search(line)
+            if match:
+                yield name, number, f"“{match.group(0)}”: {why}"
+    if path.suffix in SOURCE_SUFFIXES and len(lines) > LONGEST:
+        yield name, len(lines), f"more than {LONGEST} lines: give it a second subject's file"
+
+
+def main():
+    root = pathlib.Path(__file__).resolve().parent.parent
+    offences = [o for name, path in tracked_files(root) for o in check_file(name, path)]
+    for name, number, text in offences:
+        print(f"{name}:{number}: {text}")
+    print(f"wording: {len(offences)} offences")
+    return 1 if offences else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

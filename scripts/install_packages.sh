@@ -1,0 +1,45 @@
+#!/bin/bash
+# install_packages.sh run|test: installs what is missing of the packages that playing, or testing as
+# well, needs (Debian 12). With nothing missing it neither asks for rights nor touches the network.
+set -euo pipefail
+
+run_packages=(
+    # To build.
+    g++ cmake ninja-build ccache qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev
+    # To run: picture kinds, the window systems, Qt's own dialogs in Japanese, fonts.
+    qt6-image-formats-plugins libqt6svg6 qt6-qpa-plugins libxcb-cursor0 qt6-wayland
+    qt6-translations-l10n fonts-ipafont-gothic fonts-ipafont-mincho
+    # The scripts.
+    python3
+)
+test_packages=(
+    libgtest-dev libgmock-dev git
+    clang clang-tidy clang-format libclang-rt-14-dev llvm
+    xvfb xauth xdotool imagemagick
+    # Benchmarks compare with these.
+    pkg-config libbenchmark-dev libturbojpeg0-dev libjpeg-dev
+)
+
+case ${1:-run} in
+    run) wanted=("${run_packages[@]}") ;;
+    test) wanted=("${run_packages[@]}" "${test_packages[@]}") ;;
+    *) echo "usage: install_packages.sh run|test" >&2; exit 2 ;;
+esac
+
+missing=()
+for package in "${wanted[@]}"; do
+    status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)
+    if [[ $status != installed ]]; then missing+=("$package"); fi
+done
+if [[ ${#missing[@]} -eq 0 ]]; then exit 0; fi
+
+echo "Installing: ${missing[*]}"
+as_root=()
+if [[ $(id -u) -ne 0 ]]; then as_root=(sudo); fi
+install=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q
+    --no-install-recommends "${missing[@]}")
+# The lists may be absent or old: fetch them only where the first try fails.
+if ! "${install[@]}"; then
+    "${as_root[@]}" apt-get update -q
+    "${install[@]}"
+fi

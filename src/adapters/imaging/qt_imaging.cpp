@@ -1,0 +1,187 @@
+#include "adapters/imaging/qt_imaging.h"
+
+#include <QImageReader>
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "adapters/imaging/picture_file.h"
+#include "adapters/imaging/pixels.h"
+
+namespace imaging {
+
+using platform::Bitmap;
+using platform::BitmapPtr;
+using platform::Size;
+
+namespace {
+
+Size SizeOf(const Bitmap& bitmap) {
+    return {bitmap.width, bitmap.height};
+}
+
+bool Covers(Size outer, Size inner) {
+    return outer.width >= inner.width && outer.height >= inner.height;
+}
+
+class QtImagingControl : public platform::ImagingControl {
+public:
+    explicit QtImagingControl(platform::Files& files) : files_(files) {}
+
+    bool ReadInformation(TextView path) override { return OpenFile(path) != nullptr; }
+
+    bool Load(TextView path, const platform::FitFunction& fit) override {
+        Clear();
+        const std::shared_ptr<PictureFile> file = OpenFile(path);
+        if (!file) {
+            return false;
+        }
+        const Size own = file->OwnSize();
+        const Size wanted = fit ? fit(own) : Size();
+        const bool scaled = file->DecodesScaledTo(wanted);
+        State fresh;
+        fresh.pixels = file->Decode(scaled ? wanted : own, &fresh.bitsPerPixel);
+        if (!fresh.pixels) {
+            return false;
+        }
+        fresh.held = own;
+        if (scaled || file->IsDrawing()) {
+            fresh.source = std::make_shared<Source>(Source{file, {}});
+        }
+        state_ = std::move(fresh);
+        return true;
+    }
+
+    bool Holds() const override { return state_.pixels != nullptr; }
+    Size HeldSize() const override { return state_.held; }
+    int BitsPerPixel() const override { return state_.bitsPerPixel; }
+
+    void SetColorResolution(int bits, int, int, int) override {
+        if (!Holds()) {
+            return;
+        }
+        if (bits == 1 && state_.bitsPerPixel != 1) {
+            Settle(Guarded([&] { return TwoLevels(*Picture()); }));
+        }
+        state_.bitsPerPixel = bits;
+    }
+
+    void Resize(int width, int height, int) override {
+        const Size size{std::max(width, 1), std::max(height, 1)};
+        if (!Holds() || !FitsMemory(size)) {
+            return;
+        }
+        if (SizeOf(*state_.pixels) == size) {
+            state_.held = size;
+        } else if (BitmapPtr resized = Resampled(size)) {
+            state_.pixels = std::move(resized);
+            state_.held = size;
+        }
+        // A drawing can be drawn anew at any later size; pixels are now all there is.
+        if (state_.source && !state_.source->file->IsDrawing() && state_.held == size) {
+            state_.source = nullptr;
+        }
+    }
+
+    BitmapPtr Picture() override {
+        if (!Holds() || SizeOf(*state_.pixels) == state_.held) {
+            return state_.pixels;
+        }
+        BitmapPtr whole = state_.source ? Whole(*state_.source, state_.held) : nullptr;
+        if (!whole && FitsMemory(state_.held)) {
+            whole = Guarded([&] { return Smooth(*state_.pixels, state_.held); });
+        }
+        if (whole) {
+            state_.pixels = std::move(whole);
+        }
+        return state_.pixels;
+    }
+
+    void CopyFrom(const ImagingControl& other) override {
+        if (const auto* control = dynamic_cast<const QtImagingControl*>(&other)) {
+            state_ = control->state_;
+        }
+    }
+
+    void Clear() override { state_ = {}; }
+
+private:
+    /// File to decode again from, and the whole picture for as long as some control holds it.
+    struct Source {
+        std::shared_ptr<const PictureFile> file;
+        std::weak_ptr<const Bitmap> whole;
+    };
+    struct State {
+        BitmapPtr pixels;
+        std::shared_ptr<Source> source;  // only while `pixels` is not the best there is
+        Size held;
+        int bitsPerPixel = 24;
+    };
+
+    std::shared_ptr<PictureFile> OpenFile(TextView path) {
+        const std::optional<std::string> found = files_.Find(path);
+        return found ? PictureFile::Open(*found) : nullptr;
+    }
+
+    /// The result of `work`, null where memory does not do.
+    template <typename Work>
+    static BitmapPtr Guarded(const Work& work) {
+        try {
+            return work();
+        } catch (const std::bad_alloc&) {
+            return nullptr;
+        }
+    }
+
+    /// The picture decoded whole, at most once for all controls that share it.
+    static BitmapPtr Whole(Source& source, Size size) {
+        BitmapPtr whole = source.whole.lock();
+        if (!whole || !(SizeOf(*whole) == size)) {
+            whole = source.file->Decode(size, nullptr);
+            source.whole = whole;
+        }
+        return whole;
+    }
+
+    BitmapPtr Resampled(Size size) {
+        const bool twoLevels = state_.bitsPerPixel == 1 && !state_.source;
+        const bool sharper = state_.source && (state_.source->file->IsDrawing() ||
+                                               !Covers(SizeOf(*state_.pixels), size));
+        if (sharper && state_.source->file->DecodesScaledTo(size)) {
+            if (BitmapPtr decoded = state_.source->file->Decode(size, nullptr)) {
+                return decoded;
+            }
+        }
+        const BitmapPtr base =
+            Covers(SizeOf(*state_.pixels), size) ? state_.pixels : Picture();
+        return Guarded([&] { return twoLevels ? Nearest(*base, size) : Smooth(*base, size); });
+    }
+
+    /// From here on the held picture is these pixels and no longer a file's.
+    void Settle(BitmapPtr pixels) {
+        if (pixels) {
+            state_.pixels = std::move(pixels);
+            state_.source = nullptr;
+            state_.held = SizeOf(*state_.pixels);
+        }
+    }
+
+    platform::Files& files_;
+    State state_;
+};
+
+}  // namespace
+
+QtImaging::QtImaging(platform::Files& files) : files_(files) {
+    QImageReader::setAllocationLimit(static_cast<int>(kMostBytes >> 20));
+}
+
+Text QtImaging::VersionText() const {
+    return u"パラピコ imaging 1997";
+}
+
+std::unique_ptr<platform::ImagingControl> QtImaging::MakeControl() {
+    return std::make_unique<QtImagingControl>(files_);
+}
+
+}  // namespace imaging

@@ -1,0 +1,24 @@
+// The imaging control over Qt's picture readers.
+#pragma once
+
+#include "platform/files.h"
+#include "platform/imaging.h"
+
+namespace imaging {
+
+/// PNG, JPEG, BMP, TIFF, GIF, WebP and SVG, told apart by content. SVG needs a QGuiApplication.
+/// Pictures above 1 GiB of pixels are refused, but JPEG and SVG where the fitted size does.
+/// Everything runs on the caller's thread; nothing throws.
+class QtImaging : public platform::Imaging {
+public:
+    /// `files` must outlive this object and its controls.
+    explicit QtImaging(platform::Files& files);
+
+    Text VersionText() const override;
+    std::unique_ptr<platform::ImagingControl> MakeControl() override;
+
+private:
+    platform::Files& files_;
+};
+
+}  // namespace imaging

@@ -1,0 +1,109 @@
+#include "adapters/qt/canvas_widget.h"
+
+#include <QImage>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "adapters/qt/virtual_keys.h"
+
+namespace qt_adapter {
+
+CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+CanvasWidget::~CanvasWidget() {
+    if (box_) {
+        box_->canvas.onChanged = nullptr;
+    }
+}
+
+void CanvasWidget::Attach(model::PictureBox& box, Gate& gate, bool physical) {
+    box_ = &box;
+    gate_ = &gate;
+    physical_ = physical;
+    box.canvas.TakeChanged();
+    box.canvas.onChanged = [this] {
+        // Many changes, one repaint: they are gathered until the loop runs.
+        if (!flushQueued_) {
+            flushQueued_ = true;
+            QMetaObject::invokeMethod(this, &CanvasWidget::Flush, Qt::QueuedConnection);
+        }
+    };
+    update();
+}
+
+double CanvasWidget::Scale() const { return physical_ ? devicePixelRatioF() : 1.0; }
+
+void CanvasWidget::Flush() {
+    flushQueued_ = false;
+    const platform::Rect changed = box_->canvas.TakeChanged();
+    if (changed.Empty()) {
+        return;
+    }
+    const double scale = Scale();
+    update(QRectF(changed.x / scale, changed.y / scale, changed.width / scale,
+                  changed.height / scale)
+               .toAlignedRect());
+}
+
+void CanvasWidget::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    if (!box_) {
+        painter.fillRect(event->rect(), Qt::black);
+        return;
+    }
+    const platform::Bitmap& pixels = box_->canvas.Pixels();
+    const double scale = Scale();
+    const QRectF covered(0, 0, pixels.width / scale, pixels.height / scale);
+    if (!covered.contains(QRectF(event->rect()))) {
+        const auto ground = static_cast<platform::Color>(box_->BackColor());
+        painter.fillRect(event->rect(), QColor::fromRgb(platform::ToPixel(ground)));
+    }
+    if (!pixels.Empty()) {
+        QImage image(reinterpret_cast<const uchar*>(pixels.pixels.data()), pixels.width,
+                     pixels.height, pixels.width * static_cast<qsizetype>(sizeof(platform::Pixel)),
+                     QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        // The painter is clipped to what must be painted.
+        painter.drawImage(QPoint(0, 0), image);
+    }
+    if (box_->Border) {
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void CanvasWidget::mousePressEvent(QMouseEvent* event) {
+    // Taken, so that the release comes here.
+    event->setAccepted(box_ != nullptr && event->button() == Qt::LeftButton);
+}
+
+void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (box_ && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
+        gate_->Guarded([this] {
+            if (box_->Reachable()) {
+                box_->Click();
+            }
+        });
+    }
+}
+
+void CanvasWidget::keyPressEvent(QKeyEvent* event) {
+    const int key = VirtualKey(event->key());
+    if (!box_ || key == 0 || !box_->KeyDown) {
+        event->ignore();  // goes on to the window
+        return;
+    }
+    gate_->Guarded([&] {
+        if (box_->Reachable()) {
+            box_->KeyDown(key);
+        }
+    });
+}
+
+}  // namespace qt_adapter

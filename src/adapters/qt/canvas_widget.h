@@ -1,0 +1,41 @@
+// Shows a picture box: paints the pixels of its canvas, and only those that changed.
+#pragma once
+
+#include <QWidget>
+
+#include "adapters/qt/gate.h"
+#include "model/control.h"
+
+namespace qt_adapter {
+
+class CanvasWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CanvasWidget(QWidget* parent = nullptr);
+    ~CanvasWidget() override;
+
+    /// `physical`: a canvas pixel is a pixel of the monitor; otherwise one of the window's units.
+    void Attach(model::PictureBox& box, Gate& gate, bool physical);
+
+    bool Physical() const { return physical_; }
+    /// Canvas pixels in one unit of the widget's coordinates.
+    double Scale() const;
+
+    /// Asks for a repaint of what changed on the canvas since the last time.
+    void Flush();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    model::PictureBox* box_ = nullptr;
+    Gate* gate_ = nullptr;
+    bool physical_ = false;
+    bool flushQueued_ = false;
+};
+
+}  // namespace qt_adapter

@@ -1,0 +1,344 @@
+#include "adapters/qt/control_binding.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <cmath>
+
+#include "adapters/qt/canvas_widget.h"
+#include "adapters/qt/convert.h"
+#include "adapters/qt/list_binding.h"
+#include "adapters/qt/stage_widget.h"
+#include "platform/monitors.h"
+
+namespace qt_adapter {
+
+namespace {
+
+using model::ControlKind;
+
+class ButtonBinding : public ControlBinding {
+public:
+    ButtonBinding(model::Button& button, QAbstractButton& widget, Gate& gate,
+                  const CanvasWidget* host)
+        : ControlBinding(button, widget, gate, host), button_(button), face_(widget) {
+        connect(&widget, &QAbstractButton::clicked, this,
+                [this] { Act([this] { button_.Click(); }); });
+        Sync();
+    }
+
+protected:
+    void SyncOwn() override {
+        const QString caption = ToQt(button_.Caption());
+        // A form may show only a shape; the words are then in the hint.
+        const bool wordless = face_.property("wordless").toBool();
+        face_.setText(wordless ? QString() : caption);
+        if (!caption.isEmpty() && face_.property("hint").isNull()) {
+            face_.setAccessibleName(caption);
+            face_.setToolTip(wordless ? caption : QString());
+        }
+    }
+
+private:
+    model::Button& button_;
+    QAbstractButton& face_;
+};
+
+class CheckBinding : public ControlBinding {
+public:
+    CheckBinding(model::CheckBox& box, QCheckBox& widget, Gate& gate)
+        : ControlBinding(box, widget, gate, nullptr), box_(box), face_(widget) {
+        connect(&widget, &QCheckBox::clicked, this, [this](bool on) {
+            Act([&] {
+                box_.Value = on ? 1 : 0;
+                box_.Click();
+            });
+            SyncOwn();
+        });
+        Sync();
+    }
+
+protected:
+    void SyncOwn() override {
+        face_.setText(ToQt(box_.Caption()));
+        face_.setChecked(box_.Value != 0);
+    }
+
+private:
+    model::CheckBox& box_;
+    QCheckBox& face_;
+};
+
+class OptionBinding : public ControlBinding {
+public:
+    OptionBinding(model::OptionButton& option, QRadioButton& widget, Gate& gate)
+        : ControlBinding(option, widget, gate, nullptr), option_(option), face_(widget) {
+        // The model may have all of a group off.
+        widget.setAutoExclusive(false);
+        connect(&widget, &QRadioButton::clicked, this, [this] {
+            Act([this] {
+                for (QRadioButton* other : face_.parentWidget()->findChildren<QRadioButton*>(
+                         Qt::FindDirectChildrenOnly)) {
+                    other->setChecked(other == &face_);
+                }
+                option_.Value = true;
+                option_.Click();
+            });
+            SyncOwn();
+        });
+        // Another option of the group was chosen.
+        connect(&widget, &QRadioButton::toggled, this, [this](bool on) {
+            if (!on && option_.Value) {
+                Act([this] { option_.Value = false; });
+            }
+        });
+        Sync();
+    }
+
+protected:
+    void SyncOwn() override {
+        face_.setText(ToQt(option_.Caption()));
+        face_.setChecked(option_.Value);
+    }
+
+private:
+    model::OptionButton& option_;
+    QRadioButton& face_;
+};
+
+class LabelBinding : public ControlBinding {
+public:
+    LabelBinding(model::Label& label, QLabel& widget, Gate& gate, const CanvasWidget* host)
+        : ControlBinding(label, widget, gate, host), label_(label), face_(widget) {
+        widget.setTextFormat(Qt::PlainText);
+        Sync();
+    }
+
+protected:
+    void SyncOwn() override { face_.setText(ToQt(label_.Caption())); }
+
+private:
+    model::Label& label_;
+    QLabel& face_;
+};
+
+class FrameBinding : public ControlBinding {
+public:
+    FrameBinding(model::Frame& frame, QGroupBox& widget, Gate& gate)
+        : ControlBinding(frame, widget, gate, nullptr), frame_(frame), face_(widget) {
+        Sync();
+    }
+
+protected:
+    void SyncOwn() override { face_.setTitle(ToQt(frame_.Caption())); }
+
+private:
+    model::Frame& frame_;
+    QGroupBox& face_;
+};
+
+/// `Edit` is QLineEdit or QPlainTextEdit.
+template <class Edit>
+class TextBinding : public ControlBinding {
+public:
+    TextBinding(model::TextBox& box, Edit& widget, Gate& gate)
+        : ControlBinding(box, widget, gate, nullptr), box_(box), face_(widget) {
+        Sync();
+        connect(&widget, &Edit::textChanged, this, [this] {
+            const Text content = FromQt(Shown());
+            if (content != box_.Content()) {
+                Act([&] {
+                    box_.Content = content;
+                    box_.Change();
+                });
+            }
+        });
+    }
+
+protected:
+    void SyncOwn() override {
+        const QString content = ToQt(box_.Content());
+        if (Shown() == content) {
+            return;  // the cursor stays where a person left it
+        }
+        if constexpr (std::is_same_v<Edit, QLineEdit>) {
+            face_.setText(content);
+        } else {
+            face_.setPlainText(content);
+        }
+    }
+
+private:
+    QString Shown() const {
+        if constexpr (std::is_same_v<Edit, QLineEdit>) {
+            return face_.text();
+        } else {
+            return face_.toPlainText().replace('\n', "\r\n");
+        }
+    }
+
+    model::TextBox& box_;
+    Edit& face_;
+};
+
+class PictureBinding : public ControlBinding {
+public:
+    PictureBinding(model::PictureBox& box, CanvasWidget& widget, Gate& gate,
+                   const CanvasWidget* host, bool physical)
+        : ControlBinding(box, widget, gate, host) {
+        widget.Attach(box, gate, physical);
+        Sync();
+    }
+
+protected:
+    void SyncOwn() override { widget_.update(); }
+    QSize NaturalSize() const override { return {0, 0}; }
+};
+
+}  // namespace
+
+ControlBinding::ControlBinding(model::VisibleControl& control, QWidget& widget, Gate& gate,
+                               const CanvasWidget* host)
+    : control_(control), widget_(widget), gate_(gate), host_(host) {
+    control.Listen(this);
+}
+
+ControlBinding::~ControlBinding() { control_.Unlisten(this); }
+
+void ControlBinding::PropertyChanged(model::Control&, model::PropertyBase& property) {
+    if (&property == &control_.Visible) {
+        widget_.setVisible(control_.Visible);
+    } else if (&property == &control_.Enabled) {
+        widget_.setEnabled(control_.Enabled);
+    } else if (&property == &control_.Left || &property == &control_.Top ||
+               &property == &control_.Width || &property == &control_.Height) {
+        Place();
+    } else {
+        SyncOwn();
+    }
+}
+
+void ControlBinding::Sync() {
+    SyncOwn();
+    Place();
+    widget_.setEnabled(control_.Enabled);
+    widget_.setVisible(control_.Visible);
+}
+
+void ControlBinding::Act(const std::function<void()>& call) {
+    gate_.Guarded([&] {
+        if (control_.Reachable()) {
+            call();
+        }
+    });
+}
+
+void ControlBinding::Place() {
+    const QWidget* parent = widget_.parentWidget();
+    const bool onStage = qobject_cast<const StageWidget*>(parent) != nullptr;
+    if (!host_ && !onStage) {
+        return;
+    }
+    const double scale = host_ ? host_->Scale() : 1.0;
+    const auto units = [scale](int twips) {
+        return static_cast<int>(std::lround(twips / platform::kTwipsPerPixel / scale));
+    };
+    QSize size(units(control_.Width), units(control_.Height));
+    if (size.isEmpty()) {
+        size = NaturalSize();
+    }
+    widget_.resize(size);
+    if (host_) {
+        widget_.move(static_cast<int>(std::lround(control_.Left / scale)),
+                     static_cast<int>(std::lround(control_.Top / scale)));
+    }
+}
+
+bool HasWidget(ControlKind kind) {
+    switch (kind) {
+        case ControlKind::Window:
+        case ControlKind::Timer:
+        case ControlKind::MenuEntry:
+        case ControlKind::Imaging: return false;
+        default: return true;
+    }
+}
+
+QWidget* MakePlainWidget(ControlKind kind, QWidget* parent) {
+    switch (kind) {
+        case ControlKind::Button: return new QPushButton(parent);
+        case ControlKind::Label: return new QLabel(parent);
+        case ControlKind::PictureBox: return new CanvasWidget(parent);
+        default: return nullptr;
+    }
+}
+
+std::unique_ptr<ControlBinding> MakeBinding(model::VisibleControl& control, QWidget& widget,
+                                            Gate& gate, const CanvasWidget* host, bool physical) {
+    switch (control.Kind()) {
+        case ControlKind::Button:
+            if (auto* face = qobject_cast<QAbstractButton*>(&widget)) {
+                return std::make_unique<ButtonBinding>(static_cast<model::Button&>(control), *face,
+                                                       gate, host);
+            }
+            break;
+        case ControlKind::CheckBox:
+            if (auto* face = qobject_cast<QCheckBox*>(&widget)) {
+                return std::make_unique<CheckBinding>(static_cast<model::CheckBox&>(control),
+                                                      *face, gate);
+            }
+            break;
+        case ControlKind::OptionButton:
+            if (auto* face = qobject_cast<QRadioButton*>(&widget)) {
+                return std::make_unique<OptionBinding>(
+                    static_cast<model::OptionButton&>(control), *face, gate);
+            }
+            break;
+        case ControlKind::Label:
+            if (auto* face = qobject_cast<QLabel*>(&widget)) {
+                return std::make_unique<LabelBinding>(static_cast<model::Label&>(control), *face,
+                                                      gate, host);
+            }
+            break;
+        case ControlKind::Frame:
+            if (auto* face = qobject_cast<QGroupBox*>(&widget)) {
+                return std::make_unique<FrameBinding>(static_cast<model::Frame&>(control), *face,
+                                                      gate);
+            }
+            break;
+        case ControlKind::TextBox: {
+            auto& box = static_cast<model::TextBox&>(control);
+            if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
+                return std::make_unique<TextBinding<QLineEdit>>(box, *line, gate);
+            }
+            if (auto* text = qobject_cast<QPlainTextEdit*>(&widget)) {
+                return std::make_unique<TextBinding<QPlainTextEdit>>(box, *text, gate);
+            }
+            break;
+        }
+        case ControlKind::ListBox:
+            if (auto* view = qobject_cast<QListView*>(&widget)) {
+                return std::make_unique<ListBinding>(static_cast<model::ListBox&>(control), *view,
+                                                     gate);
+            }
+            break;
+        case ControlKind::PictureBox:
+            if (auto* canvas = qobject_cast<CanvasWidget*>(&widget)) {
+                return std::make_unique<PictureBinding>(static_cast<model::PictureBox&>(control),
+                                                        *canvas, gate, host, physical);
+            }
+            break;
+        default: break;
+    }
+    qWarning("The form's widget %s is no %s", qUtf8Printable(widget.objectName()),
+             widget.metaObject()->className());
+    return nullptr;
+}
+
+}  // namespace qt_adapter

@@ -1,0 +1,60 @@
+// Ties one control to its widget, both ways: what the model says is shown, what a person does is
+// told to the model.
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+#include <memory>
+
+#include "adapters/qt/gate.h"
+#include "model/control.h"
+
+namespace qt_adapter {
+
+class CanvasWidget;
+
+class ControlBinding : public QObject, public model::Listener {
+public:
+    /// `host`: the canvas over which the control is placed by its Left and Top in canvas pixels;
+    /// null for a widget that has its place by the form.
+    ControlBinding(model::VisibleControl& control, QWidget& widget, Gate& gate,
+                   const CanvasWidget* host);
+    ~ControlBinding() override;
+
+    void PropertyChanged(model::Control& control, model::PropertyBase& property) override;
+    /// Shows everything as the model says.
+    virtual void Sync();
+
+    model::VisibleControl& Control() { return control_; }
+    QWidget& Widget() { return widget_; }
+
+protected:
+    /// Shows what only this kind has.
+    virtual void SyncOwn() = 0;
+    /// Runs `call` when a person can reach the control.
+    void Act(const std::function<void()>& call);
+    /// The widget has just been sized by the model.
+    virtual QSize NaturalSize() const { return widget_.sizeHint(); }
+
+    model::VisibleControl& control_;
+    QWidget& widget_;
+    Gate& gate_;
+
+private:
+    void Place();
+
+    const CanvasWidget* host_;
+};
+
+/// True for kinds that have a widget.
+bool HasWidget(model::ControlKind kind);
+
+/// A plain widget for a control that its form does not hold; null for kinds that need a form.
+QWidget* MakePlainWidget(model::ControlKind kind, QWidget* parent);
+
+/// Null, with a warning, when the widget is of a class that does not fit the control.
+/// `physical`: see CanvasWidget::Attach.
+std::unique_ptr<ControlBinding> MakeBinding(model::VisibleControl& control, QWidget& widget,
+                                            Gate& gate, const CanvasWidget* host, bool physical);
+
+}  // namespace qt_adapter

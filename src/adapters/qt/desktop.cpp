@@ -1,0 +1,142 @@
+#include "adapters/qt/desktop.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QPixmap>
+#include <QTranslator>
+
+#include "adapters/qt/form_loader.h"
+#include "adapters/qt/gate.h"
+#include "adapters/qt/qt_dialogs.h"
+#include "adapters/qt/qt_loop.h"
+#include "adapters/qt/qt_monitors.h"
+#include "adapters/qt/qt_text_renderer.h"
+#include "adapters/qt/window_view.h"
+
+namespace qt_adapter {
+
+namespace {
+
+constexpr double kSmallestFontPoints = 10;
+
+std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv, bool offscreen) {
+    if (QCoreApplication::instance()) {
+        return nullptr;
+    }
+    if (offscreen) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+/// The system's own font, with Japanese letters in their Japanese form whatever the locale.
+void ChooseFont() {
+    QFont font = QApplication::font();
+    QStringList families = font.families();
+    families += {QStringLiteral("Noto Sans CJK JP"), QStringLiteral("IPAPGothic")};
+    font.setFamilies(families);
+    if (font.pointSizeF() > 0 && font.pointSizeF() < kSmallestFontPoints) {
+        font.setPointSizeF(kSmallestFontPoints);
+    }
+    QApplication::setFont(font);
+}
+
+}  // namespace
+
+struct Desktop::Parts {
+    Parts(int& argc, char** argv, const Options& options)
+        : application(MakeApplication(argc, argv, options.offscreen)),
+          loop(gate),
+          dialogs(gate),
+          monitors(options.screens, [this] { return MainWindow(); }) {}
+
+    WindowView* ViewOf(const QString& name) {
+        for (const auto& view : views) {
+            if (QString::fromStdString(view->Window().Name()) == name) {
+                return view.get();
+            }
+        }
+        return nullptr;
+    }
+
+    QWidget* MainWindow() {
+        WindowView* view = ViewOf(QStringLiteral("Form1"));
+        return view ? view->Widget() : nullptr;
+    }
+
+    // The application comes first and goes last.
+    std::unique_ptr<QApplication> application;
+    QTranslator translator;
+    Gate gate;
+    QtLoop loop;
+    QtDialogs dialogs;
+    QtMonitors monitors;
+    QtTextRenderer textRenderer;
+    std::unique_ptr<FormLoader> loader;
+    std::vector<std::unique_ptr<WindowView>> views;
+};
+
+Desktop::Desktop(int& argc, char** argv, const Options& options)
+    : parts_(std::make_unique<Parts>(argc, argv, options)) {
+    QApplication::setApplicationName(QStringLiteral("parapico"));
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName(QStringLiteral("parapico"));
+    // The program ends when its logic says so, and not with its last window.
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (parts_->translator.load(QStringLiteral("qtbase_ja"),
+                                QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&parts_->translator);
+    }
+    const QIcon icon(QStringLiteral(":/parapico.svg"));
+    if (!icon.isNull()) {
+        QApplication::setWindowIcon(icon);
+    }
+    ChooseFont();
+}
+
+Desktop::~Desktop() { UnmakeViews(); }
+
+platform::EventLoop& Desktop::Loop() { return parts_->loop; }
+platform::Dialogs& Desktop::Dialogs() { return parts_->dialogs; }
+platform::Monitors& Desktop::Monitors() { return parts_->monitors; }
+platform::TextRenderer& Desktop::TextRenderer() { return parts_->textRenderer; }
+
+void Desktop::MakeViews(model::Windows& windows) {
+    UnmakeViews();
+    parts_->loader = std::make_unique<FormLoader>();
+    for (model::Window* window : windows.All()) {
+        if (FormLoader::HasForm(window->Name())) {
+            parts_->views.push_back(std::make_unique<WindowView>(
+                *window, *parts_->loader, parts_->gate,
+                [this](const QString& name) { return parts_->ViewOf(name); }));
+        }
+    }
+}
+
+void Desktop::UnmakeViews() {
+    const Gate::Mute mute(parts_->gate);
+    // Backwards: windows that stand over others go before them.
+    while (!parts_->views.empty()) {
+        parts_->views.pop_back();
+    }
+    parts_->loader.reset();
+}
+
+bool Desktop::Shot(model::Window& window, const std::string& file) {
+    QWidget* widget = WidgetOf(window);
+    if (!widget) {
+        return false;
+    }
+    const Gate::Mute mute(parts_->gate);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    parts_->ViewOf(widget->objectName())->FlushCanvases();
+    return widget->grab().save(QString::fromStdString(file), "PNG");
+}
+
+QWidget* Desktop::WidgetOf(model::Window& window) {
+    WindowView* view = parts_->ViewOf(QString::fromStdString(window.Name()));
+    return view ? view->Widget() : nullptr;
+}
+
+}  // namespace qt_adapter

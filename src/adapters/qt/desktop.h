@@ -1,0 +1,60 @@
+// The desktop as the program meets it: event loop, boxes, monitors, text, and the windows that a
+// person sees.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/windows.h"
+#include "platform/dialogs.h"
+#include "platform/event_loop.h"
+#include "platform/monitors.h"
+
+class QWidget;
+
+namespace qt_adapter {
+
+class Desktop {
+public:
+    struct Options {
+        /// No display is touched: windows exist, are laid out and can be grabbed.
+        bool offscreen = false;
+        /// Monitors to report instead of the real ones, in physical pixels. Empty: the real ones.
+        std::vector<platform::Rect> screens;
+    };
+
+    /// Makes the application object unless the process has one already; `argc` and `argv` must
+    /// outlive the desktop. At most one desktop at a time.
+    Desktop(int& argc, char** argv, const Options& options);
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    ~Desktop();
+
+    platform::EventLoop& Loop();
+    platform::Dialogs& Dialogs();
+    platform::Monitors& Monitors();
+    /// Works without any window.
+    platform::TextRenderer& TextRenderer();
+
+    /// From now on every window that has a form is shown as its model says, and what a person does
+    /// with it reaches the model. `windows` must outlive the views. Windows without a form are
+    /// passed over.
+    void MakeViews(model::Windows& windows);
+    /// Takes the windows off the screen; the model is neither told nor changed. Call it before the
+    /// model goes. Nothing happens without views.
+    void UnmakeViews();
+
+    /// Writes a PNG of what a person would see of the window, shown or not. No handler of the
+    /// model runs. False when the window has no view or the file cannot be written.
+    bool Shot(model::Window& window, const std::string& file);
+
+    /// The window's widget, made if need be; null without a view.
+    QWidget* WidgetOf(model::Window& window);
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace qt_adapter

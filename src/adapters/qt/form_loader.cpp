@@ -1,0 +1,51 @@
+#include "adapters/qt/form_loader.h"
+
+#include <QFile>
+
+#include "adapters/qt/canvas_widget.h"
+#include "adapters/qt/stage_widget.h"
+
+namespace qt_adapter {
+
+namespace {
+
+QString FormPath(const std::string& windowName) {
+    return QStringLiteral(":/windows/%1.ui").arg(QString::fromStdString(windowName));
+}
+
+}  // namespace
+
+QString WidgetName(const std::string& controlName) {
+    QString name = QString::fromStdString(controlName);
+    return name.replace('(', '_').remove(')');
+}
+
+FormLoader::FormLoader() {
+    // Widgets of installed designer plug-ins are no part of this program's forms.
+    clearPluginPaths();
+}
+
+bool FormLoader::HasForm(const std::string& windowName) {
+    return QFile::exists(FormPath(windowName));
+}
+
+QWidget* FormLoader::Make(const std::string& windowName) {
+    QFile file(FormPath(windowName));
+    return file.open(QIODevice::ReadOnly) ? load(&file) : nullptr;
+}
+
+QWidget* FormLoader::createWidget(const QString& className, QWidget* parent,
+                                  const QString& name) {
+    QWidget* widget = nullptr;
+    if (className == "CanvasWidget") {
+        widget = new CanvasWidget(parent);
+    } else if (className == "StageWidget") {
+        widget = new StageWidget(parent);
+    } else {
+        return QUiLoader::createWidget(className, parent, name);
+    }
+    widget->setObjectName(name);
+    return widget;
+}
+
+}  // namespace qt_adapter

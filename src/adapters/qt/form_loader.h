@@ -1,0 +1,24 @@
+// Makes a window's widgets from its form. Forms lie in the resources under their window's name.
+#pragma once
+
+#include <QString>
+#include <QUiLoader>
+#include <string>
+
+namespace qt_adapter {
+
+/// Object name of a control: "Picture2_3" for "Picture2(3)".
+QString WidgetName(const std::string& controlName);
+
+class FormLoader : public QUiLoader {
+public:
+    FormLoader();
+    static bool HasForm(const std::string& windowName);
+    /// The form's widgets without a parent; null when the form is missing or broken.
+    QWidget* Make(const std::string& windowName);
+
+protected:
+    QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override;
+};
+
+}  // namespace qt_adapter

@@ -1,0 +1,14 @@
+// Icons drawn from shapes in the palette's own colours, so that they follow light and dark.
+#pragma once
+
+#include <QIcon>
+#include <QPalette>
+#include <QString>
+
+namespace qt_adapter {
+
+/// Icon of a named shape: play, pause, stop, previous, next, fullscreen, close, slides, sound,
+/// calendar. Empty for another name. Enabled it has the colour of `role`.
+QIcon GlyphIcon(const QString& name, QPalette::ColorRole role = QPalette::ButtonText);
+
+}  // namespace qt_adapter

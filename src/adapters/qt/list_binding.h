@@ -1,0 +1,31 @@
+// A list box and its view: rows, selected rows, the current row and the first row shown.
+#pragma once
+
+#include <QListView>
+
+#include "adapters/qt/control_binding.h"
+#include "adapters/qt/rows_model.h"
+
+namespace qt_adapter {
+
+class ListBinding : public ControlBinding {
+public:
+    ListBinding(model::ListBox& list, QListView& view, Gate& gate);
+    ~ListBinding() override;
+    void RowsChanged(model::Control& control, const model::RowChange& change) override;
+
+protected:
+    void SyncOwn() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void FollowSelection(const QItemSelection& on, const QItemSelection& off);
+    void FollowCurrent(const QModelIndex& current);
+
+    model::ListBox& list_;
+    QListView& view_;
+    RowsModel rows_;
+    bool following_ = false;  // a change is being passed on: its echo is not news
+};
+
+}  // namespace qt_adapter

@@ -1,0 +1,145 @@
+#include "adapters/qt/qt_dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "adapters/qt/convert.h"
+
+namespace qt_adapter {
+
+namespace {
+
+constexpr int kIconMask = 0x70;
+constexpr int kButtonMask = 0x0F;
+
+/// The window that a box stands over: the active one, else a full-screen one that would hide it.
+/// Small tool windows come and go and own no box.
+QWidget* BoxParent() {
+    if (QWidget* box = QApplication::activeModalWidget()) {
+        return box;
+    }
+    QWidget* active = QApplication::activeWindow();
+    if (active && active->windowType() != Qt::Tool) {
+        return active;
+    }
+    QWidget* visible = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowType() == Qt::Window &&
+            (!visible || window->isFullScreen())) {
+            visible = window;
+        }
+    }
+    return visible;
+}
+
+QString Lines(TextView text) {
+    QString lines = ToQt(text);
+    return lines.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+QMessageBox::Icon IconOf(int flags) {
+    switch (flags & kIconMask) {
+        case platform::kStop: return QMessageBox::Critical;
+        case platform::kQuestion: return QMessageBox::Question;
+        case platform::kExclamation: return QMessageBox::Warning;
+        case platform::kInformation: return QMessageBox::Information;
+        default: return QMessageBox::NoIcon;
+    }
+}
+
+bool IsPattern(const QString& name) { return name.contains('*') || name.contains('?'); }
+
+}  // namespace
+
+QStringList NameFilters(TextView filter) {
+    const QStringList parts = ToQt(filter).split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns;
+        for (const QString& part : parts[i + 1].split(';', Qt::SkipEmptyParts)) {
+            const QString pattern = part.trimmed();
+            // Names without a dot are files, too.
+            patterns += pattern == "*.*" ? "*" : pattern;
+        }
+        filters += parts[i] + " (" + patterns.join(' ') + ")";
+    }
+    return filters;
+}
+
+QString DefaultSuffix(TextView filter) {
+    const QStringList parts = ToQt(filter).split('|');
+    if (parts.size() < 2) {
+        return {};
+    }
+    const QString pattern = parts[1].section(';', 0, 0).trimmed();
+    const QString suffix = pattern.section('.', -1);
+    return pattern.contains('.') && !IsPattern(suffix) ? suffix : QString();
+}
+
+platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
+    QMessageBox box(IconOf(flags), ToQt(title), Lines(text), QMessageBox::NoButton, BoxParent());
+    box.setTextFormat(Qt::PlainText);
+    box.setCursor(Qt::ArrowCursor);
+    const bool asks = (flags & kButtonMask) == platform::kYesNo;
+    if (!asks) {
+        box.addButton(QMessageBox::Ok);
+        gate_.Exec(box);
+        return platform::Answer::Ok;
+    }
+    QPushButton* yes = box.addButton(QMessageBox::Yes);
+    yes->setText(QStringLiteral("はい(&Y)"));
+    QPushButton* no = box.addButton(QMessageBox::No);
+    no->setText(QStringLiteral("いいえ(&N)"));
+    box.setDefaultButton(yes);
+    box.setEscapeButton(no);
+    return gate_.Exec(box) == QMessageBox::Yes ? platform::Answer::Yes : platform::Answer::No;
+}
+
+std::optional<Text> QtDialogs::Input(TextView prompt, TextView title, TextView initial) {
+    QInputDialog box(BoxParent());
+    box.setCursor(Qt::ArrowCursor);
+    box.setInputMode(QInputDialog::TextInput);
+    box.setWindowTitle(ToQt(title));
+    box.setLabelText(Lines(prompt));
+    box.setTextValue(ToQt(initial));
+    if (gate_.Exec(box) != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return FromQt(box.textValue());
+}
+
+std::optional<Text> QtDialogs::ChooseFile(const FileRequest& request) {
+    QFileDialog box(BoxParent(), ToQt(request.title));
+    box.setCursor(Qt::ArrowCursor);
+    box.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    box.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    box.setOption(QFileDialog::HideNameFilterDetails);
+    box.setNameFilters(NameFilters(request.filter));
+    if (request.save) {
+        box.setDefaultSuffix(DefaultSuffix(request.filter));
+    }
+    const QString initial = ToQt(request.initial);
+    const QFileInfo asked(initial);
+    QString folder = lastFolder_;
+    if (asked.isAbsolute() && asked.dir().exists()) {
+        folder = asked.absolutePath();
+    }
+    box.setDirectory(QDir(folder).exists() && !folder.isEmpty() ? folder : QDir::homePath());
+    const QString name = asked.fileName();
+    if (!name.isEmpty() && !IsPattern(name)) {
+        box.selectFile(name);
+    }
+    if (gate_.Exec(box) != QDialog::Accepted || box.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    const QFileInfo chosen(box.selectedFiles().first());
+    lastFolder_ = chosen.absolutePath();
+    return FromQt(chosen.absoluteFilePath());
+}
+
+}  // namespace qt_adapter

@@ -1,0 +1,21 @@
+// Text on canvases. Sizes are points at 96 dots an inch, whatever the screen's own resolution, so
+// that a text covers the same pixels everywhere.
+#pragma once
+
+#include <QFont>
+
+#include "platform/canvas.h"
+
+namespace qt_adapter {
+
+/// The toolkit's font, with fonts that the system lacks replaced by their likes.
+QFont ScreenFont(const platform::Font& font);
+
+class QtTextRenderer : public platform::TextRenderer {
+public:
+    Extent Measure(const platform::Font& font, TextView text) override;
+    void Draw(platform::Canvas& canvas, int x, int y, const platform::Font& font,
+              platform::Color color, TextView text) override;
+};
+
+}  // namespace qt_adapter

@@ -1,0 +1,449 @@
+#include "adapters/qt/window_view.h"
+
+#include <QAbstractButton>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QUrl>
+#include <QWindow>
+#include <algorithm>
+
+#include "adapters/qt/canvas_widget.h"
+#include "adapters/qt/convert.h"
+#include "adapters/qt/glyph_icon.h"
+#include "adapters/qt/qt_monitors.h"
+#include "adapters/qt/virtual_keys.h"
+
+namespace qt_adapter {
+
+namespace {
+
+enum WindowStates : int { kNormal = 0, kMinimised = 1, kMaximised = 2 };
+
+QStringList Words(const QObject& object, const char* property) {
+    return object.property(property).toString().split(' ', Qt::SkipEmptyParts);
+}
+
+/// Windows here cannot choose their own place.
+bool PlacesAreNotOurs() { return QGuiApplication::platformName().startsWith("wayland"); }
+
+bool Offscreen() { return QGuiApplication::platformName() == "offscreen"; }
+
+int ToPixels(int twips) { return twips / platform::kTwipsPerPixel; }
+
+bool HasFiles(const QDropEvent& event) {
+    const QList<QUrl> urls = event.mimeData()->urls();
+    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+}
+
+}  // namespace
+
+WindowView::WindowView(model::Window& window, FormLoader& loader, Gate& gate,
+                       std::function<WindowView*(const QString&)> viewOf)
+    : window_(window), loader_(loader), gate_(gate), viewOf_(std::move(viewOf)) {
+    window_.Listen(this);
+    if (window_.Visible) {
+        FollowVisible();
+    }
+}
+
+WindowView::~WindowView() {
+    window_.Unlisten(this);
+    for (model::Control* control : heard_) {
+        control->Unlisten(this);
+    }
+    if (root_) {
+        root_->removeEventFilter(this);
+    }
+    bindings_.clear();
+    menu_.reset();
+    delete root_;
+}
+
+QWidget* WindowView::Widget() {
+    if (!root_) {
+        Build();
+    }
+    return root_;
+}
+
+void WindowView::FlushCanvases() {
+    if (root_) {
+        for (CanvasWidget* canvas : root_->findChildren<CanvasWidget*>()) {
+            canvas->Flush();
+        }
+    }
+}
+
+void WindowView::PropertyChanged(model::Control& control, model::PropertyBase& property) {
+    if (&control != &window_) {
+        const auto found = std::find(unmade_.begin(), unmade_.end(), &control);
+        if (found != unmade_.end() && (*found)->Visible) {
+            model::VisibleControl& wanted = **found;
+            unmade_.erase(found);
+            MakeOverlay(wanted);
+        }
+        ApplyConditions();
+    } else if (&property == &window_.Visible) {
+        FollowVisible();
+    } else if (!root_) {
+        return;  // the form will be made with what the model says then
+    } else if (&property == &window_.Caption) {
+        FollowCaption();
+    } else if (&property == &window_.Left || &property == &window_.Top) {
+        FollowPlace();
+    } else if (&property == &window_.Width || &property == &window_.Height) {
+        FollowSize();
+    } else if (&property == &window_.WindowState) {
+        FollowState();
+    } else if (&property == &window_.MousePointer) {
+        FollowPointer();
+        ApplyConditions();
+    } else if (&property == &window_.Enabled) {
+        root_->setEnabled(window_.Enabled);
+    }
+}
+
+void WindowView::Build() {
+    root_ = loader_.Make(window_.Name());
+    if (!root_) {
+        qWarning("The form of %s cannot be read", window_.Name().c_str());
+        return;
+    }
+    root_->setObjectName(QString::fromStdString(window_.Name()));
+    fullScreen_ = root_->property("fullScreen").toBool();
+    ApplyWindowKind();
+    root_->setAcceptDrops(true);
+    if (auto* frame = qobject_cast<QMainWindow*>(root_.data())) {
+        menu_ = std::make_unique<MenuBinding>(window_, *frame->menuBar(), gate_);
+    }
+    DecorateWidgets();
+    BindControls();
+    if (window_.Width == 0 && !fullScreen_) {
+        // Not said by the model: the form's own size.
+        window_.Width = root_->width() * platform::kTwipsPerPixel;
+        window_.Height = root_->height() * platform::kTwipsPerPixel;
+    }
+    FollowCaption();
+    FollowSize();
+    if (window_.Left != 0 || window_.Top != 0) {
+        FollowPlace();
+    }
+    FollowPointer();
+    FollowState();
+    ApplyConditions();
+    root_->installEventFilter(this);
+}
+
+void WindowView::ApplyWindowKind() {
+    struct KindRow {
+        const char* word;
+        Qt::WindowFlags flags;
+    };
+    static constexpr KindRow kRows[] = {
+        {"Frameless", Qt::FramelessWindowHint},
+        {"Tool", Qt::Tool},
+        {"StayOnTop", Qt::WindowStaysOnTopHint},
+    };
+    const QStringList words = Words(*root_, "windowKind");
+    WindowView* below = viewOf_(root_->property("over").toString());
+    if (below && below->Widget() && PlacesAreNotOurs()) {
+        // A window of its own would land anywhere: it becomes a part of the one below.
+        root_->setParent(below->Widget());
+        root_->hide();
+        return;
+    }
+    Qt::WindowFlags flags = words.isEmpty() ? root_->windowFlags() : Qt::WindowFlags(Qt::Window);
+    for (const KindRow& row : kRows) {
+        if (words.contains(QLatin1String(row.word))) {
+            flags |= row.flags;
+        }
+    }
+    root_->setWindowFlags(flags);
+    if (words.contains("Tool")) {
+        root_->setAttribute(Qt::WA_ShowWithoutActivating);
+    }
+}
+
+void WindowView::BindControls() {
+    const QStringList unseen = Words(*root_, "unseen");
+    for (CanvasWidget* canvas : root_->findChildren<CanvasWidget*>()) {
+        if (canvas->property("hostsObjects").toBool()) {
+            host_ = canvas;
+        }
+    }
+    for (model::Control* each : window_.Controls()) {
+        if (!HasWidget(each->Kind()) || unseen.contains(QString::fromStdString(each->Name()))) {
+            continue;
+        }
+        auto& control = static_cast<model::VisibleControl&>(*each);
+        if (auto* widget = root_->findChild<QWidget*>(WidgetName(control.Name()))) {
+            Bind(control, *widget, nullptr);
+        } else if (host_ && control.Visible) {
+            MakeOverlay(control);
+        } else if (host_) {
+            unmade_.push_back(&control);
+            control.Listen(this);
+            heard_.push_back(&control);
+        }
+    }
+}
+
+void WindowView::Bind(model::VisibleControl& control, QWidget& widget, const CanvasWidget* host) {
+    if (auto binding = MakeBinding(control, widget, gate_, host, fullScreen_)) {
+        bindings_.push_back(std::move(binding));
+    }
+}
+
+void WindowView::MakeOverlay(model::VisibleControl& control) {
+    QWidget* widget = MakePlainWidget(control.Kind(), host_);
+    if (!widget) {
+        return;
+    }
+    widget->setObjectName(WidgetName(control.Name()));
+    widget->setCursor(Qt::ArrowCursor);
+    Bind(control, *widget, host_);
+    widget->raise();
+}
+
+void WindowView::DecorateWidgets() {
+    for (QWidget* widget : root_->findChildren<QWidget*>()) {
+        const QString glyph = widget->property("glyph").toString();
+        if (!glyph.isEmpty()) {
+            const QString role = widget->property("glyphRole").toString();
+            const QIcon icon = GlyphIcon(glyph, role == "highlight" ? QPalette::HighlightedText
+                                                                    : QPalette::ButtonText);
+            if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+                button->setIcon(icon);
+            }
+        }
+        const QStringList terms = Words(*widget, "showWhile");
+        if (terms.isEmpty()) {
+            continue;
+        }
+        conditions_.push_back({widget, terms});
+        for (QString term : terms) {
+            model::Control* control = window_.FindControl(term.remove('!').toStdString());
+            if (control) {
+                control->Listen(this);
+                heard_.push_back(control);
+            }
+        }
+    }
+}
+
+void WindowView::ApplyConditions() {
+    const auto holds = [this](QString term) {
+        if (term == "idle") {
+            return window_.MousePointer == model::kPointerNormal;
+        }
+        const bool wanted = !term.startsWith('!');
+        const model::Control* control = window_.FindControl(term.remove('!').toStdString());
+        return control && HasWidget(control->Kind()) &&
+               static_cast<const model::VisibleControl*>(control)->Enabled == wanted;
+    };
+    for (const Condition& condition : conditions_) {
+        for (QLabel* label : condition.widget->findChildren<QLabel*>()) {
+            const QString words = label->property("textWithDrop").toString();
+            if (!words.isEmpty() && window_.FilesDropped) {
+                label->setText(words);
+            }
+        }
+        condition.widget->adjustSize();
+        condition.widget->setVisible(
+            std::all_of(condition.terms.begin(), condition.terms.end(), holds));
+    }
+}
+
+void WindowView::FollowVisible() {
+    if (!window_.Visible) {
+        if (root_) {
+            root_->hide();
+        }
+        return;
+    }
+    if (!Widget()) {
+        return;
+    }
+    ApplyConditions();
+    if (fullScreen_) {
+        ShowFullScreen();
+        return;
+    }
+    FollowSize();
+    WindowView* below = viewOf_(root_->property("over").toString());
+    if (below && below->Widget()->isVisible()) {
+        FollowPlace();
+        root_->winId();
+        if (root_->isWindow() && below->Widget()->windowHandle()) {
+            root_->windowHandle()->setTransientParent(below->Widget()->windowHandle());
+        }
+    }
+    root_->show();
+    root_->raise();
+    if (!root_->testAttribute(Qt::WA_ShowWithoutActivating)) {
+        root_->activateWindow();
+    }
+}
+
+void WindowView::ShowFullScreen() {
+    QScreen* screen = ScreenAt(ToPixels(window_.Left), ToPixels(window_.Top));
+    if (Offscreen() || !screen) {
+        root_->setGeometry(0, 0, ToPixels(window_.Width), ToPixels(window_.Height));
+        root_->show();
+    } else {
+        root_->setScreen(screen);
+        root_->setGeometry(screen->geometry());
+        root_->showFullScreen();
+    }
+    root_->raise();
+    root_->activateWindow();
+    if (host_) {
+        host_->setFocus();
+    }
+}
+
+void WindowView::FollowPlace() {
+    if (fullScreen_) {
+        if (root_->isVisible()) {
+            ShowFullScreen();
+        }
+        return;
+    }
+    const int x = ToPixels(window_.Left);
+    const int y = ToPixels(window_.Top);
+    QPoint place = FromPhysical(x, y);
+    const QScreen* screen = ScreenAt(x, y);
+    if (screen && root_->property("over").isValid()) {
+        // Sizes are counted in other units than the monitor's pixels on a scaled screen.
+        const QRect area = screen->geometry();
+        place.setX(std::min(place.x(), area.x() + area.width() - root_->width()));
+        place.setY(std::min(place.y(), area.y() + area.height() - root_->height()));
+        if (!root_->isWindow()) {
+            place -= area.topLeft();
+        }
+    }
+    root_->move(place);
+}
+
+void WindowView::FollowSize() {
+    if (fullScreen_) {
+        FollowPlace();
+    } else if (window_.WindowState == kNormal) {
+        root_->resize(ToPixels(window_.Width), ToPixels(window_.Height));
+    }
+}
+
+void WindowView::FollowState() {
+    Qt::WindowStates states = root_->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    if (window_.WindowState == kMinimised) {
+        states |= Qt::WindowMinimized;
+    } else if (window_.WindowState == kMaximised) {
+        states |= Qt::WindowMaximized;
+    }
+    if (states != root_->windowState()) {
+        root_->setWindowState(states);
+    }
+}
+
+void WindowView::FollowPointer() {
+    switch (window_.MousePointer) {
+        case model::kPointerBusy: root_->setCursor(Qt::WaitCursor); break;
+        case model::kPointerArrowBusy: root_->setCursor(Qt::BusyCursor); break;
+        default: root_->unsetCursor(); break;
+    }
+}
+
+void WindowView::FollowCaption() {
+    const QString caption = ToQt(window_.Caption());
+    root_->setWindowTitle(caption);
+    if (auto* label = root_->findChild<QLabel*>("windowCaption")) {
+        label->setText(label->fontMetrics().elidedText(caption, Qt::ElideMiddle, label->width()));
+        label->setToolTip(caption);
+    }
+}
+
+bool WindowView::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Close:
+            event->ignore();
+            gate_.Guarded([this] { window_.Unload(); });
+            return true;
+        case QEvent::Resize: Resized(); return false;
+        case QEvent::WindowStateChange: StateChangedByPerson(); return false;
+        case QEvent::KeyPress: {
+            const int key = VirtualKey(static_cast<QKeyEvent*>(event)->key());
+            if (key != 0) {
+                gate_.Guarded([&] { window_.KeyDown(key); });
+            }
+            return false;
+        }
+        case QEvent::MouseButtonPress: event->accept(); return true;
+        case QEvent::MouseButtonRelease: {
+            auto* mouse = static_cast<QMouseEvent*>(event);
+            if (mouse->button() == Qt::LeftButton && root_->rect().contains(mouse->pos())) {
+                gate_.Guarded([this] {
+                    if (window_.Reachable()) {
+                        window_.Click();
+                    }
+                });
+            }
+            return true;
+        }
+        case QEvent::DragEnter:
+            if (window_.FilesDropped && HasFiles(*static_cast<QDropEvent*>(event))) {
+                static_cast<QDropEvent*>(event)->acceptProposedAction();
+                return true;
+            }
+            return false;
+        case QEvent::Drop: Dropped(*static_cast<QDropEvent*>(event)); return true;
+        default: return false;
+    }
+}
+
+void WindowView::Resized() {
+    const QSize size = root_->size();
+    const bool known =
+        size == QSize(ToPixels(window_.Width), ToPixels(window_.Height));
+    if (!fullScreen_ && root_->isWindow() && !known) {
+        gate_.Guarded([&] {
+            window_.ResizeTo(size.width() * platform::kTwipsPerPixel,
+                             size.height() * platform::kTwipsPerPixel);
+        });
+    }
+}
+
+void WindowView::StateChangedByPerson() {
+    const int state = root_->isMinimized() ? kMinimised : root_->isMaximized() ? kMaximised : 0;
+    if (root_->isVisible() && !fullScreen_ && state != window_.WindowState) {
+        gate_.Guarded([&] { window_.WindowState = state; });
+    }
+}
+
+void WindowView::Dropped(const QDropEvent& event) {
+    std::vector<Text> files;
+    for (const QUrl& url : event.mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            files.push_back(FromQt(QFileInfo(url.toLocalFile()).absoluteFilePath()));
+        }
+    }
+    // Later, so that the program dragged from does not wait for boxes that come up here.
+    QMetaObject::invokeMethod(
+        this,
+        [this, files] {
+            gate_.Guarded([&] {
+                if (window_.Reachable()) {
+                    window_.FilesDropped(files);
+                }
+            });
+        },
+        Qt::QueuedConnection);
+}
+
+}  // namespace qt_adapter

@@ -1,0 +1,89 @@
+// One window on the screen: made from its form when first needed, tied to its model by names.
+// What a form can say beside its widgets, as dynamic properties:
+//   root   windowKind   "Frameless Tool StayOnTop" in any choice
+//   root   fullScreen   covers the monitor that the model's place lies on, in physical pixels
+//   root   over         name of the window that this one stands above
+//   root   unseen       names of controls that are never shown
+//   canvas hostsObjects controls without a widget are made over this canvas when shown
+//   any    glyph, glyphRole  icon shape, and "highlight" for one on the accent colour
+//   any    showWhile    "idle A !B": shown while the pointer is normal, A enabled, B disabled
+//   label  textWithDrop words used instead when the window takes dropped files
+// A label called windowCaption follows the window's caption.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "adapters/qt/control_binding.h"
+#include "adapters/qt/form_loader.h"
+#include "adapters/qt/menu_binding.h"
+#include "model/window.h"
+
+class QDropEvent;
+
+namespace qt_adapter {
+
+class WindowView : public QObject, public model::Listener {
+public:
+    /// `viewOf` answers another window's view by name, or null.
+    WindowView(model::Window& window, FormLoader& loader, Gate& gate,
+               std::function<WindowView*(const QString&)> viewOf);
+    ~WindowView() override;
+
+    model::Window& Window() { return window_; }
+    /// The window's widget, made now if need be; null if its form cannot be read.
+    QWidget* Widget();
+    /// Lets canvases ask for the repaints that are due.
+    void FlushCanvases();
+
+    void PropertyChanged(model::Control& control, model::PropertyBase& property) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Condition {
+        QWidget* widget;
+        QStringList terms;
+    };
+
+    void Build();
+    void ApplyWindowKind();
+    void BindControls();
+    void Bind(model::VisibleControl& control, QWidget& widget, const CanvasWidget* host);
+    void MakeOverlay(model::VisibleControl& control);
+    void DecorateWidgets();
+    void ApplyConditions();
+
+    void FollowVisible();
+    void ShowFullScreen();
+    void FollowPlace();
+    void FollowSize();
+    void FollowState();
+    void FollowPointer();
+    void FollowCaption();
+
+    void Resized();
+    void StateChangedByPerson();
+    void Dropped(const QDropEvent& event);
+
+    model::Window& window_;
+    FormLoader& loader_;
+    Gate& gate_;
+    std::function<WindowView*(const QString&)> viewOf_;
+    QPointer<QWidget> root_;
+    CanvasWidget* host_ = nullptr;  // over which controls without a widget are placed
+    bool fullScreen_ = false;
+    std::unique_ptr<MenuBinding> menu_;
+    std::vector<std::unique_ptr<ControlBinding>> bindings_;
+    std::vector<model::VisibleControl*> unmade_;  // get their widget when first shown
+    std::vector<Condition> conditions_;
+    std::vector<model::Control*> heard_;
+};
+
+}  // namespace qt_adapter

@@ -1,0 +1,50 @@
+#include "adapters/robot/devices.h"
+
+namespace robot {
+
+namespace {
+
+using TraceValue = decltype(platform::TraceField::value);
+
+constexpr platform::Rect kDefaultScreen{0, 0, 1920, 1080};
+
+}  // namespace
+
+RobotMonitors::RobotMonitors(const std::vector<platform::Rect>& sizes) {
+    int left = 0;
+    for (const platform::Rect& size : sizes) {
+        monitors_.push_back({left, 0, size.width, size.height});
+        left += size.width;
+    }
+    if (monitors_.empty()) {
+        monitors_.push_back(kDefaultScreen);
+    }
+}
+
+int RobotMonitors::OfMainWindow() {
+    if (!mainWindow_) {
+        return 0;
+    }
+    const int x = (mainWindow_->Left + mainWindow_->Width / 2) / platform::kTwipsPerPixel;
+    const int y = (mainWindow_->Top + mainWindow_->Height / 2) / platform::kTwipsPerPixel;
+    for (size_t i = 0; i < monitors_.size(); ++i) {
+        const platform::Rect& monitor = monitors_[i];
+        if (x >= monitor.x && x < monitor.x + monitor.width && y >= monitor.y &&
+            y < monitor.y + monitor.height) {
+            return static_cast<int>(i);
+        }
+    }
+    return 0;
+}
+
+Text RobotSound::MciSendString(TextView command) {
+    trace_.Event("mci", {{"command", Text(command)}, {"result", Text()}});
+    return {};
+}
+
+void RobotSound::SndPlaySound(const std::optional<Text>& file, int flags) {
+    trace_.Event("sndPlaySound", {{"file", file ? TraceValue(*file) : TraceValue(nullptr)},
+                                  {"flags", static_cast<double>(flags)}});
+}
+
+}  // namespace robot

@@ -1,0 +1,68 @@
+#include "adapters/robot/robot.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <system_error>
+#include <utility>
+
+namespace robot {
+
+namespace {
+
+std::vector<Action> ReadScript(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream content;
+    if (std::filesystem::is_directory(path) || !file || !(content << file.rdbuf())) {
+        // An empty file also sets the stream's failure bit, and is a script without a line.
+        std::error_code error;
+        if (!std::filesystem::is_regular_file(path, error) ||
+            std::filesystem::file_size(path, error) > 0) {
+            throw ScriptError(path + ":0: the script cannot be read");
+        }
+    }
+    return ParseScript(content.str(), path);
+}
+
+std::string MakeTemporaryFolder() {
+    std::string folder = (std::filesystem::temp_directory_path() / "parapico-XXXXXX").string();
+    if (!mkdtemp(folder.data())) {
+        throw ScriptError("no temporary folder can be made");
+    }
+    return folder;
+}
+
+}  // namespace
+
+Robot::Robot(const RobotOptions& options, platform::Trace& trace, std::ostream& out,
+             std::ostream& err)
+    : loop_(options.now, options.seed),
+      dialogs_(trace),
+      monitors_(options.screens),
+      sound_(trace),
+      windows_(trace),
+      user_(ReadScript(options.script), options.script,
+            {loop_, dialogs_, windows_, trace, out, err}),
+      appFolder_(options.appFolder),
+      ownsAppFolder_(options.appFolder.empty()) {
+    if (ownsAppFolder_) {
+        appFolder_ = MakeTemporaryFolder();
+    }
+}
+
+Robot::~Robot() {
+    if (ownsAppFolder_) {
+        std::error_code ignored;  // a folder left behind in the temporary folder harms nobody
+        std::filesystem::remove_all(appFolder_, ignored);
+    }
+}
+
+void Robot::Attach(model::Application& application, ShotFunction shot) {
+    user_.Attach(application, std::move(shot));
+    windows_.Attach(application.windows);
+    monitors_.Follow(&application.windows.form1);
+    loop_.Follow(&user_);
+}
+
+}  // namespace robot

@@ -1,0 +1,119 @@
+#include "adapters/robot/silent_platform.h"
+
+namespace robot {
+
+namespace {
+
+class StoppedLoop : public platform::EventLoop {
+public:
+    void PumpEvents() override {}
+    void Sleep(int) override {}
+    double Timer() override { return 0; }
+    platform::DateTime Now() override { return {}; }
+    double Milliseconds() override { return 0; }
+    double Rnd() override { return 0; }
+    void SetTimer(const void*, int, std::function<void()>) override {}
+    void CancelTimer(const void*) override {}
+    /// Nothing will ever happen.
+    void RunUntil(const std::function<bool()>& done) override {
+        if (!done()) {
+            throw platform::ProgramEnd{};
+        }
+    }
+};
+
+class OneMonitor : public platform::Monitors {
+public:
+    std::vector<platform::Rect> Enumerate() override { return {{0, 0, 1920, 1080}}; }
+    int OfMainWindow() override { return 0; }
+};
+
+class BlindControl : public platform::ImagingControl {
+public:
+    bool ReadInformation(TextView) override { return false; }
+    bool Load(TextView, const platform::FitFunction&) override { return false; }
+    bool Holds() const override { return false; }
+    platform::Size HeldSize() const override { return {}; }
+    int BitsPerPixel() const override { return 0; }
+    void SetColorResolution(int, int, int, int) override {}
+    void Resize(int, int, int) override {}
+    platform::BitmapPtr Picture() override { return nullptr; }
+    void CopyFrom(const platform::ImagingControl&) override {}
+    void Clear() override {}
+};
+
+class BlindImaging : public platform::Imaging {
+public:
+    Text VersionText() const override { return u"0"; }
+    std::unique_ptr<platform::ImagingControl> MakeControl() override {
+        return std::make_unique<BlindControl>();
+    }
+};
+
+class NoText : public platform::TextRenderer {
+public:
+    Extent Measure(const platform::Font&, TextView) override { return {}; }
+    void Draw(platform::Canvas&, int, int, const platform::Font&, platform::Color,
+              TextView) override {}
+};
+
+class NoSound : public platform::Sound {
+public:
+    Text MciSendString(TextView) override { return {}; }
+    void SndPlaySound(const std::optional<Text>&, int) override {}
+};
+
+class NoSystem : public platform::System {
+public:
+    explicit NoSystem(std::string folder) : folder_(std::move(folder)) {}
+    Text AppFolder() override { return text::FromUtf8(folder_); }
+    bool PreviousInstance() override { return false; }
+
+private:
+    std::string folder_;
+};
+
+class NoTrace : public platform::Trace {
+public:
+    void Event(std::string_view, std::initializer_list<platform::TraceField>) override {}
+};
+
+}  // namespace
+
+platform::Answer RecordingDialogs::Message(TextView text, int flags, TextView title) {
+    messages.push_back({Text(title), Text(text), flags});
+    return (flags & 15) == platform::kYesNo ? platform::Answer::Yes : platform::Answer::Ok;
+}
+
+std::optional<Text> RecordingDialogs::Input(TextView, TextView, TextView initial) {
+    return Text(initial);
+}
+
+std::optional<Text> RecordingDialogs::ChooseFile(const FileRequest&) {
+    return std::nullopt;
+}
+
+struct SilentPlatform::Devices {
+    explicit Devices(std::string programFolder) : system(std::move(programFolder)) {}
+    StoppedLoop loop;
+    OneMonitor monitors;
+    BlindImaging imaging;
+    NoText textRenderer;
+    NoSound sound;
+    NoSystem system;
+    NoTrace trace;
+};
+
+SilentPlatform::SilentPlatform(std::string programFolder)
+    : posixFiles(programFolder), devices_(std::make_unique<Devices>(std::move(programFolder))) {}
+
+SilentPlatform::~SilentPlatform() = default;
+
+platform::Platform SilentPlatform::Get() {
+    return {devices_->loop,    files,           dialogs,
+            devices_->monitors, devices_->imaging, devices_->textRenderer,
+            devices_->sound,   devices_->system, devices_->trace,
+            codePage};
+}
+
+}  // namespace robot

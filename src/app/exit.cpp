@@ -1,0 +1,44 @@
+#include "app/exit.h"
+
+#include "document/state_files.h"
+#include "picture/effects.h"
+#include "playback/transport.h"
+#include "sound/sound.h"
+
+namespace app {
+
+void ExitProgram(Application& application) {
+    model::ShowState& state = application.state;
+    model::Windows& windows = application.windows;
+    playback::SetSlideInterval(application);
+    state.SlideListDirty = 0;
+    state.LinkListDirty = 0;
+    picture::ReleaseEffectContext(application);
+    sound::StopCd(application);
+    sound::StopSound(application);
+    document::WriteLinkStateFile(application);
+    document::WriteStateFile(application);
+    document::WriteSoundListFile(application);
+    windows.slidescreen.P2.SetPicture(nullptr);
+    windows.form1.Picture1.SetPicture(nullptr);
+    windows.form4.Picture1.SetPicture(nullptr);
+    state.LeadPictureHeld = 0;
+    for (model::LeadControl* lead : {&windows.form4.Lead1, &windows.form4.Lead2}) {
+        if (lead->imaging) {
+            lead->imaging->Clear();
+        }
+    }
+    for (model::Window* window : std::initializer_list<model::Window*>{
+             &windows.form2, &windows.form3, &windows.form4, &windows.form5, &windows.form6,
+             &windows.form7, &windows.form8, &windows.form9, &windows.form10, &windows.form11,
+             &windows.form12, &windows.form13, &windows.form14}) {
+        window->Unload();
+    }
+    windows.slidescreen2.Hide();
+    windows.slidescreen.Hide();
+    windows.form1.Hide();
+    windows.form1.Loaded = false;
+    throw platform::ProgramEnd{};
+}
+
+}  // namespace app

@@ -1,0 +1,212 @@
+#include "app/start_up.h"
+
+#include "app/exit.h"
+#include "app/main_menus.h"
+#include "app/timers.h"
+#include "app/title_screen.h"
+#include "document/link_document.h"
+#include "document/settings_to_controls.h"
+#include "document/show_document.h"
+#include "document/state_files.h"
+#include "macro/macro.h"
+#include "picture/screen.h"
+#include "playback/control_box.h"
+#include "playback/full_screen.h"
+#include "playback/transport.h"
+#include "text/numbers.h"
+#include "text/paths.h"
+
+namespace app {
+
+namespace {
+
+constexpr int kHeightWithoutMargin = 8200;  // twips
+
+Text DropQuoteBeforeNativePath(TextView command) {
+    return command.size() > 1 && command[0] == u'"' && command[1] == u'/'
+               ? Text(command.substr(1))
+               : Text(command);
+}
+
+void MakeImagingControls(Application& app) {
+    app.windows.form4.Lead1.imaging = app.platform.imaging.MakeControl();
+    app.windows.form4.Lead2.imaging = app.platform.imaging.MakeControl();
+    app.state.LeadVersion =
+        text::ToInt16(text::SafeNumber(text::Right(app.platform.imaging.VersionText(), 4)))
+            .value_or(0);
+}
+
+void SetStartButtons(Application& app) {
+    model::Form1& form1 = app.windows.form1;
+    for (model::Button* button : {&form1.Command1, &form1.Command2, &form1.Command3,
+                                  &form1.Command4, &form1.Command5, &form1.Command7}) {
+        button->Enabled = false;
+    }
+    for (model::Button* button : {&form1.Command6, &form1.Command10, &form1.Command11}) {
+        button->Enabled = true;
+    }
+}
+
+void CentreOnScreen(Application& app) {
+    const platform::Rect screen = picture::MonitorTwips(app, app.state.PrimaryMonitor);
+    model::Form1& form1 = app.windows.form1;
+    form1.Left = screen.x + (screen.width - form1.Width) / 2;
+    form1.Top = screen.y + (screen.height - form1.Height) / 2;
+}
+
+void SetDefaults(Application& app) {
+    model::ZeroReset(app.state);
+    MakeImagingControls(app);
+    app.windows.form1.Timer1.Enabled = false;
+    app.state.AppFolder = app.platform.system.AppFolder();
+    app.windows.form1.Label1.Caption = Text();
+    app.windows.slidescreen.Label1.Caption = Text();
+    model::SetStartDefaults(app.state);
+    playback::SetSlideInterval(app);
+    document::FollowAllSettings(app);
+}
+
+void ReadStateFiles(Application& app) {
+    app.state.SlideListEnd = 0;
+    app.state.ReadingDocument = 1;
+    document::ReadSoundListFile(app);
+    app.state.ReadingDocument = 0;
+    document::ReadLinkStateFile(app);
+    document::ReadStateFile(app);
+    document::FollowAllSettings(app);
+}
+
+void ReadCommandLineDocument(Application& app) {
+    model::ShowState& state = app.state;
+    state.LoadingFromStart = 1;
+    if (state.CommandLineKind > 0) {
+        state.BaseFolder = text::FolderPart(state.CommandLineArg);
+    }
+    if (state.CommandLineKind == 1) {
+        document::ReadShowDocument(app, state.CommandLineArg);
+    } else if (state.CommandLineKind == 2) {
+        document::ReadLinkDocument(app, state.CommandLineArg);
+    }
+    state.LoadingFromStart = 0;
+}
+
+void TakeLinkListAtStart(Application& app) {
+    model::ShowState& state = app.state;
+    const model::ListBox& list = app.windows.form9.List1;
+    const bool automatic =
+        list.ListCount() > 0 && state.LinkAutoFlag == 1 && state.CommandLineKind == 0;
+    if (!automatic && state.CommandLineKind != 2) {
+        return;
+    }
+    state.LinkList.Erase();
+    for (int row = 0; row < list.ListCount(); ++row) {
+        state.LinkList.Set(row + 1, list.List(row));
+    }
+    state.LinkEnd = static_cast<int16_t>(list.ListCount() + 1);
+    if (!state.LinkList(1).empty()) {
+        state.LinkRunning = 1;
+    }
+}
+
+bool StartsByItself(const Application& app) {
+    const model::ShowState& state = app.state;
+    return (app.windows.form3.List1.ListCount() > 0 && state.AutoStartFlag == 0) ||
+           (app.windows.form9.List1.ListCount() > 0 && state.LinkAutoFlag == 1) ||
+           state.CommandLineKind > 0;
+}
+
+void StartInFullScreen(Application& app) {
+    model::ShowState& state = app.state;
+    state.SlideListEnd = static_cast<int16_t>(app.windows.form3.List1.ListCount() + 1);
+    state.SplashDone = 1;
+    picture::SizePreview(app);
+    app.windows.form1.Hide();
+    state.FullScreenActive = 1;
+    state.IgnoreNextResize = 1;
+    playback::PlaceFullScreen(app);
+    app.windows.slidescreen.Show();
+}
+
+void Form1_Load(Application& app) {
+    model::ShowState& state = app.state;
+    state.PrimaryMonitor = 0;
+    state.MainBottomMargin = app.windows.form1.Height - kHeightWithoutMargin;
+    macro::ClearMacroObjects(app);
+    SetDefaults(app);
+    CentreOnScreen(app);
+    SetStartButtons(app);
+    ReadStateFiles(app);
+    if (app.platform.system.PreviousInstance() && state.AllowDuplicate == 1) {
+        throw platform::ProgramEnd{};
+    }
+    ReadCommandLineDocument(app);
+    document::FollowAllSettings(app);
+    const int slides = app.windows.form3.List1.ListCount();
+    if (slides > 0) {
+        app.windows.form1.Command1.Enabled = true;
+        app.windows.form1.Command4.Enabled = true;
+        state.SlideListEnd = static_cast<int16_t>(slides + 1);
+    }
+    TakeLinkListAtStart(app);
+}
+
+void Form1_Resize(Application& app) {
+    if (app.state.IgnoreNextResize == 1) {
+        app.state.IgnoreNextResize = 0;
+        return;
+    }
+    picture::SizePreview(app);
+    ShowTitleScreen(app);
+}
+
+void Form1_Activate(Application& app) {
+    document::FollowMenuVisibility(app);
+    picture::SizePreview(app);
+}
+
+}  // namespace
+
+CommandLine ReadCommandLine(TextView commandText) {
+    Text command = DropQuoteBeforeNativePath(text::LTrim(commandText));
+    if (!text::IsNativePath(command)) {
+        const size_t colon = text::InStr(command, u":");
+        if (colon > 1) {
+            command = text::Mid(command, colon - 1);
+        }
+    }
+    if (const size_t quote = text::InStr(command, u"\""); quote > 0) {
+        command = text::Left(command, quote - 1);
+    }
+    CommandLine result;
+    result.argument = text::LTrim(command);
+    const Text kind = text::KindOf(result.argument);
+    result.kind = kind == u"KVS" ? 1 : kind == u"KVL" ? 2 : 0;
+    return result;
+}
+
+void RunProgram(Application& application, const StartOptions& options) {
+    model::Form1& form1 = application.windows.form1;
+    TimerRunner timers(application);
+    const CommandLine command = ReadCommandLine(options.commandText);
+    application.state.CommandLineArg = command.argument;
+    application.state.CommandLineKind = command.kind;
+    application.state.SplashDone = options.title ? 0 : 1;
+    playback::AttachTransport(application);
+    playback::AttachFullScreen(application);
+    playback::AttachControlBox(application);
+    AttachMainMenus(application);
+    form1.OnLoad = [&] { Form1_Load(application); };
+    form1.OnResize = [&] { Form1_Resize(application); };
+    form1.OnActivate = [&] { Form1_Activate(application); };
+    form1.OnUnload = [&] { ExitProgram(application); };
+    form1.Load();
+    if (StartsByItself(application)) {
+        StartInFullScreen(application);
+    } else {
+        form1.Show();
+    }
+    application.platform.loop.RunUntil([] { return false; });
+    throw platform::ProgramEnd{};
+}
+
+}  // namespace app

@@ -1,0 +1,27 @@
+// From process start to the first user action, and to the end.
+#pragma once
+
+#include "model/application.h"
+
+namespace app {
+
+struct CommandLine {
+    Text argument;     // path, without quotes and leading blanks
+    int16_t kind = 0;  // 0 none, 1 show document, 2 link document
+};
+
+/// Reads the command text. A drive letter makes everything in front of it fall away, an opening
+/// quote with it; the text ends at the next quote. Native paths keep their colons; a quote in
+/// front of one is dropped.
+CommandLine ReadCommandLine(TextView commandText);
+
+struct StartOptions {
+    Text commandText;
+    bool title = true;  // show the title screen
+};
+
+/// Runs the program: attaches the handlers, loads the main window, waits for the user.
+/// Never returns: ends by platform::ProgramEnd.
+[[noreturn]] void RunProgram(Application& application, const StartOptions& options);
+
+}  // namespace app

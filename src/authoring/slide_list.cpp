@@ -1,0 +1,134 @@
+#include "authoring/slide_list.h"
+
+#include "document/settings_to_controls.h"
+#include "document/show_document.h"
+#include "document/state_files.h"
+#include "playback/transport.h"
+#include "text/paths.h"
+
+namespace authoring {
+
+namespace {
+
+constexpr TextView kFilter = u"ｽﾗｲﾄﾞFiles (*.kvs)|*.kvs|すべてのﾌｧｲﾙ(*.*)|*.*";
+constexpr TextView kAnyName = u"*.kvs";
+constexpr size_t kCaptionPathStart = 9;  // behind "ｽﾗｲﾄﾞ - "
+constexpr int kNewIntervalMs = 3000;
+
+void ClearLists(model::Windows& windows, model::ShowState& state) {
+    windows.form3.List1.Clear();
+    windows.form3.List2.Clear();
+    windows.form3.Label4.Caption = u"0";
+    windows.form10.List1.Clear();
+    windows.form10.Label4.Caption = u"0";
+    windows.form9.List1.Clear();
+    windows.form9.Label4.Caption = u"0";
+    for (model::TextArray* array : {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo,
+                                    &state.CdProgram, &state.SoundList, &state.LinkList}) {
+        array->Erase();
+    }
+    state.CdProgramCount = 0;
+    state.SoundListCount = 0;
+}
+
+bool RefusedWithoutSlides(Application& app) {
+    if (app.windows.form3.List1.ListCount() > 0) {
+        return false;
+    }
+    app.platform.dialogs.Message(u"スライドリストがないので保存できんません。",
+                                 platform::kExclamation, u"ファイルの保存");
+    return true;
+}
+
+void SaveAs(Application& app, TextView title, int16_t distribution) {
+    platform::Dialogs::FileRequest request;
+    request.save = true;
+    request.title = title;
+    request.filter = kFilter;
+    request.initial = app.state.DocumentName.empty()
+                          ? Text(kAnyName)
+                          : text::Mid(app.windows.form1.Caption(), kCaptionPathStart);
+    if (const auto path = app.platform.dialogs.ChooseFile(request)) {
+        app.state.DistributionSaveFlag = distribution;
+        document::WriteShowDocument(app, *path);
+    }
+}
+
+}  // namespace
+
+void NewDocument(Application& app) {
+    if (app.platform.dialogs.Message(u"スライドリストとすべての設定を初期状態にしますか ?",
+                                     platform::kYesNoQuestion,
+                                     u"新規作成") != platform::Answer::Yes) {
+        return;
+    }
+    model::ShowState& state = app.state;
+    app.windows.SetPointer(model::kPointerBusy);
+    ClearLists(app.windows, state);
+    model::SetNewDefaults(state);
+    state.DocumentPath.clear();
+    state.DocumentName.clear();
+    state.BaseFolder.clear();
+    state.DocumentFileDate.clear();
+    state.SlideListEnd = 0;
+    state.SlideIndex = 0;
+    app.windows.form1.Caption = u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10";
+    app.windows.form1.Timer1.Interval = kNewIntervalMs;
+    for (model::Button* button :
+         {&app.windows.form3.Command16, &app.windows.form3.Command17, &app.windows.form3.Command18,
+          &app.windows.form3.Command19, &app.windows.form3.Command20}) {
+        button->Enabled = false;
+    }
+    document::WriteStateFile(app);
+    document::ReadStateFile(app);
+    document::FollowAllSettings(app);
+    playback::SetButtons(app, playback::Buttons::Idle);
+    app.windows.SetPointer(model::kPointerNormal);
+}
+
+bool OpenDocumentAt(Application& app, const Text& path) {
+    model::Form3& form3 = app.windows.form3;
+    app.state.BaseFolder = text::FolderPart(path);
+    for (model::Button* button : {&form3.Command16, &form3.Command17, &form3.Command18,
+                                  &form3.Command19, &form3.Command20}) {
+        button->Enabled = false;
+    }
+    document::ReadShowDocument(app, path);
+    form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
+    const bool read = app.state.ShowAbort == 0;
+    app.state.ShowAbort = 0;
+    return read;
+}
+
+bool OpenDocument(Application& app) {
+    platform::Dialogs::FileRequest request;
+    request.title = u"パラピコ　ファイルを開く";
+    request.filter = kFilter;
+    request.initial = kAnyName;
+    const auto path = app.platform.dialogs.ChooseFile(request);
+    return path && OpenDocumentAt(app, *path);
+}
+
+void SaveDocument(Application& app) {
+    if (!RefusedWithoutSlides(app)) {
+        SaveAs(app, u"パラピコ　ファイルの保存", 0);
+    }
+}
+
+void SaveForDistribution(Application& app) {
+    if (RefusedWithoutSlides(app)) {
+        return;
+    }
+    const TextView question =
+        u"配布用ＫＶＳファイルを作成しますか？"
+        u"\r\n配布用ＫＶＳファイルはスライドリストのパスが消去され、"
+        u"\r\nＫＶＳファイルを開いた時にスライドリストの画像パスが"
+        u"\r\nＫＶＳファイルのパスに変換されます。"
+        u"\r\nＫＶＳファイルと画像は同一フォルダに保存して下さい。";
+    if (app.platform.dialogs.Message(question, platform::kYesNoQuestion,
+                                     u"配布用ＫＶＳファイルの保存") == platform::Answer::Yes) {
+        SaveAs(app, u"パラピコ　配布用ＫＶＳファイルの保存", 1);
+    }
+}
+
+}  // namespace authoring

@@ -1,0 +1,57 @@
+// Reading the program's own text files: whole lines, items and numbers, one after the other.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "text/text.h"
+
+namespace document {
+
+/// Thrown by a read that fails; caught by the routine that reads the file.
+struct ReadFailure {};
+
+/// The file's text as a stream. A line ends at CR LF, LF or CR. Every read throws ReadFailure when
+/// it would begin at the end of the text.
+class LineReader {
+public:
+    explicit LineReader(Text content) : content_(std::move(content)) {}
+    // Views into the text would dangle in a copy.
+    LineReader(const LineReader&) = delete;
+    LineReader& operator=(const LineReader&) = delete;
+
+    bool AtEnd() const { return place_ == content_.size(); }
+
+    /// All characters up to the line's end.
+    TextView Line();
+
+    /// Leading blanks dropped; ends at a comma or at the line's end, and the next read begins
+    /// behind that.
+    TextView Item();
+
+    /// An item with the line to itself: what stands behind its comma is lost.
+    TextView ItemOfLine();
+
+    /// An item that holds one decimal number, with or without blanks around it; an empty item is
+    /// 0. Rounded to the nearest whole number, halves to even. Fails for anything else, and for a
+    /// number that does not fit.
+    double Number();
+    int16_t Int16();
+    int32_t Int32();
+
+    /// Count of entries that follow: never below 0.
+    int16_t Count16();
+
+private:
+    /// Text from `place_` up to `end`, behind which reading goes on.
+    TextView TakeUpTo(size_t end);
+
+    Text content_;
+    size_t place_ = 0;
+};
+
+/// Number of a setting that is read as text: what is no number counts 0; ReadFailure for one that
+/// does not fit.
+int16_t NumberOfItem(TextView item);
+
+}  // namespace document

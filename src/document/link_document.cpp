@@ -1,0 +1,53 @@
+#include "document/link_document.h"
+
+#include "document/document_file.h"
+#include "document/line_reader.h"
+#include "text/paths.h"
+
+namespace document {
+
+namespace {
+
+void ReadLinks(Application& app, LineReader& reader) {
+    auto& state = app.state;
+    auto& list = app.windows.form9.List1;
+    const Text first(reader.Item());
+    const Text tag = first.starts_with(u"vue") ? first : text::Mid(first, 2, 7);
+    if (tag != u"vue2" && !tag.starts_with(u"vue3")) {
+        throw ReadFailure{};
+    }
+    list.Clear();
+    reader.Line();  // the document's own name
+    const int32_t count = reader.Int32();
+    for (int32_t i = 1; i <= count; ++i) {
+        Text path = text::WithFolder(state.BaseFolder, reader.Line());
+        if (!state.LinkList.Set(i, path)) {
+            throw ReadFailure{};
+        }
+        list.AddItem(std::move(path));
+    }
+}
+
+}  // namespace
+
+void ReadLinkDocument(Application& app, TextView path) {
+    auto content = OpenDocument(app, path);
+    if (!content) {
+        return;
+    }
+    auto& pointer = app.windows.form1.MousePointer;
+    pointer = model::kPointerBusy;
+    LineReader reader(std::move(*content));
+    try {
+        ReadLinks(app, reader);
+    } catch (const ReadFailure&) {
+        RefuseDocument(app, path);
+        pointer = model::kPointerNormal;
+        EndIfLoadingFromStart(app);
+        return;
+    }
+    app.windows.form9.Caption = u"ＫＶＳリンク - " + Text(path);
+    pointer = model::kPointerNormal;
+}
+
+}  // namespace document

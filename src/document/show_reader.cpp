@@ -1,0 +1,374 @@
+// Reading show documents of every version. The version tag grew by a digit with each block of
+// lines; what was added later without a new tag is told by the end of the file.
+#include <algorithm>
+#include <vector>
+
+#include "document/document_file.h"
+#include "document/line_reader.h"
+#include "document/settings_to_controls.h"
+#include "document/show_document.h"
+#include "document/show_schedule.h"
+#include "document/state_files.h"
+#include "text/numbers.h"
+#include "text/paths.h"
+
+namespace document {
+
+namespace {
+
+constexpr int32_t kShortestIntervalMs = 1000;
+constexpr int16_t kFixedEffectSpeed = -30;
+constexpr int kFastestEffectSpeed = 10;
+enum SoundModes : int16_t { kMidiSound = 4, kSoundListSound = 6, kNoSound = 7, kMp3Sound = 8 };
+constexpr TextView kNoDefaultSound = u"*.wav";
+
+class ShowReader {
+public:
+    ShowReader(Application& app, Text content)
+        : app_(app), state_(app.state), reader_(std::move(content)) {}
+
+    /// Throws ReadFailure; what was read until then stays.
+    void Read();
+
+    bool CarriedSoundList() const { return carriedSoundList_; }
+
+private:
+    void ReadTag();
+    void ClearLists();
+    void ReadTiming();
+    void ReadSoundAndEffects();
+    void ReadMarksOf31678();
+    void ReadSlides();
+    void ReadOverlay();
+    void ConvertOldSpeeds();
+    void ReadCdProgram();
+    void ReadScreenSettings();
+    void LayScreenGround();
+    void ReadSoundList();
+    void ReadMp3AndModes();
+    void ReadLinkedWavFlagsAndRows();
+    void ReadRows(TextView firstRow);
+
+    bool Holds(TextView block) const { return tag_.starts_with(block); }
+    /// Next line as a number, or the default where the file has ended.
+    int16_t Int16Or(int otherwise) {
+        return reader_.AtEnd() ? static_cast<int16_t>(otherwise) : reader_.Int16();
+    }
+    Text PathLine() { return text::WithFolder(state_.BaseFolder, reader_.Line()); }
+    Text PathLineOrEmpty() {
+        const TextView line = reader_.Line();
+        return line.empty() ? Text() : text::WithFolder(state_.BaseFolder, line);
+    }
+
+    Application& app_;
+    model::ShowState& state_;
+    LineReader reader_;
+    Text tag_;
+    int32_t slideCount_ = 0;
+    // For each slide of the file its row in the window's lists; -1 for one that was dropped.
+    std::vector<int> rowOfSlide_;
+    bool carriedSoundList_ = false;
+};
+
+void ShowReader::Read() {
+    ReadTag();
+    ClearLists();
+    ReadTiming();
+    ReadSoundAndEffects();
+    ReadMarksOf31678();
+    ReadSlides();
+    ReadOverlay();
+    ReadCdProgram();
+    ReadScreenSettings();
+    ReadSoundList();
+    ReadMp3AndModes();
+    ReadLinkedWavFlagsAndRows();
+    RebuildSchedule(app_);
+}
+
+void ShowReader::ReadTag() {
+    const TextView line = reader_.Line();
+    for (TextView longTag : {u"21vue31678", u"21vue316789", u"21vue3167893"}) {
+        if (line == longTag) {
+            tag_ = line.substr(2);
+            return;
+        }
+    }
+    tag_ = line.starts_with(u"vue") ? Text(line) : text::Mid(line, 2, 8);
+    if (tag_ != u"vue2" && !tag_.starts_with(u"vue3")) {
+        throw ReadFailure{};
+    }
+}
+
+void ShowReader::ClearLists() {
+    state_.SlideList.Erase();
+    state_.ScheduleFrom.Erase();
+    state_.ScheduleTo.Erase();
+    app_.windows.form3.List1.Clear();
+    app_.windows.form3.List2.Clear();
+}
+
+void ShowReader::ReadTiming() {
+    state_.DocumentName = reader_.Line();
+    const int32_t intervalMs = std::max(reader_.Int32(), kShortestIntervalMs);
+    state_.SlideIntervalSec =
+        std::max<int32_t>(1, static_cast<int32_t>(text::RoundHalfEven(intervalMs / 1000.0)));
+    app_.windows.form1.Timer1.Interval = intervalMs;
+    state_.RepeatFlag = reader_.Int16();
+}
+
+void ShowReader::ReadSoundAndEffects() {
+    state_.SoundMode = reader_.Int16();
+    // The modes' numbers meant something else before their blocks were added.
+    if (tag_ == u"vue2" || (state_.SoundMode == kSoundListSound && !Holds(u"vue316789")) ||
+        (state_.SoundMode == kMidiSound && !Holds(u"vue3167"))) {
+        state_.SoundMode = kNoSound;
+    }
+    const TextView defaultSound = reader_.Line();
+    state_.DefaultEffectSound = defaultSound == kNoDefaultSound
+                                    ? Text(defaultSound)
+                                    : text::WithFolder(state_.BaseFolder, defaultSound);
+    if (Holds(u"vue3")) {
+        state_.WavFile = PathLineOrEmpty();
+        for (int16_t model::ShowState::*field :
+             {&model::ShowState::ShowEffect, &model::ShowState::ShowEffectSpeed,
+              &model::ShowState::EraseEffect, &model::ShowState::EraseEffectSpeed,
+              &model::ShowState::ShowSlitCount, &model::ShowState::EraseSlitCount,
+              &model::ShowState::CdRepeatFlag}) {
+            state_.*field = reader_.Int16();
+        }
+        state_.CdTrackSetting = reader_.Line();
+    }
+    if (Holds(u"vue31")) {
+        state_.ShowMosaicCount = reader_.Int16();
+        state_.EraseMosaicCount = reader_.Int16();
+    }
+    if (Holds(u"vue316")) {
+        state_.TextMacroFlag = reader_.Int16();
+    }
+    if (Holds(u"vue3167")) {
+        const TextView midi = reader_.Line();
+        state_.MidiFile = midi.empty() ? Text() : text::WithFolder(state_.BaseFolder, midi);
+        if (!midi.empty() && !text::HoldsSeparator(midi)) {
+            app_.windows.form8.Text1.Content = state_.MidiFile;
+        }
+        state_.SoundSyncFlag = reader_.Int16();
+    }
+}
+
+void ShowReader::ReadMarksOf31678() {
+    if (!Holds(u"vue31678")) {
+        state_.LinkedSoundPosition = 1;
+        return;
+    }
+    state_.LinkedSoundPosition = reader_.Int16();
+    const TextView random = reader_.Item();
+    state_.RandomFlag = random.empty() ? int16_t{1} : NumberOfItem(random);
+    if (state_.RandomFlag == 0) {
+        state_.RepeatFlag = 0;  // a random show cannot stop by itself
+    }
+    state_.CdOrder = reader_.Int16();
+    state_.LinkedFolderFlag = reader_.Int16();
+    state_.LinkedFolder = reader_.ItemOfLine();
+}
+
+void ShowReader::ReadSlides() {
+    slideCount_ = std::max<int32_t>(reader_.Int32(), 0);
+    const auto end = text::ToInt16(slideCount_ + 1.0);
+    if (!end) {
+        throw ReadFailure{};
+    }
+    state_.SlideListEnd = *end;
+    auto& form3 = app_.windows.form3;
+    const Text blankRow = model::BlankScheduleRow();
+    for (int32_t i = 1; i <= slideCount_; ++i) {
+        Text path = PathLine();
+        if (!state_.SlideList.Set(i, path)) {
+            throw ReadFailure{};
+        }
+        // Kept: dropped from the windows' lists only, the array and its end still count them.
+        if (text::KindOf(path) == u"AVI") {
+            rowOfSlide_.push_back(-1);
+            continue;
+        }
+        rowOfSlide_.push_back(form3.List1.ListCount());
+        form3.List1.AddItem(std::move(path));
+        form3.List2.AddItem(blankRow);
+    }
+}
+
+void ShowReader::ReadOverlay() {
+    if (reader_.AtEnd()) {
+        ConvertOldSpeeds();
+        state_.OverlayMode = 0;
+        state_.OverlaySize = 0;
+        app_.windows.slidescreen.P2.BackColor = 0;
+        return;
+    }
+    reader_.Number();  // always 480
+    state_.OverlayMode = reader_.Int16();
+    state_.OverlaySize = reader_.Int16();
+    if (state_.OverlayMode == 0 && tag_ != u"vue3167893") {
+        state_.OverlaySize = 0;
+    }
+}
+
+/// Documents from before the overlay block count effect speeds on another scale.
+void ShowReader::ConvertOldSpeeds() {
+    for (int16_t* speed : {&state_.ShowEffectSpeed, &state_.EraseEffectSpeed}) {
+        const double converted = *speed + 6 - text::Int(*speed * 0.7);
+        *speed = static_cast<int16_t>(std::min<double>(converted, kFastestEffectSpeed));
+    }
+}
+
+void ShowReader::ReadCdProgram() {
+    state_.CdProgram.Erase();
+    state_.CdProgramCount = reader_.AtEnd() ? int16_t{0} : reader_.Count16();
+    for (int i = 1; i <= state_.CdProgramCount; ++i) {
+        state_.CdProgram.Set(i, Text(reader_.Line()));
+    }
+    if (state_.CdOrder != 2) {
+        state_.CdProgram.Erase();
+        state_.CdProgramCount = 0;
+    }
+}
+
+void ShowReader::ReadScreenSettings() {
+    state_.TextOriginScreen = Int16Or(0);
+    state_.CdPlusLinkedWav = Int16Or(1);
+    state_.CdProgramStop = Int16Or(0);
+    state_.OverlayBackColor = Int16Or(0);
+    LayScreenGround();
+    state_.PicturePosition = Int16Or(state_.OverlayMode != 0 ? 1 : 0);
+}
+
+void ShowReader::LayScreenGround() {
+    auto& screen = app_.windows.slidescreen;
+    if (state_.OverlayMode == 0) {
+        screen.P2.BackColor = 0;
+        screen.P2.Cls();
+        return;
+    }
+    screen.P2.Cls();
+    screen.P2.Left = 0;
+    screen.P2.Top = 0;
+    screen.P2.SetSize(screen.Width, screen.Height);
+    screen.ApplyOverlayBackground();
+}
+
+void ShowReader::ReadSoundList() {
+    struct Mark {
+        int16_t& flag;
+        explicit Mark(int16_t& f) : flag(f) { flag = 1; }
+        ~Mark() { flag = 0; }
+    };
+    state_.SoundListUsed = Int16Or(0);
+    if (state_.SoundListUsed != 1) {
+        return;
+    }
+    const Mark mark(state_.ReadingDocument);
+    auto& form10 = app_.windows.form10;
+    state_.SoundListCount = reader_.Count16();
+    state_.SoundList.Erase();
+    form10.List1.Clear();
+    for (int i = 1; i <= state_.SoundListCount; ++i) {
+        Text path = PathLine();
+        state_.SoundList.Set(i, path);
+        form10.List1.AddItem(std::move(path));
+    }
+    form10.Label4.Caption = text::Trim(text::Str(form10.List1.ListCount()));
+    carriedSoundList_ = true;
+}
+
+void ShowReader::ReadMp3AndModes() {
+    state_.MidiLinkedWavFlag = Int16Or(0);
+    state_.Mp3File = reader_.AtEnd() ? Text() : PathLineOrEmpty();
+    state_.Mp3ModeFlag = Int16Or(0);
+    if (state_.Mp3ModeFlag == 1) {
+        state_.SoundMode = kMp3Sound;
+    }
+    state_.AlwaysFullFlag = Int16Or(1);
+    state_.EffectSpeedFixed = Int16Or(0);
+    if (state_.EffectSpeedFixed == 1) {
+        state_.ShowEffectSpeed = kFixedEffectSpeed;
+        state_.EraseEffectSpeed = kFixedEffectSpeed;
+    }
+    state_.LoadMode = Int16Or(0);
+}
+
+/// Documents with rows are older than the two flags in front of them: an item that begins with the
+/// rows' protecting "-" is the first row already.
+void ShowReader::ReadLinkedWavFlagsAndRows() {
+    state_.Mp3LinkedWavFlag = 0;
+    state_.SoundListCheck5 = 0;
+    TextView firstRow;
+    if (!reader_.AtEnd()) {
+        const TextView item = reader_.Item();
+        if (item.starts_with(u'-')) {
+            firstRow = item;
+        } else {
+            state_.Mp3LinkedWavFlag = NumberOfItem(item);
+            state_.SoundListCheck5 = Int16Or(0);
+        }
+    }
+    // Kept: the test for a file without rows comes first, so that a first row which was taken for
+    // a flag and ends the file is lost.
+    if (!reader_.AtEnd()) {
+        ReadRows(firstRow);
+    }
+}
+
+/// `firstRow`: already read, or empty.
+void ShowReader::ReadRows(TextView firstRow) {
+    for (int32_t i = 0; i < slideCount_; ++i) {
+        TextView row = i == 0 && !firstRow.empty() ? firstRow : reader_.Item();
+        row.remove_prefix(std::min<size_t>(1, row.size()));
+        app_.windows.form3.List2.SetRow(rowOfSlide_[static_cast<size_t>(i)], Text(row));
+    }
+}
+
+void TakeIdentity(Application& app, TextView path) {
+    auto& state = app.state;
+    app.windows.form1.Caption = u"ｽﾗｲﾄﾞ - " + Text(path);
+    state.DocumentPath = path;
+    state.DocumentName = app.platform.files.Dir(path);
+    state.ResumeIndex = 0;
+    if (!path.empty()) {
+        const auto date = app.platform.files.LastWrite(path);
+        state.DocumentFileDate = date ? platform::DateTimeText(*date) : Text();
+    }
+}
+
+}  // namespace
+
+void ReadShowDocument(Application& app, TextView documentPath) {
+    const Text path(documentPath);  // the caller may pass a field that reading changes
+    auto content = OpenDocument(app, path);
+    if (!content) {
+        return;
+    }
+    auto& pointer = app.windows.form1.MousePointer;
+    pointer = model::kPointerBusy;
+    app.state.RandomFlag = 1;
+    app.windows.form3.Command16.Enabled = false;
+    app.windows.form3.Command17.Enabled = false;
+    ShowReader reader(app, std::move(*content));
+    try {
+        reader.Read();
+    } catch (const ReadFailure&) {
+        FollowDocumentSettings(app);
+        RefuseDocument(app, path);
+        pointer = model::kPointerNormal;
+        app.state.ShowAbort = 1;
+        EndIfLoadingFromStart(app);
+        return;
+    }
+    FollowDocumentSettings(app);
+    TakeIdentity(app, path);
+    if (reader.CarriedSoundList()) {
+        WriteSoundListFile(app);
+    }
+    pointer = model::kPointerNormal;
+}
+
+}  // namespace document

@@ -1,0 +1,151 @@
+// Writing show documents: always today's form.
+#include <algorithm>
+
+#include "document/line_writer.h"
+#include "document/show_document.h"
+#include "document/show_schedule.h"
+#include "text/paths.h"
+
+namespace document {
+
+namespace {
+
+constexpr TextView kTag = u"21vue3167893";
+
+/// Builds the document's text and changes nothing: a save that fails leaves the record alone.
+class ShowWriter {
+public:
+    explicit ShowWriter(const Application& app)
+        : state_(app.state),
+          form3_(app.windows.form3),
+          distribution_(app.state.DistributionSaveFlag == 1) {}
+
+    const Text& Write(TextView path);
+
+private:
+    void WriteSoundAndEffects();
+    void WriteSlides();
+    void WriteScreenSettings();
+    void WriteSoundList();
+    void WriteModesAndRows();
+
+    /// A name as it goes into the file: a distribution save drops the folder.
+    void Path(TextView path) { lines_.Line(distribution_ ? text::BareName(path) : Text(path)); }
+
+    const model::ShowState& state_;
+    const model::Form3& form3_;
+    const bool distribution_;
+    LineWriter lines_;
+};
+
+const Text& ShowWriter::Write(TextView path) {
+    lines_.Line(kTag);
+    Path(path);
+    lines_.Number(state_.SlideIntervalSec * 1000.0);
+    lines_.Number(state_.RepeatFlag);
+    WriteSoundAndEffects();
+    WriteSlides();
+    WriteScreenSettings();
+    WriteSoundList();
+    WriteModesAndRows();
+    return lines_.Content();
+}
+
+void ShowWriter::WriteSoundAndEffects() {
+    lines_.Number(state_.SoundMode == 8 ? 7 : state_.SoundMode);
+    Path(state_.DefaultEffectSound);
+    Path(state_.WavFile);
+    for (int16_t value : {state_.ShowEffect, state_.ShowEffectSpeed, state_.EraseEffect,
+                          state_.EraseEffectSpeed, state_.ShowSlitCount, state_.EraseSlitCount,
+                          state_.CdRepeatFlag}) {
+        lines_.Number(value);
+    }
+    lines_.Line(state_.CdTrackSetting);
+    for (int16_t value : {state_.ShowMosaicCount, state_.EraseMosaicCount, state_.TextMacroFlag}) {
+        lines_.Number(value);
+    }
+    Path(state_.MidiFile);
+    for (int16_t value : {state_.SoundSyncFlag, state_.LinkedSoundPosition, state_.RandomFlag,
+                          state_.CdOrder}) {
+        lines_.Number(value);
+    }
+    lines_.Number(distribution_ ? 0 : state_.LinkedFolderFlag);
+    lines_.Line(distribution_ ? TextView() : TextView(state_.LinkedFolder));
+}
+
+void ShowWriter::WriteSlides() {
+    lines_.Number(form3_.List1.ListCount());
+    for (const Text& path : form3_.List1.Rows()) {
+        Path(path);
+    }
+}
+
+void ShowWriter::WriteScreenSettings() {
+    lines_.Line(u"480");
+    lines_.Number(state_.OverlayMode);
+    lines_.Number(state_.OverlaySize);
+    lines_.Number(state_.CdProgramCount);
+    for (int i = 1; i <= state_.CdProgramCount; ++i) {
+        lines_.Line(state_.CdProgram(i));
+    }
+    for (int16_t value : {state_.TextOriginScreen, state_.CdPlusLinkedWav, state_.CdProgramStop,
+                          state_.OverlayBackColor, state_.PicturePosition}) {
+        lines_.Number(value);
+    }
+}
+
+void ShowWriter::WriteSoundList() {
+    lines_.Number(state_.SoundListUsed);
+    if (state_.SoundListUsed != 1) {
+        return;
+    }
+    lines_.Number(state_.SoundListCount);
+    for (int i = 1; i <= state_.SoundListCount; ++i) {
+        Path(state_.SoundList(i));
+    }
+}
+
+void ShowWriter::WriteModesAndRows() {
+    lines_.Number(state_.MidiLinkedWavFlag);
+    Path(state_.Mp3File);
+    lines_.Number(state_.SoundMode == 8 ? 1 : 0);
+    for (int16_t value : {state_.AlwaysFullFlag, state_.EffectSpeedFixed, state_.LoadMode,
+                          state_.Mp3LinkedWavFlag, state_.SoundListCheck5}) {
+        lines_.Number(value);
+    }
+    for (const Text& row : form3_.List2.Rows()) {
+        lines_.Line(u"-" + row);
+    }
+}
+
+}  // namespace
+
+void WriteShowDocument(Application& app, TextView requestedPath) {
+    auto& state = app.state;
+    auto& form1 = app.windows.form1;
+    auto& files = app.platform.files;
+    const Text path = text::WithDefaultExtension(requestedPath, u".kvs");
+    form1.MousePointer = model::kPointerBusy;
+    ShowWriter writer(app);
+    platform::FileError error;
+    if (!files.Write(path, text::EncodeFile(writer.Write(path), app.platform.codePage), error)) {
+        form1.MousePointer = model::kPointerNormal;
+        app.platform.dialogs.Message(error.message, platform::kExclamation, u"ファイルの保存");
+        return;
+    }
+    if (state.DistributionSaveFlag == 1) {
+        // Kept: for good, the program goes on without a linked folder.
+        state.LinkedFolderFlag = 0;
+        state.LinkedFolder.clear();
+    }
+    state.Mp3ModeFlag = state.SoundMode == 8 ? 1 : 0;
+    RebuildSchedule(app);
+    form1.MousePointer = model::kPointerNormal;
+    state.DocumentPath = path;
+    form1.Caption = u"ｽﾗｲﾄﾞ - " + path;
+    state.DocumentName = files.Dir(path);
+    const auto date = files.LastWrite(path);
+    state.DocumentFileDate = date ? platform::DateTimeText(*date) : Text();
+}
+
+}  // namespace document

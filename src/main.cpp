@@ -1,0 +1,184 @@
+// Chooses the adapters and starts the program: on the desktop, or under the robot.
+
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "adapters/imaging/qt_imaging.h"
+#include "adapters/posix/iconv_code_page.h"
+#include "adapters/posix/json_trace.h"
+#include "adapters/posix/posix_files.h"
+#include "adapters/posix/posix_system.h"
+#include "adapters/posix/start_paths.h"
+#include "adapters/qt/desktop.h"
+#include "adapters/robot/devices.h"
+#include "adapters/robot/inspect.h"
+#include "adapters/robot/options.h"
+#include "adapters/robot/robot.h"
+#include "adapters/robot/script.h"
+#include "adapters/robot/traced_dialogs.h"
+#include "adapters/robot/window_tracer.h"
+#include "app/start_up.h"
+
+namespace {
+
+constexpr int kWrongUsage = 2;
+
+constexpr const char* kUsage =
+    "使い方 / usage:\n"
+    "  parapico [--trace FILE] [DOCUMENT]\n"
+    "  parapico --inspect FILE\n"
+    "  parapico --resave IN OUT [--distribution]\n"
+    "  parapico --robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N]\n"
+    "           [--now \"YYYY-MM-DD hh:mm:ss\"] [--screen WxH[,WxH…]] [--title] [DOCUMENT]\n";
+
+/// Nobody listens.
+class NoTrace : public platform::Trace {
+public:
+    void Event(std::string_view, std::initializer_list<platform::TraceField>) override {}
+};
+
+/// A loop that is made after the trace that asks it for the time.
+struct LateClock {
+    platform::EventLoop* loop = nullptr;
+    double operator()() const { return loop ? loop->Milliseconds() : 0.0; }
+};
+
+std::unique_ptr<platform::Trace> OpenTrace(const std::string& file,
+                                           const std::shared_ptr<LateClock>& clock) {
+    if (file.empty()) {
+        return std::make_unique<NoTrace>();
+    }
+    auto trace = posix_adapter::MakeTraceWriter(file, [clock] { return (*clock)(); });
+    if (!trace) {
+        std::cerr << "parapico: cannot write the trace " << file << "\n";
+    }
+    return trace;
+}
+
+/// A document given relative to the current folder; anything that is no file there stays as typed.
+Text CommandText(const std::string& argument) {
+    if (argument.empty() || argument[0] == '/') {
+        return text::FromUtf8(argument);
+    }
+    return text::FromUtf8(posix_adapter::AbsoluteIfFile(argument));
+}
+
+/// Everything but the loop, the boxes and the devices is the same on the desktop and in the robot.
+struct Surroundings {
+    explicit Surroundings(const std::string& appFolder)
+        : programFolder(posix_adapter::ProgramFolder(appFolder)),
+          files(programFolder),
+          imaging(files),
+          system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)) {}
+
+    std::string programFolder;
+    posix_adapter::IconvCodePage codePage;
+    posix_adapter::PosixFiles files;
+    imaging::QtImaging imaging;
+    posix_adapter::PosixSystem system;
+};
+
+int RunUntilEnd(Application& application, const app::StartOptions& options) {
+    try {
+        app::RunProgram(application, options);
+    } catch (const platform::ProgramEnd& end) {
+        return end.exitStatus;
+    }
+}
+
+int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::string& document) {
+    qt_adapter::Desktop desktop(argc, argv, {});
+    auto clock = std::make_shared<LateClock>();
+    clock->loop = &desktop.Loop();
+    const std::unique_ptr<platform::Trace> trace = OpenTrace(traceFile, clock);
+    if (!trace) {
+        return kWrongUsage;
+    }
+    Surroundings around{std::string()};
+    robot::TracedDialogs dialogs(desktop.Dialogs(), *trace);
+    robot::RobotSound sound(*trace);  // silent: devices are not built yet
+    robot::WindowTracer windows(*trace);
+    Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
+                             around.imaging, desktop.TextRenderer(), sound, around.system, *trace,
+                             around.codePage});
+    windows.Attach(application.windows);
+    desktop.MakeViews(application.windows);
+    const int status = RunUntilEnd(application, {CommandText(document), true});
+    desktop.UnmakeViews();
+    return status;
+}
+
+int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
+    std::string error;
+    const auto options = robot::ParseRobotArguments(arguments, error);
+    if (!options) {
+        std::cerr << "parapico: " << error << "\n" << kUsage;
+        return kWrongUsage;
+    }
+    auto clock = std::make_shared<LateClock>();
+    const std::unique_ptr<platform::Trace> trace = OpenTrace(options->trace, clock);
+    if (!trace) {
+        return kWrongUsage;
+    }
+    try {
+        robot::Robot robot(*options, *trace);
+        clock->loop = &robot.Loop();
+        qt_adapter::Desktop desktop(argc, argv, {.offscreen = true, .screens = options->screens});
+        Surroundings around(robot.AppFolder());
+        Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
+                                 around.imaging, desktop.TextRenderer(), robot.Sound(),
+                                 around.system, *trace, around.codePage});
+        desktop.MakeViews(application.windows);
+        robot.Attach(application, [&](model::Window& window, const std::string& file) {
+            return desktop.Shot(window, file);
+        });
+        const int status =
+            RunUntilEnd(application, {CommandText(options->document), options->title});
+        desktop.UnmakeViews();
+        return status != 0 ? status : robot.ExitStatus();
+    } catch (const robot::ScriptError& scriptError) {
+        std::cerr << scriptError.what() << "\n";
+        return kWrongUsage;
+    }
+}
+
+int Desktop(int argc, char** argv, std::vector<std::string> arguments) {
+    std::string trace;
+    if (arguments.size() >= 2 && arguments[0] == "--trace") {
+        trace = arguments[1];
+        arguments.erase(arguments.begin(), arguments.begin() + 2);
+    }
+    if (!arguments.empty() && arguments[0] == "--") {
+        arguments.erase(arguments.begin());
+    } else if (!arguments.empty() && arguments[0].rfind("--", 0) == 0) {
+        std::cerr << "parapico: " << arguments[0] << "?\n" << kUsage;
+        return kWrongUsage;
+    }
+    if (arguments.size() > 1) {
+        std::cerr << kUsage;
+        return kWrongUsage;
+    }
+    return RunDesktop(argc, argv, trace, arguments.empty() ? std::string() : arguments[0]);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const std::string door = arguments.empty() ? std::string() : arguments[0];
+    if (door == "--help" || door == "-h") {
+        std::cout << kUsage;
+        return 0;
+    }
+    if (door == "--inspect" || door == "--resave") {
+        return robot::RunDocumentCommand(arguments, std::cout, std::cerr);
+    }
+    for (const std::string& argument : arguments) {
+        if (argument == "--robot") {
+            return RunRobot(argc, argv, arguments);
+        }
+    }
+    return Desktop(argc, argv, arguments);
+}

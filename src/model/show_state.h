@@ -1,0 +1,112 @@
+// The show state: the one record of settings, lists and run flags that every routine works on.
+// Its fields stand in settings.def and run_state.def, each once.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "platform/canvas.h"
+#include "platform/event_loop.h"
+#include "text/text.h"
+
+namespace model {
+
+/// Highest index that SlideList and LinkList can hold.
+constexpr int kSlideListLast = 30010;
+constexpr int kLinkListLast = 1010;
+/// Entries after which adding is refused.
+constexpr int kSlideListLimit = 30000;
+
+/// Texts from index 1; index 0 exists and is not used. Reading an index that was never set gives
+/// the empty text.
+class TextArray {
+public:
+    explicit TextArray(int last) : last_(last) {}
+    const Text& operator()(int index) const;
+    /// False, and nothing set, for an index below 0 or above the last one.
+    bool Set(int index, Text value);
+    void Erase() { values_.clear(); }
+    int Last() const { return last_; }
+    /// Highest index that was set, 0 when none.
+    int Used() const { return values_.empty() ? 0 : static_cast<int>(values_.size()) - 1; }
+
+private:
+    int last_;
+    std::vector<Text> values_;
+};
+
+struct ShowState {
+#define SETTING(type, name, start, fresh, kept, lowest, highest) type name{};
+#define RUN_FIELD(type, name) type name{};
+#include "model/run_state.def"
+#include "model/settings.def"
+#undef SETTING
+#undef RUN_FIELD
+
+    TextArray SlideList{kSlideListLast};
+    TextArray ScheduleFrom{kSlideListLast};  // "YYYY/MM/DD hh:mm", each part may be blank
+    TextArray ScheduleTo{kSlideListLast};
+    TextArray CdProgram{32767};
+    TextArray SoundList{32767};
+    TextArray LinkList{kLinkListLast};
+
+    /// Jump values of the macro menus 1 to 5.
+    std::array<int16_t, 64> MenuJump{};
+
+    /// Moment the schedule is compared with: taken at START and whenever slide 1 comes up.
+    platform::DateTime ShowDateTime;
+
+    /// Bitmap that the effects copy from; set while EffectDcValid is 1.
+    platform::BitmapPtr EffectDc;
+};
+
+/// A field of any of the kinds that the record holds.
+using FieldPointer = std::variant<int16_t ShowState::*, int32_t ShowState::*, double ShowState::*,
+                                  Text ShowState::*>;
+
+enum class Kept { Document, State, Link };
+
+struct Setting {
+    std::string_view name;
+    FieldPointer field;
+    std::variant<double, Text> start, fresh;
+    bool unchangedByNew;
+    Kept kept;
+    int lowest, highest;  // what the dialogs allow; 0, 0 for texts
+};
+
+struct RunField {
+    std::string_view name;
+    FieldPointer field;
+};
+
+const std::vector<Setting>& Settings();
+const std::vector<RunField>& RunFields();
+
+/// Null where no field has that name.
+const FieldPointer* FindField(std::string_view name);
+
+/// Value of a field, numbers as doubles.
+std::variant<double, Text> ReadField(const ShowState& state, const FieldPointer& field);
+
+/// Sets a field; a number must be whole and fit where the field is one. False otherwise.
+bool WriteField(ShowState& state, const FieldPointer& field,
+                const std::variant<double, Text>& value);
+
+/// Every setting to its value at program start.
+void SetStartDefaults(ShowState& state);
+/// Every setting but the unchanged ones to its value for a new document.
+void SetNewDefaults(ShowState& state);
+/// What becomes zero at the very start of the main window, before the start defaults.
+void ZeroReset(ShowState& state);
+
+/// Start and end of a schedule row of 30 columns: "date time" of columns 1-15 and 16-30.
+Text ScheduleFromOfRow(TextView row);
+Text ScheduleToOfRow(TextView row);
+/// 30 blanks: no schedule.
+Text BlankScheduleRow();
+
+}  // namespace model

@@ -1,0 +1,59 @@
+// A window: its place, its life, and the controls that stand in it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/control.h"
+
+namespace model {
+
+/// Mouse pointers that mean something to the logic.
+enum MousePointerShape : int { kPointerNormal = 0, kPointerBusy = 11, kPointerArrowBusy = 13 };
+
+class Window : public VisibleControl {
+public:
+    explicit Window(std::string name, Text caption = {});
+
+    Property<Text> Caption;
+    Property<int> WindowState{*this, "WindowState"};  // 0 normal, 1 minimised, 2 maximised
+    Property<int> MousePointer{*this, "MousePointer"};
+    Property<int> BackColor{*this, "BackColor"};
+    Property<bool> Loaded{*this, "Loaded", false};
+
+    Event<> OnLoad;
+    Event<> OnActivate;
+    Event<> OnResize;
+    Event<bool&> OnQueryUnload;  // set true to stay
+    Event<> OnUnload;
+    Event<> Click;
+    Event<int> KeyDown;
+    Event<const std::vector<Text>&> FilesDropped;
+
+    /// Fires OnLoad unless the window is loaded.
+    void Load();
+    /// Loads and becomes visible; unless it was visible already fires OnResize (the first time
+    /// after a load) and OnActivate.
+    void Show();
+    void Hide();
+    /// Asks OnQueryUnload, fires OnUnload, hides. False when a handler refused. Does nothing for
+    /// a window that is not loaded or is unloading.
+    bool Unload();
+    /// True inside Unload once no handler refused.
+    bool Unloading() const { return unloading_; }
+    /// Sets the size (twips) as a person or the window system does: fires OnResize on a change.
+    void ResizeTo(int widthTwips, int heightTwips);
+
+    const std::vector<Control*>& Controls() const { return controls_; }
+    /// By its name, "Picture2(3)" for an element; without case. Null when there is none.
+    Control* FindControl(std::string_view name) const;
+
+private:
+    friend class Control;
+    std::vector<Control*> controls_;
+    bool unloading_ = false;
+    bool shownOnce_ = false;
+};
+
+}  // namespace model

@@ -1,0 +1,62 @@
+// Windows that are declared by name and get their controls with their behaviour.
+#pragma once
+
+#include "model/window.h"
+
+namespace model {
+
+struct Form5 : Window {
+    Form5() : Window("Form5", u"４画面表示（画像左クリック：コピー他、画像右クリック：削除）") {}
+};
+struct Form6 : Window {  // off-screen holder of the four-picture view
+    Form6() : Window("Form6") {}
+};
+struct Form7 : Window {  // picture detail
+    Form7() : Window("Form7") {}
+};
+struct Form11 : Window {
+    Form11() : Window("Form11", u"画像のコピー") {}
+};
+struct Form12 : Window {
+    Form12() : Window("Form12", u"画像連動ファイル(WAV,MID,MP3,TXT)のフォルダ指定") {}
+};
+struct Form13 : Window {  // linked sound assignment
+    Form13() : Window("form13") {}
+    OptionButton Option1{this, "Option1"};
+    OptionButton Option2{this, "Option2"};
+};
+struct Form14 : Window {
+    Form14() : Window("Form14", u"ＣＤプログラム選択") {}
+    CheckBox Check1{this, "Check1", u"プログラム再生終了でパラピコ停止"};
+};
+struct Form15 : Window {
+    Form15() : Window("Form15", u"テキスト表示設定") {}
+    OptionButton Option1{this, "Option1", u"ピクチャーの左上を座標原点とする。"};
+    OptionButton Option2{this, "Option2", u"スクリーンの左上を座標原点とする。"};
+};
+struct Form16 : Window {
+    Form16() : Window("Form16", u"選択画像の一括変換コピー") {}
+};
+struct Form18 : Window {  // file search
+    Form18() : Window("Form18") {}
+};
+struct Form19 : Window {  // folder selector
+    Form19() : Window("Form19") {}
+};
+struct Form20 : Window {
+    Form20() : Window("Form20", u"画像連動効果音(WAV)録音・再生") {}
+};
+struct Form21 : Window {
+    Form21() : Window("Form21", u"日付入力") {}
+};
+struct Form22 : Window {
+    Form22() : Window("Form22", u"スライド・スケジュール") {}
+};
+struct Form23 : Window {  // cut-out generator
+    Form23() : Window("Form23") {}
+};
+struct Form24 : Window {  // video
+    Form24() : Window("Form24") {}
+};
+
+}  // namespace model

@@ -1,0 +1,18 @@
+// Form9: the list of show documents that run as a chain.
+#pragma once
+
+#include "model/window.h"
+
+namespace model {
+
+struct Form9 : Window {
+    Form9() : Window("Form9", u"ＫＶＳリンク（＊．ｋｖｓ ファイルを選択して下さい）") {}
+
+    ListBox List1{this, "List1"};
+    Label Label4{this, "Label4", u"0"};
+    CheckBox Check1{this, "Check1"};
+    CheckBox Check2{this, "Check2", u"繰り返し"};
+    CheckBox Check3{this, "Check3", u"終了保持"};
+};
+
+}  // namespace model

@@ -1,0 +1,194 @@
+#include "picture/load.h"
+
+#include "picture/effects.h"
+#include "picture/overlay.h"
+#include "picture/screen.h"
+#include "text/paths.h"
+
+namespace picture {
+
+namespace {
+
+constexpr int kFailureTickMs = 10;
+constexpr int kMinimised = 1;
+
+/// The rule for the settings of this moment. `randomFactor` matters for OverlaySize 5 only.
+FitRule CurrentRule(Application& app, bool fullScreen, double randomFactor) {
+    const model::ShowState& state = app.state;
+    const model::PictureBox& preview = app.windows.form1.Picture1;
+    FitRule rule;
+    rule.fullScreen = fullScreen;
+    rule.sizeAdjust = state.SizeAdjust;
+    rule.overlayMode = state.OverlayMode;
+    rule.overlaySize = state.OverlaySize;
+    rule.pictureScale = state.PictureScale;
+    rule.randomFactor = randomFactor;
+    rule.areaTwips = fullScreen ? MonitorSizeTwips(app)
+                                : platform::Size{preview.Width(), preview.Height()};
+    return rule;
+}
+
+/// The number is drawn only where the rule asks for it, so that settings without chance leave the
+/// random sequence alone.
+double DrawFactor(Application& app, bool fullScreen) {
+    const bool asks =
+        fullScreen && app.state.OverlaySize == 5 && !(app.state.PictureScale > 0);
+    return asks ? app.platform.loop.Rnd() : 0.0;
+}
+
+void FitIntoHolder(Application& app, bool fullScreen) {
+    model::Form4& form4 = app.windows.form4;
+    platform::ImagingControl& lead = *form4.Lead1.imaging;
+    const FitRule rule = CurrentRule(app, fullScreen, DrawFactor(app, fullScreen));
+    if (const auto size = FittedSize(rule, lead.HeldSize())) {
+        lead.Resize(size->width, size->height, 0);
+    }
+    form4.Picture1.SetPicture(lead.Picture());
+}
+
+void ClearCanvasForPicture(Application& app) {
+    model::PictureBox& canvas = app.windows.slidescreen.P2;
+    if (app.state.OverlayMode != 0) {
+        ReleaseEffectContext(app);
+        return;
+    }
+    if (app.state.PreviousPictureOnScreen == 1 && app.state.ResetScreenOnce == 0) {
+        RunEraseEffect(app);
+    }
+    ReleaseEffectContext(app);
+    canvas.SetPicture(nullptr);
+}
+
+void ResetScreen(Application& app) {
+    app.windows.slidescreen.P2.SetPicture(nullptr);
+    ResetCanvasGround(app);
+    SizeLayers(app);
+    app.state.ResetScreenOnce = 0;
+}
+
+/// Takes the failing slide out of the window lists and rebuilds the mirrors behind it.
+void RemoveFailingEntry(Application& app) {
+    model::ShowState& state = app.state;
+    model::Form3& form3 = app.windows.form3;
+    form3.List1.RemoveItem(state.SlideIndex - 1);
+    form3.List2.RemoveItem(state.SlideIndex - 1);
+    const int count = form3.List1.ListCount();
+    for (int i = state.SlideIndex; i <= count; ++i) {
+        state.SlideList.Set(i, form3.List1.List(i - 1));
+        state.ScheduleFrom.Set(i, model::ScheduleFromOfRow(form3.List2.List(i - 1)));
+        state.ScheduleTo.Set(i, model::ScheduleToOfRow(form3.List2.List(i - 1)));
+    }
+    for (model::TextArray* array : {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo}) {
+        for (int i = count + 1; i <= array->Used(); ++i) {
+            array->Set(i, {});
+        }
+    }
+    state.SlideListEnd = static_cast<int16_t>(count + 1);
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
+    state.ResumeIndex = static_cast<int16_t>(state.SlideIndex - 1);
+    form3.Label4.Caption = text::FromUtf8(std::to_string(count));
+}
+
+}  // namespace
+
+void ClearPreview(Application& app) { app.windows.form1.Picture1.SetPicture(nullptr); }
+
+bool LoadSlidePicture(Application& app) {
+    model::ShowState& state = app.state;
+    model::Windows& windows = app.windows;
+    const bool fullScreen = state.FullScreenActive == 1;
+    windows.form1.Picture3.Visible = false;
+    windows.slidescreen.Picture2.Visible = false;
+
+    Text path = text::WithFolder(state.AppFolder, state.SlideList(state.SlideIndex));
+    state.SlideList.Set(state.SlideIndex, path);
+    state.CurrentName = app.platform.files.Dir(path);
+    state.CurrentPath = path;
+    if (fullScreen) {
+        windows.SetPointer(model::kPointerArrowBusy);
+    }
+    if (state.OverlayMode >= 2) {
+        ReprocessPreviousPicture(app);
+    }
+    platform::ImagingControl& lead = *windows.form4.Lead1.imaging;
+    // The decoder may work scaled: for a random limit the largest that can be drawn.
+    const FitRule hint = CurrentRule(app, fullScreen, 1.0);
+    const auto wanted = [&hint](platform::Size own) {
+        return FittedSize(hint, own).value_or(platform::Size{});
+    };
+    if (!lead.ReadInformation(path) || !lead.Load(path, wanted)) {
+        return false;
+    }
+    if (lead.BitsPerPixel() != 24) {
+        lead.SetColorResolution(24, 4, 0, 0);
+    }
+    if (state.SizeAdjust == 0 || state.SizeAdjust == 1 || state.OverlayMode >= 1) {
+        windows.form4.Lead2.imaging->CopyFrom(lead);
+    }
+    if (fullScreen) {
+        ClearCanvasForPicture(app);
+    }
+    windows.slidescreen2.Caption = state.CurrentName;
+    windows.form1.Caption = state.CurrentName;
+    if (state.ResetScreenOnce == 1) {
+        ResetScreen(app);
+    }
+    const platform::Size own = lead.HeldSize();
+    state.PictureWidthPx = own.width;
+    state.PictureHeightPx = own.height;
+    state.PictureWidthTwips = own.width * platform::kTwipsPerPixel;
+    state.PictureHeightTwips = own.height * platform::kTwipsPerPixel;
+    FitIntoHolder(app, fullScreen);
+    SizePreview(app);
+    windows.form1.Picture1.SetPicture(windows.form4.Picture1.Picture());
+    return true;
+}
+
+void HandleLoadFailure(Application& app) {
+    model::ShowState& state = app.state;
+    model::Form1& form1 = app.windows.form1;
+    app.windows.form4.Picture1.SetPicture(nullptr);
+    ClearPreview(app);
+    app.windows.SetPointer(model::kPointerNormal);
+    if (form1.WindowState == kMinimised || state.ShowAbort != 0) {
+        return;
+    }
+    if (state.ListErrorDelete == 0) {
+        const Text question = state.CurrentPath +
+                              u"\r\n画像ファイルが読み込めません。"
+                              u"\r\nスライドリストから削除して継続しますか？";
+        const platform::Answer answer = app.platform.dialogs.Message(
+            question, platform::kYesNoQuestion, u"画像ファイル読込エラー");
+        if (answer != platform::Answer::Yes) {
+            state.ShowAbort = 1;
+            form1.Timer1.Interval = kFailureTickMs;
+            return;
+        }
+    }
+    app.windows.form5.Unload();
+    RemoveFailingEntry(app);
+    if (state.SlideList(1).empty()) {
+        app.platform.dialogs.Message(u"スライドリストに　画像ファイルが見つかりません。",
+                                     platform::kExclamation, u"パラピコ");
+        for (model::Button* button :
+             {&form1.Command1, &form1.Command2, &form1.Command3, &form1.Command4}) {
+            button->Enabled = false;
+        }
+        state.ShowAbort = 1;
+    }
+    form1.Timer1.Interval = kFailureTickMs;
+}
+
+void RefitHeldPicture(Application& app, bool fullScreen) {
+    model::Form4& form4 = app.windows.form4;
+    if (!form4.Lead1.imaging->Holds()) {
+        return;
+    }
+    if (form4.Lead2.imaging->Holds()) {
+        form4.Lead1.imaging->CopyFrom(*form4.Lead2.imaging);
+    }
+    FitIntoHolder(app, fullScreen);
+    app.windows.form1.Picture1.SetPicture(form4.Picture1.Picture());
+}
+
+}  // namespace picture

@@ -1,0 +1,7 @@
+#include "picture/video_window.h"
+
+namespace picture {
+
+void PlayVideo(Application&, TextView) {}
+
+}  // namespace picture

@@ -1,0 +1,119 @@
+// Pixels: bitmaps, and canvases with a pen. Pixels are 0xFFRRGGBB in memory; colours of the rules
+// are 0x00BBGGRR.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "text/text.h"
+
+namespace platform {
+
+using Color = uint32_t;  // 0x00BBGGRR
+using Pixel = uint32_t;  // 0xFFRRGGBB
+
+constexpr Color Rgb(int red, int green, int blue) {
+    return static_cast<Color>(red | (green << 8) | (blue << 16));
+}
+constexpr Pixel ToPixel(Color c) {
+    return 0xFF000000u | ((c & 0xFFu) << 16) | (c & 0xFF00u) | ((c >> 16) & 0xFFu);
+}
+constexpr Color ToColor(Pixel p) {
+    return ((p & 0xFFu) << 16) | (p & 0xFF00u) | ((p >> 16) & 0xFFu);
+}
+
+struct Rect {
+    int x = 0, y = 0, width = 0, height = 0;
+    bool Empty() const { return width <= 0 || height <= 0; }
+    friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+Rect Intersection(const Rect& a, const Rect& b);
+/// Smallest rectangle over both; an empty one counts for nothing.
+Rect Union(const Rect& a, const Rect& b);
+
+/// Row-major pixels without padding.
+struct Bitmap {
+    int width = 0, height = 0;
+    std::vector<Pixel> pixels;
+
+    Bitmap() = default;
+    Bitmap(int w, int h, Pixel fill = 0xFF000000u)
+        : width(w), height(h), pixels(static_cast<size_t>(w) * static_cast<size_t>(h), fill) {}
+    bool Empty() const { return width == 0 || height == 0; }
+    Pixel* Row(int y) { return pixels.data() + static_cast<size_t>(y) * static_cast<size_t>(width); }
+    const Pixel* Row(int y) const {
+        return pixels.data() + static_cast<size_t>(y) * static_cast<size_t>(width);
+    }
+};
+
+using BitmapPtr = std::shared_ptr<const Bitmap>;
+
+enum class RasterOp { SourceCopy, Blackness, Whiteness };
+
+struct Font {
+    Text name = u"ＭＳ Ｐゴシック";
+    double sizePoints = 9;
+    bool bold = false, italic = false, underline = false;
+};
+
+class Canvas;
+
+/// Draws text onto canvases. Implemented by an adapter.
+class TextRenderer {
+public:
+    virtual ~TextRenderer() = default;
+    struct Extent {
+        int width = 0, height = 0;  // pixels; height is the line's
+    };
+    virtual Extent Measure(const Font& font, TextView text) = 0;
+    /// Draws with the top left of the line's box at (x, y), background left as it is.
+    virtual void Draw(Canvas& canvas, int x, int y, const Font& font, Color color,
+                      TextView text) = 0;
+};
+
+/// Pixel buffer with a pen. Everything is clipped to the buffer. A canvas keeps the rectangle that
+/// changed since a view last took it.
+class Canvas {
+public:
+    int Width() const { return pixels_.width; }
+    int Height() const { return pixels_.height; }
+    const Bitmap& Pixels() const { return pixels_; }
+
+    /// New size, filled with `fill`; old content stays where it fits.
+    void Resize(int width, int height, Color fill);
+    void Fill(Color color);
+    void FillRect(const Rect& area, Color color);
+    /// One-pixel line with both ends.
+    void Line(int x1, int y1, int x2, int y2, Color color);
+    /// Pixel's colour; white outside the buffer.
+    Color Point(int x, int y) const;
+
+    /// Copies `width` × `height` pixels of `source` from (sourceX, sourceY) to (x, y). Blackness
+    /// and Whiteness need no source. What lies outside either buffer is left out.
+    void BitBlt(int x, int y, int width, int height, const Bitmap* source, int sourceX,
+                int sourceY, RasterOp op = RasterOp::SourceCopy);
+    /// Nearest-pixel scaling of the whole source onto the rectangle.
+    void StretchBlt(const Rect& target, const Bitmap& source);
+
+    /// Writable pixels for a text renderer: mark what was drawn by Touch.
+    Bitmap& Writable() { return pixels_; }
+    void Touch(const Rect& area);
+
+    /// Rectangle changed since the last call; empties it.
+    Rect TakeChanged();
+    /// Called at the first change after a TakeChanged; set by the view.
+    std::function<void()> onChanged;
+
+    int penX = 0, penY = 0;  // pixels
+    Font font;
+    Color color = 0;
+
+private:
+    Bitmap pixels_;
+    Rect changed_;
+};
+
+}  // namespace platform

@@ -1,0 +1,64 @@
+// The imaging control: decodes one picture file, holds it, scales it.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/canvas.h"
+#include "text/text.h"
+
+namespace platform {
+
+struct Size {
+    int width = 0, height = 0;  // pixels
+    bool Empty() const { return width <= 0 || height <= 0; }
+    friend bool operator==(const Size&, const Size&) = default;
+};
+
+/// How large the picture will be wanted, asked with its own size before it is decoded; the answer
+/// lets a decoder work scaled. An empty answer, or one larger than the picture: whole.
+using FitFunction = std::function<Size(Size own)>;
+
+class ImagingControl {
+public:
+    virtual ~ImagingControl() = default;
+
+    /// Reads the header. False for an unreadable file. Changes nothing.
+    virtual bool ReadInformation(TextView path) = 0;
+
+    /// Decodes the file at its own colour depth; alpha lies over white, EXIF orientation is
+    /// applied. On false the control holds nothing.
+    virtual bool Load(TextView path, const FitFunction& fit) = 0;
+
+    /// True while a picture is held.
+    virtual bool Holds() const = 0;
+    /// Size the held picture counts as (its own, or that of the last Resize), whatever was decoded.
+    virtual Size HeldSize() const = 0;
+    /// Bits per pixel of the held picture: 1, 4, 8, 16, 24, 32, 48, 64.
+    virtual int BitsPerPixel() const = 0;
+
+    /// bits 24: full colour. bits 1: two levels, dithered; still painted as colours.
+    virtual void SetColorResolution(int bits, int paletteMode, int ditherMode, int colorCount) = 0;
+
+    /// Resamples the held picture to whole pixels, both at least 1.
+    virtual void Resize(int width, int height, int flags) = 0;
+
+    /// The held picture's pixels at HeldSize; decodes whole where that was put off. Null when
+    /// nothing is held.
+    virtual BitmapPtr Picture() = 0;
+
+    /// Takes over the other control's held picture. Cheap: nothing is decoded or copied.
+    virtual void CopyFrom(const ImagingControl& other) = 0;
+
+    virtual void Clear() = 0;
+};
+
+class Imaging {
+public:
+    virtual ~Imaging() = default;
+    /// "… 1997": the last four characters are read as a number.
+    virtual Text VersionText() const = 0;
+    virtual std::unique_ptr<ImagingControl> MakeControl() = 0;
+};
+
+}  // namespace platform

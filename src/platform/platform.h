@@ -1,0 +1,30 @@
+// Everything the program asks of its surroundings, handed in once at start.
+#pragma once
+
+#include "platform/canvas.h"
+#include "platform/dialogs.h"
+#include "platform/event_loop.h"
+#include "platform/files.h"
+#include "platform/imaging.h"
+#include "platform/monitors.h"
+#include "platform/sound.h"
+#include "platform/system.h"
+#include "platform/trace.h"
+#include "text/code_page.h"
+
+namespace platform {
+
+struct Platform {
+    EventLoop& loop;
+    Files& files;
+    Dialogs& dialogs;
+    Monitors& monitors;
+    Imaging& imaging;
+    TextRenderer& textRenderer;
+    Sound& sound;
+    System& system;
+    Trace& trace;
+    const text::CodePage& codePage;
+};
+
+}  // namespace platform

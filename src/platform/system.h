@@ -1,0 +1,17 @@
+// What is asked of the desktop and of the process.
+#pragma once
+
+#include "text/text.h"
+
+namespace platform {
+
+class System {
+public:
+    virtual ~System() = default;
+    /// Folder of the program's own files, with a separator at the end; made and filled at first use.
+    virtual Text AppFolder() = 0;
+    /// True when another instance of the program was running at start.
+    virtual bool PreviousInstance() = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,216 @@
+#include "playback/control_box.h"
+
+#include "picture/load.h"
+#include "picture/screen.h"
+#include "playback/full_screen.h"
+#include "playback/link_run.h"
+#include "playback/slide_step.h"
+#include "playback/step_sound.h"
+#include "playback/transport.h"
+#include "sound/sound.h"
+#include "text/paths.h"
+
+namespace playback {
+
+namespace {
+
+bool Refused(Application& app) { return app.windows.Pointer() != model::kPointerNormal; }
+
+void SetRunning(Application& app) {
+    SetButtons(app, Buttons::Running);
+    SetBoxButtons(app, {.close = true, .pause = true});
+}
+
+void Close_Click(Application& app) {
+    model::ShowState& state = app.state;
+    state.EffectStop = 1;
+    if (app.windows.form3.Timer1.Enabled || state.MacroWaitClick == 1 || Refused(app)) {
+        return;
+    }
+    state.ExitToMainOnClose = 1;
+    app.windows.slidescreen.Unload();
+    state.ExitToMainOnClose = 0;
+    SetBoxButtons(app, {});
+    picture::ClearPreview(app);
+    ShowFileEntries(app, true);
+    SetSlideInterval(app);
+}
+
+void StartAtEnd(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.LinkRunning != 1 && state.RepeatFlag == 1) {
+        Close_Click(app);
+        return;
+    }
+    SetRunning(app);
+    StartShowSound(app);
+    SetSlideInterval(app);
+    app.windows.form1.Timer1.Enabled = true;
+    state.ShowRunning = 1;
+    if (state.LinkRunning != 1) {
+        state.SlideIndex = 1;
+    }
+}
+
+void Start_Click(Application& app) {
+    model::ShowState& state = app.state;
+    state.EffectStop = 1;
+    if (Refused(app) || state.StepBusy == 1) {
+        return;
+    }
+    if (state.SlideListWindowOpen == 1) {
+        app.platform.dialogs.Message(u"ファイル選択を終了させてから行って下さい。",
+                                     platform::kExclamation, u"ファイル選択");
+        return;
+    }
+    ResetRun(app);
+    picture::ClearPreview(app);
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    EnableShowMenus(app, false);
+    if (state.SlideList(state.SlideIndex).empty()) {
+        StartAtEnd(app);
+        return;
+    }
+    state.ShowRunning = 1;
+    app.windows.form1.Timer1.Enabled = false;
+    // The step reads START's state: it must know that the show runs forward.
+    SetRunning(app);
+    RunSlideStep(app);
+    if (state.ShowAbort == 1) {
+        state.ShowAbort = 0;
+        Close_Click(app);
+        return;
+    }
+    if (state.FullScreenClosed == 1 || state.StopRequest == 1) {
+        return;
+    }
+    StartShowSound(app);
+    SetSlideInterval(app);
+    app.windows.form1.Timer1.Enabled = true;
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+}
+
+void Pause_Click(Application& app) {
+    model::ShowState& state = app.state;
+    state.EffectStop = 1;
+    Command2_Click(app);
+    if (state.ShowRunning == 1 || !app.windows.form1.Command1.Enabled) {
+        return;
+    }
+    const bool link = state.LinkRunning == 1;
+    SetBoxButtons(app,
+                  {.close = true,
+                   .start = true,
+                   .previous = state.SlideIndex > 1 || (link && state.LinkIndex > 2),
+                   .next = state.SlideIndex < state.SlideListEnd - 1 ||
+                           (link && state.LinkIndex < state.LinkEnd)});
+}
+
+void StepInBox(Application& app) {
+    app.windows.SetPointer(model::kPointerArrowBusy);
+    app.state.ScheduleSkipped = 0;
+    RunSlideStep(app);
+    app.windows.SetPointer(model::kPointerNormal);
+}
+
+/// Enables previous and next of the box by the place in the list.
+void FollowPlace(Application& app) {
+    const model::ShowState& state = app.state;
+    const bool link = state.LinkRunning == 1;
+    app.windows.slidescreen2.Command4.Enabled =
+        state.SlideIndex > 1 || (link && state.LinkIndex > 2);
+    app.windows.slidescreen2.Command5.Enabled =
+        state.SlideIndex < state.SlideListEnd - 1 || (link && state.LinkIndex < state.LinkEnd);
+}
+
+void Previous_Click(Application& app) {
+    model::ShowState& state = app.state;
+    state.EffectStop = 1;
+    if (Refused(app) || state.StepBusy == 1) {
+        return;
+    }
+    while (state.ShowRunning == 0 && state.SlideIndex > 0) {
+        state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
+        if (state.SlideIndex < 1) {
+            if (state.LinkRunning != 1 || state.LinkIndex <= 2) {
+                break;
+            }
+            state.LinkIndex = static_cast<int16_t>(state.LinkIndex - 2);
+            if (!LoadLinkEntry(app)) {
+                return;
+            }
+            state.SlideIndex = static_cast<int16_t>(state.SlideListEnd - 1);
+        }
+        StepInBox(app);
+        if (state.ScheduleSkipped != 1) {
+            break;
+        }
+    }
+    FollowPlace(app);
+}
+
+void Next_Click(Application& app) {
+    model::ShowState& state = app.state;
+    state.EffectStop = 1;
+    if (Refused(app) || state.StepBusy == 1) {
+        return;
+    }
+    while (state.ShowRunning == 0) {
+        if (state.SlideIndex < state.SlideListEnd - 1) {
+            state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+        } else if (state.LinkRunning == 1 && state.LinkIndex < state.LinkEnd) {
+            if (!LoadLinkEntry(app)) {
+                return;
+            }
+            state.SlideIndex = 1;
+        } else {
+            break;
+        }
+        StepInBox(app);
+        if (state.ScheduleSkipped != 1) {
+            break;
+        }
+    }
+    FollowPlace(app);
+}
+
+void Form_Activate(Application& app) {
+    model::Form1& form1 = app.windows.form1;
+    SetBoxButtons(app, {.close = form1.Command3.Enabled,
+                        .start = form1.Command1.Enabled,
+                        .pause = form1.Command2.Enabled,
+                        .previous = form1.Command5.Enabled,
+                        .next = form1.Command7.Enabled});
+    PlaceControlBox(app);
+}
+
+}  // namespace
+
+void SetBoxButtons(Application& app, const BoxButtons& buttons) {
+    model::Slidescreen2& box = app.windows.slidescreen2;
+    box.Command1.Enabled = buttons.close;
+    box.Command2.Enabled = buttons.start;
+    box.Command3.Enabled = buttons.pause;
+    box.Command4.Enabled = buttons.previous;
+    box.Command5.Enabled = buttons.next;
+}
+
+void PlaceControlBox(Application& app) {
+    model::Slidescreen2& box = app.windows.slidescreen2;
+    const platform::Rect monitor = picture::MonitorTwips(app, app.state.MonitorIndex);
+    box.Left = monitor.x + monitor.width - box.Width;
+    box.Top = app.state.ControlBoxPos == 0 ? monitor.y : monitor.y + monitor.height - box.Height;
+}
+
+void AttachControlBox(Application& app) {
+    model::Slidescreen2& box = app.windows.slidescreen2;
+    box.OnQueryUnload = [](bool& stay) { stay = true; };
+    box.OnActivate = [&app] { Form_Activate(app); };
+    box.Command1.Click = [&app] { Close_Click(app); };
+    box.Command2.Click = [&app] { Start_Click(app); };
+    box.Command3.Click = [&app] { Pause_Click(app); };
+    box.Command4.Click = [&app] { Previous_Click(app); };
+    box.Command5.Click = [&app] { Next_Click(app); };
+}
+
+}  // namespace playback

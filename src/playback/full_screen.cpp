@@ -1,0 +1,311 @@
+#include "playback/full_screen.h"
+
+#include "macro/macro.h"
+#include "picture/effects.h"
+#include "picture/load.h"
+#include "picture/overlay.h"
+#include "picture/screen.h"
+#include "playback/control_box.h"
+#include "playback/link_run.h"
+#include "playback/slide_step.h"
+#include "playback/step_sound.h"
+#include "playback/transport.h"
+#include "sound/sound.h"
+
+namespace playback {
+
+namespace {
+
+constexpr int kKeyEscape = 27;
+
+void ShowControlBox(Application& app) {
+    if (app.state.ControlBoxFlag == 0) {
+        app.windows.slidescreen2.Show();
+    }
+}
+
+void UnloadWithEndMark(Application& app) {
+    app.state.FullScreenEndMark = 1;
+    app.windows.slidescreen.Unload();
+    app.state.FullScreenEndMark = 0;
+}
+
+/// A show that ran in the main window, running or paused, moves to the full screen.
+void TakeOverRunningShow(Application& app) {
+    model::ShowState& state = app.state;
+    app.windows.SetPointer(model::kPointerArrowBusy);
+    app.windows.slidescreen.P2.SetPicture(nullptr);
+    picture::ReleaseEffectContext(app);
+    picture::RefitHeldPicture(app, true);
+    state.PreviousPictureOnScreen = 1;
+    picture::CreateEffectContext(app);
+    picture::RunShowEffect(app);
+    app.windows.SetPointer(model::kPointerNormal);
+    if (RunsForward(app)) {
+        SetSlideInterval(app);
+        app.windows.form1.Timer1.Enabled = true;
+    }
+}
+
+/// False when the first document of a link list cannot be had.
+bool PrepareStart(Application& app) {
+    model::ShowState& state = app.state;
+    ShowFileEntries(app, false);
+    EnableShowMenus(app, false);
+    state.RestartSoundFlag = 0;
+    state.FullScreenClosedByUser = 0;
+    state.FullScreenClosed = 0;
+    if (state.LinkRunning == 1) {
+        state.LinkIndex = 1;
+        return LoadLinkEntry(app);
+    }
+    if (state.JumpRequested != 1) {
+        if (state.FullStartConfirm == 0) {
+            app.platform.dialogs.Message(u"スライド画面全体表示スタート", platform::kPlain,
+                                         u"パラピコ");
+        }
+        if (state.StartOption == 1) {
+            state.PreviousPictureOnScreen = 0;
+        }
+        TakeResumeIndex(app);
+    }
+    return true;
+}
+
+/// Runs the first slide. False when the window was unloaded meanwhile.
+bool StartShow(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.SlideList(state.SlideIndex).empty()) {
+        state.SlideIndex = 0;
+        state.ShowRunning = 0;
+        return true;
+    }
+    SetButtons(app, Buttons::Running);
+    SetSlideInterval(app);
+    app.windows.form1.Timer1.Enabled = false;
+    state.ShowRunning = 1;
+    StartShowSound(app);
+    RunSlideStep(app);
+    if (state.StopRequest == 1 || state.ShowAbort == 1) {
+        state.ShowAbort = 0;
+        UnloadWithEndMark(app);
+        return false;
+    }
+    app.windows.form1.Timer1.Enabled = true;
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    return true;
+}
+
+/// False when the window was unloaded meanwhile.
+bool StartFromIdle(Application& app) {
+    model::ShowState& state = app.state;
+    if (!PrepareStart(app)) {
+        return false;
+    }
+    if (state.ControlBoxFlag == 0) {
+        SetBoxButtons(app, {.close = true, .start = false, .pause = true});
+        if (state.MacroButtonsShown == 0) {
+            app.windows.slidescreen2.Caption = u"START";
+            app.windows.slidescreen2.Show();
+        }
+    }
+    state.FullScreenActive = 1;
+    state.ShowAbort = 0;
+    state.ExitToMainOnClose = 0;
+    TakeStartIndex(app);
+    return StartShow(app);
+}
+
+void Form_Activate(Application& app) {
+    model::ShowState& state = app.state;
+    app.windows.form1.Hide();
+    app.windows.form1.Picture1.AutoRedraw = false;
+    if (state.ShowRunning == 0 && state.SlideIndex == 0 && !StartFromIdle(app)) {
+        return;
+    }
+    if (state.FullScreenClosed == 0 && state.MacroButtonsShown == 0) {
+        ShowControlBox(app);
+    }
+    if (state.StopRequest == 1 || state.FullScreenClosed == 1) {
+        app.windows.slidescreen.Unload();
+    }
+}
+
+void Form_Load(Application& app) {
+    model::Slidescreen& slidescreen = app.windows.slidescreen;
+    macro::ClearMacroObjects(app);
+    for (model::PictureBox* layer : {&slidescreen.P2, &slidescreen.P3, &slidescreen.P4}) {
+        layer->SetPicture(nullptr);
+    }
+    picture::ResetCanvasGround(app);
+    app.state.FullScreenClosed = 0;
+}
+
+bool UnloadEndsShow(const model::ShowState& state) {
+    return state.FullScreenEndMark == 1 || state.LinkRunning == 1 || state.ReturnToSlideList == 1 ||
+           state.ExitToMainOnClose == 1 || state.LinkWindowOpen == 1 || state.AlwaysFullFlag == 0;
+}
+
+void EndShowOnUnload(Application& app) {
+    model::ShowState& state = app.state;
+    state.FullScreenClosedByUser = 1;
+    state.LinkRunning = 0;
+    state.StopRequest = 1;
+    state.StepBusy = 0;
+    state.MacroDelayWaiting = 0;
+    state.StartLatch = 0;
+    state.LinkIndex = 0;
+    ClearRun(app);
+    ShowFileEntries(app, true);
+    EnableShowMenus(app, true);
+    SetButtons(app, Buttons::Idle);
+    state.SlideListEnd = static_cast<int16_t>(app.windows.form3.List1.ListCount() + 1);
+    RestoreCaption(app);
+    sound::StopCd(app);
+    sound::StopSound(app);
+}
+
+void ShowCaller(Application& app) {
+    model::Windows& windows = app.windows;
+    if (app.state.LinkWindowOpen == 1) {
+        windows.form9.Show();
+    } else if (app.state.ReturnToSlideList == 0) {
+        windows.form1.Show();
+    } else {
+        windows.form1.Hide();
+        windows.form3.Show();
+    }
+}
+
+void Form_Unload(Application& app) {
+    model::ShowState& state = app.state;
+    model::Windows& windows = app.windows;
+    state.MacroCursorHidden = 0;
+    macro::ClearMacroObjects(app);
+    windows.slidescreen2.Hide();
+    state.JumpRequested = 0;
+    state.FullScreenActive = 0;
+    windows.slidescreen.P2.SetPicture(nullptr);
+    windows.form4.Picture3.SetPicture(nullptr);
+    picture::ReleaseEffectContext(app);
+    state.FullScreenClosed = 1;
+    if (UnloadEndsShow(state)) {
+        EndShowOnUnload(app);
+    }
+    if (!state.SlideList(state.SlideIndex).empty() && state.SlideIndex > 0 &&
+        state.ShowAbort != 1 && state.SizeAdjust <= 1) {
+        picture::RefitHeldPicture(app, false);
+    }
+    windows.form1.Picture1.AutoRedraw = true;
+    windows.slidescreen.Hide();
+    ShowCaller(app);
+}
+
+bool MacroButtonsUp(Application& app) {
+    return app.state.MacroButtonsShown == 1 || app.windows.slidescreen.Command1.Visible;
+}
+
+void Screen_Click(Application& app) {
+    model::ShowState& state = app.state;
+    state.UserInputSeen = 1;
+    state.EffectStop = 1;
+    if (state.MacroWaitClick == 1 || state.MacroCursorHidden == 1 ||
+        app.windows.form3.Timer1.Enabled) {
+        return;
+    }
+    ShowControlBox(app);
+    if (!MacroButtonsUp(app) && app.windows.Pointer() == model::kPointerNormal) {
+        app.windows.slidescreen.Unload();
+    }
+}
+
+void Screen_KeyDown(Application& app, int code) {
+    app.state.UserInputSeen = 1;
+    app.state.EffectStop = 1;
+    if (app.state.MacroWaitClick != 1 && code == kKeyEscape &&
+        app.windows.Pointer() == model::kPointerNormal) {
+        app.windows.slidescreen.Unload();
+    }
+}
+
+}  // namespace
+
+void PlaceFullScreen(Application& app) {
+    model::Slidescreen& slidescreen = app.windows.slidescreen;
+    app.state.MonitorIndex = static_cast<int16_t>(app.platform.monitors.OfMainWindow());
+    const platform::Rect monitor = picture::MonitorTwips(app, app.state.MonitorIndex);
+    slidescreen.Load();
+    slidescreen.Left = monitor.x;
+    slidescreen.Top = monitor.y;
+    slidescreen.Width = monitor.width;
+    slidescreen.Height = monitor.height;
+    picture::SizeLayers(app);
+}
+
+void TakeResumeIndex(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.StartOption != 1) {
+        return;
+    }
+    state.SlideIndex = state.ResumeIndex;
+    if (state.SlideList(state.SlideIndex + 1).empty() && state.SlideIndex > 0) {
+        state.SlideIndex = 0;
+    }
+}
+
+void TakeStartIndex(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.JumpRequested == 1) {
+        state.SlideIndex = static_cast<int16_t>(state.JumpTarget + 1);
+        state.JumpRequested = 0;
+    } else {
+        state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    }
+}
+
+void Command4_Click(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.MacroWaitClick == 1 || state.StepBusy == 1) {
+        return;
+    }
+    if (state.SlideListWindowOpen == 1) {
+        app.platform.dialogs.Message(u"ファイル選択を終了させてから行って下さい。",
+                                     platform::kExclamation, u"ファイル選択");
+        return;
+    }
+    ShowFileEntries(app, false);
+    app.windows.form1.Timer1.Enabled = false;
+    ResetRun(app);
+    const bool idle = state.SlideIndex == 0;
+    if (!idle && state.ShowRunning == 0) {
+        state.StartLatch = 0;  // a paused show stays paused: START must work when it comes back
+    }
+    PlaceFullScreen(app);
+    if (!idle) {
+        state.FullScreenActive = 1;
+    }
+    app.windows.slidescreen.Show();
+    if (idle || state.FullScreenClosed == 1) {
+        return;
+    }
+    picture::ResetCanvasGround(app);
+    TakeOverRunningShow(app);
+}
+
+void AttachFullScreen(Application& app) {
+    model::Slidescreen& slidescreen = app.windows.slidescreen;
+    slidescreen.OnLoad = [&app] { Form_Load(app); };
+    slidescreen.OnActivate = [&app] { Form_Activate(app); };
+    slidescreen.OnUnload = [&app] { Form_Unload(app); };
+    slidescreen.ApplyOverlayBackground = [&app] { picture::ApplyOverlayBackground(app); };
+    slidescreen.Click = [&app] { Screen_Click(app); };
+    slidescreen.KeyDown = [&app](int code) { Screen_KeyDown(app, code); };
+    for (model::PictureBox* surface : {&slidescreen.P2, &slidescreen.Picture2}) {
+        surface->Click = [&app] { Screen_Click(app); };
+        surface->KeyDown = [&app](int code) { Screen_KeyDown(app, code); };
+    }
+    slidescreen.Command1.Click = [&app] { app.state.MacroNextPressed = 1; };
+    slidescreen.Command2.Click = [&app] { app.state.MacroBackPressed = 1; };
+}
+
+}  // namespace playback

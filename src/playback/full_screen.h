@@ -1,0 +1,23 @@
+// The full-screen window: how it comes up, what it takes from the user, how it goes away.
+#pragma once
+
+#include "model/application.h"
+
+namespace playback {
+
+/// Connects the handlers of Slidescreen.
+void AttachFullScreen(Application& app);
+
+/// Puts Slidescreen over the monitor that the main window is on and sizes its layers.
+void PlaceFullScreen(Application& app);
+
+/// The full-screen button.
+void Command4_Click(Application& app);
+
+/// With StartOption 1: SlideIndex becomes ResumeIndex, or 0 where no slide follows it.
+void TakeResumeIndex(Application& app);
+
+/// SlideIndex becomes that of a requested jump (which is then used up), else goes up by 1.
+void TakeStartIndex(Application& app);
+
+}  // namespace playback

@@ -1,0 +1,63 @@
+#include "playback/link_run.h"
+
+#include "document/show_document.h"
+#include "playback/slide_step.h"
+#include "playback/step_sound.h"
+#include "playback/transport.h"
+#include "text/paths.h"
+
+namespace playback {
+
+bool LoadLinkEntry(Application& app) {
+    model::ShowState& state = app.state;
+    const Text path = state.LinkList(state.LinkIndex);
+    state.BaseFolder = text::FolderPart(path);
+    document::ReadShowDocument(app, path);
+    if (state.ShowAbort == 1) {
+        app.windows.slidescreen.Unload();
+        state.ShowAbort = 0;
+        return false;
+    }
+    state.SlideIndex = 0;
+    state.ShowRunning = 0;
+    state.SlideList.Erase();
+    const model::ListBox& list = app.windows.form3.List1;
+    for (int row = 0; row < list.ListCount(); ++row) {
+        state.SlideList.Set(row + 1, list.List(row));
+    }
+    state.SlideListEnd = static_cast<int16_t>(list.ListCount() + 1);
+    state.LinkIndex = static_cast<int16_t>(state.LinkIndex + 1);
+    return true;
+}
+
+bool ContinueLinkRun(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.LinkIndex >= state.LinkEnd) {
+        if (state.LinkRepeat != 1) {
+            return false;
+        }
+        state.LinkIndex = 1;
+    }
+    model::Timer& timer = app.windows.form1.Timer1;
+    timer.Enabled = false;
+    if (!LoadLinkEntry(app)) {
+        return true;
+    }
+    state.ShowRunning = 1;
+    state.SlideIndex = 1;
+    RunSlideStep(app);
+    if (state.ShowAbort == 1) {
+        app.windows.slidescreen.Unload();
+        state.ShowAbort = 0;
+        return true;
+    }
+    if (state.StopRequest == 1) {
+        return true;
+    }
+    StartShowSound(app);
+    timer.Enabled = true;
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    return true;
+}
+
+}  // namespace playback

@@ -1,0 +1,15 @@
+// When a slide may be shown.
+#pragma once
+
+#include "model/application.h"
+
+namespace playback {
+
+/// Takes the show's date and time (ShowDateText, ShowDateTime) from the clock.
+void TakeShowDate(Application& app);
+
+/// True when the show's moment lies outside the slide's start and end; the ends count as inside.
+/// A field that is no date counts as none.
+bool IsOutOfSchedule(const model::ShowState& state, int slideIndex);
+
+}  // namespace playback

@@ -1,0 +1,260 @@
+#include "playback/slide_step.h"
+
+#include "document/linked_names.h"
+#include "macro/macro.h"
+#include "picture/effects.h"
+#include "picture/load.h"
+#include "picture/overlay.h"
+#include "picture/screen.h"
+#include "picture/video_window.h"
+#include "playback/schedule.h"
+#include "playback/step_sound.h"
+#include "text/numbers.h"
+
+namespace playback {
+
+namespace {
+
+constexpr int kSkippedTickMs = 1;
+constexpr int kMissingVideoTickMs = 1;
+constexpr int kAfterVideoTickMs = 100;
+constexpr int kTelopPollMs = 10;
+constexpr int16_t kEffectSpeedTrimInStep = 4;
+
+/// Outcome of a part of the step.
+enum class Next {
+    GoOn,
+    End,    // leave by way of the exit, which clears StepBusy
+    Leave,  // leave at once
+};
+
+void SkipBySchedule(Application& app) {
+    app.windows.form1.Timer1.Interval = kSkippedTickMs;
+    app.state.ScheduleSkipped = 1;
+    app.platform.trace.Event("skip", {{"SlideIndex", double(app.state.SlideIndex)}});
+}
+
+void CancelTelop(Application& app) {
+    model::Windows& windows = app.windows;
+    for (model::Label* label : {&windows.form1.Label1, &windows.slidescreen.Label1}) {
+        label->Caption = Text();
+        label->Visible = false;
+    }
+    windows.slidescreen.Timer1.Enabled = false;
+    windows.form1.Timer4.Enabled = false;
+    app.state.TelopRunning = 0;
+}
+
+/// The next slide never comes before a scrolling text has run out.
+Next WaitForTelop(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.MacroJumpChosen == 1 && state.TelopRunning == 1) {
+        CancelTelop(app);
+    }
+    while (state.TelopRunning == 1) {
+        app.platform.loop.PumpEvents();
+        app.platform.loop.Sleep(kTelopPollMs);
+        if (!RunsForward(app)) {
+            state.StepBusy = 0;
+            app.windows.form1.Timer4.Enabled = false;
+            state.TelopRunning = 0;
+            return Next::Leave;
+        }
+    }
+    return Next::GoOn;
+}
+
+/// Nothing prevents the same slide twice in a row.
+void DrawRandomSlide(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.LinkRunning == 1 || state.RandomFlag != 0 || !RunsForward(app)) {
+        return;
+    }
+    const int count = app.windows.form3.List1.ListCount();
+    const double place = text::RoundHalfEven(app.platform.loop.Rnd() * count + 0.5);
+    state.SlideIndex = static_cast<int16_t>(place < 1 ? 1 : place);
+}
+
+void EndVideoByUser(Application& app) {
+    model::ShowState& state = app.state;
+    model::Windows& windows = app.windows;
+    if (state.FullScreenActive == 1) {
+        state.ExitToMainOnClose = 1;
+        windows.slidescreen.Unload();
+        state.ExitToMainOnClose = 0;
+        picture::ClearPreview(app);
+        for (model::MenuEntry* entry : {&windows.form1.mnuNEW, &windows.form1.mnuOPEN,
+                                        &windows.form1.mnuSAVE, &windows.form1.mnuHAIHU}) {
+            entry->Visible = true;
+        }
+    } else {
+        state.ShowAbort = 1;
+    }
+    windows.SetPointer(model::kPointerNormal);
+}
+
+/// StepBusy stays 1 until the next step ends: this holds back PAUSE for the short tick.
+Next ShowVideo(Application& app) {
+    model::ShowState& state = app.state;
+    model::Windows& windows = app.windows;
+    const Text path = state.SlideList(state.SlideIndex);
+    picture::RunEraseEffect(app);
+    if (!app.platform.files.Exists(path)) {
+        app.platform.dialogs.Message(path + u"\r\n動画ファイルの再生が停止されました。",
+                                     platform::kExclamation, u"動画ファイル再生停止");
+        windows.form1.Timer1.Interval = kMissingVideoTickMs;
+        return Next::Leave;
+    }
+    state.CurrentName = app.platform.files.Dir(path);
+    windows.slidescreen2.Caption = state.CurrentName;
+    windows.form1.Caption = state.CurrentName;
+    StartSoundBesideVideo(app);
+    state.VideoStoppedByUser = 0;
+    picture::PlayVideo(app, path);
+    state.LastWasVideo = 1;
+    if (state.VideoStoppedByUser == 1 && state.MacroWaitClick != 1) {
+        EndVideoByUser(app);
+    }
+    windows.form1.Timer1.Interval = kAfterVideoTickMs;
+    return Next::Leave;
+}
+
+/// Takes the previous slide's text off the layered canvas, brings the picture in.
+void ShowInFullScreen(Application& app) {
+    model::ShowState& state = app.state;
+    model::Slidescreen& slidescreen = app.windows.slidescreen;
+    if (state.OverlayMode > 0 && state.TextOriginScreen == 1 && state.TextMacroFlag == 0) {
+        slidescreen.P2.canvas.StretchBlt(
+            {0, 0, slidescreen.P2.ScaleWidth(), slidescreen.P2.ScaleHeight()},
+            slidescreen.P4.canvas.Pixels());
+    }
+    if (state.ControlBoxFlag == 0) {
+        app.windows.slidescreen2.Show();
+    }
+    state.PreviousPictureOnScreen = 1;
+    picture::ReleaseEffectContext(app);
+    picture::CreateEffectContext(app);
+    picture::RunShowEffect(app);
+}
+
+/// The clean copy for the macros; a scrolling label does not land in it.
+void CopyCanvasForMacros(Application& app) {
+    model::Slidescreen& slidescreen = app.windows.slidescreen;
+    if (app.state.FullScreenActive != 1 || app.state.TextMacroFlag != 0) {
+        return;
+    }
+    const bool scrolling = slidescreen.Timer1.Enabled;
+    if (scrolling) {
+        slidescreen.Label1.Visible = false;
+        app.platform.loop.PumpEvents();
+    }
+    slidescreen.P4.canvas.StretchBlt(
+        {0, 0, slidescreen.P4.ScaleWidth(), slidescreen.P4.ScaleHeight()},
+        slidescreen.P2.canvas.Pixels());
+    if (scrolling) {
+        slidescreen.Label1.Visible = true;
+    }
+}
+
+void TraceSlide(Application& app) {
+    const model::ShowState& state = app.state;
+    const model::PictureBox& picture = app.windows.form4.Picture1;
+    const bool fullScreen = state.FullScreenActive == 1;
+    app.platform.trace.Event("slide", {{"SlideIndex", double(state.SlideIndex)},
+                                       {"path", state.CurrentPath},
+                                       {"x", double(fullScreen ? state.PictureX : 0)},
+                                       {"y", double(fullScreen ? state.PictureY : 0)},
+                                       {"width", double(picture.ScaleWidth())},
+                                       {"height", double(picture.ScaleHeight())}});
+}
+
+Next ShowPicture(Application& app) {
+    model::ShowState& state = app.state;
+    state.LastWasVideo = 0;
+    PollCd(app);
+    // The load mode is only carried: every step puts it back before the load.
+    state.LoadMode = 0;
+    app.windows.form1.mnuYOMI.Check(0);
+    if (!picture::LoadSlidePicture(app)) {
+        picture::HandleLoadFailure(app);
+        return Next::End;
+    }
+    RestartBackgroundSound(app);
+    if (state.FullScreenActive == 1) {
+        ShowInFullScreen(app);
+    }
+    state.ResetScreenOnce = 0;
+    app.windows.SetPointer(model::kPointerNormal);
+    state.MacroEndShow = 0;
+    TraceSlide(app);
+    CopyCanvasForMacros(app);
+    if (state.LinkedSoundPosition == 1) {
+        macro::RunTextMacro(app);
+        if (state.StopRequest == 1) {
+            app.windows.SetPointer(model::kPointerNormal);
+            return Next::End;
+        }
+        if (state.MacroEndShow == 1) {
+            return Next::End;
+        }
+    }
+    StartLinkedSounds(app);
+    if (state.LinkedSoundPosition == 0) {
+        macro::RunTextMacro(app);
+    }
+    return Next::End;
+}
+
+void TakeEffectSpeed(model::ShowState& state) {
+    // Kept: the user's correction lives only until the next step, the factor is always 2.
+    state.EffectSpeedTrim = kEffectSpeedTrimInStep;
+    state.EffectSpeedFactor = text::Int((3 - state.EffectSpeedTrim / 4.0) * 10) / 10;
+}
+
+Next ShowEntry(Application& app) {
+    model::ShowState& state = app.state;
+    macro::ClearMacroObjects(app);
+    state.StepBusy = 1;
+    state.ResumeIndex = state.SlideIndex;
+    if (state.StopRequest == 1) {
+        return Next::End;
+    }
+    state.ShowAbort = 0;
+    TakeEffectSpeed(state);
+    if (!WaitForLinkedSound(app)) {
+        return Next::End;
+    }
+    state.SkipSyncWaitOnce = 0;
+    if (const Next next = WaitForTelop(app); next != Next::GoOn) {
+        return next;
+    }
+    DrawRandomSlide(app);
+    const Text path = state.SlideList(state.SlideIndex);
+    if (path.empty()) {
+        return Next::End;
+    }
+    const bool isVideo = text::IsVideoKind(path);
+    state.LinkedMediaPath = document::LinkedName(app, path, u"mp3");
+    if (!FadeBeforeLinkedMedia(app, isVideo)) {
+        return Next::Leave;
+    }
+    return isVideo ? ShowVideo(app) : ShowPicture(app);
+}
+
+}  // namespace
+
+void RunSlideStep(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.ShowDateText.empty() || state.SlideIndex == 1) {
+        TakeShowDate(app);
+    }
+    if (IsOutOfSchedule(state, state.SlideIndex)) {
+        SkipBySchedule(app);
+        return;
+    }
+    if (ShowEntry(app) == Next::End) {
+        state.StepBusy = 0;
+    }
+}
+
+}  // namespace playback

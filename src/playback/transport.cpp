@@ -1,0 +1,431 @@
+#include "playback/transport.h"
+
+#include <algorithm>
+
+#include "document/show_document.h"
+#include "macro/macro.h"
+#include "picture/load.h"
+#include "picture/screen.h"
+#include "playback/full_screen.h"
+#include "playback/link_run.h"
+#include "playback/schedule.h"
+#include "playback/slide_step.h"
+#include "playback/step_sound.h"
+#include "sound/sound.h"
+#include "text/paths.h"
+
+namespace playback {
+
+namespace {
+
+constexpr int kMillisecondsPerSecond = 1000;
+
+void HideVideoPlaceholders(Application& app) {
+    app.windows.form1.Picture3.Visible = false;
+    app.windows.slidescreen.Picture2.Visible = false;
+}
+
+/// The end of a show that nobody continues: what START at the end and the tick have in common.
+void EndShow(Application& app) {
+    model::ShowState& state = app.state;
+    state.StepBusy = 0;
+    state.StopRequest = 1;
+    state.StartLatch = 0;
+    state.MacroWaitClick = 0;
+    ClearRun(app);
+    SetButtons(app, Buttons::Idle);
+    ShowFileEntries(app, true);
+    EnableShowMenus(app, true);
+}
+
+void StartFirstStep(Application& app) {
+    model::ShowState& state = app.state;
+    SetSlideInterval(app);
+    state.ShowRunning = 1;
+    StartShowSound(app);
+    RunSlideStep(app);
+    if (state.ShowAbort == 1) {
+        state.ShowAbort = 0;
+        Command3_Click(app);
+        return;
+    }
+    app.windows.form1.Timer1.Enabled = true;
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    SetButtons(app, Buttons::Running);
+}
+
+/// START with nothing behind the slide on the screen.
+void StartAtListEnd(Application& app) {
+    model::ShowState& state = app.state;
+    app.windows.form1.Timer1.Enabled = false;
+    if (state.RepeatFlag == 1) {
+        RestoreCaption(app);
+        sound::StopCd(app);
+        sound::StopSound(app);
+        EndShow(app);
+        app.windows.SetPointer(model::kPointerNormal);
+        return;
+    }
+    SetButtons(app, Buttons::Running);
+    StartShowSound(app);
+    SetSlideInterval(app);
+    app.windows.SetPointer(model::kPointerNormal);
+    state.SlideIndex = 1;
+    state.ShowRunning = 1;
+    app.windows.form1.Timer1.Enabled = true;
+}
+
+/// A show follows its document: one that changed on disk is read anew and starts over.
+void FollowDocumentFile(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.DocumentPath.empty()) {
+        return;
+    }
+    const auto written = app.platform.files.LastWrite(state.DocumentPath);
+    if (!written) {
+        return;
+    }
+    const Text date = platform::DateTimeText(*written);
+    if (date != state.DocumentFileDate) {
+        state.BaseFolder = text::FolderPart(state.DocumentPath);
+        document::ReadShowDocument(app, Text(state.DocumentPath));
+        state.SlideIndex = 1;
+    }
+    state.DocumentFileDate = date;
+}
+
+/// True when the tick is over.
+bool EndOfList(Application& app) {
+    model::ShowState& state = app.state;
+    const bool listEnded = state.SlideIndex >= state.SlideListEnd && state.SlideListEnd > 1;
+    if (!listEnded && state.CdProgramEnded != 1) {
+        return false;
+    }
+    state.CdProgramEnded = 0;
+    if (state.RepeatFlag == 0 && state.LinkRunning != 1) {
+        state.SlideIndex = 1;
+        return false;
+    }
+    RestoreCaption(app);
+    sound::StopCd(app);
+    sound::StopSound(app);
+    if (state.LinkRunning == 0) {
+        EndShow(app);
+    } else if (ContinueLinkRun(app)) {
+        return true;
+    }
+    state.SoundListPos = 0;
+    state.CdProgramPosition = 0;
+    app.windows.slidescreen.Unload();
+    if (state.LinkWindowOpen != 1) {
+        app.windows.form1.Show();
+    }
+    picture::SizePreview(app);
+    return true;
+}
+
+/// Shows slides until one is not passed over by its schedule. `next` tells whether there is one
+/// and moves to it.
+template <class Next>
+void StepByHand(Application& app, Next next) {
+    model::ShowState& state = app.state;
+    while (state.ShowRunning == 0 && next()) {
+        app.windows.SetPointer(model::kPointerArrowBusy);
+        state.ScheduleSkipped = 0;
+        RunSlideStep(app);
+        app.windows.SetPointer(model::kPointerNormal);
+        if (state.ScheduleSkipped != 1) {
+            break;
+        }
+    }
+}
+
+/// A macro menu's choice; -1 counts the transport's own step forward.
+void ChooseJump(Application& app, int entry) {
+    model::ShowState& state = app.state;
+    const int target = state.MenuJump[static_cast<size_t>(entry)] + state.SlideIndex - 1;
+    state.SlideIndex = static_cast<int16_t>(std::max(0, target));
+    state.MacroButtonsShown = 0;
+    state.MacroDelayWaiting = 0;
+    state.MacroJumpChosen = 1;
+}
+
+void Timer2_Tick(Application& app) {
+    picture::ClearPreview(app);
+    app.windows.form1.Timer2.Enabled = false;
+    app.windows.SetPointer(model::kPointerNormal);
+}
+
+}  // namespace
+
+void SetButtons(Application& app, Buttons buttons) {
+    model::Form1& form1 = app.windows.form1;
+    const bool running = buttons == Buttons::Running;
+    const bool filled = app.windows.form3.List1.ListCount() > 0;
+    form1.Command1.Enabled = !running && filled;
+    form1.Command2.Enabled = running;
+    form1.Command3.Enabled = running;
+    form1.Command4.Enabled = running || filled;
+    form1.Command5.Enabled = false;
+    form1.Command7.Enabled = false;
+    for (model::Button* button : {&form1.Command6, &form1.Command10, &form1.Command11}) {
+        button->Enabled = !running;
+    }
+}
+
+void ShowFileEntries(Application& app, bool visible) {
+    model::Form1& form1 = app.windows.form1;
+    for (model::MenuEntry* entry :
+         {&form1.mnuNEW, &form1.mnuOPEN, &form1.mnuSAVE, &form1.mnuHAIHU}) {
+        entry->Visible = visible;
+    }
+}
+
+void EnableShowMenus(Application& app, bool enabled) {
+    model::Form1& form1 = app.windows.form1;
+    for (model::MenuEntry* menu :
+         {&form1.mnuOPTION, &form1.mnuGKO, &form1.mnuICHI, &form1.mnuCDM, &form1.mnuURU}) {
+        menu->Enabled = enabled;
+    }
+}
+
+void RestoreCaption(Application& app) {
+    app.windows.form1.Caption = app.state.DocumentPath.empty()
+                                    ? Text(u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10")
+                                    : u"ｽﾗｲﾄﾞ - " + app.state.DocumentPath;
+}
+
+void ResetRun(Application& app) {
+    model::ShowState& state = app.state;
+    state.LinkedWavPath.clear();
+    state.LinkedMediaPath.clear();
+    for (int16_t model::ShowState::*flag :
+         {&model::ShowState::SoundListStarted, &model::ShowState::LastWasVideo,
+          &model::ShowState::Mp3VolumeOffset, &model::ShowState::RestartSoundMacro,
+          &model::ShowState::RestartSoundFlag, &model::ShowState::MacroButtonsShown,
+          &model::ShowState::StopRequest, &model::ShowState::FullScreenClosedByUser,
+          &model::ShowState::ShowAbort, &model::ShowState::SoundPaused}) {
+        state.*flag = 0;
+    }
+    state.PictureScale = 0;
+    macro::ResetTextSettings(app);
+    TakeShowDate(app);
+    state.StartLatch = 1;
+    sound::StopSound(app);
+}
+
+void ClearRun(Application& app) {
+    model::ShowState& state = app.state;
+    state.CdPaused = 0;
+    state.SoundPaused = 0;
+    state.SoundListPos = 0;
+    state.CdProgramPosition = 0;
+    state.ShowRunning = 0;
+    state.SlideIndex = 0;
+    app.windows.form1.Timer1.Enabled = false;
+    picture::ClearPreview(app);
+}
+
+void SetSlideInterval(Application& app) {
+    app.windows.form1.Timer1.Interval = app.state.SlideIntervalSec * kMillisecondsPerSecond;
+}
+
+void Command1_Click(Application& app) {
+    model::ShowState& state = app.state;
+    model::Form1& form1 = app.windows.form1;
+    if (state.AlwaysFullFlag == 0) {
+        Command4_Click(app);
+        return;
+    }
+    if (state.StepBusy == 1) {
+        return;
+    }
+    if (state.SlideListWindowOpen == 1) {
+        app.platform.dialogs.Message(u"ファイル選択を終了させてから行って下さい。",
+                                     platform::kExclamation, u"ファイル選択");
+        return;
+    }
+    ShowFileEntries(app, false);
+    for (model::Button* button :
+         {&form1.Command1, &form1.Command2, &form1.Command3, &form1.Command4, &form1.Command6,
+          &form1.Command5, &form1.Command7, &form1.Command10, &form1.Command11}) {
+        button->Enabled = false;
+    }
+    if (state.StartLatch == 1) {
+        return;
+    }
+    app.windows.SetPointer(model::kPointerArrowBusy);
+    ResetRun(app);
+    TakeResumeIndex(app);
+    picture::ClearPreview(app);
+    TakeStartIndex(app);
+    EnableShowMenus(app, false);
+    if (state.SlideList(state.SlideIndex).empty()) {
+        StartAtListEnd(app);
+    } else {
+        StartFirstStep(app);
+    }
+}
+
+void Command2_Click(Application& app) {
+    model::ShowState& state = app.state;
+    model::Form1& form1 = app.windows.form1;
+    if (state.MacroWaitClick == 1 || app.windows.Pointer() != model::kPointerNormal ||
+        state.StepBusy == 1) {
+        return;
+    }
+    HideVideoPlaceholders(app);
+    form1.Command2.Enabled = false;
+    state.StartLatch = 0;
+    if (state.SoundMode == 2) {
+        state.CdPausedTrack = app.platform.sound.MciSendString(u"status cdaudio current track");
+        state.CdPaused = 1;
+    }
+    app.platform.sound.MciSendString(u"stop cdaudio");
+    switch (state.SoundMode) {
+        case 2:
+            if (state.CdPlusLinkedWav != 0) {
+                break;
+            }
+            [[fallthrough]];
+        case 1:
+        case 3:
+        case 4:
+        case 5:
+        case 6:
+        case 9:
+            state.SoundPaused = 1;
+            sound::StopSound(app);
+            break;
+        default: break;
+    }
+    if (state.SlideIndex > 0 && state.ShowRunning == 1) {
+        form1.Timer1.Enabled = false;
+        state.ShowRunning = 0;
+        state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
+        if (state.SlideIndex > 1) {
+            form1.Command5.Enabled = true;
+        }
+        if (state.SlideIndex < state.SlideListEnd - 1) {
+            form1.Command7.Enabled = true;
+        }
+        form1.Command1.Enabled = true;
+    }
+}
+
+void Command3_Click(Application& app) {
+    model::ShowState& state = app.state;
+    model::Form1& form1 = app.windows.form1;
+    if (state.MacroWaitClick == 1 || state.StopRequest == 1) {
+        return;
+    }
+    app.windows.SetPointer(model::kPointerNormal);
+    SetSlideInterval(app);
+    HideVideoPlaceholders(app);
+    ShowFileEntries(app, true);
+    macro::ClearMacroObjects(app);
+    state.StepBusy = 0;
+    state.StopRequest = 1;
+    state.MacroDelayWaiting = 0;
+    state.StartLatch = 0;
+    app.windows.slidescreen.Unload();
+    ClearRun(app);
+    const bool filled = !state.SlideList(1).empty();
+    SetButtons(app, Buttons::Idle);
+    form1.Command1.Enabled = filled;
+    form1.Command4.Enabled = filled;
+    sound::StopCd(app);
+    sound::StopSound(app);
+    EnableShowMenus(app, true);
+}
+
+void Command5_Click(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.StepBusy == 1) {
+        return;
+    }
+    StepByHand(app, [&] {
+        if (state.SlideIndex <= 1) {
+            return false;
+        }
+        app.windows.form1.Command7.Enabled = true;
+        state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
+        return true;
+    });
+    if (state.SlideIndex == 1) {
+        app.windows.form1.Command5.Enabled = false;
+    }
+}
+
+void Command7_Click(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.StepBusy == 1) {
+        return;
+    }
+    StepByHand(app, [&] {
+        if (state.SlideIndex >= state.SlideListEnd - 1) {
+            return false;
+        }
+        if (state.SlideIndex > 0) {
+            app.windows.form1.Command5.Enabled = true;
+        }
+        state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+        return true;
+    });
+    if (state.SlideIndex == state.SlideListEnd - 1) {
+        app.windows.form1.Command7.Enabled = false;
+    }
+}
+
+void Timer1_Tick(Application& app) {
+    model::ShowState& state = app.state;
+    model::Form1& form1 = app.windows.form1;
+    FollowDocumentFile(app);
+    SetSlideInterval(app);
+    if (EndOfList(app)) {
+        return;
+    }
+    if (state.ShowRunning != 1 || state.SlideIndex >= state.SlideListEnd) {
+        return;
+    }
+    form1.Timer1.Enabled = false;
+    RunSlideStep(app);
+    if (state.StopRequest == 1) {
+        state.ShowAbort = 0;
+        return;
+    }
+    if (state.ShowRunning == 0) {
+        return;
+    }
+    if (state.ShowAbort == 1) {
+        state.ShowAbort = 0;
+        app.windows.slidescreen.Unload();
+        Command3_Click(app);
+        return;
+    }
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    form1.Timer1.Enabled = true;
+}
+
+void AttachTransport(Application& app) {
+    model::Form1& form1 = app.windows.form1;
+    form1.Command1.Click = [&app] { Command1_Click(app); };
+    form1.Command2.Click = [&app] { Command2_Click(app); };
+    form1.Command3.Click = [&app] { Command3_Click(app); };
+    form1.Command4.Click = [&app] { Command4_Click(app); };
+    form1.Command5.Click = [&app] { Command5_Click(app); };
+    form1.Command7.Click = [&app] { Command7_Click(app); };
+    form1.Command8.Click = [&app] { app.state.MacroNextPressed = 1; };
+    form1.Command9.Click = [&app] { app.state.MacroBackPressed = 1; };
+    int entry = 1;
+    for (model::Button* button :
+         {&form1.menu1, &form1.menu2, &form1.menu3, &form1.menu4, &form1.menu5}) {
+        button->Click = [&app, entry] { ChooseJump(app, entry); };
+        ++entry;
+    }
+    form1.Timer1.Tick = [&app] { Timer1_Tick(app); };
+    form1.Timer2.Tick = [&app] { Timer2_Tick(app); };
+    form1.Timer3.Tick = [&app] { app.state.MacroDelayWaiting = 0; };
+}
+
+}  // namespace playback

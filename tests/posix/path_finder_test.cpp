@@ -1,0 +1,121 @@
+#include "adapters/posix/path_finder.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "posix/temporary_folder.h"
+
+namespace {
+
+using posix_adapter::PathFinder;
+
+TEST(FoldCase, LeavesNoCaseApart) {
+    EXPECT_EQ(posix_adapter::FoldCase(u"AzÀØΣЯЁⅣＡｚ画１"), u"azàøσяёⅳａｚ画１");
+    EXPECT_EQ(posix_adapter::FoldCase(u"×÷ﾊ"), u"×÷ﾊ");
+}
+
+class Finding : public ::testing::Test {
+protected:
+    std::optional<std::string> Find(const std::string& name) {
+        return finder_.Find(folder_.TextPath(name));
+    }
+    TemporaryFolder folder_;
+    PathFinder finder_{folder_.Path("program")};
+};
+
+TEST_F(Finding, TakesNativePathsAsTheyAre) {
+    folder_.Put("Show/写真 1.JPG", "x");
+    EXPECT_EQ(Find("Show/写真 1.JPG"), folder_.Path("Show/写真 1.JPG"));
+    EXPECT_EQ(Find("Show"), folder_.Path("Show"));
+    EXPECT_EQ(Find("Show/"), folder_.Path("Show/"));
+    EXPECT_EQ(Find("Show/none.jpg"), std::nullopt);
+    EXPECT_EQ(finder_.Find(u""), std::nullopt);
+}
+
+TEST_F(Finding, ComparesEachPartWithoutCase) {
+    folder_.Put("Show/ＡＢＣ/Photo.JPG", "x");
+    EXPECT_EQ(Find("show/ａｂｃ/photo.jpg"), folder_.Path("Show/ＡＢＣ/Photo.JPG"));
+    EXPECT_EQ(Find("SHOW/ＡＢＣ/PHOTO.jpg"), folder_.Path("Show/ＡＢＣ/Photo.JPG"));
+    EXPECT_EQ(Find("show/photo.jpg"), std::nullopt);
+    EXPECT_EQ(Find("show/ＡＢＣ/Photo.JPG/"), std::nullopt);  // a file is no folder
+}
+
+TEST_F(Finding, PrefersTheExactNameThenTheFirstInOrder) {
+    folder_.Put("a.JPG", "1");
+    folder_.Put("A.jpg", "2");
+    EXPECT_EQ(Find("a.JPG"), folder_.Path("a.JPG"));
+    EXPECT_EQ(Find("A.jpg"), folder_.Path("A.jpg"));
+    EXPECT_EQ(Find("a.jpg"), folder_.Path("A.jpg"));
+}
+
+TEST_F(Finding, TreatsABackslashAsASeparatorWhereNoFileHasIt) {
+    folder_.Put("Sub/a.jpg", "x");
+    EXPECT_EQ(Find("sub\\A.JPG"), folder_.Path("Sub/a.jpg"));
+    folder_.Put("sub\\a.jpg", "the file with the odd name");
+    EXPECT_EQ(Find("sub\\a.jpg"), folder_.Path("sub\\a.jpg"));
+}
+
+TEST_F(Finding, SeesFilesThatComeAndGo) {
+    folder_.Put("first.jpg", "x");
+    EXPECT_EQ(Find("SECOND.jpg"), std::nullopt);
+    for (int i = 0; i < 50; ++i) {
+        const std::string name = "second" + std::to_string(i) + ".jpg";
+        EXPECT_EQ(Find("SECOND" + std::to_string(i) + ".JPG"), std::nullopt);
+        folder_.Put(name, "x");
+        ASSERT_EQ(Find("SECOND" + std::to_string(i) + ".JPG"), folder_.Path(name));
+        std::filesystem::remove(folder_.Path(name));
+        ASSERT_EQ(Find("SECOND" + std::to_string(i) + ".JPG"), std::nullopt);
+    }
+}
+
+TEST_F(Finding, GoesThroughTheDriveTable) {
+    folder_.Put("disk/Pics/a.jpg", "x");
+    EXPECT_EQ(finder_.Find(u"C:\\pics\\a.jpg"), std::nullopt);
+    folder_.Put("program/drives.conf", "# drives\r\n c: = " + folder_.Path("disk") +
+                                           "/ \nnonsense\nE: = relative\n\n1: = /\n");
+    EXPECT_EQ(finder_.Find(u"C:\\pics\\A.jpg"), folder_.Path("disk/Pics/a.jpg"));
+    EXPECT_EQ(finder_.Find(u"c:/Pics\\a.jpg"), folder_.Path("disk/Pics/a.jpg"));
+    EXPECT_EQ(finder_.Find(u"C:\\"), folder_.Path("disk"));
+    EXPECT_EQ(finder_.Find(u"D:\\pics\\a.jpg"), std::nullopt);
+    EXPECT_EQ(finder_.Find(u"E:\\pics\\a.jpg"), std::nullopt);
+    EXPECT_EQ(finder_.Find(u"\\\\server\\share\\a.jpg"), std::nullopt);
+    std::filesystem::remove(folder_.Path("program/drives.conf"));
+    EXPECT_EQ(finder_.Find(u"C:\\pics\\a.jpg"), std::nullopt);
+}
+
+TEST_F(Finding, NeverStopsAtAZero) {
+    folder_.Put("a.jpg", "x");
+    EXPECT_EQ(finder_.Find(folder_.TextPath("a.jpg") + Text(1, u'\0') + u"b"), std::nullopt);
+}
+
+TEST_F(Finding, FindsNamesThatAreNoUtf8) {
+    folder_.Put("Bild\xE4.JPG", "x");
+    EXPECT_EQ(finder_.Find(folder_.TextPath() + u"/bild\uFFFD.jpg"),
+              folder_.Path("Bild\xE4.JPG"));
+}
+
+TEST_F(Finding, TargetsExistingFoldersAndNewNames) {
+    folder_.Put("Show/old.KVS", "x");
+    const auto target = [&](const std::string& name) {
+        return finder_.Target(folder_.TextPath(name));
+    };
+    EXPECT_EQ(target("show/OLD.kvs"), folder_.Path("Show/old.KVS"));
+    EXPECT_EQ(target("show/New.kvs"), folder_.Path("Show/New.kvs"));
+    EXPECT_EQ(target("show\\New.kvs"), folder_.Path("Show/New.kvs"));
+    EXPECT_EQ(target("none\\New.kvs"), folder_.Path("none\\New.kvs"));
+    EXPECT_EQ(target("None/Deep/x"), folder_.Path("None/Deep/x"));
+    EXPECT_EQ(finder_.Target(u"Q:\\a.kvs"), "");
+}
+
+TEST_F(Finding, ManyNamesAnswerFromOneListing) {
+    constexpr int kFiles = 3000;
+    for (int i = 0; i < kFiles; ++i) {
+        folder_.Put("many/IMG" + std::to_string(i) + ".JPG", "");
+    }
+    for (int i = 0; i < kFiles; ++i) {
+        ASSERT_EQ(Find("MANY/img" + std::to_string(i) + ".jpg"),
+                  folder_.Path("many/IMG" + std::to_string(i) + ".JPG"));
+    }
+}
+
+}  // namespace

@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+"""make_data.py FOLDER: pictures and show documents for the scenarios and user-interface tests.
+
+Pictures, all PNG: a (red), b (green), c (blue), d (yellow), e (white) and 絵１ (magenta) of 320x240;
+Pictures, all PNG: a (red), b (green), c (blue), d (yellow), e (white), 絵１ (magenta) of 320x240;
+Documents (3 s a slide, no effects, no sound, main window, unless said):
+  five.kvs      a b c d e, stops at the end
+  repeat.kvs    a b c, from the top again
+  random.kvs    a b c d e in random order
+  one.kvs       a alone
+  schedule.kvs  a always; b until 2020; c from 2030; d 2020 to 2030
+  failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
+  names.kvs     絵１, wide, tall
+  vue2.kvs      a b in the oldest form
+  cut.kvs       five.kvs without its end
+  refused.kvs   a tag that is none
+"""
+
+import pathlib
+import struct
+import sys
+import zlib
+
+BLANK_ROW = " " * 30
+
+
+def png(width, height, rgb):
+    def chunk(kind, body):
+        return (struct.pack(">I", len(body)) + kind + body
+                + struct.pack(">I", zlib.crc32(kind + body)))
+
+    rows = (b"\0" + bytes(rgb) * width) * height
+    header = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header)
+            + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
+
+
+def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000):
+    """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
+    def number(value):
+        return (f" {value}" if value >= 0 else str(value)) + " "
+
+    rows = rows or [BLANK_ROW] * len(slides)
+    before = ["21vue3167893", "show.kvs", number(interval), number(repeat), number(7), "*.wav", "",
+              number(11), number(-30), number(12), number(-30), number(10), number(10), number(1),
+              "1", number(20), number(20), number(0), "", number(0), number(0), number(random),
+              number(0), number(0), "", number(len(slides))]
+    # Overlay 0 0, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
+    # mode, full screen off, speed, load mode, two linked WAV options.
+    after = ["480", *map(number, (0, 0, 0, 0, 1, 0, 0, 0, 0, 0)), "",
+             *map(number, (0, 1, 0, 0, 0, 0))]
+    return before + list(slides) + after + ["-" + row for row in rows]
+
+
+def document(lines):
+    return "".join(line + "\r\n" for line in lines).encode("cp932")
+
+
+def row(date_from="", time_from="", date_to="", time_to=""):
+    return f"{date_from:10}{time_from:5}{date_to:10}{time_to:5}"
+
+
+def main():
+    folder = pathlib.Path(sys.argv[1])
+    folder.mkdir(parents=True, exist_ok=True)
+    pictures = {
+        "a.png": (320, 240, (255, 0, 0)), "b.png": (320, 240, (0, 255, 0)),
+        "c.png": (320, 240, (0, 0, 255)), "d.png": (320, 240, (255, 255, 0)),
+        "e.png": (320, 240, (255, 255, 255)), "絵１.png": (320, 240, (255, 0, 255)),
+        "wide.png": (640, 120, (0, 255, 255)), "tall.png": (120, 640, (128, 128, 128)),
+    }
+    files = {name: png(*what) for name, what in pictures.items()}
+    files["zero.png"] = b""
+    files["text.jpg"] = "これは絵ではない。\r\n".encode("cp932")
+
+    five = [f"{letter}.png" for letter in "abcde"]
+    files["five.kvs"] = document(lines_of_show(five))
+    files["repeat.kvs"] = document(lines_of_show(five[:3], repeat=0))
+    files["random.kvs"] = document(lines_of_show(five, repeat=0, random=0))
+    files["one.kvs"] = document(lines_of_show(five[:1]))
+    files["schedule.kvs"] = document(lines_of_show(five[:4], [
+        BLANK_ROW, row("2010/01/01", "00:00", "2020/01/01", "00:00"),
+        row("2030/01/01", "00:00", "2031/01/01", "00:00"),
+        row("2020/01/01", "00:00", "2030/01/01", "00:00")]))
+    files["failing.kvs"] = document(lines_of_show(
+        ["a.png", "text.jpg", "zero.png", "missing.png", "b.png"]))
+    files["names.kvs"] = document(lines_of_show(["絵１.png", "wide.png", "tall.png"]))
+    files["vue2.kvs"] = document(
+        ["vue2", "show.kvs", " 3000 ", " 1 ", " 7 ", "*.wav", " 2 ", "a.png", "b.png"])
+    files["cut.kvs"] = files["five.kvs"][:files["five.kvs"].index(b"c.png") + 3]
+    files["refused.kvs"] = b"vue\r\n" + files["five.kvs"]
+
+    for name, content in files.items():
+        (folder / name).write_bytes(content)
+    (folder / ".stamp").touch()
+
+
+if __name__ == "__main__":
+    main()

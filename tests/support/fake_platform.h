@@ -1,0 +1,294 @@
+// The surroundings of a program under test: nothing touches the disk, the screen or the clock, and
+// what the program asks for is recorded.
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "adapters/posix/iconv_code_page.h"
+#include "model/application.h"
+#include "fake_files.h"
+#include "fake_loop.h"
+
+namespace fakes {
+
+/// Records every box. Answers come from the queues; without one a box takes OK or Yes, an input
+/// box its initial text, a file dialog cancel.
+class FakeDialogs : public platform::Dialogs {
+public:
+    struct Box {
+        Text text;
+        int flags;
+        Text title;
+    };
+    std::vector<Box> messages;
+    std::vector<Box> inputs;  // text is the prompt
+    std::vector<FileRequest> requests;
+    std::deque<platform::Answer> answers;
+    std::deque<std::optional<Text>> inputAnswers;
+    std::deque<std::optional<Text>> fileAnswers;
+    /// Called while a message stands, before its answer.
+    std::function<void(const Box&)> whileOpen;
+
+    platform::Answer Message(TextView text, int flags, TextView title) override {
+        messages.push_back({Text(text), flags, Text(title)});
+        if (whileOpen) {
+            whileOpen(Box(messages.back()));
+        }
+        return Next(answers, (flags & 15) == platform::kYesNo ? platform::Answer::Yes
+                                                              : platform::Answer::Ok);
+    }
+    std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override {
+        inputs.push_back({Text(prompt), 0, Text(title)});
+        return Next(inputAnswers, std::optional(Text(initial)));
+    }
+    std::optional<Text> ChooseFile(const FileRequest& request) override {
+        requests.push_back(request);
+        return Next(fileAnswers, std::optional<Text>());
+    }
+
+private:
+    template <class T>
+    static T Next(std::deque<T>& queue, T otherwise) {
+        if (queue.empty()) {
+            return otherwise;
+        }
+        T value = std::move(queue.front());
+        queue.pop_front();
+        return value;
+    }
+};
+
+class FakeMonitors : public platform::Monitors {
+public:
+    std::vector<platform::Rect> monitors{{0, 0, 1920, 1080}};
+    int ofMainWindow = 0;
+    std::vector<platform::Rect> Enumerate() override { return monitors; }
+    int OfMainWindow() override { return ofMainWindow; }
+};
+
+/// A "picture" is any file whose content begins with "PIC width height [rrggbb [bits]]".
+/// `log` tells what was asked, one line each: "load PATH", "resize 80 60", "colors 1", "clear".
+class FakeImagingControl : public platform::ImagingControl {
+public:
+    FakeImagingControl(platform::Files& files, std::vector<std::string>& log)
+        : files_(files), log_(log) {}
+
+    bool ReadInformation(TextView path) override { return Parse(path).has_value(); }
+    bool Load(TextView path, const platform::FitFunction& fit) override {
+        log_.push_back("load " + text::ToUtf8(path));
+        held_ = Parse(path);
+        if (held_ && fit) {
+            fit(held_->size);
+        }
+        return held_.has_value();
+    }
+    bool Holds() const override { return held_.has_value(); }
+    platform::Size HeldSize() const override { return held_ ? held_->size : platform::Size(); }
+    int BitsPerPixel() const override { return held_ ? held_->bits : 0; }
+    void SetColorResolution(int bits, int, int, int) override {
+        log_.push_back("colors " + std::to_string(bits));
+        if (held_) {
+            held_->bits = bits;
+        }
+    }
+    void Resize(int width, int height, int) override {
+        log_.push_back("resize " + std::to_string(width) + " " + std::to_string(height));
+        if (held_) {
+            held_->size = {width, height};
+        }
+    }
+    platform::BitmapPtr Picture() override {
+        if (!held_) {
+            return nullptr;
+        }
+        return std::make_shared<platform::Bitmap>(held_->size.width, held_->size.height,
+                                                  held_->pixel);
+    }
+    void CopyFrom(const platform::ImagingControl& other) override {
+        held_ = static_cast<const FakeImagingControl&>(other).held_;
+    }
+    void Clear() override {
+        log_.push_back("clear");
+        held_.reset();
+    }
+
+private:
+    struct Held {
+        platform::Size size;
+        platform::Pixel pixel = 0xFF808080u;
+        int bits = 24;
+    };
+    std::optional<Held> Parse(TextView path) {
+        std::string content;
+        platform::FileError error;
+        if (!files_.Read(path, content, error, 1u << 20)) {
+            return std::nullopt;
+        }
+        std::istringstream words(content);
+        std::string mark, colour;
+        Held held;
+        if (!(words >> mark >> held.size.width >> held.size.height) || mark != "PIC" ||
+            held.size.Empty()) {
+            return std::nullopt;
+        }
+        if (words >> colour) {
+            held.pixel = 0xFF000000u | static_cast<uint32_t>(std::stoul(colour, nullptr, 16));
+            words >> held.bits;
+        }
+        return held;
+    }
+
+    platform::Files& files_;
+    std::vector<std::string>& log_;
+    std::optional<Held> held_;
+};
+
+class FakeImaging : public platform::Imaging {
+public:
+    explicit FakeImaging(platform::Files& files) : files_(files) {}
+    std::vector<std::string> log;  // of all controls together
+    Text version = u"imaging 1997";
+    Text VersionText() const override { return version; }
+    std::unique_ptr<platform::ImagingControl> MakeControl() override {
+        return std::make_unique<FakeImagingControl>(files_, log);
+    }
+
+private:
+    platform::Files& files_;
+};
+
+/// Every character is half a point size wide in pixels and a line two point sizes high; draws
+/// nothing and records.
+class FakeTextRenderer : public platform::TextRenderer {
+public:
+    struct Line {
+        int x, y;
+        platform::Color color;
+        Text text;
+    };
+    std::vector<Line> drawn;
+    Extent Measure(const platform::Font& font, TextView text) override {
+        return {static_cast<int>(font.sizePoints * static_cast<double>(text.size()) / 2),
+                static_cast<int>(font.sizePoints * 2)};
+    }
+    void Draw(platform::Canvas&, int x, int y, const platform::Font&, platform::Color color,
+              TextView text) override {
+        drawn.push_back({x, y, color, Text(text)});
+    }
+};
+
+class FakeSound : public platform::Sound {
+public:
+    std::vector<Text> commands;
+    std::vector<std::pair<std::optional<Text>, int>> played;
+    std::function<Text(TextView)> answer;  // status text of a command; none: empty
+    Text MciSendString(TextView command) override {
+        commands.emplace_back(command);
+        return answer ? answer(command) : Text();
+    }
+    void SndPlaySound(const std::optional<Text>& file, int flags) override {
+        played.emplace_back(file, flags);
+    }
+};
+
+class FakeSystem : public platform::System {
+public:
+    Text appFolder = u"C:\\app\\";
+    bool previousInstance = false;
+    Text AppFolder() override { return appFolder; }
+    bool PreviousInstance() override { return previousInstance; }
+};
+
+class FakeTrace : public platform::Trace {
+public:
+    struct Line {
+        std::string event;
+        std::vector<std::pair<std::string, decltype(platform::TraceField::value)>> fields;
+
+        /// Field as a number or text; NaN-free: 0 and empty where there is none of that kind.
+        double Number(std::string_view name) const {
+            const auto* value = Find(name);
+            const double* number = value ? std::get_if<double>(value) : nullptr;
+            return number ? *number : 0;
+        }
+        Text String(std::string_view name) const {
+            const auto* value = Find(name);
+            const Text* string = value ? std::get_if<Text>(value) : nullptr;
+            return string ? *string : Text();
+        }
+
+    private:
+        const decltype(platform::TraceField::value)* Find(std::string_view name) const {
+            for (const auto& [field, value] : fields) {
+                if (field == name) {
+                    return &value;
+                }
+            }
+            return nullptr;
+        }
+    };
+    std::vector<Line> lines;
+
+    void Event(std::string_view event,
+               std::initializer_list<platform::TraceField> fields) override {
+        Line line;
+        line.event = event;
+        for (const platform::TraceField& field : fields) {
+            line.fields.emplace_back(std::string(field.name), field.value);
+        }
+        lines.push_back(std::move(line));
+    }
+    std::vector<Line> Of(std::string_view event) const {
+        std::vector<Line> found;
+        for (const Line& line : lines) {
+            if (line.event == event) {
+                found.push_back(line);
+            }
+        }
+        return found;
+    }
+};
+
+/// All of them, and one Application that lives in them with its start defaults set.
+struct FakePlatform {
+    FakeLoop loop;
+    FakeFiles files;
+    FakeDialogs dialogs;
+    FakeMonitors monitors;
+    FakeImaging imaging{files};
+    FakeTextRenderer textRenderer;
+    FakeSound sound;
+    FakeSystem system;
+    FakeTrace trace;
+    posix_adapter::IconvCodePage codePage;
+    Application app{platform::Platform{loop, files, dialogs, monitors, imaging, textRenderer, sound,
+                                       system, trace, codePage}};
+
+    FakePlatform() {
+        model::ZeroReset(app.state);
+        model::SetStartDefaults(app.state);
+        app.state.AppFolder = system.appFolder;
+        for (model::LeadControl* lead : {&app.windows.form4.Lead1, &app.windows.form4.Lead2}) {
+            lead->imaging = imaging.MakeControl();
+        }
+    }
+    FakePlatform(const FakePlatform&) = delete;
+    FakePlatform& operator=(const FakePlatform&) = delete;
+
+    /// Puts a text as the program writes files: the code page, lines as they stand.
+    void PutText(TextView path, TextView content) {
+        files.Put(path, text::EncodeFile(content, codePage));
+    }
+    /// A picture that FakeImaging can load.
+    void PutPicture(TextView path, int width, int height) {
+        files.Put(path, "PIC " + std::to_string(width) + " " + std::to_string(height));
+    }
+};
+
+}  // namespace fakes
