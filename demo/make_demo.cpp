@@ -20,20 +20,13 @@ struct Slide {
 };
 
 constexpr Slide kSlides[] = {
-    {"夜明けの富士.jpg", DawnAtFuji, Kind::Jpeg},
-    {"桜吹雪.jpg", CherryBlossoms, Kind::Jpeg},
-    {"錦鯉の池.jpg", KoiPond, Kind::Jpeg},
-    {"竹林の道.jpg", BambooPath, Kind::TurnedJpeg},
-    {"青海波.png", SeaWavePattern, Kind::Png},
-    {"海の鳥居.jpg", GateInTheSea, Kind::Jpeg},
-    {"花火の夜.jpg", Fireworks, Kind::Jpeg},
-    {"紅葉.jpg", AutumnLeaves, Kind::Jpeg},
-    {"遠山.jpg", InkMountains, Kind::Jpeg},
-    {"街の灯.jpg", CityLights, Kind::Jpeg},
-    {"麻の葉.png", HempLeafPattern, Kind::Png},
-    {"月と海.jpg", MoonOverTheSea, Kind::Jpeg},
-    {"雪あかり.jpg", SnowVillage, Kind::Jpeg},
-    {"天の川.jpg", MilkyWay, Kind::Jpeg},
+    {"夜明けの富士.jpg", DawnAtFuji, Kind::Jpeg}, {"桜吹雪.jpg", CherryBlossoms, Kind::Jpeg},
+    {"錦鯉の池.jpg", KoiPond, Kind::Jpeg},        {"竹林の道.jpg", BambooPath, Kind::TurnedJpeg},
+    {"青海波.png", SeaWavePattern, Kind::Png},    {"海の鳥居.jpg", GateInTheSea, Kind::Jpeg},
+    {"花火の夜.jpg", Fireworks, Kind::Jpeg},      {"紅葉.jpg", AutumnLeaves, Kind::Jpeg},
+    {"遠山.jpg", InkMountains, Kind::Jpeg},       {"街の灯.jpg", CityLights, Kind::Jpeg},
+    {"麻の葉.png", HempLeafPattern, Kind::Png},   {"月と海.jpg", MoonOverTheSea, Kind::Jpeg},
+    {"雪あかり.jpg", SnowVillage, Kind::Jpeg},    {"天の川.jpg", MilkyWay, Kind::Jpeg},
 };
 constexpr int kJpegQuality = 88;
 
@@ -48,10 +41,10 @@ QByteArray TurnedJpeg(const QImage& image) {
     static constexpr char kNote[] =
         "\xFF\xE1\x00\x22"
         "Exif\0\0"
-        "MM\0*\0\0\0\x08"                         // big-endian, first directory at 8
-        "\0\x01"                                  // one entry:
-        "\x01\x12\0\x03\0\0\0\x01\0\x06\0\0"      // orientation, short, 1 value, 6
-        "\0\0\0\0";                               // no further directory
+        "MM\0*\0\0\0\x08"                     // big-endian, first directory at 8
+        "\0\x01"                              // one entry:
+        "\x01\x12\0\x03\0\0\0\x01\0\x06\0\0"  // orientation, short, 1 value, 6
+        "\0\0\0\0";                           // no further directory
     jpeg.insert(2, kNote, sizeof kNote - 1);
     return jpeg;
 }

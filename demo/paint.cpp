@@ -156,7 +156,8 @@ void Picture::Each(const std::function<void(float x, float y, Rgb& colour)>& pai
 
 Picture Picture::Blurred(float radiusX, float radiusY) const {
     Picture result = *this;
-    const int boxX = static_cast<int>(std::lround(radiusX)), boxY = static_cast<int>(std::lround(radiusY));
+    const int boxX = static_cast<int>(std::lround(radiusX)),
+              boxY = static_cast<int>(std::lround(radiusY));
     if (boxX > 0) {
         InBands(height_, [&](int from, int to) {
             std::vector<Rgb> line(static_cast<size_t>(width_)), scratch(line.size());
@@ -250,8 +251,7 @@ void Picture::Reflect(float level, float waves, Rgb tint, float tintStrength, ui
         const float wave = Fbm(x * 3 / far * 0.4f, 1.6f / far * 3, 3, seed);
         const float ripple = Noise(x * 14, depth * 260 / (0.3f + depth * 2), seed + 9);
         const float sway = (wave * 0.03f + ripple * 0.006f) * waves * (0.15f + depth * 2.2f);
-        const Rgb mirrored =
-            above.Sample(x + sway, level - depth * squeeze + sway * 0.6f - 0.002f);
+        const Rgb mirrored = above.Sample(x + sway, level - depth * squeeze + sway * 0.6f - 0.002f);
         const float shade = tintStrength * (0.45f + 0.55f * Smooth(0, 0.35f, depth));
         p = Mix(mirrored, tint, Clamp(shade + wave * 0.05f * waves));
     });
@@ -305,7 +305,8 @@ void Fir(QPainter& painter, Random& random, float x, float y, float height, QCol
         tree = tree.united(tier);
         QPainterPath cap(QPointF(x, top));
         cap.quadTo(QPointF(x + right * 0.3f, foot - height * 0.05f), QPointF(x + right, foot));
-        cap.quadTo(QPointF(x + right * 0.4f, foot - height * 0.055f), QPointF(x, foot - height * 0.06f));
+        cap.quadTo(QPointF(x + right * 0.4f, foot - height * 0.055f),
+                   QPointF(x, foot - height * 0.06f));
         cap.quadTo(QPointF(x - left * 0.4f, foot - height * 0.055f), QPointF(x - left, foot));
         cap.quadTo(QPointF(x - left * 0.3f, foot - height * 0.05f), QPointF(x, top));
         white.addPath(cap);

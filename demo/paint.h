@@ -22,19 +22,31 @@ constexpr float kPi = 3.14159265f;
 struct Rgb {
     float r = 0, g = 0, b = 0;
 };
-constexpr Rgb operator+(Rgb a, Rgb b) { return {a.r + b.r, a.g + b.g, a.b + b.b}; }
-constexpr Rgb operator*(Rgb a, float k) { return {a.r * k, a.g * k, a.b * k}; }
-constexpr Rgb operator*(Rgb a, Rgb b) { return {a.r * b.r, a.g * b.g, a.b * b.b}; }
+constexpr Rgb operator+(Rgb a, Rgb b) {
+    return {a.r + b.r, a.g + b.g, a.b + b.b};
+}
+constexpr Rgb operator*(Rgb a, float k) {
+    return {a.r * k, a.g * k, a.b * k};
+}
+constexpr Rgb operator*(Rgb a, Rgb b) {
+    return {a.r * b.r, a.g * b.g, a.b * b.b};
+}
 
 constexpr Rgb Hex(uint32_t rrggbb) {
-    return {static_cast<float>(rrggbb >> 16 & 255) / 255, static_cast<float>(rrggbb >> 8 & 255) / 255,
-            static_cast<float>(rrggbb & 255) / 255};
+    return {static_cast<float>(rrggbb >> 16 & 255) / 255,
+            static_cast<float>(rrggbb >> 8 & 255) / 255, static_cast<float>(rrggbb & 255) / 255};
 }
 QColor ToColor(Rgb colour, float alpha = 1);
 
-inline float Clamp(float value) { return std::clamp(value, 0.0f, 1.0f); }
-constexpr float Mix(float a, float b, float t) { return a + (b - a) * t; }
-constexpr Rgb Mix(Rgb a, Rgb b, float t) { return a * (1 - t) + b * t; }
+inline float Clamp(float value) {
+    return std::clamp(value, 0.0f, 1.0f);
+}
+constexpr float Mix(float a, float b, float t) {
+    return a + (b - a) * t;
+}
+constexpr Rgb Mix(Rgb a, Rgb b, float t) {
+    return a * (1 - t) + b * t;
+}
 inline float Smooth(float from, float to, float value) {
     const float t = Clamp((value - from) / (to - from));
     return t * t * (3 - 2 * t);

@@ -23,7 +23,8 @@ void DrawShell(QPainter& painter, Random& random, float x, float y, float radius
             const float out = 1 - (1 - t) * (1 - t);
             const QPointF at = QPointF(x, y) + aim * out + QPointF(0, fall * t * t);
             if (k > 0) {
-                const float bright = (willow ? 0.55f : Smooth(0.12f, 0.85f, t)) * random.Range(0.45f, 1);
+                const float bright =
+                    (willow ? 0.55f : Smooth(0.12f, 0.85f, t)) * random.Range(0.45f, 1);
                 const Rgb colour = Mix(core, rim, Smooth(0.35f, 0.9f, t));
                 const float wide = radius * Mix(0.006f, 0.011f, t);
                 painter.setPen(QPen(ToColor(colour, bright), wide, Qt::SolidLine, Qt::RoundCap));
@@ -32,7 +33,8 @@ void DrawShell(QPainter& painter, Random& random, float x, float y, float radius
             before = at;
         }
         painter.setPen(Qt::NoPen);
-        Glow(painter, before.x(), before.y(), radius * 0.030f, Mix(rim, Hex(0xFFFFFF), 0.45f), 0.95f);
+        Glow(painter, before.x(), before.y(), radius * 0.030f, Mix(rim, Hex(0xFFFFFF), 0.45f),
+             0.95f);
     }
     Glow(painter, x, y, radius * 0.5f, core, 0.35f);
 }
@@ -59,43 +61,56 @@ QImage Fireworks() {
     constexpr float kShore = 0.80f;
     Picture picture;
     picture.Each([](float x, float y, Rgb& p) {
-        p = Ramp({{0.0f, Hex(0x070818)}, {0.55f, Hex(0x11143A)}, {1.0f, Hex(0x3A2858)}}, y / kShore);
+        p = Ramp({{0.0f, Hex(0x070818)}, {0.55f, Hex(0x11143A)}, {1.0f, Hex(0x3A2858)}},
+                 y / kShore);
         p = p * (1 + 0.4f * Fbm(x * 2, y * 3, 4, 3));
-        const float hill = kShore - 0.05f - 0.06f * Fbm(x * 1.6f, 2, 5, 30) - 0.05f * Bell(x - 0.3f, 0.4f);
+        const float hill =
+            kShore - 0.05f - 0.06f * Fbm(x * 1.6f, 2, 5, 30) - 0.05f * Bell(x - 0.3f, 0.4f);
         if (y > hill) p = Mix(p, Hex(0x0B0C20), Smooth(0, 0.002f, y - hill));
     });
     Random random(2024);
     picture.Draw([&](QPainter& painter) { DrawHouses(painter, random, kShore); });
     // Smoke of the shells before, lit by these.
     picture.Each([](float x, float y, Rgb& p) {
-        const float smoke = Smooth(0.0f, 0.7f, Fbm(x * 2.2f, y * 2.6f, 5, 55)) * Bell((y - 0.45f) / 0.35f, 1);
+        const float smoke =
+            Smooth(0.0f, 0.7f, Fbm(x * 2.2f, y * 2.6f, 5, 55)) * Bell((y - 0.45f) / 0.35f, 1);
         p = p + Mix(Hex(0x6A3A6E), Hex(0x8A5A3A), Clamp(x - 0.4f)) * (0.22f * smoke);
     });
-    picture.Draw([&](QPainter& painter) {
-        painter.setCompositionMode(QPainter::CompositionMode_Plus);
-        DrawShell(painter, random, 0.92f, 0.32f, 0.265f, Hex(0xFFE2A0), Hex(0xFF5A3A), 190, false);
-        DrawShell(painter, random, 0.92f, 0.32f, 0.135f, Hex(0xC8F4FF), Hex(0x4AA8FF), 90, false);
-        DrawShell(painter, random, 0.46f, 0.25f, 0.185f, Hex(0xFFD0F0), Hex(0xD85AE8), 140, false);
-        DrawShell(painter, random, 1.42f, 0.24f, 0.200f, Hex(0xFFE8B0), Hex(0xFFB040), 120, true);
-        DrawShell(painter, random, 0.64f, 0.52f, 0.105f, Hex(0xE8FFD8), Hex(0x4FD88A), 90, false);
-        DrawShell(painter, random, 1.20f, 0.55f, 0.095f, Hex(0xFFFFFF), Hex(0x58C8F0), 80, false);
-        DrawShell(painter, random, 1.64f, 0.52f, 0.085f, Hex(0xFFF0D0), Hex(0xFF7AA8), 70, false);
-        DrawShell(painter, random, 0.26f, 0.58f, 0.070f, Hex(0xFFF6C8), Hex(0xFFC23C), 60, false);
-        for (const float x : {0.92f, 0.46f, 1.42f}) {
-            QLinearGradient trail(x, kShore, x, 0.3f);
-            trail.setColorAt(0, QColor(255, 220, 160, 70));
-            trail.setColorAt(1, QColor(255, 220, 160, 0));
-            painter.setPen(QPen(QBrush(trail), 0.002f));
-            painter.drawLine(QPointF(x + 0.012f, kShore - 0.02f), QPointF(x, 0.3f));
-        }
-        painter.setPen(Qt::NoPen);
-    }, 0, true);
+    picture.Draw(
+        [&](QPainter& painter) {
+            painter.setCompositionMode(QPainter::CompositionMode_Plus);
+            DrawShell(painter, random, 0.92f, 0.32f, 0.265f, Hex(0xFFE2A0), Hex(0xFF5A3A), 190,
+                      false);
+            DrawShell(painter, random, 0.92f, 0.32f, 0.135f, Hex(0xC8F4FF), Hex(0x4AA8FF), 90,
+                      false);
+            DrawShell(painter, random, 0.46f, 0.25f, 0.185f, Hex(0xFFD0F0), Hex(0xD85AE8), 140,
+                      false);
+            DrawShell(painter, random, 1.42f, 0.24f, 0.200f, Hex(0xFFE8B0), Hex(0xFFB040), 120,
+                      true);
+            DrawShell(painter, random, 0.64f, 0.52f, 0.105f, Hex(0xE8FFD8), Hex(0x4FD88A), 90,
+                      false);
+            DrawShell(painter, random, 1.20f, 0.55f, 0.095f, Hex(0xFFFFFF), Hex(0x58C8F0), 80,
+                      false);
+            DrawShell(painter, random, 1.64f, 0.52f, 0.085f, Hex(0xFFF0D0), Hex(0xFF7AA8), 70,
+                      false);
+            DrawShell(painter, random, 0.26f, 0.58f, 0.070f, Hex(0xFFF6C8), Hex(0xFFC23C), 60,
+                      false);
+            for (const float x : {0.92f, 0.46f, 1.42f}) {
+                QLinearGradient trail(x, kShore, x, 0.3f);
+                trail.setColorAt(0, QColor(255, 220, 160, 70));
+                trail.setColorAt(1, QColor(255, 220, 160, 0));
+                painter.setPen(QPen(QBrush(trail), 0.002f));
+                painter.drawLine(QPointF(x + 0.012f, kShore - 0.02f), QPointF(x, 0.3f));
+            }
+            painter.setPen(Qt::NoPen);
+        },
+        0, true);
     picture.Bloom(0.40f, 8, 0.85f);
     picture.Reflect(kShore, 1.5f, Hex(0x070818), 0.22f, 14, 3.6f);
     picture.Vignette(0.35f);
     picture.Draw([](QPainter& painter) {
-        WriteTitle(painter, QStringLiteral("花火の夜"), QStringLiteral("川面にひらく　夏の花"), 0.17f, 0.10f,
-                   Hex(0xFFF2E2));
+        WriteTitle(painter, QStringLiteral("花火の夜"), QStringLiteral("川面にひらく　夏の花"),
+                   0.17f, 0.10f, Hex(0xFFF2E2));
     });
     return picture.Finish();
 }
@@ -133,13 +148,15 @@ void DrawTower(QPainter& painter, float x, float foot, float height) {
     painter.drawLine(QPointF(x, foot - height * 0.86f), QPointF(x, foot - height));
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0xFF, 0xE8, 0xC8));
-    painter.drawRect(QRectF(x - height * 0.050f, foot - height * 0.46f, height * 0.100f, height * 0.022f));
-    painter.drawRect(QRectF(x - height * 0.026f, foot - height * 0.70f, height * 0.052f, height * 0.014f));
+    painter.drawRect(
+        QRectF(x - height * 0.050f, foot - height * 0.46f, height * 0.100f, height * 0.022f));
+    painter.drawRect(
+        QRectF(x - height * 0.026f, foot - height * 0.70f, height * 0.052f, height * 0.014f));
     Glow(painter, x, foot - height, height * 0.03f, Hex(0xFF4A3A), 1);
 }
 
-void DrawSkyline(QPainter& painter, Random& random, float foot, float lowest, float highest, Rgb wall,
-                 float lit, float window) {
+void DrawSkyline(QPainter& painter, Random& random, float foot, float lowest, float highest,
+                 Rgb wall, float lit, float window) {
     for (float x = -0.03f; x < kAspect;) {
         const float w = random.Range(0.030f, 0.085f);
         const float centre = Bell((x - 1.25f) / 0.6f, 1) + 0.6f * Bell((x - 0.35f) / 0.35f, 1);
@@ -149,7 +166,8 @@ void DrawSkyline(QPainter& painter, Random& random, float foot, float lowest, fl
         face.setColorAt(1, ToColor(wall * 1.5f));
         painter.setBrush(face);
         painter.drawRect(QRectF(x, foot - h, w, h + 0.002f));
-        if (random.Chance(0.4f)) painter.drawRect(QRectF(x + w * 0.3f, foot - h - 0.014f, w * 0.35f, 0.016f));
+        if (random.Chance(0.4f))
+            painter.drawRect(QRectF(x + w * 0.3f, foot - h - 0.014f, w * 0.35f, 0.016f));
         const bool warm = random.Chance(0.72f);
         const bool rows = random.Chance(0.3f);
         const float share = lit * random.Range(0.45f, 1.2f);
@@ -163,7 +181,8 @@ void DrawSkyline(QPainter& painter, Random& random, float foot, float lowest, fl
                 painter.drawRect(QRectF(wx, wy, window * 0.72f, window * 0.95f));
             }
         }
-        if (h > highest * 0.75f) Glow(painter, x + w / 2, foot - h - 0.006f, 0.010f, Hex(0xFF3A30), 0.9f);
+        if (h > highest * 0.75f)
+            Glow(painter, x + w / 2, foot - h - 0.006f, 0.010f, Hex(0xFF3A30), 0.9f);
         x += w * random.Range(0.88f, 1.15f);
     }
 }
@@ -174,23 +193,33 @@ QImage CityLights() {
     constexpr float kShore = 0.74f;
     Picture picture;
     picture.Each([](float x, float y, Rgb& p) {
-        p = Ramp({{0.0f, Hex(0x0A1030)}, {0.45f, Hex(0x24245E)}, {0.78f, Hex(0x7A3E7C)}, {1.0f, Hex(0xE88A78)}},
+        p = Ramp({{0.0f, Hex(0x0A1030)},
+                  {0.45f, Hex(0x24245E)},
+                  {0.78f, Hex(0x7A3E7C)},
+                  {1.0f, Hex(0xE88A78)}},
                  y / kShore);
         const float cloud = Smooth(0.0f, 0.6f, Fbm(x * 1.4f, y * 6, 5, 23));
         p = Mix(p, Mix(Hex(0x2C2A60), Hex(0xD87A8A), Smooth(0.1f, 0.6f, y)), 0.5f * cloud);
     });
     Random random(88);
-    picture.Draw([&](QPainter& painter) { DrawSkyline(painter, random, kShore, 0.10f, 0.33f, Hex(0x4A3A6E), 0.22f, 0.0050f); }, 1.2f);
-    picture.Each([](float, float y, Rgb& p) { p = Mix(p, Hex(0xB8688A), 0.32f * Smooth(0.45f, 0.74f, y)); });
+    picture.Draw(
+        [&](QPainter& painter) {
+            DrawSkyline(painter, random, kShore, 0.10f, 0.33f, Hex(0x4A3A6E), 0.22f, 0.0050f);
+        },
+        1.2f);
+    picture.Each(
+        [](float, float y, Rgb& p) { p = Mix(p, Hex(0xB8688A), 0.32f * Smooth(0.45f, 0.74f, y)); });
     picture.Draw([&](QPainter& painter) {
         DrawTower(painter, 0.66f, kShore, 0.55f);
         DrawSkyline(painter, random, kShore, 0.07f, 0.40f, Hex(0x221F48), 0.36f, 0.0062f);
     });
-    picture.Each([](float, float y, Rgb& p) { p = Mix(p, Hex(0x9A5080), 0.18f * Smooth(0.55f, 0.74f, y)); });
+    picture.Each(
+        [](float, float y, Rgb& p) { p = Mix(p, Hex(0x9A5080), 0.18f * Smooth(0.55f, 0.74f, y)); });
     picture.Draw([&](QPainter& painter) {
         DrawSkyline(painter, random, kShore, 0.03f, 0.17f, Hex(0x0C0D26), 0.45f, 0.0074f);
         for (float x = 0; x < kAspect; x += 0.037f) {
-            Glow(painter, x, kShore - 0.006f, 0.013f, random.Chance(0.7f) ? Hex(0xFFC873) : Hex(0xFFF4E0), 1);
+            Glow(painter, x, kShore - 0.006f, 0.013f,
+                 random.Chance(0.7f) ? Hex(0xFFC873) : Hex(0xFFF4E0), 1);
         }
     });
     picture.Bloom(0.66f, 6, 0.45f);
@@ -203,8 +232,8 @@ QImage CityLights() {
     });
     picture.Vignette(0.4f);
     picture.Draw([](QPainter& painter) {
-        WriteTitle(painter, QStringLiteral("街の灯"), QStringLiteral("窓ひとつ　ひとつの物語"), 0.19f, 0.08f,
-                   Hex(0xFFF2EA));
+        WriteTitle(painter, QStringLiteral("街の灯"), QStringLiteral("窓ひとつ　ひとつの物語"),
+                   0.19f, 0.08f, Hex(0xFFF2EA));
     });
     return picture.Finish();
 }
@@ -218,9 +247,10 @@ void DrawFarmhouse(QPainter& painter, Random& random, float x, float foot, float
     wall.setColorAt(0, QColor(0x2E, 0x1C, 0x18));
     wall.setColorAt(1, QColor(0x4A, 0x2E, 0x22));
     painter.setBrush(wall);
-    painter.drawPolygon(QPolygonF({QPointF(x - width * 0.36f, foot), QPointF(x - width * 0.36f, eaves - width * 0.1f),
-                                   QPointF(x, ridge + width * 0.1f), QPointF(x + width * 0.36f, eaves - width * 0.1f),
-                                   QPointF(x + width * 0.36f, foot)}));
+    painter.drawPolygon(QPolygonF(
+        {QPointF(x - width * 0.36f, foot), QPointF(x - width * 0.36f, eaves - width * 0.1f),
+         QPointF(x, ridge + width * 0.1f), QPointF(x + width * 0.36f, eaves - width * 0.1f),
+         QPointF(x + width * 0.36f, foot)}));
     auto window = [&](float wx, float wy, float w, float h) {
         const QRectF pane(x + wx * width, foot - wy * width, w * width, h * width);
         QLinearGradient light(pane.topLeft(), pane.bottomLeft());
@@ -233,7 +263,8 @@ void DrawFarmhouse(QPainter& painter, Random& random, float x, float foot, float
             const double at = pane.left() + pane.width() * i / 4;
             painter.drawLine(QPointF(at, pane.top()), QPointF(at, pane.bottom()));
         }
-        painter.drawLine(QPointF(pane.left(), pane.center().y()), QPointF(pane.right(), pane.center().y()));
+        painter.drawLine(QPointF(pane.left(), pane.center().y()),
+                         QPointF(pane.right(), pane.center().y()));
         painter.setPen(Qt::NoPen);
     };
     window(-0.28f, 0.19f, 0.22f, 0.13f);
@@ -241,18 +272,24 @@ void DrawFarmhouse(QPainter& painter, Random& random, float x, float foot, float
     window(-0.11f, 0.44f, 0.22f, 0.11f);
     window(-0.05f, 0.63f, 0.10f, 0.08f);
     QPainterPath roof(QPointF(x, ridge - width * 0.045f));
-    roof.quadTo(QPointF(x + width * 0.09f, ridge), QPointF(x + width * 0.57f, eaves + width * 0.03f));
-    roof.quadTo(QPointF(x + width * 0.53f, eaves + width * 0.10f), QPointF(x + width * 0.45f, eaves + width * 0.02f));
-    roof.quadTo(QPointF(x + width * 0.10f, ridge + width * 0.17f), QPointF(x, ridge + width * 0.14f));
-    roof.quadTo(QPointF(x - width * 0.10f, ridge + width * 0.17f), QPointF(x - width * 0.45f, eaves + width * 0.02f));
-    roof.quadTo(QPointF(x - width * 0.53f, eaves + width * 0.10f), QPointF(x - width * 0.57f, eaves + width * 0.03f));
+    roof.quadTo(QPointF(x + width * 0.09f, ridge),
+                QPointF(x + width * 0.57f, eaves + width * 0.03f));
+    roof.quadTo(QPointF(x + width * 0.53f, eaves + width * 0.10f),
+                QPointF(x + width * 0.45f, eaves + width * 0.02f));
+    roof.quadTo(QPointF(x + width * 0.10f, ridge + width * 0.17f),
+                QPointF(x, ridge + width * 0.14f));
+    roof.quadTo(QPointF(x - width * 0.10f, ridge + width * 0.17f),
+                QPointF(x - width * 0.45f, eaves + width * 0.02f));
+    roof.quadTo(QPointF(x - width * 0.53f, eaves + width * 0.10f),
+                QPointF(x - width * 0.57f, eaves + width * 0.03f));
     roof.quadTo(QPointF(x - width * 0.09f, ridge), QPointF(x, ridge - width * 0.045f));
     QLinearGradient snow(x - width * 0.4f, ridge, x + width * 0.4f, foot);
     snow.setColorAt(0, QColor(0xF2, 0xF6, 0xFF));
     snow.setColorAt(1, QColor(0x93, 0xA6, 0xD6));
     painter.setBrush(snow);
     painter.drawPath(roof);
-    Glow(painter, x, foot - width * 0.12f, width * random.Range(0.62f, 0.72f), Hex(0xFFB85A), 0.30f);
+    Glow(painter, x, foot - width * 0.12f, width * random.Range(0.62f, 0.72f), Hex(0xFFB85A),
+         0.30f);
     QRadialGradient pool(QPointF(x, foot + width * 0.03f), width * 0.6f);
     pool.setColorAt(0, QColor(0xFF, 0xC8, 0x78, 120));
     pool.setColorAt(1, QColor(0xFF, 0xC8, 0x78, 0));
@@ -270,20 +307,26 @@ QImage SnowVillage() {
         p = p + Hex(0x6E86C8) * (0.25f * Smooth(0.0f, 0.7f, Fbm(x * 1.5f, y * 3, 5, 71)));
         for (int i = 0; i < 3; ++i) {
             const float n = static_cast<float>(i);
-            const float top = 0.40f + 0.055f * n - 0.16f * (Ridge(x * (0.9f + 0.3f * n) + 2 * n, 0.4f, 5, 300 + i * 7) - 0.5f);
+            const float top =
+                0.40f + 0.055f * n -
+                0.16f * (Ridge(x * (0.9f + 0.3f * n) + 2 * n, 0.4f, 5, 300 + i * 7) - 0.5f);
             if (y < top) continue;
             const float shade = Fbm((x + (y - top) * 0.7f) * 9, (y - top) * 8, 5, 310 + i);
-            const Rgb hill = Mix(Mix(Hex(0x34497E), Hex(0x9FB2DC), Clamp(0.45f + shade)), Hex(0x7088BC), 0.55f - 0.16f * n);
+            const Rgb hill = Mix(Mix(Hex(0x34497E), Hex(0x9FB2DC), Clamp(0.45f + shade)),
+                                 Hex(0x7088BC), 0.55f - 0.16f * n);
             p = Mix(p, hill, Smooth(0, 0.002f, y - top));
         }
     });
-    picture.Draw([&](QPainter& painter) {
-        for (int i = 0; i < 150; ++i) {
-            const float x = random.Range(-0.05f, kAspect + 0.05f);
-            const float y = 0.60f + 0.03f * std::sin(x * 4) + random.Range(-0.035f, 0.02f);
-            Fir(painter, random, x, y, random.Range(0.05f, 0.11f), QColor(0x22, 0x34, 0x5C), QColor(0xA8, 0xBA, 0xE2, 150));
-        }
-    }, 1.2f);
+    picture.Draw(
+        [&](QPainter& painter) {
+            for (int i = 0; i < 150; ++i) {
+                const float x = random.Range(-0.05f, kAspect + 0.05f);
+                const float y = 0.60f + 0.03f * std::sin(x * 4) + random.Range(-0.035f, 0.02f);
+                Fir(painter, random, x, y, random.Range(0.05f, 0.11f), QColor(0x22, 0x34, 0x5C),
+                    QColor(0xA8, 0xBA, 0xE2, 150));
+            }
+        },
+        1.2f);
     auto field = [&](float level, float swing, Rgb light, Rgb shade, uint32_t seed) {
         picture.Each([&](float x, float y, Rgb& p) {
             const float top = level + swing * Fbm(x * 1.5f, 3, 3, seed);
@@ -318,17 +361,19 @@ QImage SnowVillage() {
             painter.drawEllipse(QPointF(random.Range(0, kAspect), random.Unit()), r, r);
         }
     });
-    picture.Draw([&](QPainter& painter) {
-        painter.setBrush(QColor(255, 255, 255, 200));
-        for (int i = 0; i < 70; ++i) {
-            const float r = random.Range(0.003f, 0.009f);
-            painter.drawEllipse(QPointF(random.Range(0, kAspect), random.Unit()), r, r);
-        }
-    }, 4);
+    picture.Draw(
+        [&](QPainter& painter) {
+            painter.setBrush(QColor(255, 255, 255, 200));
+            for (int i = 0; i < 70; ++i) {
+                const float r = random.Range(0.003f, 0.009f);
+                painter.drawEllipse(QPointF(random.Range(0, kAspect), random.Unit()), r, r);
+            }
+        },
+        4);
     picture.Vignette(0.35f);
     picture.Draw([](QPainter& painter) {
-        WriteTitle(painter, QStringLiteral("雪あかり"), QStringLiteral("しんしんと　灯のぬくみ"), 1.70f, 0.08f,
-                   Hex(0xF4F8FF));
+        WriteTitle(painter, QStringLiteral("雪あかり"), QStringLiteral("しんしんと　灯のぬくみ"),
+                   1.70f, 0.08f, Hex(0xF4F8FF));
     });
     return picture.Finish();
 }

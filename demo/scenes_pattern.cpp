@@ -15,7 +15,8 @@ QImage SeaWavePattern() {
         for (float y = -kRadius; y < 1 + kRadius; y += kRadius * 0.5f, ++row) {
             const float shift = row % 2 ? kRadius : 0;
             int column = 0;
-            for (float x = -kRadius + shift; x < kAspect + 2 * kRadius; x += kRadius * 2, ++column) {
+            for (float x = -kRadius + shift; x < kAspect + 2 * kRadius;
+                 x += kRadius * 2, ++column) {
                 const float tide = Clamp(0.5f + 0.75f * Fbm(x * 0.9f, y * 1.4f, 3, 8));
                 const Rgb deep = Mix(Hex(0x0A1F44), Hex(0x14546E), tide);
                 const Rgb pale = Mix(Hex(0x1F5A8A), Hex(0x6FC0B8), tide);
@@ -25,14 +26,16 @@ QImage SeaWavePattern() {
                 for (int ring = 0; ring < kRings; ++ring) {
                     const float part = 1 - static_cast<float>(ring) / kRings;
                     const float r = kRadius * part;
-                    Rgb fill = Mix(deep, pale, ring % 2 ? 0.85f : 0.15f + 0.1f * static_cast<float>(ring));
+                    Rgb fill =
+                        Mix(deep, pale, ring % 2 ? 0.85f : 0.15f + 0.1f * static_cast<float>(ring));
                     if (gilded) fill = Mix(Hex(0x8A5E1C), Hex(0xF0CE78), ring % 2 ? 0.9f : 0.25f);
                     if (foam) fill = Mix(Hex(0x7FB4C8), Hex(0xF4FBFA), ring % 2 ? 1.0f : 0.35f);
                     QLinearGradient shine(x - r, y - r, x + r, y + r * 0.6f);
                     shine.setColorAt(0, ToColor(fill * 1.22f));
                     shine.setColorAt(1, ToColor(fill * 0.72f));
                     painter.setBrush(shine);
-                    painter.setPen(QPen(ToColor(Hex(0xE6C578), gilded ? 0.95f : 0.55f), kRadius * 0.020f));
+                    painter.setPen(
+                        QPen(ToColor(Hex(0xE6C578), gilded ? 0.95f : 0.55f), kRadius * 0.020f));
                     painter.drawEllipse(QPointF(x, y), r, r);
                 }
             }
@@ -54,8 +57,8 @@ QImage SeaWavePattern() {
         painter.setBrush(plate);
         painter.setPen(QPen(QColor(0xE6, 0xC5, 0x78, 170), 0.0018f));
         painter.drawRect(QRectF(1.50f, 0.10f, 0.19f, 0.48f));
-        WriteTitle(painter, QStringLiteral("青海波"), QStringLiteral("果てなき波の　おだやかさ"), 1.655f, 0.15f,
-                   Hex(0xF6EAC8));
+        WriteTitle(painter, QStringLiteral("青海波"), QStringLiteral("果てなき波の　おだやかさ"),
+                   1.655f, 0.15f, Hex(0xF6EAC8));
     });
     return picture.Finish();
 }
@@ -76,11 +79,13 @@ QImage HempLeafPattern() {
                 const QPointF& from = corners[i];
                 const QPointF& to = corners[(i + 1) % 3];
                 const QPointF centre = (from + to + middle) / 3;
-                const float cx = static_cast<float>(centre.x()), cy = static_cast<float>(centre.y());
+                const float cx = static_cast<float>(centre.x()),
+                            cy = static_cast<float>(centre.y());
                 const float tone = 0.5f + 0.5f * Noise(cx * 40 + 3, cy * 40, 19);
                 const float drift = Fbm(cx * 1.3f, cy * 1.6f, 3, 5);
                 Rgb fill = Mix(Hex(0x8E1F3C), Hex(0xE88A5A), Clamp(0.35f + drift + 0.35f * tone));
-                fill = Mix(fill, Hex(0x3A1A5A), Smooth(0.55f, 1.55f, cx + cy * 0.35f + drift * 0.6f));
+                fill =
+                    Mix(fill, Hex(0x3A1A5A), Smooth(0.55f, 1.55f, cx + cy * 0.35f + drift * 0.6f));
                 float alpha = 0.25f + 0.5f * tone;
                 if (Noise(cx * 31, cy * 29, 91) > 0.63f) {
                     fill = Hex(0xF0C870);
@@ -94,7 +99,8 @@ QImage HempLeafPattern() {
                 painter.drawPolygon(QPolygonF({from, to, middle}));
             }
             painter.setBrush(Qt::NoBrush);
-            painter.setPen(QPen(QColor(0xF4, 0xDC, 0xA4, 225), 0.0021f, Qt::SolidLine, Qt::RoundCap));
+            painter.setPen(
+                QPen(QColor(0xF4, 0xDC, 0xA4, 225), 0.0021f, Qt::SolidLine, Qt::RoundCap));
             painter.drawPolygon(QPolygonF({a, b, c}));
             for (const QPointF& corner : corners) {
                 painter.drawLine(corner, middle);
@@ -121,8 +127,8 @@ QImage HempLeafPattern() {
         painter.setBrush(QColor(0x1C, 0x0A, 0x24, 232));
         painter.setPen(QPen(QColor(0xF0, 0xD0, 0x90, 170), 0.0018f));
         painter.drawRect(QRectF(1.50f, 0.10f, 0.19f, 0.46f));
-        WriteTitle(painter, QStringLiteral("麻の葉"), QStringLiteral("すこやかに　まっすぐに"), 1.655f, 0.15f,
-                   Hex(0xFBEBC8));
+        WriteTitle(painter, QStringLiteral("麻の葉"), QStringLiteral("すこやかに　まっすぐに"),
+                   1.655f, 0.15f, Hex(0xFBEBC8));
     });
     return picture.Finish();
 }

@@ -90,6 +90,56 @@ void PaintCone(Picture& picture, float axis, float foot, float height, float hal
     });
 }
 
+/// The vermilion gate, its feet just under the waterline `sea`.
+void DrawGate(QPainter& painter, float sea) {
+    const float cx = 0.98f, foot = sea + 0.018f, w = 0.20f, top = 0.27f;
+    const QColor dark(0x8E, 0x1F, 0x1C), light(0xD8, 0x42, 0x2E), black(0x2A, 0x18, 0x22);
+    QLinearGradient wood(cx - w, 0, cx + w, 0);
+    wood.setColorAt(0, dark);
+    wood.setColorAt(0.5, light);
+    wood.setColorAt(1, dark);
+    auto post = [&](float x, float wide, float from, float lean) {
+        QLinearGradient round(x - wide, 0, x + wide, 0);
+        round.setColorAt(0, QColor(0x6E, 0x16, 0x18));
+        round.setColorAt(0.55, QColor(0xE2, 0x50, 0x38));
+        round.setColorAt(1, QColor(0x7C, 0x1A, 0x1A));
+        painter.setBrush(round);
+        painter.drawPolygon(
+            QPolygonF({QPointF(x - wide * 0.8f + lean, from), QPointF(x + wide * 0.8f + lean, from),
+                       QPointF(x + wide, foot), QPointF(x - wide, foot)}));
+        painter.setBrush(black);
+        painter.drawRect(QRectF(x - wide * 1.08f, foot - 0.05f, wide * 2.16f, 0.052f));
+    };
+    for (const float side : {-1.0f, 1.0f}) {
+        post(cx + side * (w + 0.055f), 0.011f, 0.47f, 0);
+        post(cx + side * (w - 0.062f), 0.011f, 0.47f, 0);
+    }
+    for (const float side : {-1.0f, 1.0f}) {
+        painter.setBrush(wood);
+        painter.drawRect(QRectF(cx + side * w - 0.085f, 0.525f, 0.17f, 0.014f));
+    }
+    for (const float side : {-1.0f, 1.0f}) {
+        post(cx + side * w, 0.021f, top, -side * 0.016f);
+    }
+    painter.setBrush(wood);
+    painter.drawRect(QRectF(cx - w - 0.075f, 0.375f, 2 * w + 0.15f, 0.030f));
+    painter.drawRect(QRectF(cx - 0.018f, 0.31f, 0.036f, 0.07f));
+    auto beam = [&](float half, float y, float thick, float rise, QBrush brush) {
+        QPainterPath path(QPointF(cx - half, y - rise));
+        path.quadTo(QPointF(cx - half * 0.5f, y), QPointF(cx, y));
+        path.quadTo(QPointF(cx + half * 0.5f, y), QPointF(cx + half, y - rise));
+        path.lineTo(QPointF(cx + half * 0.985f, y - rise * 0.8f + thick));
+        path.quadTo(QPointF(cx + half * 0.5f, y + thick), QPointF(cx, y + thick));
+        path.quadTo(QPointF(cx - half * 0.5f, y + thick),
+                    QPointF(cx - half * 0.985f, y - rise * 0.8f + thick));
+        path.closeSubpath();
+        painter.setBrush(brush);
+        painter.drawPath(path);
+    };
+    beam(w + 0.115f, 0.285f, 0.032f, 0.018f, wood);
+    beam(w + 0.145f, 0.262f, 0.026f, 0.026f, black);
+}
+
 }  // namespace
 
 QImage DawnAtFuji() {
@@ -133,8 +183,10 @@ QImage DawnAtFuji() {
 QImage GateInTheSea() {
     constexpr float kSea = 0.66f, kSunX = 0.98f;
     Picture picture;
-    const std::vector<Stop> sky = {{0.0f, Hex(0x233A6B)},  {0.35f, Hex(0x6A5C94)},
-                                   {0.62f, Hex(0xD9727A)}, {0.85f, Hex(0xFF9F5E)},
+    const std::vector<Stop> sky = {{0.0f, Hex(0x233A6B)},
+                                   {0.35f, Hex(0x6A5C94)},
+                                   {0.62f, Hex(0xD9727A)},
+                                   {0.85f, Hex(0xFF9F5E)},
                                    {1.0f, Hex(0xFFD08A)}};
     picture.Each([&](float x, float y, Rgb& p) {
         p = Ramp(sky, y / kSea);
@@ -153,56 +205,8 @@ QImage GateInTheSea() {
             if (y > top) p = Mix(p, hill, 0.92f * Smooth(0, 0.0015f, y - top));
         }
     });
-    picture.Draw([&](QPainter& painter) {
-        const float cx = 0.98f, foot = kSea + 0.018f, w = 0.20f, top = 0.27f;
-        const QColor dark(0x8E, 0x1F, 0x1C), light(0xD8, 0x42, 0x2E), black(0x2A, 0x18, 0x22);
-        QLinearGradient wood(cx - w, 0, cx + w, 0);
-        wood.setColorAt(0, dark);
-        wood.setColorAt(0.5, light);
-        wood.setColorAt(1, dark);
-        auto post = [&](float x, float wide, float from, float lean) {
-            QLinearGradient round(x - wide, 0, x + wide, 0);
-            round.setColorAt(0, QColor(0x6E, 0x16, 0x18));
-            round.setColorAt(0.55, QColor(0xE2, 0x50, 0x38));
-            round.setColorAt(1, QColor(0x7C, 0x1A, 0x1A));
-            painter.setBrush(round);
-            painter.drawPolygon(QPolygonF({QPointF(x - wide * 0.8f + lean, from),
-                                           QPointF(x + wide * 0.8f + lean, from),
-                                           QPointF(x + wide, foot), QPointF(x - wide, foot)}));
-            painter.setBrush(black);
-            painter.drawRect(QRectF(x - wide * 1.08f, foot - 0.05f, wide * 2.16f, 0.052f));
-        };
-        for (const float side : {-1.0f, 1.0f}) {
-            post(cx + side * (w + 0.055f), 0.011f, 0.47f, 0);
-            post(cx + side * (w - 0.062f), 0.011f, 0.47f, 0);
-        }
-        for (const float side : {-1.0f, 1.0f}) {
-            painter.setBrush(wood);
-            painter.drawRect(QRectF(cx + side * w - 0.085f, 0.525f, 0.17f, 0.014f));
-        }
-        for (const float side : {-1.0f, 1.0f}) {
-            post(cx + side * w, 0.021f, top, -side * 0.016f);
-        }
-        painter.setBrush(wood);
-        painter.drawRect(QRectF(cx - w - 0.075f, 0.375f, 2 * w + 0.15f, 0.030f));
-        painter.drawRect(QRectF(cx - 0.018f, 0.31f, 0.036f, 0.07f));
-        auto beam = [&](float half, float y, float thick, float rise, QBrush brush) {
-            QPainterPath path(QPointF(cx - half, y - rise));
-            path.quadTo(QPointF(cx - half * 0.5f, y), QPointF(cx, y));
-            path.quadTo(QPointF(cx + half * 0.5f, y), QPointF(cx + half, y - rise));
-            path.lineTo(QPointF(cx + half * 0.985f, y - rise * 0.8f + thick));
-            path.quadTo(QPointF(cx + half * 0.5f, y + thick), QPointF(cx, y + thick));
-            path.quadTo(QPointF(cx - half * 0.5f, y + thick),
-                        QPointF(cx - half * 0.985f, y - rise * 0.8f + thick));
-            path.closeSubpath();
-            painter.setBrush(brush);
-            painter.drawPath(path);
-        };
-        beam(w + 0.115f, 0.285f, 0.032f, 0.018f, wood);
-        beam(w + 0.145f, 0.262f, 0.026f, 0.026f, black);
-    });
+    picture.Draw([](QPainter& painter) { DrawGate(painter, kSea); });
     picture.Reflect(kSea, 1.25f, Hex(0x2B2A5A), 0.30f, 8);
-    // The gate's feet stand in front of the waterline that the mirror begins at.
     Random random(3);
     picture.Draw([&](QPainter& painter) {
         DrawBirds(painter, random, 0.42f, 0.24f, 11, QColor(0x2E, 0x22, 0x48));
@@ -210,8 +214,8 @@ QImage GateInTheSea() {
     picture.Bloom(0.85f, 12, 0.4f);
     picture.Vignette(0.45f);
     picture.Draw([](QPainter& painter) {
-        WriteTitle(painter, QStringLiteral("海の鳥居"), QStringLiteral("夕凪に　朱の影ひとつ"), 0.19f,
-                   0.10f, Hex(0xFFF2E2));
+        WriteTitle(painter, QStringLiteral("海の鳥居"), QStringLiteral("夕凪に　朱の影ひとつ"),
+                   0.19f, 0.10f, Hex(0xFFF2E2));
     });
     return picture.Finish();
 }
@@ -266,16 +270,16 @@ QImage InkMountains() {
         painter.drawEllipse(QPointF(1.262f, 0.822f), 0.006f, 0.007f);
         painter.drawPolygon(QPolygonF({QPointF(1.253f, 0.858f), QPointF(1.271f, 0.858f),
                                        QPointF(1.266f, 0.828f), QPointF(1.258f, 0.828f)}));
-        painter.drawPolygon(QPolygonF(
-            {QPointF(1.245f, 0.821f), QPointF(1.262f, 0.808f), QPointF(1.279f, 0.821f)}));
+        painter.drawPolygon(
+            QPolygonF({QPointF(1.245f, 0.821f), QPointF(1.262f, 0.808f), QPointF(1.279f, 0.821f)}));
         painter.setPen(QPen(QColor(0x18, 0x1A, 0x20), 0.0016f));
         painter.drawLine(QPointF(1.243f, 0.815f), QPointF(1.222f, 0.905f));
         painter.setPen(Qt::NoPen);
     });
     picture.Vignette(0.16f);
     picture.Draw([](QPainter& painter) {
-        WriteTitle(painter, QStringLiteral("遠山"), QStringLiteral("墨の濃淡　霧のなか"), 1.66f, 0.10f,
-                   Hex(0x22242A));
+        WriteTitle(painter, QStringLiteral("遠山"), QStringLiteral("墨の濃淡　霧のなか"), 1.66f,
+                   0.10f, Hex(0x22242A));
     });
     return picture.Finish();
 }
@@ -295,14 +299,17 @@ QImage MilkyWay() {
         const float across = (x - 1.0f) * kLeanY + (y - 0.4f) * kLeanX;
         const float bend = 0.06f * Fbm(along * 2, across * 2, 3, 11);
         const float cloud = Fbm(along * 3.2f, across * 5, 6, 14);
-        const float dust = Smooth(-0.05f, 0.48f, Fbm(along * 4.5f + 4, across * 9.5f, 7, 23) +
-                                                     0.16f * Bell(across + bend, 0.05f));
+        const float dust = Smooth(
+            -0.05f, 0.48f,
+            Fbm(along * 4.5f + 4, across * 9.5f, 7, 23) + 0.16f * Bell(across + bend, 0.05f));
         const float body = Bell(across + bend, 0.17f), heart = Bell(across + bend, 0.075f);
         const float bright = (body * (0.42f + 0.6f * cloud) + heart * 0.42f) * (1 - 0.66f * dust);
         p = p + Mix(Hex(0x6F86D8), Hex(0xFFD9C0), Clamp(heart + cloud * 0.5f)) *
                     std::max(0.0f, bright * 0.86f);
-        p = p + Hex(0xC04888) * (0.16f * body * Smooth(0.2f, 0.6f, Fbm(along * 5, across * 7, 4, 25)));
-        p = p + Hex(0x2E9C82) * (0.20f * Bell(y - kShore, 0.20f) * (0.8f + 0.6f * Fbm(x * 1.5f, y, 3, 28)));
+        p = p +
+            Hex(0xC04888) * (0.16f * body * Smooth(0.2f, 0.6f, Fbm(along * 5, across * 7, 4, 25)));
+        p = p + Hex(0x2E9C82) *
+                    (0.20f * Bell(y - kShore, 0.20f) * (0.8f + 0.6f * Fbm(x * 1.5f, y, 3, 28)));
     });
     Random random(31);
     picture.Draw(
@@ -352,16 +359,19 @@ QImage MoonOverTheSea() {
         {0.0f, Hex(0x050A1C)}, {0.6f, Hex(0x122650)}, {1.0f, Hex(0x2B4C7E)}};
     picture.Each([&](float, float y, Rgb& p) { p = Ramp(sky, y / kSea); });
     Random random(77);
-    picture.Draw([&](QPainter& painter) { DrawStars(painter, random, 1300, kSea - 0.04f); }, 0, true);
+    picture.Draw([&](QPainter& painter) { DrawStars(painter, random, 1300, kSea - 0.04f); }, 0,
+                 true);
     picture.Each([&](float x, float y, Rgb& p) {
         const float dx = x - kMoonX, dy = y - kMoonY;
         const float far = std::sqrt(dx * dx + dy * dy);
-        p = p + Hex(0x86A4E0) * (0.42f * Bell(far, 0.22f)) + Hex(0x33589C) * (0.42f * Bell(far, 0.6f));
+        p = p + Hex(0x86A4E0) * (0.42f * Bell(far, 0.22f)) +
+            Hex(0x33589C) * (0.42f * Bell(far, 0.6f));
         if (far < kRadius + 0.002f) {
             const float maria = Smooth(-0.14f, 0.26f, Fbm(dx * 11 + 5, dy * 11, 5, 6));
             const float limb = std::sqrt(std::max(0.0f, 1 - far * far / (kRadius * kRadius)));
             const float craters = 0.06f * Fbm(dx * 90, dy * 90, 4, 13);
-            const Rgb face = Mix(Hex(0xF4ECD8), Hex(0x9C9CA6), maria) * (0.74f + 0.20f * limb + craters);
+            const Rgb face =
+                Mix(Hex(0xF4ECD8), Hex(0x9C9CA6), maria) * (0.74f + 0.20f * limb + craters);
             p = Mix(p, face, Smooth(kRadius + 0.0012f, kRadius - 0.0012f, far));
         }
         const float warp = Fbm(x * 1.3f, y * 2, 4, 3);
@@ -381,28 +391,31 @@ QImage MoonOverTheSea() {
         const float wide = Bell((x - kMoonX) / (0.30f + depth), 1);
         const float facet = swell * 0.55f + chop * 0.75f;
         const float sparkle = Smooth(0.30f - 0.34f * road, 0.62f - 0.28f * road, facet);
-        p = p + Hex(0xFFF2D2) * (sparkle * (0.10f * wide + 1.05f * road) * (0.65f + 0.35f * Bell(depth, 0.3f)));
+        p = p + Hex(0xFFF2D2) *
+                    (sparkle * (0.10f * wide + 1.05f * road) * (0.65f + 0.35f * Bell(depth, 0.3f)));
         p = p + Hex(0x6F92D0) * (0.26f * wide * Bell(depth, 0.12f));
     });
     picture.Draw([](QPainter& painter) {
         // A sailing boat far out.
         const float x = 0.52f, y = kSea + 0.012f;
         painter.setBrush(QColor(0x08, 0x0E, 0x20));
-        painter.drawPolygon(QPolygonF({QPointF(x - 0.030f, y - 0.008f), QPointF(x + 0.034f, y - 0.009f),
-                                       QPointF(x + 0.024f, y + 0.004f), QPointF(x - 0.022f, y + 0.004f)}));
+        painter.drawPolygon(
+            QPolygonF({QPointF(x - 0.030f, y - 0.008f), QPointF(x + 0.034f, y - 0.009f),
+                       QPointF(x + 0.024f, y + 0.004f), QPointF(x - 0.022f, y + 0.004f)}));
         painter.setBrush(QColor(0x16, 0x22, 0x40));
         QPainterPath sail(QPointF(x + 0.002f, y - 0.085f));
         sail.quadTo(QPointF(x + 0.040f, y - 0.045f), QPointF(x + 0.030f, y - 0.013f));
         sail.lineTo(QPointF(x + 0.002f, y - 0.013f));
         painter.drawPath(sail);
-        painter.drawPolygon(QPolygonF({QPointF(x - 0.003f, y - 0.075f), QPointF(x - 0.026f, y - 0.014f),
-                                       QPointF(x - 0.003f, y - 0.014f)}));
+        painter.drawPolygon(
+            QPolygonF({QPointF(x - 0.003f, y - 0.075f), QPointF(x - 0.026f, y - 0.014f),
+                       QPointF(x - 0.003f, y - 0.014f)}));
     });
     picture.Bloom(0.80f, 8, 0.30f);
     picture.Vignette(0.4f);
     picture.Draw([](QPainter& painter) {
-        WriteTitle(painter, QStringLiteral("月と海"), QStringLiteral("波間に　ひかりの道"), 0.19f, 0.10f,
-                   Hex(0xF2F5FF));
+        WriteTitle(painter, QStringLiteral("月と海"), QStringLiteral("波間に　ひかりの道"), 0.19f,
+                   0.10f, Hex(0xF2F5FF));
     });
     return picture.Finish();
 }

@@ -1,2 +1,4 @@
 // Linked with every object of the logic and with no toolkit: that it links is the test.
-int main() { return 0; }
+int main() {
+    return 0;
+}

@@ -33,9 +33,9 @@ void ChooseRadio(Application& app, const document::RadioMenu& row, int index) {
 }
 
 void OpenFromMenu(Application& app) {
-    authoring::OpenDocument(app);
-    app.state.SlideIndex = 0;
-    playback::SetButtons(app, playback::Buttons::Idle);
+    if (authoring::OpenDocument(app)) {
+        playback::SetButtons(app, playback::Buttons::Idle);
+    }
 }
 
 }  // namespace

@@ -20,7 +20,8 @@ namespace app {
 
 namespace {
 
-constexpr int kHeightWithoutMargin = 8200;  // twips
+constexpr int kHeightWithoutMargin = 8200;    // twips
+constexpr int kSystemButtonColor = 0xF0F0F0;  // as the desktop's buttons are on most themes
 
 Text DropQuoteBeforeNativePath(TextView command) {
     return command.size() > 1 && command[0] == u'"' && command[1] == u'/'
@@ -34,6 +35,13 @@ void MakeImagingControls(Application& app) {
     app.state.LeadVersion =
         text::ToInt16(text::SafeNumber(text::Right(app.platform.imaging.VersionText(), 4)))
             .value_or(0);
+}
+
+void ClearMacroSlots(Application& app) {
+    macro::ClearMacroObjects(app);
+    for (auto& slot : app.windows.form1.Picture2) {
+        slot->BackColor = kSystemButtonColor;
+    }
 }
 
 void SetStartButtons(Application& app) {
@@ -131,7 +139,7 @@ void Form1_Load(Application& app) {
     model::ShowState& state = app.state;
     state.PrimaryMonitor = 0;
     state.MainBottomMargin = app.windows.form1.Height - kHeightWithoutMargin;
-    macro::ClearMacroObjects(app);
+    ClearMacroSlots(app);
     SetDefaults(app);
     CentreOnScreen(app);
     SetStartButtons(app);

@@ -18,7 +18,12 @@ void ForEachTimer(Application& application, Action action) {
 }  // namespace
 
 TimerRunner::TimerRunner(Application& application) : application_(application) {
-    ForEachTimer(application, [this](model::Timer& timer) { timer.Listen(this); });
+    ForEachTimer(application, [this](model::Timer& timer) {
+        timer.Listen(this);
+        if (timer.Enabled) {
+            PropertyChanged(timer, timer.Enabled);
+        }
+    });
 }
 
 TimerRunner::~TimerRunner() {

@@ -36,6 +36,7 @@ public:
         Line(x2, y2, x1, y2, color);
         Line(x1, y2, x1, y1, color);
     }
+    bool Holds(int x, int y) const { return Px(x) < canvas_.Width() && Px(y) < canvas_.Height(); }
     platform::Color Point(int x, int y) const { return canvas_.Point(Px(x), Px(y)); }
     void Print(int x, int y, double points, platform::Color color, TextView text) {
         platform::Font font;
@@ -49,10 +50,14 @@ private:
     platform::Canvas& canvas_;
 };
 
-/// A display of 256 colours or fewer cannot show the panel's colour: it reads back as another.
+/// A display of 256 colours or fewer cannot show the panel's colour: it reads back as another. A
+/// preview too small for the place that is read tells nothing.
 void TestColors(Application& app, TwipsCanvas& canvas) {
     canvas.Fill(kX0 + 1016, kY0 + 716, kX0 + 3984, kY0 + 2684, Rgb(230, 230, 250));
     canvas.Frame(kX0 + 1000, kY0 + 700, kX0 + 4000, kY0 + 2700, 0);
+    if (!canvas.Holds(kX0 + 2000, kY0 + 2000)) {
+        return;
+    }
     const platform::Color seen = canvas.Point(kX0 + 2000, kY0 + 2000);
     if (seen == kWhite || seen == kMidGrey) {
         app.state.LowColorFlag = 1;

@@ -31,6 +31,14 @@ void ClearLists(model::Windows& windows, model::ShowState& state) {
     state.SoundListCount = 0;
 }
 
+/// They work on the selected slide, and nothing is selected in a list that was just filled.
+void DisableLinkedFileButtons(model::Form3& form3) {
+    for (model::Button* button : {&form3.Command16, &form3.Command17, &form3.Command18,
+                                  &form3.Command19, &form3.Command20}) {
+        button->Enabled = false;
+    }
+}
+
 bool RefusedWithoutSlides(Application& app) {
     if (app.windows.form3.List1.ListCount() > 0) {
         return false;
@@ -74,30 +82,12 @@ void NewDocument(Application& app) {
     state.SlideIndex = 0;
     app.windows.form1.Caption = u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10";
     app.windows.form1.Timer1.Interval = kNewIntervalMs;
-    for (model::Button* button :
-         {&app.windows.form3.Command16, &app.windows.form3.Command17, &app.windows.form3.Command18,
-          &app.windows.form3.Command19, &app.windows.form3.Command20}) {
-        button->Enabled = false;
-    }
+    DisableLinkedFileButtons(app.windows.form3);
     document::WriteStateFile(app);
     document::ReadStateFile(app);
     document::FollowAllSettings(app);
     playback::SetButtons(app, playback::Buttons::Idle);
     app.windows.SetPointer(model::kPointerNormal);
-}
-
-bool OpenDocumentAt(Application& app, const Text& path) {
-    model::Form3& form3 = app.windows.form3;
-    app.state.BaseFolder = text::FolderPart(path);
-    for (model::Button* button : {&form3.Command16, &form3.Command17, &form3.Command18,
-                                  &form3.Command19, &form3.Command20}) {
-        button->Enabled = false;
-    }
-    document::ReadShowDocument(app, path);
-    form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
-    const bool read = app.state.ShowAbort == 0;
-    app.state.ShowAbort = 0;
-    return read;
 }
 
 bool OpenDocument(Application& app) {
@@ -106,7 +96,15 @@ bool OpenDocument(Application& app) {
     request.filter = kFilter;
     request.initial = kAnyName;
     const auto path = app.platform.dialogs.ChooseFile(request);
-    return path && OpenDocumentAt(app, *path);
+    if (!path) {
+        return false;
+    }
+    model::Form3& form3 = app.windows.form3;
+    app.state.BaseFolder = text::FolderPart(*path);
+    DisableLinkedFileButtons(form3);
+    document::ReadShowDocument(app, *path);
+    form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
+    return true;
 }
 
 void SaveDocument(Application& app) {

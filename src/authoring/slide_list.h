@@ -8,11 +8,9 @@ namespace authoring {
 /// Asks, then clears lists and settings: a new document.
 void NewDocument(Application& app);
 
-/// Asks for a show document and reads it. True when one was read.
+/// Asks for a show document and reads it. False on cancel: then nothing has changed. True tells
+/// that one was chosen; a refused one leaves ShowAbort at 1 and perhaps an empty list.
 bool OpenDocument(Application& app);
-
-/// Reads the document at `path`, as if it had been chosen.
-bool OpenDocumentAt(Application& app, const Text& path);
 
 /// Ask for a path and write the document; refused with a message while the list is empty.
 void SaveDocument(Application& app);

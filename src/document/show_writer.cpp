@@ -11,6 +11,7 @@ namespace document {
 namespace {
 
 constexpr TextView kTag = u"21vue3167893";
+constexpr double kLongestIntervalMs = 2147483647;
 
 /// Builds the document's text and changes nothing: a save that fails leaves the record alone.
 class ShowWriter {
@@ -41,7 +42,8 @@ private:
 const Text& ShowWriter::Write(TextView path) {
     lines_.Line(kTag);
     Path(path);
-    lines_.Number(state_.SlideIntervalSec * 1000.0);
+    // Readers take 32 bits: the longest interval of a file comes back as it was.
+    lines_.Number(std::min(state_.SlideIntervalSec * 1000.0, kLongestIntervalMs));
     lines_.Number(state_.RepeatFlag);
     WriteSoundAndEffects();
     WriteSlides();

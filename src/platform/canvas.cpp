@@ -111,8 +111,7 @@ void Canvas::Line(int x1, int y1, int x2, int y2, Color lineColor) {
     Rect drawn;
     for (int i = std::max(from, 0); i <= std::min(to, limit - 1); ++i) {
         const int64_t offset =
-            length == 0 ? 0
-                        : DivideRounded(int64_t{i - from} * (acrossTo - acrossFrom), length);
+            length == 0 ? 0 : DivideRounded(int64_t{i - from} * (acrossTo - acrossFrom), length);
         const int64_t across = acrossFrom + offset;
         if (across < 0 || across >= acrossLimit) {
             continue;
@@ -146,10 +145,10 @@ void Canvas::BitBlt(int x, int y, int width, int height, const Bitmap* source, i
     // any size may come in.
     const int64_t left = std::max<int64_t>({0, x, int64_t{x} - sourceX});
     const int64_t top = std::max<int64_t>({0, y, int64_t{y} - sourceY});
-    const int64_t right = std::min<int64_t>({pixels_.width, int64_t{x} + width,
-                                             int64_t{x} + source->width - sourceX});
-    const int64_t bottom = std::min<int64_t>({pixels_.height, int64_t{y} + height,
-                                              int64_t{y} + source->height - sourceY});
+    const int64_t right = std::min<int64_t>(
+        {pixels_.width, int64_t{x} + width, int64_t{x} + source->width - sourceX});
+    const int64_t bottom = std::min<int64_t>(
+        {pixels_.height, int64_t{y} + height, int64_t{y} + source->height - sourceY});
     const Rect inside = FromEdges(left, top, right, bottom);
     if (inside.Empty()) {
         return;

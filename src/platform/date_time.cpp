@@ -9,8 +9,8 @@ namespace platform {
 namespace {
 
 constexpr int64_t kSecondsPerDay = 86400;
-constexpr int64_t kDaysPerEra = 146097;         // 400 years
-constexpr int64_t kDaysBefore1970 = 719468;     // from 0000-03-01
+constexpr int64_t kDaysPerEra = 146097;      // 400 years
+constexpr int64_t kDaysBefore1970 = 719468;  // from 0000-03-01
 
 int64_t FloorDivide(int64_t value, int64_t by) {
     return value / by - (value % by < 0 ? 1 : 0);

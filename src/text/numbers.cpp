@@ -64,8 +64,8 @@ double ReadRadix(const std::string& digits, int base) {
 
 /// Decimal number at the start of a condensed text, in a form that from_chars takes.
 struct Decimal {
-    std::string mantissa;       // digits and at most one point
-    std::string exponent;       // sign and digits, or empty
+    std::string mantissa;  // digits and at most one point
+    std::string exponent;  // sign and digits, or empty
     bool negative = false;
 };
 
@@ -109,8 +109,7 @@ std::optional<double> DecimalValue(const Decimal& decimal) {
     const std::string number =
         decimal.mantissa + (decimal.exponent.empty() ? "" : "e" + decimal.exponent);
     double value = 0;
-    const auto [end, error] =
-        std::from_chars(number.data(), number.data() + number.size(), value);
+    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
     if (error == std::errc::result_out_of_range || std::isinf(value)) {
         const bool tiny = decimal.exponent.starts_with('-') ||
                           (decimal.exponent.empty() && decimal.mantissa.find('.') < firstNonZero);

@@ -42,8 +42,8 @@ Text WithSeparator(TextView folder) {
     if (last == u'/' || (!native && last == u'\\')) {
         return Text(folder);
     }
-    const bool slashesOnly = folder.find(u'/') != TextView::npos &&
-                             folder.find(u'\\') == TextView::npos;
+    const bool slashesOnly =
+        folder.find(u'/') != TextView::npos && folder.find(u'\\') == TextView::npos;
     return Text(folder) + (native || slashesOnly ? u'/' : u'\\');
 }
 

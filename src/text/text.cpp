@@ -16,9 +16,7 @@ struct Sequence {
 };
 
 Sequence ReadSequence(std::string_view bytes, size_t at) {
-    const auto byte = [&](size_t index) {
-        return static_cast<unsigned char>(bytes[index]);
-    };
+    const auto byte = [&](size_t index) { return static_cast<unsigned char>(bytes[index]); };
     const unsigned lead = byte(at);
     if (lead < 0x80) {
         return {lead, 1};
@@ -101,8 +99,8 @@ std::string ToUtf8(TextView value) {
         const char16_t unit = value[i];
         const bool high = unit >= 0xD800 && unit <= 0xDBFF;
         const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
-        const bool pair = high && i + 1 < value.size() && value[i + 1] >= 0xDC00 &&
-                          value[i + 1] <= 0xDFFF;
+        const bool pair =
+            high && i + 1 < value.size() && value[i + 1] >= 0xDC00 && value[i + 1] <= 0xDFFF;
         if (pair) {
             const char32_t code = 0x10000 + ((static_cast<char32_t>(unit) - 0xD800) << 10) +
                                   (static_cast<char32_t>(value[i + 1]) - 0xDC00);

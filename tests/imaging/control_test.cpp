@@ -79,7 +79,8 @@ TEST_F(Control, ScalesUpWhatItHoldsWhenTheFileIsGoneOrAnother) {
 }
 
 TEST_F(Control, IgnoresAnAnswerThatIsNotSmaller) {
-    for (const Size answer : {Size{}, Size{400, 200}, Size{900, 450}, Size{-3, 9}, Size{100, 900}}) {
+    for (const Size answer :
+         {Size{}, Size{400, 200}, Size{900, 450}, Size{-3, 9}, Size{100, 900}}) {
         ASSERT_TRUE(control_->Load(PutJpeg(400, 200), Fit(answer.width, answer.height)));
         std::filesystem::remove(folder_.Folder().Path("a.jpg"));
         EXPECT_EQ(control_->HeldSize(), (Size{400, 200}));

@@ -44,13 +44,15 @@ TEST_F(Damaged, WhatIsNoPictureIsRefused) {
 TEST_F(Damaged, HugeHeadersAreRefusedUndecoded) {
     EXPECT_FALSE(Loads(folder_.Put("huge.png", PngHeader(30000, 30000))));
     EXPECT_FALSE(Loads(folder_.Put("huge.png", PngHeader(2000000000, 2000000000))));
-    EXPECT_FALSE(Loads(folder_.Put("huge.png", PngHeader(30000, 30000)),
-                       [](Size) { return Size{300, 300}; }));
+    EXPECT_FALSE(Loads(folder_.Put("huge.png", PngHeader(30000, 30000)), [](Size) {
+        return Size{300, 300};
+    }));
     EXPECT_FALSE(Loads(folder_.Put(
         "huge.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='99999' height='99999'/>")));
     // The same for a drawing that is wanted small is no work at all.
-    ASSERT_TRUE(control_->Load(folder_.Folder().TextPath("huge.svg"),
-                               [](Size) { return Size{300, 300}; }));
+    ASSERT_TRUE(control_->Load(folder_.Folder().TextPath("huge.svg"), [](Size) {
+        return Size{300, 300};
+    }));
     control_->Resize(300, 300, 0);
     EXPECT_EQ(control_->Picture()->width, 300);
 }
@@ -73,10 +75,12 @@ TEST_F(Damaged, AHugeJpegIsShownSmallAndNeverWhole) {
 TEST_F(Damaged, EveryTruncationIsSurvived) {
     QImage image = Quarters(40, 30);
     image.setPixel(3, 3, qRgb(9, 99, 199));
-    const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='20'>"
-                           "<rect width='20' height='20' fill='#f00'/></svg>";
+    const QByteArray svg =
+        "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='20'>"
+        "<rect width='20' height='20' fill='#f00'/></svg>";
     std::vector<std::pair<std::string, QByteArray>> pictures = {
-        {"svg", svg}, {"gif", TinyGif(std::string("\1\2\0\3", 4))},
+        {"svg", svg},
+        {"gif", TinyGif(std::string("\1\2\0\3", 4))},
         {"inks", FlatJpeg(16, 16, "\x01\xFF\xFF\xFF")},
         {"turned", WithOrientation(Encoded(image, "jpg"), 6)},
         {"tiff inks", CmykTiff(2, 1, std::string(8, '\x50'))}};

@@ -123,8 +123,7 @@ TEST_F(Formats, InksBecomeColours) {
     EXPECT_LE(Distance(jpeg->Row(3)[3], 0xFF00FFFFu), 3);
     const BitmapPtr dark = Load("dark.jpg", FlatJpeg(8, 8, "\xFF\xFF\xFF\x80"));
     EXPECT_LE(Distance(dark->Row(3)[3], 0xFF808080u), 3);
-    const BitmapPtr tiff =
-        Load("inks.tif", CmykTiff(2, 1, std::string("\xFF\0\0\0\0\xFF\0\0", 8)));
+    const BitmapPtr tiff = Load("inks.tif", CmykTiff(2, 1, std::string("\xFF\0\0\0\0\xFF\0\0", 8)));
     EXPECT_LE(Distance(tiff->pixels[0], 0xFF00FFFFu), 3);
     EXPECT_LE(Distance(tiff->pixels[1], 0xFFFF00FFu), 3);
 }

@@ -91,7 +91,7 @@ QByteArray Encoded(const QImage& image, const char* format, int quality) {
 QByteArray WithOrientation(const QByteArray& jpeg, int orientation) {
     QByteArray exif("Exif\0\0MM\0*", 10);
     Append32(exif, 8);
-    Append16(exif, 1);       // one entry: orientation, a 16-bit number
+    Append16(exif, 1);  // one entry: orientation, a 16-bit number
     Append16(exif, 0x0112);
     Append16(exif, 3);
     Append32(exif, 1);
@@ -158,8 +158,8 @@ QByteArray CmykTiff(int width, int height, const std::string& pixels) {
         {0x100, 3, 1, shortValue(width)},
         {0x101, 3, 1, shortValue(height)},
         {0x102, 3, 4, bits},
-        {0x103, 3, 1, shortValue(1)},   // uncompressed
-        {0x106, 3, 1, shortValue(5)},   // inks
+        {0x103, 3, 1, shortValue(1)},  // uncompressed
+        {0x106, 3, 1, shortValue(5)},  // inks
         {0x111, 4, 1, data},
         {0x115, 3, 1, shortValue(4)},
         {0x116, 3, 1, shortValue(height)},
@@ -185,7 +185,7 @@ QByteArray CmykTiff(int width, int height, const std::string& pixels) {
 QByteArray TinyGif(const std::string& fourIndexes) {
     QByteArray out("GIF89a\2\0\2\0\x81\0\0", 13);
     out.append(QByteArray("\xFF\xFF\xFF\xFF\0\0\0\xFF\0\0\0\0", 12));
-    out.append(QByteArray("\x21\xF9\4\1\0\0\3\0", 8));      // index 3 is transparent
+    out.append(QByteArray("\x21\xF9\4\1\0\0\3\0", 8));  // index 3 is transparent
     out.append(QByteArray("\x2C\0\0\0\0\2\0\2\0\0", 10));
     // Codes of three bits, least significant first; a clear code (4) before each pair keeps them
     // so short. 5 ends the picture.

@@ -26,8 +26,8 @@ TEST(CodePage, KnowsTheCharactersThatTablesDisagreeAbout) {
 }
 
 TEST(CodePage, RefusesLookAlikesAndStrangers) {
-    for (const TextView stranger : {u"\u301C", u"\u2014", u"\u2016", u"\u2212", u"\u00A5", u"\u203E",
-                                    u"\u00A2", u"é", u"한", u"🙂", u"\uFFFD"}) {
+    for (const TextView stranger : {u"\u301C", u"\u2014", u"\u2016", u"\u2212", u"\u00A5",
+                                    u"\u203E", u"\u00A2", u"é", u"한", u"🙂", u"\uFFFD"}) {
         EXPECT_EQ(Page().Encode(stranger), std::nullopt) << text::ToUtf8(stranger);
         EXPECT_EQ(Page().Encode(Text(u"画") + Text(stranger)), std::nullopt);
     }
@@ -66,7 +66,9 @@ TEST(CodePage, ReplacesBytesThatFormNoCharacterOneByOne) {
     EXPECT_EQ(Page().Decode("\x81"), u"\uFFFD");
     EXPECT_EQ(Page().Decode("a\x81"), u"a\uFFFD");
     EXPECT_EQ(Page().Decode("\x81\x20z"), u"\uFFFD z");
-    EXPECT_EQ(Page().Decode("\xFF\x41"), u"\uFFFD" u"A");
+    EXPECT_EQ(Page().Decode("\xFF\x41"),
+              u"\uFFFD"
+              u"A");
     EXPECT_EQ(Page().Decode("\x95\x5C\x5C"), u"表\\");
     EXPECT_EQ(Page().Decode(std::string_view("a\0b", 3)), Text(u"a\0b", 3));
     EXPECT_EQ(Page().Decode(""), u"");

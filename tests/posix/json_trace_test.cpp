@@ -34,8 +34,7 @@ TEST(JsonTrace, WritesOneObjectALineAtOnce) {
     TemporaryFolder folder;
     folder.Put("trace", "old");
     double now = 0;
-    const auto trace =
-        posix_adapter::MakeTraceWriter(folder.Path("trace"), [&] { return now; });
+    const auto trace = posix_adapter::MakeTraceWriter(folder.Path("trace"), [&] { return now; });
     ASSERT_TRUE(trace);
     trace->Event("start", {});
     now = 1500;

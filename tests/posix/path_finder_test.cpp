@@ -90,8 +90,7 @@ TEST_F(Finding, NeverStopsAtAZero) {
 
 TEST_F(Finding, FindsNamesThatAreNoUtf8) {
     folder_.Put("Bild\xE4.JPG", "x");
-    EXPECT_EQ(finder_.Find(folder_.TextPath() + u"/bild\uFFFD.jpg"),
-              folder_.Path("Bild\xE4.JPG"));
+    EXPECT_EQ(finder_.Find(folder_.TextPath() + u"/bild\uFFFD.jpg"), folder_.Path("Bild\xE4.JPG"));
 }
 
 TEST_F(Finding, TargetsExistingFoldersAndNewNames) {

@@ -1,7 +1,7 @@
 #include "adapters/posix/posix_files.h"
 
-#include <gtest/gtest.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -147,7 +147,8 @@ TEST_F(FilesTest, KeepsModeOwnerAndLinks) {
     if (geteuid() == 0) {
         ASSERT_EQ(chown(folder_.Path("real/file").c_str(), 1234, 2345), 0);
     }
-    struct stat before {}, after {};
+    struct stat before {
+    }, after{};
     stat(folder_.Path("real/file").c_str(), &before);
     std::filesystem::create_symlink("real/file", folder_.Path("second"));
     std::filesystem::create_symlink("second", folder_.Path("first"));

@@ -105,9 +105,8 @@ TEST(AppFolder, IsAnsweredWhereTheDiskRefuses) {
 TEST(PreviousInstance, SeesAnotherOneOfTheSameFolderOnly) {
     TemporaryFolder folder;
     for (const bool runtimeFolder : {true, false}) {
-        const Variable runtime("XDG_RUNTIME_DIR", runtimeFolder
-                                                      ? std::optional(folder.Path())
-                                                      : std::nullopt);
+        const Variable runtime("XDG_RUNTIME_DIR",
+                               runtimeFolder ? std::optional(folder.Path()) : std::nullopt);
         std::optional<PosixSystem> first(std::in_place, folder.Path("one"), "");
         PosixSystem second(folder.Path("one"), ""), other(folder.Path("two"), "");
         EXPECT_FALSE(first->PreviousInstance());

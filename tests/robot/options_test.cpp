@@ -60,9 +60,8 @@ TEST(RobotArguments, WrongUsageIsTold) {
                               "1920X1080", "1920x1080x2"}) {
         EXPECT_NE(Refusal({"--robot", "a", "--screen", value}), "accepted") << value;
     }
-    for (const char* value :
-         {"", "12:00:00", "2026-13-01 00:00:00", "2026-02-30 00:00:00", "2026-01-01 25:00:00",
-          "2026/01/01 12:00:00", "tomorrow"}) {
+    for (const char* value : {"", "12:00:00", "2026-13-01 00:00:00", "2026-02-30 00:00:00",
+                              "2026-01-01 25:00:00", "2026/01/01 12:00:00", "tomorrow"}) {
         EXPECT_NE(Refusal({"--robot", "a", "--now", value}), "accepted") << value;
     }
 }

@@ -129,9 +129,7 @@ TEST(Robot, TextsTellAChangeOnly) {
     RobotRun run("set Form8.Text1 \"あ b\"\nset Form8.Text1 あ b\nset Form8.Text1\n");
     run.windows.form8.Show();
     std::vector<Text> changes;
-    run.windows.form8.Text1.Change = [&] {
-        changes.push_back(run.windows.form8.Text1.Content());
-    };
+    run.windows.form8.Text1.Change = [&] { changes.push_back(run.windows.form8.Text1.Content()); };
     EXPECT_EQ(run.Play(), 0);
     EXPECT_EQ(changes, (std::vector<Text>{u"あ b", u""}));
 }
@@ -162,8 +160,7 @@ TEST(Robot, RowThatIsNotThereIsAFaultOfTheScript) {
 }
 
 TEST(Robot, MenuEntriesNeedThemselvesAndTheirMenusInReach) {
-    const std::string script =
-        "menu mnuOPEN\nmenu mnuKUFL 1\nmenu mnuKUFL(0)\n";
+    const std::string script = "menu mnuOPEN\nmenu mnuKUFL 1\nmenu mnuKUFL(0)\n";
     const auto play = [&](auto prepare) {
         RobotRun run(script);
         std::string chosen;
@@ -179,6 +176,36 @@ TEST(Robot, MenuEntriesNeedThemselvesAndTheirMenusInReach) {
     EXPECT_EQ(play([](model::Form1& form) { form.mnuKUFLHead.Visible = false; }), "o");
     EXPECT_EQ(play([](model::Form1& form) { form.mnuKUFL(1).Visible = false; }), "o0");
     EXPECT_EQ(play([](model::Form1& form) { form.Hide(); }), "");
+}
+
+TEST(Robot, ModalWindowTakesAllInput) {
+    RobotRun run(
+        "click Form1.Command1\nmenu mnuOPEN\nclick Form3\n+5 click Form9\nclick Form1.Command1\n");
+    model::Windows& windows = run.windows;
+    std::optional<model::Property<bool>> own;  // where windows have no such property themselves
+    model::PropertyBase* modal = windows.form3.FindProperty("Modal");
+    if (!modal) {
+        own.emplace(windows.form3, "Modal");
+        modal = &*own;
+    }
+    modal->Write(true);
+    std::string order;
+    windows.form9.Show();
+    windows.form9.Click = [&] { order += '9'; };
+    windows.form1.mnuOPEN.Click = [&] { order += 'o'; };
+    windows.form1.Command1.Click = [&] {
+        order += '(';
+        windows.form3.Show();
+        run.Loop().RunUntil([&] { return !windows.form3.Visible; });
+        order += ')';
+        windows.form1.Command1.Click = [&] { order += '1'; };
+    };
+    windows.form3.Click = [&] {
+        order += '3';
+        windows.form3.Unload();
+    };
+    EXPECT_EQ(run.Play(), 0);
+    EXPECT_EQ(order, "(3)91");
 }
 
 TEST(Robot, CloseIsTheFramesButtonAndMayBeRefused) {
@@ -201,8 +228,8 @@ TEST(Robot, PathsOfAPersonAreWhole) {
     run.windows.form1.FilesDropped = [&](const std::vector<Text>& paths) { dropped = paths; };
     run.windows.form1.Command1.Click = [&] { chosen = run.robot->Dialogs().ChooseFile({}); };
     EXPECT_EQ(run.Play(), 0);
-    EXPECT_EQ(dropped, (std::vector<Text>{here + u"/a.jpg", here + u"/b c.jpg", u"/d.jpg",
-                                          u"C:\\e.jpg"}));
+    EXPECT_EQ(dropped,
+              (std::vector<Text>{here + u"/a.jpg", here + u"/b c.jpg", u"/d.jpg", u"C:\\e.jpg"}));
     EXPECT_EQ(chosen, here + u"/x.kvs");
 }
 
@@ -232,7 +259,9 @@ TEST(Robot, PrintsJsonAndTracesIt) {
 }
 
 TEST(Robot, FailedExpectationIsToldAndTheRunGoesOn) {
-    RobotRun run("expect SlideIndex 0\nexpect SlideIndex 4\nexpect Form1.Caption パラ ピコ\nprint SlideIndex\n");
+    RobotRun run(
+        "expect SlideIndex 0\nexpect SlideIndex 4\nexpect Form1.Caption パラ ピコ\nprint "
+        "SlideIndex\n");
     run.windows.form1.Caption = u"題";
     EXPECT_EQ(run.Play(), 1);
     EXPECT_EQ(run.err.str(), run.Told(2, "expected SlideIndex 4, got 0") +

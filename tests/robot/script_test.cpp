@@ -99,13 +99,35 @@ TEST(Script, BadLinesAreRefusedWithTheirPlace) {
     EXPECT_EQ(Refusal("@1x quit"), "x.robot:1: this is no whole number: 1x");
     EXPECT_EQ(Refusal("@-5 quit"), "x.robot:1: a time cannot be below 0");
     EXPECT_EQ(Refusal("+99999999999 quit"), "x.robot:1: this is no whole number: 99999999999");
-    for (const char* line :
-         {"@100", "click", "click Form1.", "click .Command1", "click Form1 3", "click Form1 3 x",
-          "click Form1 1 2 3", "key Form1", "key Form1 esc", "menu", "menu mnuKUFL one",
-          "select Form3.List1", "select Form3 1", "set Form1 1", "drop Form1", "close",
-          "close Form1.Command1", "answer", "answer maybe", "answer yes no", "print", "print A B",
-          "expect SlideIndex", "shot", "shot a.png Form1.Command1", "quit now",
-          "drop Form1 \"open", "input \"bad \\q escape\"", "shot a \xFF"}) {
+    for (const char* line : {"@100",
+                             "click",
+                             "click Form1.",
+                             "click .Command1",
+                             "click Form1 3",
+                             "click Form1 3 x",
+                             "click Form1 1 2 3",
+                             "key Form1",
+                             "key Form1 esc",
+                             "menu",
+                             "menu mnuKUFL one",
+                             "select Form3.List1",
+                             "select Form3 1",
+                             "set Form1 1",
+                             "drop Form1",
+                             "close",
+                             "close Form1.Command1",
+                             "answer",
+                             "answer maybe",
+                             "answer yes no",
+                             "print",
+                             "print A B",
+                             "expect SlideIndex",
+                             "shot",
+                             "shot a.png Form1.Command1",
+                             "quit now",
+                             "drop Form1 \"open",
+                             "input \"bad \\q escape\"",
+                             "shot a \xFF"}) {
         EXPECT_TRUE(Refusal(line).starts_with("x.robot:1: ")) << line << ": " << Refusal(line);
     }
 }

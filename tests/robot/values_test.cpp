@@ -101,9 +101,15 @@ TEST_F(Values, WhatIsNotThereIsTold) {
 }
 
 TEST(ScriptJson, ReadsWhatItWrites) {
-    const std::vector<ScriptValue> values = {
-        1.0, -0.5, 1e20, true, false, Text(u""), Text(u"a\"\\\r\n\tあ𠮷\x01/"),
-        std::vector<Text>{}, std::vector<Text>{u"a,b", u"]", u""}};
+    const std::vector<ScriptValue> values = {1.0,
+                                             -0.5,
+                                             1e20,
+                                             true,
+                                             false,
+                                             Text(u""),
+                                             Text(u"a\"\\\r\n\tあ𠮷\x01/"),
+                                             std::vector<Text>{},
+                                             std::vector<Text>{u"a,b", u"]", u""}};
     for (const ScriptValue& value : values) {
         EXPECT_EQ(ParseJson(ToJson(value)), value) << ToJson(value);
     }
@@ -113,9 +119,11 @@ TEST(ScriptJson, ReadsWhatItWrites) {
 
 TEST(ScriptJson, OtherTextIsNone) {
     for (const char* text :
-         {"", "  ", "abc", "True", "truex", "+1", "007", ".5", "1.", "-", "1 2", "0x10", "nan",
-          "inf", "\"open", "\"a\"b", "\"\\q\"", "\"\\u12g4\"", "\"\\u12", "[", "[\"a\"",
-          "[\"a\",]", "[\"a\" \"b\"]", "[1]", "2026/01/01", "null", "{}"}) {
+         {"",           "  ",   "abc",    "True",     "truex",         "+1",
+          "007",        ".5",   "1.",     "-",        "1 2",           "0x10",
+          "nan",        "inf",  "\"open", "\"a\"b",   "\"\\q\"",       "\"\\u12g4\"",
+          "\"\\u12",    "[",    "[\"a\"", "[\"a\",]", "[\"a\" \"b\"]", "[1]",
+          "2026/01/01", "null", "{}"}) {
         EXPECT_EQ(ParseJson(text), std::nullopt) << text;
     }
 }

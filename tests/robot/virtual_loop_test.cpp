@@ -141,9 +141,18 @@ TEST(VirtualLoop, DueThingsRunInOrderOfTimeAndTimersBeforeActionsAtATie) {
     loop.Follow(&plan);
     std::string order;
     const int first = 0, second = 0, late = 0;
-    loop.SetTimer(&late, 70, [&] { order += 'l'; loop.CancelTimer(&late); });
-    loop.SetTimer(&second, 50, [&] { order += '2'; loop.CancelTimer(&second); });
-    loop.SetTimer(&first, 50, [&] { order += '1'; loop.CancelTimer(&first); });
+    loop.SetTimer(&late, 70, [&] {
+        order += 'l';
+        loop.CancelTimer(&late);
+    });
+    loop.SetTimer(&second, 50, [&] {
+        order += '2';
+        loop.CancelTimer(&second);
+    });
+    loop.SetTimer(&first, 50, [&] {
+        order += '1';
+        loop.CancelTimer(&first);
+    });
     plan.At(10, [&] { order += 'a'; });
     plan.At(50, [&] { order += 'b'; });
     plan.At(50, [&] { order += 'c'; });
@@ -168,7 +177,8 @@ TEST(VirtualLoop, TimersTickInsideTheWaitOfAnotherTimersHandlerButNotInTheirOwn)
     });
     loop.SetTimer(&quick, 60, [&] { order += 'q'; });
     loop.Sleep(100);
-    loop.PumpEvents();  // quick's first, then slow from 100 to 350; quick's next at 160, 220, 280, 340
+    loop.PumpEvents();  // quick's first, then slow from 100 to 350; quick's next at 160, 220, 280,
+                        // 340
     EXPECT_EQ(order, "q(qqqq)");
     EXPECT_EQ(loop.Milliseconds(), 350);
 }

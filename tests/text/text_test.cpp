@@ -28,8 +28,8 @@ TEST(Utf8, WritesTheKnownForms) {
 
 TEST(Utf8, ReplacesMalformedBytesOneByOne) {
     EXPECT_EQ(text::FromUtf8("a\x80z"), u"a\uFFFDz");
-    EXPECT_EQ(text::FromUtf8("\xE7\x94"), u"\uFFFD\uFFFD");          // cut off
-    EXPECT_EQ(text::FromUtf8("\xC0\xAF"), u"\uFFFD\uFFFD");          // longer than needed
+    EXPECT_EQ(text::FromUtf8("\xE7\x94"), u"\uFFFD\uFFFD");            // cut off
+    EXPECT_EQ(text::FromUtf8("\xC0\xAF"), u"\uFFFD\uFFFD");            // longer than needed
     EXPECT_EQ(text::FromUtf8("\xED\xA0\x80"), u"\uFFFD\uFFFD\uFFFD");  // a surrogate
     EXPECT_EQ(text::FromUtf8("\xF4\x90\x80\x80"), u"\uFFFD\uFFFD\uFFFD\uFFFD");
     EXPECT_FALSE(text::IsUtf8("\xF5"));
@@ -37,7 +37,9 @@ TEST(Utf8, ReplacesMalformedBytesOneByOne) {
 }
 
 TEST(Utf8, ReplacesALoneSurrogate) {
-    EXPECT_EQ(text::ToUtf8(Text{u'a', 0xD800, u'b'}), "a\xEF\xBF\xBD" "b");
+    EXPECT_EQ(text::ToUtf8(Text{u'a', 0xD800, u'b'}),
+              "a\xEF\xBF\xBD"
+              "b");
     EXPECT_EQ(text::ToUtf8(Text{0xDC00}), "\xEF\xBF\xBD");
 }
 

@@ -179,8 +179,7 @@ BitmapPtr PictureFile::Decode(Size size, int* depth) const {
             *depth = DepthOf(image);
         }
         BitmapPtr pixels = OverWhite(std::move(image));
-        const bool asAsked = pixels && pixels->width == size.width &&
-                             pixels->height == size.height;
+        const bool asAsked = pixels && pixels->width == size.width && pixels->height == size.height;
         return asAsked || !pixels ? pixels : Smooth(*pixels, size);
     } catch (const std::bad_alloc&) {
         return nullptr;

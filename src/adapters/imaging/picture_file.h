@@ -50,7 +50,7 @@ private:
     Kind kind_ = Kind::None;
     Identity identity_;
     platform::Size own_;
-    bool sideways_ = false;  // stored turned by a quarter
+    bool sideways_ = false;          // stored turned by a quarter
     int64_t scaledDecodeBytes_ = 0;  // working memory of a scaled decode beside its result
 };
 

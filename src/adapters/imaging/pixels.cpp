@@ -2,8 +2,8 @@
 
 #include <QImage>
 #include <algorithm>
-#include <vector>
 #include <utility>
+#include <vector>
 
 namespace imaging {
 
@@ -24,8 +24,8 @@ Pixel OverWhite(Pixel premultiplied) {
 
 /// The bitmap's own memory, seen as an image.
 QImage View(const Bitmap& bitmap) {
-    return QImage(reinterpret_cast<const uchar*>(bitmap.pixels.data()), bitmap.width,
-                  bitmap.height, static_cast<qsizetype>(bitmap.width) * 4, QImage::Format_RGB32);
+    return QImage(reinterpret_cast<const uchar*>(bitmap.pixels.data()), bitmap.width, bitmap.height,
+                  static_cast<qsizetype>(bitmap.width) * 4, QImage::Format_RGB32);
 }
 
 /// Brightness of a pixel, 0 to 255.

@@ -152,8 +152,7 @@ private:
                 return decoded;
             }
         }
-        const BitmapPtr base =
-            Covers(SizeOf(*state_.pixels), size) ? state_.pixels : Picture();
+        const BitmapPtr base = Covers(SizeOf(*state_.pixels), size) ? state_.pixels : Picture();
         return Guarded([&] { return twoLevels ? Nearest(*base, size) : Smooth(*base, size); });
     }
 

@@ -68,14 +68,22 @@ Kind SniffKind(std::string_view start) {
 
 const char* ReaderName(Kind kind) {
     switch (kind) {
-        case Kind::Png: return "png";
-        case Kind::Jpeg: return "jpeg";
-        case Kind::Bmp: return "bmp";
-        case Kind::Tiff: return "tiff";
-        case Kind::Gif: return "gif";
-        case Kind::WebP: return "webp";
-        case Kind::Svg: return "svg";
-        case Kind::None: break;
+        case Kind::Png:
+            return "png";
+        case Kind::Jpeg:
+            return "jpeg";
+        case Kind::Bmp:
+            return "bmp";
+        case Kind::Tiff:
+            return "tiff";
+        case Kind::Gif:
+            return "gif";
+        case Kind::WebP:
+            return "webp";
+        case Kind::Svg:
+            return "svg";
+        case Kind::None:
+            break;
     }
     return "";
 }

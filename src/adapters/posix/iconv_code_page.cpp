@@ -50,7 +50,7 @@ private:
 }  // namespace
 
 struct IconvCodePage::Tables {
-    std::array<char16_t, 256> single{};               // 0: no character of one byte
+    std::array<char16_t, 256> single{};                             // 0: no character of one byte
     std::vector<char16_t> twin = std::vector<char16_t>(kAll16Bit);  // by lead × 256 + trail
     std::vector<uint16_t> encoded = std::vector<uint16_t>(kAll16Bit);  // 0: none but U+0000
 
@@ -59,9 +59,7 @@ struct IconvCodePage::Tables {
         FillEncoding();
     }
 
-    char16_t Decoded(uint16_t code) const {
-        return code < 0x100 ? single[code] : twin[code];
-    }
+    char16_t Decoded(uint16_t code) const { return code < 0x100 ? single[code] : twin[code]; }
 
 private:
     void FillDecoding() {

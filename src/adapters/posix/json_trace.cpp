@@ -39,8 +39,8 @@ public:
 
     void Event(std::string_view event,
                std::initializer_list<platform::TraceField> fields) override {
-        std::string line = "{\"t\":" + JsonNumber(milliseconds_()) + ",\"event\":" +
-                           JsonUtf8(event);
+        std::string line =
+            "{\"t\":" + JsonNumber(milliseconds_()) + ",\"event\":" + JsonUtf8(event);
         for (const platform::TraceField& field : fields) {
             line += "," + JsonUtf8(field.name) + ":" + std::visit(ValueWriter{}, field.value);
         }

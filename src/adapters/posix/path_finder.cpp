@@ -23,9 +23,9 @@ struct CaseRange {
     char16_t first, last, distance;
 };
 constexpr CaseRange kCaseRanges[] = {
-    {u'A', u'Z', 0x20},       {0x00C0, 0x00D6, 0x20}, {0x00D8, 0x00DE, 0x20},
-    {0x0391, 0x03A1, 0x20},   {0x03A3, 0x03A9, 0x20}, {0x0400, 0x040F, 0x50},
-    {0x0410, 0x042F, 0x20},   {0x2160, 0x216F, 0x10}, {0xFF21, 0xFF3A, 0x20},
+    {u'A', u'Z', 0x20},     {0x00C0, 0x00D6, 0x20}, {0x00D8, 0x00DE, 0x20},
+    {0x0391, 0x03A1, 0x20}, {0x03A3, 0x03A9, 0x20}, {0x0400, 0x040F, 0x50},
+    {0x0410, 0x042F, 0x20}, {0x2160, 0x216F, 0x10}, {0xFF21, 0xFF3A, 0x20},
 };
 
 struct FolderCloser {
@@ -222,8 +222,8 @@ const PathFinder::Listing* PathFinder::List(const std::string& folder, const Tex
     const auto known = listings_.find(folder);
     if (known != listings_.end() && Same(known->second.changed, status.st_mtim)) {
         const auto name = known->second.names.find(wanted);
-        const bool holds = name != known->second.names.end() &&
-                           Exists(Joined(folder, name->second));
+        const bool holds =
+            name != known->second.names.end() && Exists(Joined(folder, name->second));
         if (holds || known->second.settled) {
             return &known->second;
         }

@@ -126,8 +126,8 @@ std::string ProgramFolder(const std::string& given) {
     }
     // A relative $XDG_DATA_HOME does not count.
     const std::string data = Environment("XDG_DATA_HOME");
-    const fs::path base = data.starts_with('/') ? fs::path(data)
-                                                : fs::path(HomeFolder()) / ".local/share";
+    const fs::path base =
+        data.starts_with('/') ? fs::path(data) : fs::path(HomeFolder()) / ".local/share";
     return WithSlash(base / "parapico");
 }
 
@@ -157,8 +157,8 @@ bool PosixSystem::PreviousInstance() {
         AppFolder();
         lock_ = OpenLock(programFolder_ + ".parapico.lock");
     }
-    const bool held = lock_.Valid() && flock(lock_.Get(), LOCK_EX | LOCK_NB) != 0 &&
-                      errno == EWOULDBLOCK;
+    const bool held =
+        lock_.Valid() && flock(lock_.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
     if (held) {
         lock_.Close();
     }

@@ -43,8 +43,8 @@ Descriptor MakeTemporary(const std::string& folder, std::string& path) {
     static std::atomic<unsigned> counter{0};
     constexpr int kMostTries = 1000;
     for (int i = 0; i < kMostTries; ++i) {
-        path = folder + ".parapico-" + std::to_string(getpid()) + "-" +
-               std::to_string(counter++) + ".tmp";
+        path = folder + ".parapico-" + std::to_string(getpid()) + "-" + std::to_string(counter++) +
+               ".tmp";
         Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
         if (file.Valid() || errno != EEXIST) {
             return file;

@@ -5,6 +5,7 @@
 #include <QLibraryInfo>
 #include <QPixmap>
 #include <QTranslator>
+#include <cstdio>
 
 #include "adapters/qt/form_loader.h"
 #include "adapters/qt/gate.h"
@@ -20,12 +21,21 @@ namespace {
 
 constexpr double kSmallestFontPoints = 10;
 
+/// The platform without a display tells of every window what it cannot do with it.
+void DropPlatformChatter(QtMsgType type, const QMessageLogContext& context,
+                         const QString& message) {
+    if (!message.startsWith("This plugin does not support")) {
+        std::fputs(qUtf8Printable(qFormatLogMessage(type, context, message) + '\n'), stderr);
+    }
+}
+
 std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv, bool offscreen) {
     if (QCoreApplication::instance()) {
         return nullptr;
     }
     if (offscreen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(DropPlatformChatter);
     }
     return std::make_unique<QApplication>(argc, argv);
 }

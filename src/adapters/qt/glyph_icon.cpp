@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QPixmap>
 #include <algorithm>
+#include <functional>
 
 namespace qt_adapter {
 
@@ -133,16 +134,15 @@ constexpr Glyph kGlyphs[] = {
     {"calendar", Calendar},
 };
 
+/// Answers the colour to draw with, enabled or not.
+using Ink = std::function<QColor(bool enabled)>;
+
 class GlyphEngine : public QIconEngine {
 public:
-    GlyphEngine(QPainterPath shape, QPalette::ColorRole role) : shape_(shape), role_(role) {}
+    GlyphEngine(QPainterPath shape, Ink ink) : shape_(std::move(shape)), ink_(std::move(ink)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        // Asked for at every paint, as the palette may change while the program runs.
-        const QPalette palette = QGuiApplication::palette();
-        const QColor color = mode == QIcon::Disabled
-                                 ? palette.color(QPalette::Disabled, QPalette::ButtonText)
-                                 : palette.color(QPalette::Active, role_);
+        const QColor color = ink_(mode != QIcon::Disabled);
         const double side = std::min(rect.width(), rect.height());
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
@@ -165,18 +165,31 @@ public:
 
 private:
     QPainterPath shape_;
-    QPalette::ColorRole role_;
+    Ink ink_;
 };
+
+QIcon MakeIcon(const QString& name, Ink ink) {
+    for (const Glyph& glyph : kGlyphs) {
+        if (name == QLatin1String(glyph.name)) {
+            return QIcon(new GlyphEngine(glyph.shape(), std::move(ink)));
+        }
+    }
+    return {};
+}
 
 }  // namespace
 
 QIcon GlyphIcon(const QString& name, QPalette::ColorRole role) {
-    for (const Glyph& glyph : kGlyphs) {
-        if (name == QLatin1String(glyph.name)) {
-            return QIcon(new GlyphEngine(glyph.shape(), role));
-        }
-    }
-    return {};
+    return MakeIcon(name, [role](bool enabled) {
+        // Asked for at every paint, as the palette may change while the program runs.
+        const QPalette palette = QGuiApplication::palette();
+        return enabled ? palette.color(QPalette::Active, role)
+                       : palette.color(QPalette::Disabled, QPalette::ButtonText);
+    });
+}
+
+QIcon GlyphIcon(const QString& name, const QColor& color) {
+    return MakeIcon(name, [color](bool) { return color; });
 }
 
 }  // namespace qt_adapter

@@ -1,6 +1,7 @@
 // Icons drawn from shapes in the palette's own colours, so that they follow light and dark.
 #pragma once
 
+#include <QColor>
 #include <QIcon>
 #include <QPalette>
 #include <QString>
@@ -10,5 +11,8 @@ namespace qt_adapter {
 /// Icon of a named shape: play, pause, stop, previous, next, fullscreen, close, slides, sound,
 /// calendar. Empty for another name. Enabled it has the colour of `role`.
 QIcon GlyphIcon(const QString& name, QPalette::ColorRole role = QPalette::ButtonText);
+
+/// The same in a colour of its own.
+QIcon GlyphIcon(const QString& name, const QColor& color);
 
 }  // namespace qt_adapter

@@ -24,6 +24,8 @@ namespace qt_adapter {
 
 namespace {
 
+constexpr QRgb kShapeOnStage = 0xFF5F6368;  // grey that is seen on black without shouting
+
 enum WindowStates : int { kNormal = 0, kMinimised = 1, kMaximised = 2 };
 
 QStringList Words(const QObject& object, const char* property) {
@@ -108,6 +110,8 @@ void WindowView::PropertyChanged(model::Control& control, model::PropertyBase& p
     } else if (&property == &window_.Enabled) {
         root_->setEnabled(window_.Enabled);
     }
+    // Showing or sizing may have run a handler on the spot, under a loop that is not ours.
+    gate_.Check();
 }
 
 void WindowView::Build() {
@@ -221,6 +225,11 @@ void WindowView::DecorateWidgets() {
                                                                     : QPalette::ButtonText);
             if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
                 button->setIcon(icon);
+            } else if (auto* label = qobject_cast<QLabel*>(widget)) {
+                // Drawn once: a label's shape is on ground that is the same in light and dark.
+                const int side = label->property("glyphSize").toInt();
+                label->setPixmap(GlyphIcon(glyph, QColor(kShapeOnStage))
+                                     .pixmap(QSize(side, side), label->devicePixelRatioF()));
             }
         }
         const QStringList terms = Words(*widget, "showWhile");
@@ -289,6 +298,9 @@ void WindowView::FollowVisible() {
     root_->raise();
     if (!root_->testAttribute(Qt::WA_ShowWithoutActivating)) {
         root_->activateWindow();
+        if (host_ && !root_->focusWidget()) {
+            host_->setFocus();
+        }
     }
 }
 

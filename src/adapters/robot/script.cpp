@@ -14,7 +14,9 @@ struct BadLine {
     std::string reason;
 };
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r';
+}
 
 std::string_view Trimmed(std::string_view line) {
     while (!line.empty() && IsBlank(line.front())) {
@@ -195,7 +197,9 @@ void ReadOptionalText(Arguments& from, Action& action) {
     }
 }
 
-void ReadPrint(Arguments& from, Action& action) { action.name = from.Plain("name"); }
+void ReadPrint(Arguments& from, Action& action) {
+    action.name = from.Plain("name");
+}
 
 void ReadExpect(Arguments& from, Action& action) {
     action.name = from.Plain("name");

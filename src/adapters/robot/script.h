@@ -18,8 +18,22 @@ public:
 };
 
 enum class ActionKind {
-    Click, DoubleClick, RightClick, Key, Menu, Select, Set, Drop, Close,
-    Answer, Input, Choose, Print, Expect, Shot, Quit
+    Click,
+    DoubleClick,
+    RightClick,
+    Key,
+    Menu,
+    Select,
+    Set,
+    Drop,
+    Close,
+    Answer,
+    Input,
+    Choose,
+    Print,
+    Expect,
+    Shot,
+    Quit
 };
 
 /// When an action is due, counted in virtual milliseconds.
@@ -40,9 +54,9 @@ struct Action {
     std::string window;   // of Click .. Close but Menu; of Shot where one is named
     std::string control;  // empty: the window itself
     std::string name;     // of Print and Expect; Menu: the entry, with "(index)" where it has one
-    std::vector<int> numbers;         // point, key code, rows
-    std::optional<Text> text;         // Set, Input, Choose (none: cancel), Answer, Expect, Shot
-    std::vector<Text> paths;          // Drop
+    std::vector<int> numbers;  // point, key code, rows
+    std::optional<Text> text;  // Set, Input, Choose (none: cancel), Answer, Expect, Shot
+    std::vector<Text> paths;   // Drop
 };
 
 /// Reads a whole script in UTF-8. Throws ScriptError at the first line that is none.

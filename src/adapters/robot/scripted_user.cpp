@@ -16,8 +16,8 @@ constexpr int kExitBadScript = 2;
 /// A person's file dialog and file manager give whole paths. Drive letters and share names are
 /// whole already.
 Text Absolute(const Text& path) {
-    const bool whole = path.starts_with(u'/') || path.starts_with(u'\\') ||
-                       (path.size() > 1 && path[1] == u':');
+    const bool whole =
+        path.starts_with(u'/') || path.starts_with(u'\\') || (path.size() > 1 && path[1] == u':');
     if (whole || path.empty()) {
         return path;
     }
@@ -201,8 +201,8 @@ void ScriptedUser::Check(const Action& action) {
 }
 
 void ScriptedUser::CheckMenuEntry(const Action& action) {
-    const auto* entry = dynamic_cast<const model::MenuEntry*>(
-        application_->windows.form1.FindControl(action.name));
+    const auto* entry =
+        dynamic_cast<const model::MenuEntry*>(application_->windows.form1.FindControl(action.name));
     if (!entry) {
         throw ScriptError(Place(action) + "no such menu entry: " + action.name);
     }

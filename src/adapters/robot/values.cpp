@@ -270,8 +270,8 @@ std::optional<ScriptValue> ReadByName(model::Application& application, std::stri
 }
 
 decltype(platform::TraceField::value) ToTraceValue(const ScriptValue& value) {
-    return std::visit(
-        [](const auto& held) { return decltype(platform::TraceField::value)(held); }, value);
+    return std::visit([](const auto& held) { return decltype(platform::TraceField::value)(held); },
+                      value);
 }
 
 std::string ToJson(const ScriptValue& value) {
@@ -290,7 +290,9 @@ std::string ToJson(const ScriptValue& value) {
     return std::visit(Writer{}, value);
 }
 
-std::optional<ScriptValue> ParseJson(std::string_view json) { return JsonReader(json).Whole(); }
+std::optional<ScriptValue> ParseJson(std::string_view json) {
+    return JsonReader(json).Whole();
+}
 
 bool Matches(const ScriptValue& value, TextView expected) {
     if (ParseJson(text::ToUtf8(expected)) == value) {

@@ -42,8 +42,7 @@ void WindowTracer::PropertyChanged(model::Control& control, model::PropertyBase&
 }
 
 void WindowTracer::Tell(const model::Window& window, TextView state) {
-    trace_.Event("window",
-                 {{"name", text::FromUtf8(window.Name())}, {"state", Text(state)}});
+    trace_.Event("window", {{"name", text::FromUtf8(window.Name())}, {"state", Text(state)}});
 }
 
 }  // namespace robot

@@ -1,0 +1,141 @@
+// A million slide steps on the virtual clock: a show of a few slides repeats in the main window,
+// every step by a tick of the slide timer. The process must not grow.
+#include <malloc.h>
+
+#include <chrono>
+#include <cstdio>
+#include <memory>
+
+#include "adapters/posix/iconv_code_page.h"
+#include "adapters/robot/devices.h"
+#include "adapters/robot/robot_dialogs.h"
+#include "adapters/robot/virtual_loop.h"
+#include "app/timers.h"
+#include "playback/transport.h"
+#include "text/paths.h"
+
+namespace {
+
+constexpr int kSteps = 1'000'000;
+constexpr int kWarmUp = 10'000;
+constexpr int kSlides = 12;
+constexpr double kAllowedGrowthBytes = 64 * 1024;
+
+/// Every file is there and nobody writes.
+class AnyFiles : public platform::Files {
+public:
+    std::optional<std::string> Find(TextView path) override { return text::ToUtf8(path); }
+    std::string NativeTarget(TextView path) override { return text::ToUtf8(path); }
+    Text Dir(TextView path) override { return text::BareName(path); }
+    bool Exists(TextView) override { return true; }
+    bool Read(TextView, std::string&, platform::FileError&, size_t) override { return false; }
+    bool Write(TextView, std::string_view, platform::FileError&) override { return false; }
+    int Readable(TextView) override { return 1; }
+    std::optional<platform::DateTime> LastWrite(TextView) override {
+        return platform::DateTime{1};
+    }
+};
+
+/// Holds a picture of 1600 × 900 and scales by handing out a new one.
+class PlainControl : public platform::ImagingControl {
+public:
+    bool ReadInformation(TextView) override { return true; }
+    bool Load(TextView, const platform::FitFunction& fit) override {
+        size_ = {1600, 900};
+        fit(size_);
+        return true;
+    }
+    bool Holds() const override { return !size_.Empty(); }
+    platform::Size HeldSize() const override { return size_; }
+    int BitsPerPixel() const override { return 24; }
+    void SetColorResolution(int, int, int, int) override {}
+    void Resize(int width, int height, int) override { size_ = {width, height}; }
+    platform::BitmapPtr Picture() override {
+        return std::make_shared<platform::Bitmap>(size_.width / 8, size_.height / 8);
+    }
+    void CopyFrom(const platform::ImagingControl& other) override { size_ = other.HeldSize(); }
+    void Clear() override { size_ = {}; }
+
+private:
+    platform::Size size_;
+};
+
+class PlainImaging : public platform::Imaging {
+public:
+    Text VersionText() const override { return u"1997"; }
+    std::unique_ptr<platform::ImagingControl> MakeControl() override {
+        return std::make_unique<PlainControl>();
+    }
+};
+
+class NoText : public platform::TextRenderer {
+public:
+    Extent Measure(const platform::Font&, TextView) override { return {}; }
+    void Draw(platform::Canvas&, int, int, const platform::Font&, platform::Color,
+              TextView) override {}
+};
+
+class NoSystem : public platform::System {
+public:
+    Text AppFolder() override { return u"/app/"; }
+    bool PreviousInstance() override { return false; }
+};
+
+/// Counts the slides that came up.
+class SlideCount : public platform::Trace {
+public:
+    int slides = 0;
+    void Event(std::string_view event, std::initializer_list<platform::TraceField>) override {
+        slides += event == "slide" ? 1 : 0;
+    }
+};
+
+void FillList(Application& app) {
+    for (int i = 1; i <= kSlides; ++i) {
+        const Text path = u"/show/" + text::FromUtf8(std::to_string(i)) + u".jpg";
+        app.windows.form3.List1.AddItem(path);
+        app.windows.form3.List2.AddItem(model::BlankScheduleRow());
+        app.state.SlideList.Set(i, path);
+    }
+    app.state.SlideListEnd = kSlides + 1;
+}
+
+double HeapBytes() { return static_cast<double>(mallinfo2().uordblks); }
+
+}  // namespace
+
+int main() {
+    SlideCount trace;
+    robot::VirtualLoop loop(platform::FromCalendar({2026, 1, 1, 12, 0, 0}));
+    AnyFiles files;
+    robot::RobotDialogs dialogs(trace);
+    robot::RobotMonitors monitors({});
+    PlainImaging imaging;
+    NoText text;
+    robot::RobotSound sound(trace);
+    NoSystem system;
+    posix_adapter::IconvCodePage codePage;
+    Application app({loop, files, dialogs, monitors, imaging, text, sound, system, trace,
+                     codePage});
+    app.windows.form4.Lead1.imaging = imaging.MakeControl();
+    app.windows.form4.Lead2.imaging = imaging.MakeControl();
+    model::SetStartDefaults(app.state);
+    FillList(app);
+    app::TimerRunner timers(app);
+    playback::AttachTransport(app);
+    playback::SetButtons(app, playback::Buttons::Idle);
+    app.windows.form1.Command1.Click();
+
+    const auto runTo = [&](int steps) { loop.RunUntil([&] { return trace.slides >= steps; }); };
+    runTo(kWarmUp);
+    const double before = HeapBytes();
+    const auto start = std::chrono::steady_clock::now();
+    runTo(kSteps);
+    const double seconds =
+        std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    const double growth = HeapBytes() - before;
+    std::printf("%d steps in %.1f s (%.1f us a step), heap grew by %.0f bytes\n",
+                trace.slides - kWarmUp, seconds, seconds * 1e6 / (kSteps - kWarmUp), growth);
+    std::printf("budget heap-growth-of-a-million-steps %.3f 1\n", growth / kAllowedGrowthBytes);
+    return 0;
+}
