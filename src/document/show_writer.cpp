@@ -57,9 +57,9 @@ void ShowWriter::WriteSoundAndEffects() {
     lines_.Number(state_.SoundMode == 8 ? 7 : state_.SoundMode);
     Path(state_.DefaultEffectSound);
     Path(state_.WavFile);
-    for (int16_t value : {state_.ShowEffect, state_.ShowEffectSpeed, state_.EraseEffect,
-                          state_.EraseEffectSpeed, state_.ShowSlitCount, state_.EraseSlitCount,
-                          state_.CdRepeatFlag}) {
+    for (int16_t value :
+         {state_.ShowEffect, state_.ShowEffectSpeed, state_.EraseEffect, state_.EraseEffectSpeed,
+          state_.ShowSlitCount, state_.EraseSlitCount, state_.CdRepeatFlag}) {
         lines_.Number(value);
     }
     lines_.Line(state_.CdTrackSetting);
@@ -67,8 +67,8 @@ void ShowWriter::WriteSoundAndEffects() {
         lines_.Number(value);
     }
     Path(state_.MidiFile);
-    for (int16_t value : {state_.SoundSyncFlag, state_.LinkedSoundPosition, state_.RandomFlag,
-                          state_.CdOrder}) {
+    for (int16_t value :
+         {state_.SoundSyncFlag, state_.LinkedSoundPosition, state_.RandomFlag, state_.CdOrder}) {
         lines_.Number(value);
     }
     lines_.Number(distribution_ ? 0 : state_.LinkedFolderFlag);

@@ -84,9 +84,8 @@ void WriteSoundListFile(Application& app) {
         writer.Line(state.SoundList(i));
     }
     platform::FileError error;
-    if (!app.platform.files.Write(SoundListPath(app),
-                                  text::EncodeFile(writer.Content(), app.platform.codePage),
-                                  error)) {
+    if (!app.platform.files.Write(
+            SoundListPath(app), text::EncodeFile(writer.Content(), app.platform.codePage), error)) {
         app.platform.dialogs.Message(error.message, platform::kPlain, u"");
     }
 }

@@ -31,9 +31,7 @@ FitRule CurrentRule(Application& app, bool fullScreen, double randomFactor) {
 /// The number is drawn only where the rule asks for it, so that settings without chance leave the
 /// random sequence alone.
 double DrawFactor(Application& app, bool fullScreen) {
-    const bool asks =
-        fullScreen && app.state.OverlaySize == 5 && !(app.state.PictureScale > 0);
-    return asks ? app.platform.loop.Rnd() : 0.0;
+    return fullScreen && app.state.OverlaySize == 5 ? app.platform.loop.Rnd() : 0.0;
 }
 
 void FitIntoHolder(Application& app, bool fullScreen) {

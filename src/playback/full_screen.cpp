@@ -1,5 +1,7 @@
 #include "playback/full_screen.h"
 
+#include <algorithm>
+
 #include "macro/macro.h"
 #include "picture/effects.h"
 #include "picture/load.h"
@@ -247,7 +249,8 @@ void TakeResumeIndex(Application& app) {
     if (state.StartOption != 1) {
         return;
     }
-    state.SlideIndex = state.ResumeIndex;
+    // A first slide that left the list leaves -1 behind.
+    state.SlideIndex = std::max<int16_t>(0, state.ResumeIndex);
     if (state.SlideList(state.SlideIndex + 1).empty() && state.SlideIndex > 0) {
         state.SlideIndex = 0;
     }

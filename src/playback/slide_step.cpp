@@ -1,5 +1,7 @@
 #include "playback/slide_step.h"
 
+#include <algorithm>
+
 #include "document/linked_names.h"
 #include "macro/macro.h"
 #include "picture/effects.h"
@@ -10,6 +12,7 @@
 #include "playback/schedule.h"
 #include "playback/step_sound.h"
 #include "text/numbers.h"
+#include "text/paths.h"
 
 namespace playback {
 
@@ -51,6 +54,7 @@ Next WaitForTelop(Application& app) {
     if (state.MacroJumpChosen == 1 && state.TelopRunning == 1) {
         CancelTelop(app);
     }
+    const WaitMark mark(state);
     while (state.TelopRunning == 1) {
         app.platform.loop.PumpEvents();
         app.platform.loop.Sleep(kTelopPollMs);
@@ -72,7 +76,8 @@ void DrawRandomSlide(Application& app) {
     }
     const int count = app.windows.form3.List1.ListCount();
     const double place = text::RoundHalfEven(app.platform.loop.Rnd() * count + 0.5);
-    state.SlideIndex = static_cast<int16_t>(place < 1 ? 1 : place);
+    // A draw next to 1 can round up beyond a list of odd length.
+    state.SlideIndex = static_cast<int16_t>(std::clamp(place, 1.0, std::max(1.0, double(count))));
 }
 
 void EndVideoByUser(Application& app) {
@@ -90,7 +95,6 @@ void EndVideoByUser(Application& app) {
     } else {
         state.ShowAbort = 1;
     }
-    windows.SetPointer(model::kPointerNormal);
 }
 
 /// StepBusy stays 1 until the next step ends: this holds back PAUSE for the short tick.
@@ -105,7 +109,7 @@ Next ShowVideo(Application& app) {
         windows.form1.Timer1.Interval = kMissingVideoTickMs;
         return Next::Leave;
     }
-    state.CurrentName = app.platform.files.Dir(path);
+    state.CurrentName = text::BareName(path);
     windows.slidescreen2.Caption = state.CurrentName;
     windows.form1.Caption = state.CurrentName;
     StartSoundBesideVideo(app);
@@ -115,6 +119,7 @@ Next ShowVideo(Application& app) {
     if (state.VideoStoppedByUser == 1 && state.MacroWaitClick != 1) {
         EndVideoByUser(app);
     }
+    windows.SetPointer(model::kPointerNormal);
     windows.form1.Timer1.Interval = kAfterVideoTickMs;
     return Next::Leave;
 }
@@ -190,13 +195,13 @@ Next ShowPicture(Application& app) {
     CopyCanvasForMacros(app);
     if (state.LinkedSoundPosition == 1) {
         macro::RunTextMacro(app);
-        if (state.StopRequest == 1) {
-            app.windows.SetPointer(model::kPointerNormal);
-            return Next::End;
-        }
-        if (state.MacroEndShow == 1) {
-            return Next::End;
-        }
+    }
+    if (state.StopRequest == 1) {
+        app.windows.SetPointer(model::kPointerNormal);
+        return Next::End;
+    }
+    if (state.MacroEndShow == 1) {
+        return Next::End;
     }
     StartLinkedSounds(app);
     if (state.LinkedSoundPosition == 0) {

@@ -116,6 +116,7 @@ bool WaitForLinkedSound(Application& app) {
         !RunsForward(app) || !modeWaits) {
         return true;
     }
+    const WaitMark mark(state);
     for (bool playing = true; playing;) {
         playing = Reports(
             app, PlaysSecondChannel(state) ? u"status wav_ren mode" : u"status wav mode",
@@ -145,7 +146,8 @@ bool FadeBeforeLinkedMedia(Application& app, bool isVideo) {
         int volume = kFullVolume - state.Mp3VolumeOffset;
         while (volume >= 0 && state.SoundOpen == 1) {
             volume -= kFadeStep;
-            app.platform.sound.MciSendString(VolumeCommand(state.SoundMode) + text::Str(volume));
+            app.platform.sound.MciSendString(VolumeCommand(state.SoundMode) + u" " +
+                                             text::Trim(text::Str(volume)));
             app.platform.loop.Sleep(kFadePollMs);
             app.platform.loop.PumpEvents();
             if (state.StopRequest == 1 || state.FullScreenClosed == 1) {
@@ -163,9 +165,9 @@ void StartSoundBesideVideo(Application& app) {
                      (state.SoundMode == 8 && state.Mp3LinkedWavFlag == 1);
     if (wav || state.SoundMode == 9) {
         const Text path = LinkedToSlide(app, wav ? u"wav" : u"mp3");
+        (wav ? state.LinkedWavPath : state.LinkedMediaPath) = path;
         if (app.platform.files.Exists(path)) {
             sound::StopSound(app);
-            (wav ? state.LinkedWavPath : state.LinkedMediaPath) = path;
             sound::StartSound(app);
         }
     } else if (state.SoundMode == 6 || state.SoundMode == 8) {

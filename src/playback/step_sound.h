@@ -15,6 +15,18 @@ bool PlaysPerPicture(const model::ShowState& state);
 /// A linked WAV plays on top of the background piece (modes 4, 6, 8 with their flags).
 bool PlaysSecondChannel(const model::ShowState& state);
 
+/// While it lives the step waits for a sound or a text and takes a PAUSE.
+class WaitMark {
+public:
+    explicit WaitMark(model::ShowState& state) : state_(state) { state_.StepWaiting = 1; }
+    ~WaitMark() { state_.StepWaiting = 0; }
+    WaitMark(const WaitMark&) = delete;
+    WaitMark& operator=(const WaitMark&) = delete;
+
+private:
+    model::ShowState& state_;
+};
+
 /// Waits until a linked sound has ended. False when the show was paused meanwhile.
 bool WaitForLinkedSound(Application& app);
 

@@ -144,7 +144,7 @@ void StepByHand(Application& app, Next next) {
 void ChooseJump(Application& app, int entry) {
     model::ShowState& state = app.state;
     const int target = state.MenuJump[static_cast<size_t>(entry)] + state.SlideIndex - 1;
-    state.SlideIndex = static_cast<int16_t>(std::max(0, target));
+    state.SlideIndex = static_cast<int16_t>(std::clamp(target, 0, 32767));
     state.MacroButtonsShown = 0;
     state.MacroDelayWaiting = 0;
     state.MacroJumpChosen = 1;
@@ -270,8 +270,8 @@ void Command1_Click(Application& app) {
 void Command2_Click(Application& app) {
     model::ShowState& state = app.state;
     model::Form1& form1 = app.windows.form1;
-    if (state.MacroWaitClick == 1 || app.windows.Pointer() != model::kPointerNormal ||
-        state.StepBusy == 1) {
+    const bool busy = state.StepBusy == 1 && state.StepWaiting != 1;
+    if (state.MacroWaitClick == 1 || app.windows.Pointer() != model::kPointerNormal || busy) {
         return;
     }
     HideVideoPlaceholders(app);

@@ -225,9 +225,8 @@ TEST(LinkDocument, ReadsItsEntries) {
 }
 
 TEST(LinkDocument, RefusesOtherTagsAndBrokenFiles) {
-    for (const char16_t* content :
-         {u"", u"21vue3167893\r\nx\r\n0\r\n", u"WAV3.4\r\n", u"vue2\r\nx\r\n3\r\nC:\\a.kvs\r\n",
-          u"vue3\r\nx\r\nmany\r\n"}) {
+    for (const char16_t* content : {u"", u"21vue3167893\r\nx\r\n0\r\n", u"WAV3.4\r\n",
+                                    u"vue2\r\nx\r\n3\r\nC:\\a.kvs\r\n", u"vue3\r\nx\r\nmany\r\n"}) {
         LinkProgram program;
         program.ReadLinks(content);
         ASSERT_EQ(program.dialogs.messages.size(), 1u) << text::ToUtf8(content);

@@ -178,7 +178,7 @@ TEST(ShowReader, RefusesAFileThatEndsBeforeItsSlides) {
 
 TEST(ShowReader, EndRightAfterTheSlidesConvertsTheOldSpeeds) {
     struct Case {
-        const char16_t *old;
+        const char16_t* old;
         int converted;
     };
     // old + 6 - floor(old × 0.7), at most 10
@@ -210,16 +210,16 @@ struct TagCase {
 
 TEST(ShowReader, TakesTheBlocksThatTheTagNames) {
     const std::vector<TagCase> cases{
-        {u"vue2", true, 6},          {u"vue3", true, 15},          {u"vue31", true, 17},
-        {u"vue316", true, 18},       {u"vue3167", true, 20},       {u"vue31678", true, 25},
-        {u"1vue2", true, 6},         {u"1vue3", true, 15},         {u"1vue31", true, 17},
-        {u"1vue316", true, 18},      {u"1vue3167", true, 20},      {u"1vue31678", true, 25},
-        {u"21vue31678", true, 25},   {u"21vue316789", true, 25},   {u"21vue3167893", true, 25},
-        {u"vue3167893", true, 25},   {u"1vue316789", true, 25},    {u"vue32", true, 15},
-        {u"vue", false, 0},          {u"vue1", false, 0},          {u"vue22", false, 0},
-        {u"21vue31", false, 0},      {u"21vue2", false, 0},        {u"", false, 0},
-        {u"1vue", false, 0},         {u"21vue31678930", false, 0}, {u"Vue3", false, 0},
-        {u" vue3167", true, 20},     {u"xvue2", true, 6},          {u"KVSV3", false, 0},
+        {u"vue2", true, 6},        {u"vue3", true, 15},          {u"vue31", true, 17},
+        {u"vue316", true, 18},     {u"vue3167", true, 20},       {u"vue31678", true, 25},
+        {u"1vue2", true, 6},       {u"1vue3", true, 15},         {u"1vue31", true, 17},
+        {u"1vue316", true, 18},    {u"1vue3167", true, 20},      {u"1vue31678", true, 25},
+        {u"21vue31678", true, 25}, {u"21vue316789", true, 25},   {u"21vue3167893", true, 25},
+        {u"vue3167893", true, 25}, {u"1vue316789", true, 25},    {u"vue32", true, 15},
+        {u"vue", false, 0},        {u"vue1", false, 0},          {u"vue22", false, 0},
+        {u"21vue31", false, 0},    {u"21vue2", false, 0},        {u"", false, 0},
+        {u"1vue", false, 0},       {u"21vue31678930", false, 0}, {u"Vue3", false, 0},
+        {u" vue3167", true, 20},   {u"xvue2", true, 6},          {u"KVSV3", false, 0},
     };
     for (const TagCase& c : cases) {
         SCOPED_TRACE(text::ToUtf8(c.tag));
@@ -261,12 +261,11 @@ TEST(ShowReader, OldSoundModesBecomeNone) {
         const char16_t *tag, *mode;
         int lastEarlyLine, expected;
     };
-    for (const Case& c :
-         {Case{u"21vue31678", u" 6 ", 25, 7}, Case{u"21vue316789", u" 6 ", 25, 6},
-          Case{u"21vue3167893", u" 6 ", 25, 6}, Case{u"1vue316789", u" 6 ", 25, 7},
-          Case{u"1vue316", u" 4 ", 18, 7}, Case{u"1vue3167", u" 4 ", 20, 4},
-          Case{u"1vue3", u" 3 ", 15, 3}, Case{u"vue2", u" 0 ", 6, 7},
-          Case{u"21vue3167893", u" 4 ", 25, 4}}) {
+    for (const Case& c : {Case{u"21vue31678", u" 6 ", 25, 7}, Case{u"21vue316789", u" 6 ", 25, 6},
+                          Case{u"21vue3167893", u" 6 ", 25, 6}, Case{u"1vue316789", u" 6 ", 25, 7},
+                          Case{u"1vue316", u" 4 ", 18, 7}, Case{u"1vue3167", u" 4 ", 20, 4},
+                          Case{u"1vue3", u" 3 ", 15, 3}, Case{u"vue2", u" 0 ", 6, 7},
+                          Case{u"21vue3167893", u" 4 ", 25, 4}}) {
         Program program;
         Lines lines = With(With(FullDocument(), 1, {c.tag}), 5, {c.mode});
         program.Read(Without(lines, c.lastEarlyLine + 1, 25));

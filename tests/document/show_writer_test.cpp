@@ -28,49 +28,49 @@ TEST(ShowWriter, WritesStartDefaultsByteForByte) {
     EXPECT_EQ(Written(program),
               "21vue3167893\r\n"
               "C:\\save\\new.kvs\r\n"
-              " 3000 \r\n"   // interval
-              " 0 \r\n"      // repeat
-              " 7 \r\n"      // sound mode
-              "*.wav\r\n"    // default effect sound
-              "\r\n"         // WAV
-              " 9 \r\n"      // effects and speeds
+              " 3000 \r\n"  // interval
+              " 0 \r\n"     // repeat
+              " 7 \r\n"     // sound mode
+              "*.wav\r\n"   // default effect sound
+              "\r\n"        // WAV
+              " 9 \r\n"     // effects and speeds
               "-30 \r\n"
               " 9 \r\n"
               "-30 \r\n"
-              " 10 \r\n"     // slits
+              " 10 \r\n"  // slits
               " 10 \r\n"
-              " 1 \r\n"      // CD repeat
-              "1\r\n"        // CD track
-              " 10 \r\n"     // mosaic
+              " 1 \r\n"   // CD repeat
+              "1\r\n"     // CD track
+              " 10 \r\n"  // mosaic
               " 10 \r\n"
-              " 1 \r\n"      // text macro
-              "\r\n"         // MIDI
-              " 1 \r\n"      // sync
-              " 1 \r\n"      // linked sound position
-              " 1 \r\n"      // random
-              " 0 \r\n"      // CD order
-              " 0 \r\n"      // linked folder
+              " 1 \r\n"  // text macro
+              "\r\n"     // MIDI
+              " 1 \r\n"  // sync
+              " 1 \r\n"  // linked sound position
+              " 1 \r\n"  // random
+              " 0 \r\n"  // CD order
+              " 0 \r\n"  // linked folder
               "\r\n"
-              " 1 \r\n"      // slides
+              " 1 \r\n"  // slides
               "C:\\pic\\a.jpg\r\n"
               "480\r\n"
-              " 0 \r\n"      // overlay
+              " 0 \r\n"  // overlay
               " 0 \r\n"
-              " 0 \r\n"      // CD programme
-              " 0 \r\n"      // text origin
-              " 1 \r\n"      // CD plus linked WAV
-              " 0 \r\n"      // CD programme stop
-              " 0 \r\n"      // overlay background
-              " 0 \r\n"      // picture position
-              " 0 \r\n"      // sound list
-              " 0 \r\n"      // linked WAV during MIDI
-              "\r\n"         // MP3
-              " 0 \r\n"      // MP3 mode
-              " 1 \r\n"      // always full screen
-              " 0 \r\n"      // fixed speed
-              " 0 \r\n"      // load mode
-              " 0 \r\n"      // linked WAV during MP3
-              " 0 \r\n"      // linked WAV during the sound list
+              " 0 \r\n"  // CD programme
+              " 0 \r\n"  // text origin
+              " 1 \r\n"  // CD plus linked WAV
+              " 0 \r\n"  // CD programme stop
+              " 0 \r\n"  // overlay background
+              " 0 \r\n"  // picture position
+              " 0 \r\n"  // sound list
+              " 0 \r\n"  // linked WAV during MIDI
+              "\r\n"     // MP3
+              " 0 \r\n"  // MP3 mode
+              " 1 \r\n"  // always full screen
+              " 0 \r\n"  // fixed speed
+              " 0 \r\n"  // load mode
+              " 0 \r\n"  // linked WAV during MP3
+              " 0 \r\n"  // linked WAV during the sound list
               "-                              \r\n");
 }
 
@@ -89,8 +89,9 @@ TEST(ShowWriter, UsesTheCodePageOrUtf8WithAMark) {
     EXPECT_NE(Written(program).find("C:\\\x95\x5C.jpg\r\n"), std::string::npos);
     AddSlide(program, u"C:\\한.jpg");
     document::WriteShowDocument(program.app, kTarget);
-    EXPECT_TRUE(Written(program).starts_with("\xEF\xBB\xBF"
-                                             "21vue3167893\r\n"));
+    EXPECT_TRUE(
+        Written(program).starts_with("\xEF\xBB\xBF"
+                                     "21vue3167893\r\n"));
     EXPECT_NE(Written(program).find("C:\\한.jpg\r\n"), std::string::npos);
 }
 

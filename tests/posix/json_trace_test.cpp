@@ -41,10 +41,13 @@ TEST(JsonTrace, WritesOneObjectALineAtOnce) {
     trace->Event("slide", {{"SlideIndex", 1.0}, {"path", Text(u"画.jpg")}, {"x", -2.5}});
     now = 1500.25;
     trace->Event("sndPlaySound", {{"file", nullptr}, {"unanswered", true}});
+    trace->Event("print",
+                 {{"value", std::vector<Text>{u"一", u"\"2"}}, {"none", std::vector<Text>()}});
     EXPECT_EQ(folder.Content("trace"),
               "{\"t\":0,\"event\":\"start\"}\n"
               "{\"t\":1500,\"event\":\"slide\",\"SlideIndex\":1,\"path\":\"画.jpg\",\"x\":-2.5}\n"
-              "{\"t\":1500.25,\"event\":\"sndPlaySound\",\"file\":null,\"unanswered\":true}\n");
+              "{\"t\":1500.25,\"event\":\"sndPlaySound\",\"file\":null,\"unanswered\":true}\n"
+              "{\"t\":1500.25,\"event\":\"print\",\"value\":[\"一\",\"\\\"2\"],\"none\":[]}\n");
 }
 
 TEST(JsonTrace, WritesToStandardOutput) {

@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "adapters/posix/iconv_code_page.h"
-#include "model/application.h"
 #include "fake_files.h"
 #include "fake_loop.h"
+#include "model/application.h"
 
 namespace fakes {
 

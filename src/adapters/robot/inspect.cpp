@@ -125,15 +125,14 @@ std::string JsonState(const Application& app) {
         json += "\"" + std::string(setting.name) +
                 "\":" + JsonValue(model::ReadField(app.state, setting.field)) + ",";
     }
-    for (const char* name :
-         {"DocumentPath", "DocumentName", "DocumentFileDate", "BaseFolder", "SlideListEnd",
-          "SlideIndex", "CdProgramCount", "SoundListCount", "Mp3ModeFlag", "DistributionSaveFlag",
-          "ShowAbort"}) {
+    for (const char* name : {"DocumentPath", "DocumentName", "DocumentFileDate", "BaseFolder",
+                             "SlideListEnd", "SlideIndex", "CdProgramCount", "SoundListCount",
+                             "Mp3ModeFlag", "DistributionSaveFlag", "ShowAbort"}) {
         json += "\"" + std::string(name) +
                 "\":" + JsonValue(model::ReadField(app.state, *model::FindField(name))) + ",";
     }
-    return json + "\"Form1.Timer1.Interval\":" +
-           JsonNumber(app.windows.form1.Timer1.Interval) + "}";
+    return json + "\"Form1.Timer1.Interval\":" + JsonNumber(app.windows.form1.Timer1.Interval) +
+           "}";
 }
 
 std::string JsonMessages(const std::vector<RecordingDialogs::Box>& boxes) {
@@ -196,8 +195,7 @@ int Inspect(const std::string& givenPath, std::ostream& out) {
     return accepted ? 0 : 1;
 }
 
-int Resave(const std::string& in, const std::string& target, bool distribution,
-           std::ostream& err) {
+int Resave(const std::string& in, const std::string& target, bool distribution, std::ostream& err) {
     const Text path = AbsolutePath(in);
     FreshProgram program(path);
     Application& app = program.app;

@@ -110,10 +110,11 @@ SilentPlatform::SilentPlatform(std::string programFolder)
 SilentPlatform::~SilentPlatform() = default;
 
 platform::Platform SilentPlatform::Get() {
-    return {devices_->loop,    files,           dialogs,
-            devices_->monitors, devices_->imaging, devices_->textRenderer,
-            devices_->sound,   devices_->system, devices_->trace,
-            codePage};
+    return {devices_->loop,    files,
+            dialogs,           devices_->monitors,
+            devices_->imaging, devices_->textRenderer,
+            devices_->sound,   devices_->system,
+            devices_->trace,   codePage};
 }
 
 }  // namespace robot

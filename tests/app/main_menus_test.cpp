@@ -1,0 +1,156 @@
+// The file menu and the radio menus of the main window.
+#include "app/main_menus.h"
+
+#include <gtest/gtest.h>
+
+#include "app_support.h"
+#include "document/settings_to_controls.h"
+
+namespace app_tests {
+namespace {
+
+struct Menus : fakes::FakePlatform {
+    model::Form1& form1 = app.windows.form1;
+    model::ShowState& state = app.state;
+    Menus() {
+        app::AttachMainMenus(app);
+        document::FollowAllSettings(app);
+        PutText(u"C:\\show\\two.kvs", ShowOf({u"a.png", u"b.png"}));
+        PutText(u"C:\\show\\refused.kvs", u"vue\r\n" + ShowOf({u"a.png"}));
+    }
+};
+
+TEST(RadioMenus, ChoosingStoresTheIndexAndMovesTheCheck) {
+    for (const document::RadioMenu& row : document::RadioMenus()) {
+        Menus menus;
+        model::MenuArray& array = menus.form1.*row.menu;
+        SCOPED_TRACE(array.Name());
+        for (int chosen = array.Count() - 1; chosen >= 0; --chosen) {
+            array(chosen).Click();
+            EXPECT_EQ(menus.state.*row.field, chosen);
+            for (int i = 0; i < array.Count(); ++i) {
+                EXPECT_EQ(array(i).Checked, i == chosen) << i;
+            }
+        }
+    }
+}
+
+TEST(RadioMenus, RandomShowCannotStopByItself) {
+    Menus menus;
+    menus.form1.mnuKUFL(1).Click();
+    EXPECT_EQ(menus.state.RepeatFlag, 1);
+    menus.form1.mnuRANDFL(0).Click();
+    EXPECT_EQ(menus.state.RandomFlag, 0);
+    EXPECT_EQ(menus.state.RepeatFlag, 0);
+    EXPECT_TRUE(menus.form1.mnuKUFL(0).Checked);
+    menus.form1.mnuKUFL(1).Click();
+    EXPECT_EQ(menus.state.RepeatFlag, 1);
+    EXPECT_EQ(menus.state.RandomFlag, 1);
+    EXPECT_TRUE(menus.form1.mnuRANDFL(1).Checked);
+}
+
+TEST(RadioMenus, OtherChoicesLeaveThePartnerAlone) {
+    Menus menus;
+    menus.state.RepeatFlag = 1;
+    menus.form1.mnuRANDFL(1).Click();
+    EXPECT_EQ(menus.state.RepeatFlag, 1);
+    menus.state.RandomFlag = 0;
+    menus.form1.mnuKUFL(0).Click();
+    EXPECT_EQ(menus.state.RandomFlag, 0);
+}
+
+TEST(RadioMenus, FixedSpeedHidesTheSpeeds) {
+    Menus menus;
+    menus.state.ShowEffectSpeed = 4;
+    menus.state.EraseEffectSpeed = 5;
+    menus.form1.mnuKSPSEL(0).Click();
+    EXPECT_EQ(menus.state.ShowEffectSpeed, 4);
+    menus.form1.mnuKSPSEL(1).Click();
+    EXPECT_EQ(menus.state.ShowEffectSpeed, -30);
+    EXPECT_EQ(menus.state.EraseEffectSpeed, -30);
+    EXPECT_FALSE(menus.form1.mnuHKSP.Visible);
+    EXPECT_FALSE(menus.form1.mnuSKSP.Visible);
+}
+
+TEST(RadioMenus, StartFromTheTopForgetsThePlace) {
+    Menus menus;
+    menus.state.ResumeIndex = 7;
+    menus.form1.mnuSOP1(1).Click();
+    EXPECT_EQ(menus.state.ResumeIndex, 7);
+    menus.form1.mnuSOP1(0).Click();
+    EXPECT_EQ(menus.state.ResumeIndex, 0);
+}
+
+TEST(RadioMenus, TrackOrderStartsAtTheFirstTrack) {
+    Menus menus;
+    menus.state.CdTrackSetting = u"3-5";
+    menus.form1.mnuCDRND(1).Click();
+    EXPECT_EQ(menus.state.CdTrackSetting, u"3-5");
+    EXPECT_FALSE(menus.form1.mnuCD.Visible);
+    menus.form1.mnuCDRND(0).Click();
+    EXPECT_EQ(menus.state.CdTrackSetting, u"1");
+    EXPECT_TRUE(menus.form1.mnuCD.Visible);
+}
+
+TEST(FileMenu, OpenedDocumentCanBeStarted) {
+    Menus menus;
+    menus.dialogs.fileAnswers = {Text(u"C:\\show\\two.kvs")};
+    menus.form1.mnuOPEN.Click();
+    EXPECT_TRUE(menus.form1.Command1.Enabled);
+    EXPECT_TRUE(menus.form1.Command4.Enabled);
+    EXPECT_FALSE(menus.form1.Command2.Enabled);
+    EXPECT_FALSE(menus.form1.Command3.Enabled);
+    EXPECT_EQ(menus.state.SlideIndex, 0);
+    EXPECT_EQ(menus.form1.Caption(), u"ｽﾗｲﾄﾞ - C:\\show\\two.kvs");
+}
+
+TEST(FileMenu, CancelledOpenChangesNothing) {
+    Menus menus;
+    menus.form1.Command1.Enabled = false;
+    menus.app.windows.form3.List1.AddItem(u"C:\\show\\a.png");
+    menus.app.windows.form3.Command16.Enabled = true;
+    menus.state.BaseFolder = u"D:\\";
+    menus.form1.mnuOPEN.Click();
+    EXPECT_EQ(menus.dialogs.requests.size(), 1u);
+    EXPECT_FALSE(menus.form1.Command1.Enabled);
+    EXPECT_TRUE(menus.app.windows.form3.Command16.Enabled);
+    EXPECT_EQ(menus.state.BaseFolder, u"D:\\");
+    EXPECT_TRUE(menus.files.read.empty());
+}
+
+TEST(FileMenu, RefusedDocumentLeavesTheLoadedOne) {
+    Menus menus;
+    menus.dialogs.fileAnswers = {Text(u"C:\\show\\two.kvs"), Text(u"C:\\show\\refused.kvs")};
+    menus.form1.mnuOPEN.Click();
+    menus.form1.mnuOPEN.Click();
+    EXPECT_EQ(menus.dialogs.messages.size(), 1u);
+    EXPECT_EQ(menus.state.ShowAbort, 1);
+    EXPECT_EQ(menus.app.windows.form3.List1.ListCount(), 2);
+    EXPECT_TRUE(menus.form1.Command1.Enabled);
+    EXPECT_EQ(menus.state.DocumentPath, u"C:\\show\\two.kvs");
+}
+
+TEST(FileMenu, NewClosesTheFourPictureViewFirst) {
+    Menus menus;
+    menus.app.windows.form5.Load();
+    menus.state.FourViewOpen = 1;
+    menus.dialogs.whileOpen = [&](const auto&) {
+        EXPECT_FALSE(menus.app.windows.form5.Loaded);
+    };
+    menus.form1.mnuNEW.Click();
+    EXPECT_EQ(menus.dialogs.messages.size(), 1u);
+    EXPECT_EQ(menus.dialogs.messages[0].title, u"新規作成");
+}
+
+TEST(FileMenu, SaveEntriesReachTheirDialogs) {
+    Menus menus;
+    menus.app.windows.form3.List1.AddItem(u"C:\\show\\a.png");
+    menus.form1.mnuSAVE.Click();
+    menus.form1.mnuHAIHU.Click();
+    ASSERT_EQ(menus.dialogs.requests.size(), 2u);
+    EXPECT_EQ(menus.dialogs.requests[0].title, u"パラピコ　ファイルの保存");
+    EXPECT_EQ(menus.dialogs.requests[1].title, u"パラピコ　配布用ＫＶＳファイルの保存");
+}
+
+}  // namespace
+}  // namespace app_tests

@@ -1,0 +1,253 @@
+// New, open, save and distribution save of show documents.
+#include "authoring/slide_list.h"
+
+#include <gtest/gtest.h>
+
+#include "app/app_support.h"
+
+namespace authoring {
+namespace {
+
+using app_tests::ShowOf;
+using platform::Answer;
+
+constexpr const char16_t* kFilter = u"ｽﾗｲﾄﾞFiles (*.kvs)|*.kvs|すべてのﾌｧｲﾙ(*.*)|*.*";
+
+struct Desk : fakes::FakePlatform {
+    model::ShowState& state = app.state;
+    model::Windows& windows = app.windows;
+    model::Form3& form3 = app.windows.form3;
+
+    Desk() { PutText(u"C:\\show\\two.kvs", ShowOf({u"a.png", u"D:\\p\\b.png"})); }
+    bool Open(const Text& path) {
+        dialogs.fileAnswers = {path};
+        return OpenDocument(app);
+    }
+    std::vector<model::Button*> LinkedFileButtons() {
+        return {&form3.Command16, &form3.Command17, &form3.Command18, &form3.Command19,
+                &form3.Command20};
+    }
+    /// Line of a written document, counted from 1.
+    Text LineOf(TextView path, int number) {
+        Text content = text::DecodeFile(files.Get(path)->content, codePage);
+        for (int i = 1; i < number; ++i) {
+            content = content.substr(content.find(u"\r\n") + 2);
+        }
+        return content.substr(0, content.find(u"\r\n"));
+    }
+};
+
+TEST(Open, AsksAndReadsTheChosenDocument) {
+    Desk desk;
+    for (model::Button* button : desk.LinkedFileButtons()) {
+        button->Enabled = true;
+    }
+    EXPECT_TRUE(desk.Open(u"C:\\show\\two.kvs"));
+    ASSERT_EQ(desk.dialogs.requests.size(), 1u);
+    const auto& request = desk.dialogs.requests[0];
+    EXPECT_FALSE(request.save);
+    EXPECT_EQ(request.title, u"パラピコ　ファイルを開く");
+    EXPECT_EQ(request.filter, kFilter);
+    EXPECT_EQ(request.initial, u"*.kvs");
+    EXPECT_EQ(desk.state.BaseFolder, u"C:\\show\\");
+    EXPECT_EQ(desk.form3.List1.List(0), u"C:\\show\\a.png");
+    EXPECT_EQ(desk.form3.List1.List(1), u"D:\\p\\b.png");
+    EXPECT_EQ(desk.form3.Label4.Caption(), u"2");
+    EXPECT_EQ(desk.state.DocumentName, u"two.kvs");
+    for (model::Button* button : desk.LinkedFileButtons()) {
+        EXPECT_FALSE(button->Enabled) << button->Name();
+    }
+}
+
+TEST(Open, FolderEndsBehindTheLastSeparatorOrColon) {
+    Desk desk;
+    desk.PutText(u"E:x.kvs", ShowOf({u"a.png"}));
+    desk.Open(u"E:x.kvs");
+    EXPECT_EQ(desk.state.BaseFolder, u"E:");
+    EXPECT_EQ(desk.form3.List1.List(0), u"E:a.png");
+    desk.PutText(u"/home/me/x.kvs", ShowOf({u"a.png"}));
+    desk.Open(u"/home/me/x.kvs");
+    EXPECT_EQ(desk.form3.List1.List(0), u"/home/me/a.png");
+}
+
+TEST(Open, CancelChangesNothing) {
+    Desk desk;
+    desk.state.BaseFolder = u"D:\\";
+    desk.form3.Command18.Enabled = true;
+    EXPECT_FALSE(OpenDocument(desk.app));
+    EXPECT_EQ(desk.state.BaseFolder, u"D:\\");
+    EXPECT_TRUE(desk.form3.Command18.Enabled);
+    EXPECT_TRUE(desk.files.read.empty());
+}
+
+TEST(Open, RefusedDocumentIsToldAndMarked) {
+    Desk desk;
+    desk.PutText(u"C:\\show\\bad.kvs", u"vue\r\n");
+    EXPECT_TRUE(desk.Open(u"C:\\show\\bad.kvs"));
+    ASSERT_EQ(desk.dialogs.messages.size(), 1u);
+    EXPECT_EQ(desk.dialogs.messages[0].text,
+              u"C:\\show\\bad.kvs\r\nこのファイル名は適合しません。");
+    EXPECT_EQ(desk.state.ShowAbort, 1);
+    EXPECT_EQ(desk.state.DocumentPath, u"");
+    EXPECT_EQ(desk.form3.Label4.Caption(), u"0");
+}
+
+TEST(Save, RefusedWithoutSlides) {
+    for (const auto save : {SaveDocument, SaveForDistribution}) {
+        Desk desk;
+        save(desk.app);
+        ASSERT_EQ(desk.dialogs.messages.size(), 1u);
+        EXPECT_EQ(desk.dialogs.messages[0].text, u"スライドリストがないので保存できんません。");
+        EXPECT_EQ(desk.dialogs.messages[0].title, u"ファイルの保存");
+        EXPECT_EQ(desk.dialogs.messages[0].flags, 48);
+        EXPECT_TRUE(desk.dialogs.requests.empty());
+    }
+}
+
+TEST(Save, NewDocumentHasNoNameYet) {
+    Desk desk;
+    desk.form3.List1.AddItem(u"C:\\show\\a.png");
+    desk.form3.List2.AddItem(model::BlankScheduleRow());
+    desk.dialogs.fileAnswers = {Text(u"C:\\show\\new")};
+    SaveDocument(desk.app);
+    ASSERT_EQ(desk.dialogs.requests.size(), 1u);
+    EXPECT_TRUE(desk.dialogs.requests[0].save);
+    EXPECT_EQ(desk.dialogs.requests[0].title, u"パラピコ　ファイルの保存");
+    EXPECT_EQ(desk.dialogs.requests[0].filter, kFilter);
+    EXPECT_EQ(desk.dialogs.requests[0].initial, u"*.kvs");
+    EXPECT_EQ(desk.state.DocumentPath, u"C:\\show\\new.kvs");
+    EXPECT_EQ(desk.state.DocumentName, u"new.kvs");
+    EXPECT_EQ(desk.windows.form1.Caption(), u"ｽﾗｲﾄﾞ - C:\\show\\new.kvs");
+    EXPECT_EQ(desk.LineOf(u"C:\\show\\new.kvs", 27), u"C:\\show\\a.png");
+}
+
+TEST(Save, OpenDocumentsNameIsOffered) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    desk.dialogs.fileAnswers = {std::optional<Text>()};
+    SaveDocument(desk.app);
+    EXPECT_EQ(desk.dialogs.requests.back().initial, u"C:\\show\\two.kvs");
+    EXPECT_TRUE(desk.files.written.empty());  // cancelled
+}
+
+TEST(Save, ClearsTheMarkOfAnEarlierDistribution) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    desk.state.DistributionSaveFlag = 1;
+    desk.dialogs.fileAnswers = {Text(u"C:\\show\\two.kvs")};
+    SaveDocument(desk.app);
+    EXPECT_EQ(desk.state.DistributionSaveFlag, 0);
+    EXPECT_EQ(desk.LineOf(u"C:\\show\\two.kvs", 28), u"D:\\p\\b.png");
+}
+
+TEST(Distribution, AsksThenWritesBareNames) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    desk.dialogs.fileAnswers = {Text(u"F:\\give.kvs")};
+    SaveForDistribution(desk.app);
+    ASSERT_EQ(desk.dialogs.messages.size(), 1u);
+    EXPECT_EQ(desk.dialogs.messages[0].text,
+              u"配布用ＫＶＳファイルを作成しますか？\r\n"
+              u"配布用ＫＶＳファイルはスライドリストのパスが消去され、\r\n"
+              u"ＫＶＳファイルを開いた時にスライドリストの画像パスが\r\n"
+              u"ＫＶＳファイルのパスに変換されます。\r\n"
+              u"ＫＶＳファイルと画像は同一フォルダに保存して下さい。");
+    EXPECT_EQ(desk.dialogs.messages[0].flags, 36);
+    EXPECT_EQ(desk.dialogs.messages[0].title, u"配布用ＫＶＳファイルの保存");
+    EXPECT_EQ(desk.dialogs.requests.back().title, u"パラピコ　配布用ＫＶＳファイルの保存");
+    EXPECT_EQ(desk.dialogs.requests.back().initial, u"C:\\show\\two.kvs");
+    EXPECT_EQ(desk.state.DistributionSaveFlag, 1);
+    EXPECT_EQ(desk.LineOf(u"F:\\give.kvs", 2), u"give.kvs");
+    EXPECT_EQ(desk.LineOf(u"F:\\give.kvs", 27), u"a.png");
+    EXPECT_EQ(desk.LineOf(u"F:\\give.kvs", 28), u"b.png");
+    EXPECT_EQ(desk.form3.List1.List(1), u"D:\\p\\b.png");  // the list in memory keeps its paths
+}
+
+TEST(Distribution, NoEndsIt) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    desk.dialogs.answers = {Answer::No};
+    SaveForDistribution(desk.app);
+    EXPECT_EQ(desk.dialogs.requests.size(), 1u);  // that of the opening
+    EXPECT_EQ(desk.state.DistributionSaveFlag, 0);
+    EXPECT_TRUE(desk.files.written.empty());
+}
+
+TEST(New, AsksBeforeItForgets) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    desk.dialogs.answers = {Answer::No};
+    NewDocument(desk.app);
+    ASSERT_EQ(desk.dialogs.messages.size(), 1u);
+    EXPECT_EQ(desk.dialogs.messages[0].text,
+              u"スライドリストとすべての設定を初期状態にしますか ?");
+    EXPECT_EQ(desk.dialogs.messages[0].title, u"新規作成");
+    EXPECT_EQ(desk.dialogs.messages[0].flags, 36);
+    EXPECT_EQ(desk.form3.List1.ListCount(), 2);
+    EXPECT_EQ(desk.state.DocumentName, u"two.kvs");
+}
+
+TEST(New, ForgetsTheDocument) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    desk.windows.form9.List1.AddItem(u"C:\\show\\two.kvs");
+    desk.windows.form10.List1.AddItem(u"C:\\s.mp3");
+    desk.windows.form10.Label4.Caption = u"1";
+    desk.state.SoundListCount = 1;
+    desk.state.CdProgramCount = 2;
+    desk.state.CdProgram.Set(1, u"4");
+    desk.windows.form1.Timer1.Interval = 9000;
+    NewDocument(desk.app);
+    EXPECT_EQ(desk.form3.List1.ListCount(), 0);
+    EXPECT_EQ(desk.form3.List2.ListCount(), 0);
+    EXPECT_EQ(desk.form3.Label4.Caption(), u"0");
+    EXPECT_EQ(desk.windows.form9.List1.ListCount(), 0);
+    EXPECT_EQ(desk.windows.form10.List1.ListCount(), 0);
+    EXPECT_EQ(desk.windows.form10.Label4.Caption(), u"0");
+    EXPECT_EQ(desk.state.SlideList(1), u"");
+    EXPECT_EQ(desk.state.CdProgram(1), u"");
+    EXPECT_EQ(desk.state.CdProgramCount, 0);
+    EXPECT_EQ(desk.state.SoundListCount, 0);
+    EXPECT_EQ(desk.state.SlideListEnd, 0);
+    EXPECT_EQ(desk.state.DocumentPath, u"");
+    EXPECT_EQ(desk.state.DocumentName, u"");
+    EXPECT_EQ(desk.state.BaseFolder, u"");
+    EXPECT_EQ(desk.state.DocumentFileDate, u"");
+    EXPECT_EQ(desk.windows.form1.Caption(), u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10");
+    EXPECT_EQ(desk.windows.form1.Timer1.Interval, 3000);
+    EXPECT_FALSE(desk.windows.form1.Command1.Enabled);
+    EXPECT_FALSE(desk.windows.form1.Command4.Enabled);
+    EXPECT_EQ(desk.windows.Pointer(), 0);
+    for (model::Button* button : desk.LinkedFileButtons()) {
+        EXPECT_FALSE(button->Enabled) << button->Name();
+    }
+}
+
+TEST(New, BringsTheSettingsOfANewDocument) {
+    Desk desk;
+    desk.state.ControlBoxPos = 1;
+    desk.state.LinkCheck3 = 1;
+    desk.state.MosaicDelayUnit = 8;
+    NewDocument(desk.app);
+    for (const model::Setting& setting : model::Settings()) {
+        if (!setting.unchangedByNew) {
+            EXPECT_EQ(model::ReadField(desk.state, setting.field), setting.fresh) << setting.name;
+        }
+    }
+    EXPECT_EQ(desk.state.SoundMode, 6);  // at a plain start it is 7
+    EXPECT_EQ(desk.state.ControlBoxPos, 1);
+    EXPECT_EQ(desk.state.LinkCheck3, 1);
+    EXPECT_EQ(desk.state.MosaicDelayUnit, 8);
+    model::Form1& form1 = desk.windows.form1;
+    EXPECT_TRUE(form1.mnuKOU(6).Checked);
+    EXPECT_TRUE(form1.mnuDOU(0).Checked);
+    EXPECT_TRUE(form1.mnuTEXT(0).Checked);
+    EXPECT_TRUE(form1.mnuCTL(0).Checked);
+    EXPECT_TRUE(form1.mnuSTKAKU(1).Checked);
+    EXPECT_EQ(desk.windows.form10.Check1.Value, 1);
+    EXPECT_EQ(desk.windows.form10.Check5.Value, 1);
+    EXPECT_EQ(desk.windows.form9.Check2.Value, 1);
+}
+
+}  // namespace
+}  // namespace authoring
