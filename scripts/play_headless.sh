@@ -9,6 +9,8 @@ if [[ ! -f $document ]]; then
     echo "no such file: $document" >&2
     exit 1
 fi
+document=$(realpath -s "$document")
+program=$(realpath "$program")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 export QT_QPA_PLATFORM=offscreen
@@ -33,7 +35,12 @@ PYTHON
 
 name=$(basename "${document%.*}")
 mkdir -p "$folder/$name"
+folder=$(realpath "$folder")
 cd "$folder/$name"
 rm -f -- [0-9][0-9].png
 "$program" --robot "$scratch/play.robot" --trace trace.jsonl --app-folder "$scratch/app" "$document"
+if ! grep -q '"event":"slide"' trace.jsonl; then
+    echo "no slide of $document could be shown; see $folder/$name/trace.jsonl" >&2
+    exit 1
+fi
 echo "$(find . -name '[0-9][0-9].png' | wc -l) pictures of $name are in $folder/$name"

@@ -1,8 +1,13 @@
 #!/bin/bash
 # run_scenario.sh PROGRAM SCRIPT DATA SCRATCH: plays one robot script.
 #
-# It runs in a fresh copy of the data, so that a scenario may change and delete files. A first lines'
-# comment "# args: --seed 3 show.kvs" adds arguments.
+# It runs in a fresh copy of the data, so that a scenario may change and delete files. Comments of
+# the script say what else is wanted:
+#   # args: --seed 3 --now "2026-01-01 23:59:50" show.kvs    more arguments
+#   # exit: 1                                                the exit status, otherwise 0
+#   # trace: "t":3000,"event":"slide"                        a line of the trace holds this text
+#   # no trace: "event":"message"                            no line of the trace holds it
+#   # slides: 0 a.png 3000 b.png                             all slides shown, each with its time
 set -euo pipefail
 program=$1 script=$2 data=$3 scratch=$4
 
@@ -11,11 +16,36 @@ mkdir -p "$scratch/app"
 cp -r "$data" "$scratch/data"
 cd "$scratch/data"
 
+wanted() { sed -n "s/^# $1: //p" "$script"; }
+
 arguments=()
-line=$(sed -n 's/^# args: //p' "$script" | head -n 1)
+line=$(wanted args | head -n 1)
 if [[ -n $line ]]; then
-    read -r -a arguments <<<"$line"
+    mapfile -t arguments < <(xargs -n 1 printf '%s\n' <<<"$line")
 fi
-# The default clock and seed come first, so that a scenario can have its own.
-exec "$program" --robot "$script" --trace "$scratch/trace.jsonl" --app-folder "$scratch/app" \
-    "${arguments[@]}"
+trace=$scratch/trace.jsonl
+status=0
+# Its own trace and folder come first: a scenario can have others.
+"$program" --robot "$script" --trace "$trace" --app-folder "$scratch/app" "${arguments[@]}" ||
+    status=$?
+
+failed=0
+complain() {
+    echo "$script: $*" >&2
+    failed=1
+}
+expected=$(wanted exit)
+[[ $status -eq ${expected:-0} ]] || complain "exit status $status, expected ${expected:-0}"
+while IFS= read -r text; do
+    grep -qF -- "$text" "$trace" || complain "not in the trace: $text"
+done < <(wanted trace)
+while IFS= read -r text; do
+    ! grep -qF -- "$text" "$trace" || complain "in the trace: $text"
+done < <(wanted 'no trace')
+if grep -q '^# slides:' "$script"; then
+    shown=$(sed -nE 's|^\{"t":([0-9.]+),"event":"slide",.*"path":"[^"]*/([^/"]*)".*|\1 \2|p' \
+        "$trace" | paste -sd ' ')
+    expected=$(wanted slides | paste -sd ' ')
+    [[ $shown == "$expected" ]] || complain "shown: $shown"$'\n'"  expected: $expected"
+fi
+exit $failed

@@ -24,9 +24,8 @@ constexpr int kHeightWithoutMargin = 8200;    // twips
 constexpr int kSystemButtonColor = 0xF0F0F0;  // as the desktop's buttons are on most themes
 
 Text DropQuoteBeforeNativePath(TextView command) {
-    return command.size() > 1 && command[0] == u'"' && command[1] == u'/'
-               ? Text(command.substr(1))
-               : Text(command);
+    return command.size() > 1 && command[0] == u'"' && command[1] == u'/' ? Text(command.substr(1))
+                                                                          : Text(command);
 }
 
 void MakeImagingControls(Application& app) {

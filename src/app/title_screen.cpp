@@ -61,9 +61,10 @@ void TestColors(Application& app, TwipsCanvas& canvas) {
     const platform::Color seen = canvas.Point(kX0 + 2000, kY0 + 2000);
     if (seen == kWhite || seen == kMidGrey) {
         app.state.LowColorFlag = 1;
-        app.platform.dialogs.Message(u"２５６色以下の環境では使用できません。"
-                                     u"\r\nカラーパレットを High Color以上に設定してください。",
-                                     platform::kStop, u"");
+        app.platform.dialogs.Message(
+            u"２５６色以下の環境では使用できません。"
+            u"\r\nカラーパレットを High Color以上に設定してください。",
+            platform::kStop, u"");
         throw platform::ProgramEnd{};
     }
 }

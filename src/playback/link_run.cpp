@@ -12,6 +12,7 @@ bool LoadLinkEntry(Application& app) {
     model::ShowState& state = app.state;
     const Text path = state.LinkList(state.LinkIndex);
     state.BaseFolder = text::FolderPart(path);
+    state.ShowAbort = 0;  // a document refused earlier may have left it set
     document::ReadShowDocument(app, path);
     if (state.ShowAbort == 1) {
         app.windows.slidescreen.Unload();

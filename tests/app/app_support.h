@@ -16,14 +16,16 @@ namespace app_tests {
 inline Text ShowOf(const std::vector<Text>& slides) {
     Text text =
         u"21vue3167893\r\nx.kvs\r\n 3000 \r\n 1 \r\n 7 \r\n*.wav\r\n\r\n 11 \r\n-30 \r\n 12 \r\n"
-        u"-30 \r\n 10 \r\n 10 \r\n 1 \r\n1\r\n 20 \r\n 20 \r\n 0 \r\n\r\n 0 \r\n 0 \r\n 1 \r\n 0 \r\n"
+        u"-30 \r\n 10 \r\n 10 \r\n 1 \r\n1\r\n 20 \r\n 20 \r\n 0 \r\n\r\n 0 \r\n 0 \r\n 1 \r\n 0 "
+        u"\r\n"
         u" 0 \r\n\r\n" +
         text::FromUtf8(" " + std::to_string(slides.size()) + " \r\n");
     for (const Text& slide : slides) {
         text += slide + u"\r\n";
     }
     return text +
-           u"480\r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n\r\n 0 \r\n"
+           u"480\r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n\r\n 0 "
+           u"\r\n"
            u" 1 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n";
 }
 

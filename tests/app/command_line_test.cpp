@@ -38,11 +38,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{u":\\x.kvs", u":\\x.kvs", 1}, Case{u"x.kvs", u"x.kvs", 1},
                     Case{u"\\\\host\\share\\x.kvl", u"\\\\host\\share\\x.kvl", 2}));
 
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, CommandLineOf,
-    testing::Values(Case{u"C:\\x.txt", u"C:\\x.txt", 0}, Case{u"C:\\x.kvs ", u"C:\\x.kvs ", 0},
-                    Case{u"C:\\x.kvsx", u"C:\\x.kvsx", 0}, Case{u"kvs", u"kvs", 1},
-                    Case{u"vl", u"vl", 0}, Case{u"C:\\絵１.ｋｖｓ", u"C:\\絵１.ｋｖｓ", 0}));
+INSTANTIATE_TEST_SUITE_P(Kinds, CommandLineOf,
+                         testing::Values(Case{u"C:\\x.txt", u"C:\\x.txt", 0},
+                                         Case{u"C:\\x.kvs ", u"C:\\x.kvs ", 0},
+                                         Case{u"C:\\x.kvsx", u"C:\\x.kvsx", 0},
+                                         Case{u"kvs", u"kvs", 1}, Case{u"vl", u"vl", 0},
+                                         Case{u"C:\\絵１.ｋｖｓ", u"C:\\絵１.ｋｖｓ", 0}));
 
 INSTANTIATE_TEST_SUITE_P(
     Quotes, CommandLineOf,
@@ -51,12 +52,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{u"\"x.kvs\"", u"", 0}, Case{u"x.kvs\"y", u"x.kvs", 1},
                     Case{u"C:\"\\x.kvs", u"C:", 0}));
 
-INSTANTIATE_TEST_SUITE_P(
-    NativePaths, CommandLineOf,
-    testing::Values(Case{u"/home/me/x.kvs", u"/home/me/x.kvs", 1},
-                    Case{u"  /home/me/a:b.kvs", u"/home/me/a:b.kvs", 1},
-                    Case{u"\"/home/my show/x.kvl\"", u"/home/my show/x.kvl", 2},
-                    Case{u"/a:/x.kvs", u"/a:/x.kvs", 1}));
+INSTANTIATE_TEST_SUITE_P(NativePaths, CommandLineOf,
+                         testing::Values(Case{u"/home/me/x.kvs", u"/home/me/x.kvs", 1},
+                                         Case{u"  /home/me/a:b.kvs", u"/home/me/a:b.kvs", 1},
+                                         Case{u"\"/home/my show/x.kvl\"", u"/home/my show/x.kvl",
+                                              2},
+                                         Case{u"/a:/x.kvs", u"/a:/x.kvs", 1}));
 
 }  // namespace
 }  // namespace app

@@ -134,9 +134,7 @@ TEST(FileMenu, NewClosesTheFourPictureViewFirst) {
     Menus menus;
     menus.app.windows.form5.Load();
     menus.state.FourViewOpen = 1;
-    menus.dialogs.whileOpen = [&](const auto&) {
-        EXPECT_FALSE(menus.app.windows.form5.Loaded);
-    };
+    menus.dialogs.whileOpen = [&](const auto&) { EXPECT_FALSE(menus.app.windows.form5.Loaded); };
     menus.form1.mnuNEW.Click();
     EXPECT_EQ(menus.dialogs.messages.size(), 1u);
     EXPECT_EQ(menus.dialogs.messages[0].title, u"新規作成");

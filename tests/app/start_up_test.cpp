@@ -68,10 +68,10 @@ TEST(StartUp, SetsEveryStartDefaultWithItsMenuCheck) {
     }
     model::Form1& form1 = program.form1;
     EXPECT_FALSE(form1.mnuKOU(3).Checked);
-    EXPECT_TRUE(form1.mnuKOU(7).Checked);       // no sound
-    EXPECT_TRUE(form1.mnuKUFL(0).Checked);      // repeat
-    EXPECT_TRUE(form1.mnuRANDFL(1).Checked);    // list order
-    EXPECT_TRUE(form1.mnuHKO(9).Checked);       // random effects
+    EXPECT_TRUE(form1.mnuKOU(7).Checked);     // no sound
+    EXPECT_TRUE(form1.mnuKUFL(0).Checked);    // repeat
+    EXPECT_TRUE(form1.mnuRANDFL(1).Checked);  // list order
+    EXPECT_TRUE(form1.mnuHKO(9).Checked);     // random effects
     EXPECT_TRUE(form1.mnuSYOUKO(9).Checked);
     EXPECT_TRUE(form1.mnuAUT(1).Checked);
     EXPECT_TRUE(form1.mnuSIZE(1).Checked);

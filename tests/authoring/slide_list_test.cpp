@@ -179,8 +179,7 @@ TEST(New, AsksBeforeItForgets) {
     desk.dialogs.answers = {Answer::No};
     NewDocument(desk.app);
     ASSERT_EQ(desk.dialogs.messages.size(), 1u);
-    EXPECT_EQ(desk.dialogs.messages[0].text,
-              u"スライドリストとすべての設定を初期状態にしますか ?");
+    EXPECT_EQ(desk.dialogs.messages[0].text, u"スライドリストとすべての設定を初期状態にしますか ?");
     EXPECT_EQ(desk.dialogs.messages[0].title, u"新規作成");
     EXPECT_EQ(desk.dialogs.messages[0].flags, 36);
     EXPECT_EQ(desk.form3.List1.ListCount(), 2);

@@ -168,21 +168,21 @@ TEST(Settings, DefaultsLeaveTheRunAlone) {
 
 TEST(Settings, ZeroResetTouchesItsFieldsOnly) {
     const std::set<std::string_view> zeroed{
-        "AutoStartFlag",      "ShowEffect",      "EraseEffect",          "ShowSlitCount",
-        "EraseSlitCount",     "EffectSpeedTrim", "CdRepeatFlag",         "ShowMosaicCount",
-        "EraseMosaicCount",   "MosaicDelayUnit", "ListDblClickRecord",   "ListDblClickWallpaper",
-        "ListDblClickText",   "TextMacroFlag",   "SoundSyncFlag",        "RepeatFlag",
-        "SoundMode",          "LinkAutoFlag",    "LinkRepeat",           "LinkCheck3"};
+        "AutoStartFlag",    "ShowEffect",      "EraseEffect",        "ShowSlitCount",
+        "EraseSlitCount",   "EffectSpeedTrim", "CdRepeatFlag",       "ShowMosaicCount",
+        "EraseMosaicCount", "MosaicDelayUnit", "ListDblClickRecord", "ListDblClickWallpaper",
+        "ListDblClickText", "TextMacroFlag",   "SoundSyncFlag",      "RepeatFlag",
+        "SoundMode",        "LinkAutoFlag",    "LinkRepeat",         "LinkCheck3"};
     ShowState state;
     SetEverythingOther(state);
     ZeroReset(state);
     for (const Row& row : kTable) {
         const std::string_view name = row.name;
-        const Held expected = zeroed.contains(name)                 ? Held(0.0)
-                              : name == "ShowEffectSpeed"           ? Held(-30.0)
-                              : name == "EraseEffectSpeed"          ? Held(-30.0)
-                              : name == "ListShowPicture"           ? Held(1.0)
-                                                                    : Other(row.start);
+        const Held expected = zeroed.contains(name)        ? Held(0.0)
+                              : name == "ShowEffectSpeed"  ? Held(-30.0)
+                              : name == "EraseEffectSpeed" ? Held(-30.0)
+                              : name == "ListShowPicture"  ? Held(1.0)
+                                                           : Other(row.start);
         EXPECT_EQ(Read(state, row.name), expected) << name;
     }
 }

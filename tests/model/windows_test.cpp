@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/event_loop.h"
+
 namespace model {
 namespace {
 
@@ -120,9 +122,9 @@ TEST(Window, ResizeIsToldOnAChangeOnly) {
 
 TEST(Windows, AreTwentySixOfGivenNames) {
     const std::set<std::string> expected{
-        "Form1",  "form2",  "Form3",  "Form4",  "Form5",  "Form6",  "Form7",
-        "form8",  "Form9",  "Form10", "Form11", "Form12", "form13", "Form14",
-        "Form15", "Form16", "form17", "Form18", "Form19", "Form20", "Form21",
+        "Form1",  "form2",  "Form3",  "Form4",       "Form5",       "Form6",  "Form7",
+        "form8",  "Form9",  "Form10", "Form11",      "Form12",      "form13", "Form14",
+        "Form15", "Form16", "form17", "Form18",      "Form19",      "Form20", "Form21",
         "Form22", "Form23", "Form24", "Slidescreen", "Slidescreen2"};
     Windows windows;
     std::set<std::string> names;
@@ -180,12 +182,12 @@ TEST(MainWindow, FileMenuHasItsEntriesInOrder) {
     for (const MenuEntry* entry : windows.form1.mnuFILE.Children()) {
         entries.emplace_back(entry->Name(), entry->Caption());
     }
-    EXPECT_EQ(entries, (std::vector<std::pair<std::string, Text>>{
-                           {"mnuNEW", u"新規作成(&N)"},
-                           {"mnuOPEN", u"KVSﾌｧｲﾙを開く(&O)"},
-                           {"mnuSAVE", u"KVSﾌｧｲﾙを保存(&S)"},
-                           {"mnuHAIHU", u"KVSﾌｧｲﾙを配布保存(&H)"},
-                           {"nmuEND", u"終了(&X)"}}));
+    EXPECT_EQ(entries,
+              (std::vector<std::pair<std::string, Text>>{{"mnuNEW", u"新規作成(&N)"},
+                                                         {"mnuOPEN", u"KVSﾌｧｲﾙを開く(&O)"},
+                                                         {"mnuSAVE", u"KVSﾌｧｲﾙを保存(&S)"},
+                                                         {"mnuHAIHU", u"KVSﾌｧｲﾙを配布保存(&H)"},
+                                                         {"nmuEND", u"終了(&X)"}}));
 }
 
 TEST(MainWindow, RadioMenusHaveAnEntryForEveryValue) {

@@ -1,19 +1,26 @@
 #!/usr/bin/env python3
 """make_data.py FOLDER: pictures and show documents for the scenarios and user-interface tests.
 
-Pictures, all PNG: a (red), b (green), c (blue), d (yellow), e (white) and 絵１ (magenta) of 320x240;
 Pictures, all PNG: a (red), b (green), c (blue), d (yellow), e (white), 絵１ (magenta) of 320x240;
+wide (cyan) of 640x120, tall (grey) of 120x640. text.jpg and zero.png are no pictures.
 Documents (3 s a slide, no effects, no sound, main window, unless said):
   five.kvs      a b c d e, stops at the end
   repeat.kvs    a b c, from the top again
   random.kvs    a b c d e in random order
   one.kvs       a alone
   schedule.kvs  a always; b until 2020; c from 2030; d 2020 to 2030
+  night.kvs     a always; b from 00:00 to 06:00 of every day; c from 2026/01/02; from the top again
+  outdated.kvs  a b c, all until 2020; from the top again
+  empty.kvs     no slide
+  bad_first.kvs text.jpg, a
+  only_bad.kvs  text.jpg alone
+  full.kvs      a b c, START goes to the full screen
   failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
   names.kvs     絵１, wide, tall
   vue2.kvs      a b in the oldest form
   cut.kvs       five.kvs without its end
   refused.kvs   a tag that is none
+  all.kvl       one.kvs, then repeat.kvs
 """
 
 import pathlib
@@ -35,7 +42,7 @@ def png(width, height, rgb):
             + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
 
 
-def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000):
+def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1):
     """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
     def number(value):
         return (f" {value}" if value >= 0 else str(value)) + " "
@@ -46,9 +53,9 @@ def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000):
               "1", number(20), number(20), number(0), "", number(0), number(0), number(random),
               number(0), number(0), "", number(len(slides))]
     # Overlay 0 0, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
-    # mode, full screen off, speed, load mode, two linked WAV options.
+    # mode, always full screen (0 is on), speed, load mode, two linked WAV options.
     after = ["480", *map(number, (0, 0, 0, 0, 1, 0, 0, 0, 0, 0)), "",
-             *map(number, (0, 1, 0, 0, 0, 0))]
+             *map(number, (0, always_full, 0, 0, 0, 0))]
     return before + list(slides) + after + ["-" + row for row in rows]
 
 
@@ -82,6 +89,15 @@ def main():
         BLANK_ROW, row("2010/01/01", "00:00", "2020/01/01", "00:00"),
         row("2030/01/01", "00:00", "2031/01/01", "00:00"),
         row("2020/01/01", "00:00", "2030/01/01", "00:00")]))
+    files["night.kvs"] = document(lines_of_show(five[:3], [
+        BLANK_ROW, row("", "00:00", "", "06:00"), row("2026/01/02", "00:00")], repeat=0))
+    files["outdated.kvs"] = document(lines_of_show(
+        five[:3], [row("", "", "2020/01/01", "00:00")] * 3, repeat=0))
+    files["empty.kvs"] = document(lines_of_show([]))
+    files["bad_first.kvs"] = document(lines_of_show(["text.jpg", "a.png"]))
+    files["only_bad.kvs"] = document(lines_of_show(["text.jpg"]))
+    files["full.kvs"] = document(lines_of_show(five[:3], always_full=0))
+    files["all.kvl"] = document(["1vue3167", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
     files["failing.kvs"] = document(lines_of_show(
         ["a.png", "text.jpg", "zero.png", "missing.png", "b.png"]))
     files["names.kvs"] = document(lines_of_show(["絵１.png", "wide.png", "tall.png"]))

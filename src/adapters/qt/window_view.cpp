@@ -154,6 +154,7 @@ void WindowView::ApplyWindowKind() {
         {"Frameless", Qt::FramelessWindowHint},
         {"Tool", Qt::Tool},
         {"StayOnTop", Qt::WindowStaysOnTopHint},
+        {"NoFocus", Qt::WindowDoesNotAcceptFocus},  // keys stay with the window below
     };
     const QStringList words = Words(*root_, "windowKind");
     WindowView* below = viewOf_(root_->property("over").toString());

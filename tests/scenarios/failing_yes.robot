@@ -1,0 +1,28 @@
+# A slide that cannot be read is asked about; yes takes it out of the list, and the next comes
+# 10 ms later.
+# slides: 0 a.png 3030 b.png
+# trace: {"t":3000,"event":"message","title":"画像ファイル読込エラー"
+# trace: text.jpg\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？","flags":36,"answer":"yes"}
+# trace: {"t":3010,"event":"message","title":"画像ファイル読込エラー"
+# trace: zero.png\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？","flags":36,"answer":"yes"}
+# trace: {"t":3020,"event":"message","title":"画像ファイル読込エラー"
+# trace: missing.png\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？","flags":36,"answer":"yes"}
+choose failing.kvs
+menu mnuOPEN
+answer yes
+answer yes
+answer yes
+click Form1.Command1
+@3000 expect Form3.List1.ListCount 4
+expect Form3.List2.ListCount 4
+expect Form3.Label4.Caption 4
+expect SlideListEnd 5
+expect SlideIndex 2
+expect Form1.Timer1.Interval 10
+@3030 expect Form3.List1.ListCount 2
+expect SlideListEnd 3
+expect SlideIndex 3
+expect SlideList(3) ""
+expect Form1.Timer1.Interval 3000
+@6029 expect ShowRunning 1
+@6030 expect ShowRunning 0
