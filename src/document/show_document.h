@@ -14,7 +14,8 @@ void ReadShowDocument(Application& app, TextView path);
 
 /// Writes the newest form, whole or not at all; names without folders when DistributionSaveFlag
 /// is 1. Adds ".kvs" to a path without extension. Rebuilds ScheduleFrom and ScheduleTo, sets the
-/// document's identity and the caption. A failure shows the error's message.
+/// document's identity and the caption. A failure shows the platform's words: in a plain box where
+/// the file cannot be opened, under the title of saving where its content cannot be written.
 void WriteShowDocument(Application& app, TextView path);
 
 }  // namespace document

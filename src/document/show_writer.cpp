@@ -132,7 +132,12 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
     platform::FileError error;
     if (!files.Write(path, text::EncodeFile(writer.Write(path), app.platform.codePage), error)) {
         form1.MousePointer = model::kPointerNormal;
-        app.platform.dialogs.Message(error.message, platform::kExclamation, u"ファイルの保存");
+        if (error.whileOpening) {
+            app.platform.dialogs.Message(error.message, platform::kPlain, u"");
+        } else {
+            app.platform.dialogs.Message(error.message, platform::kExclamation,
+                                         u"ファイルの保存");
+        }
         return;
     }
     if (state.DistributionSaveFlag == 1) {

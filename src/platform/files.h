@@ -16,6 +16,8 @@ namespace platform {
 /// Why a file operation failed: the platform's own words, Japanese where it has them.
 struct FileError {
     Text message;
+    /// Of a write: it failed before any content was written, as with a file that cannot be opened.
+    bool whileOpening = false;
 };
 
 class Files {

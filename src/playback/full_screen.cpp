@@ -105,11 +105,12 @@ bool StartFromIdle(Application& app) {
         return false;
     }
     if (state.ControlBoxFlag == 0) {
-        SetBoxButtons(app, {.close = true, .start = false, .pause = true});
         if (state.MacroButtonsShown == 0) {
             app.windows.slidescreen2.Caption = u"START";
             app.windows.slidescreen2.Show();
         }
+        // Behind Show: its activation copies the main window's buttons, which are still idle.
+        SetBoxButtons(app, {.close = true, .start = false, .pause = true});
     }
     state.FullScreenActive = 1;
     state.ShowAbort = 0;

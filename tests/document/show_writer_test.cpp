@@ -184,6 +184,20 @@ TEST(ShowWriter, AFailureShowsItsWordsAndChangesNothing) {
     EXPECT_EQ(program.app.windows.form1.MousePointer, model::kPointerNormal);
 }
 
+TEST(ShowWriter, AFileThatCannotBeOpenedShowsItsWordsAlone) {
+    Program program;
+    program.Read(FullDocument());
+    program.files.writeError = u"フォルダが見つかりません。";
+    program.files.writeFailsWhileOpening = true;
+    document::WriteShowDocument(program.app, kTarget);
+    ASSERT_EQ(program.dialogs.messages.size(), 1u);
+    EXPECT_EQ(program.dialogs.messages[0].text, u"フォルダが見つかりません。");
+    EXPECT_EQ(program.dialogs.messages[0].flags, 0);
+    EXPECT_EQ(program.dialogs.messages[0].title, u"");
+    EXPECT_EQ(program.State().DocumentPath, kPath);
+    EXPECT_EQ(program.app.windows.form1.MousePointer, model::kPointerNormal);
+}
+
 /// Each setting of the table by itself, at both ends of its range.
 TEST(ShowWriter, EverySettingOfADocumentComesBack) {
     for (const model::Setting& setting : model::Settings()) {

@@ -224,7 +224,8 @@ TEST(StepSync, WhatSwitchesTheWaitOff) {
         show.state.SoundMode = 1;
         show.state.SoundPlaying = 1;
         show.state.SoundSyncFlag = 0;
-        show.sound.answer = [](TextView) -> Text { return u"playing"; };
+        int playing = 5;
+        show.sound.answer = [&](TextView) -> Text { return playing-- > 0 ? u"playing" : u""; };
         show.form1.Command1.Enabled = false;
         show.state.SlideIndex = 2;
         one.set(show);
@@ -235,13 +236,15 @@ TEST(StepSync, WhatSwitchesTheWaitOff) {
     }
 }
 
-/// A running show whose second slide waits for a sound that does not end by itself.
+/// A running show whose second slide waits for a sound; that ends so late that a test has failed
+/// by then.
 struct SyncShow : Show {
     bool playing = true;
     SyncShow() {
         state.SoundMode = 1;
         state.SoundSyncFlag = 0;
         sound.answer = [this](TextView) -> Text { return playing ? u"playing" : u"stopped"; };
+        loop.At(9000, [this] { playing = false; });
         Start();
         state.SoundPlaying = 1;
     }
@@ -252,9 +255,9 @@ TEST(StepSync, TheNextPictureComesWhenTheSoundHasEnded) {
     show.loop.At(4995, [&] { show.playing = false; });
     show.loop.Run(4000);  // the tick of 3000 waits inside and runs over
     EXPECT_EQ(show.Shown(), (Numbers{1, 2}));
-    // 200 passes to 5000, where the sound's end is seen, and that pass's own sleep.
-    EXPECT_EQ(show.loop.Milliseconds(), 5010);
-    EXPECT_EQ(show.loop.sleeps, Numbers(201, 10));
+    // The pass of 5000 asks before it pumps, so that of 5010 is the first to hear of the end.
+    EXPECT_EQ(show.loop.Milliseconds(), 5020);
+    EXPECT_EQ(show.loop.sleeps, Numbers(202, 10));
 }
 
 TEST(StepSync, PauseEndsTheStepAndThePictureComesWithTheNextStart) {
@@ -342,6 +345,7 @@ TEST(StepTelop, PauseEndsTheStepAndTheText) {
     show.state.TelopRunning = 1;
     show.form1.Timer4.Enabled = true;
     show.loop.At(3500, [&] { show.Pause(); });
+    show.loop.At(9000, [&] { show.state.TelopRunning = 0; });
     show.loop.Run(10000);
     EXPECT_EQ(show.Shown(), Numbers{1});
     EXPECT_EQ(show.state.TelopRunning, 0);

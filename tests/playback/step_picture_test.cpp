@@ -47,7 +47,8 @@ TEST(StepPicture, InTheWindowNoEffectContextIsMade) {
 }
 
 TEST(StepPicture, EverythingThatIsNoVideoKindIsAPicture) {
-    for (const Text path : {u"C:\\pic\\a.xyz", u"C:\\pic\\a.mpeg", u"C:\\pic\\a", u"C:\\p\\mp4.bmp"}) {
+    for (const Text path :
+         {u"C:\\pic\\a.xyz", u"C:\\pic\\a.mpeg", u"C:\\pic\\a", u"C:\\pic\\mp4.bmp"}) {
         Show show(0);
         show.PutPicture(path, 10, 10);
         show.AddSlide(path);

@@ -284,6 +284,21 @@ TEST(StepSecondChannel, PlaysTheLinkedWavOverTheBackground) {
     }
 }
 
+TEST(StepSecondChannel, StaysSilentWhereAStopCameInBeforeIt) {
+    for (const int16_t position : {0, 1}) {
+        ChannelShow show(8);
+        show.state.LinkedSoundPosition = position;
+        show.state.TextMacroFlag = 0;
+        show.GoFullScreen();
+        show.screen.Timer1.Enabled = true;  // the copy for the macros pumps then
+        show.loop.onPump = [&] { show.state.StopRequest = 1; };
+        show.Step(2);
+        EXPECT_TRUE(show.CommandsWith(u"wav_ren").empty()) << position;
+        EXPECT_EQ(show.state.StepBusy, 0);
+        EXPECT_EQ(show.windows.Pointer(), model::kPointerNormal);
+    }
+}
+
 TEST(StepSecondChannel, OnlyWithItsFlag) {
     for (const int16_t mode : {3, 4, 6, 7, 8}) {
         ChannelShow show(mode);

@@ -183,7 +183,7 @@ TEST_F(FilesTest, TellsWhyWritingFailed) {
         return files_.Write(path, "new", error_) ? Text(u"written") : error_.message;
     };
     EXPECT_EQ(failure(At("sub")), u"フォルダはファイルとして扱えません。");
-    EXPECT_EQ(failure(At("vanished/a.kvs")), u"ファイルが見つかりません。");
+    EXPECT_EQ(failure(At("vanished/a.kvs")), u"フォルダが見つかりません。");
     EXPECT_EQ(failure(At("plain/a.kvs")), u"フォルダが見つかりません。");
     EXPECT_EQ(failure(At("fifo")), u"通常のファイルではありません。");
     EXPECT_EQ(failure(u"/dev/full"), u"通常のファイルではありません。");
@@ -205,6 +205,7 @@ TEST_F(FilesTest, AFullDiskLeavesTheOldFileWhole) {
     setrlimit(RLIMIT_FSIZE, &before);
     EXPECT_FALSE(written);
     EXPECT_EQ(error_.message, u"ファイルが大きすぎます。");
+    EXPECT_FALSE(error_.whileOpening);
     EXPECT_EQ(folder_.Content("show.kvs"), "the old content");
     EXPECT_EQ(folder_.Count(), 1u);
 }
@@ -239,7 +240,8 @@ TEST_F(FilesTest, ALostConnectionToTheFolderFailsCleanly) {
     std::filesystem::remove_all(folder_.Path("gone"));
     EXPECT_FALSE(files_.Exists(At("GONE/show.kvs")));
     EXPECT_FALSE(files_.Write(At("GONE/show.kvs"), "new", error_));
-    EXPECT_EQ(error_.message, u"ファイルが見つかりません。");
+    EXPECT_EQ(error_.message, u"フォルダが見つかりません。");
+    EXPECT_TRUE(error_.whileOpening);
 }
 
 }  // namespace

@@ -24,6 +24,7 @@ public:
     platform::DateTime clock = platform::FromCalendar({2026, 1, 1, 12, 0, 0});
     /// Not empty: every write fails with these words.
     Text writeError;
+    bool writeFailsWhileOpening = false;
     /// Every write and read that was asked for, in order.
     std::vector<Text> written, read;
 
@@ -75,6 +76,7 @@ public:
         written.emplace_back(path);
         if (!writeError.empty()) {
             error.message = writeError;
+            error.whileOpening = writeFailsWhileOpening;
             return false;
         }
         Put(path, content);

@@ -72,6 +72,11 @@ int ReadPlainFile(const std::string& nativePath, size_t limit, std::string& cont
     }
 }
 
+/// The disk took the file and refused its content.
+bool IsContentFailure(int error) {
+    return error == ENOSPC || error == EDQUOT || error == EFBIG || error == EIO;
+}
+
 }  // namespace
 
 Descriptor OpenPlainFile(const std::string& nativePath) {
@@ -139,6 +144,7 @@ bool PosixFiles::Write(TextView path, std::string_view content, platform::FileEr
     const int failure = holdsZero ? EINVAL : ReplaceFile(NativeTarget(path), content);
     if (failure != 0) {
         error.message = ErrorText(failure);
+        error.whileOpening = !IsContentFailure(failure);
     }
     return failure == 0;
 }

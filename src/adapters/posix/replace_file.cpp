@@ -139,7 +139,7 @@ int ReplaceFile(const std::string& nativePath, std::string_view content) {
     std::string temporary;
     Descriptor file = MakeTemporary(folder, temporary);
     if (!file.Valid()) {
-        return errno;
+        return errno == ENOENT ? ENOTDIR : errno;  // nothing but the folder can be missing
     }
     const int error =
         FillAndRename(std::move(file), temporary, target, content, exists ? &old : nullptr);

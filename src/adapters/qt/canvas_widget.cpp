@@ -37,7 +37,9 @@ void CanvasWidget::Attach(model::PictureBox& box, Gate& gate, bool physical) {
     update();
 }
 
-double CanvasWidget::Scale() const { return physical_ ? devicePixelRatioF() : 1.0; }
+double CanvasWidget::Scale() const {
+    return physical_ ? devicePixelRatioF() : 1.0;
+}
 
 void CanvasWidget::Flush() {
     flushQueued_ = false;
@@ -46,9 +48,9 @@ void CanvasWidget::Flush() {
         return;
     }
     const double scale = Scale();
-    update(QRectF(changed.x / scale, changed.y / scale, changed.width / scale,
-                  changed.height / scale)
-               .toAlignedRect());
+    update(
+        QRectF(changed.x / scale, changed.y / scale, changed.width / scale, changed.height / scale)
+            .toAlignedRect());
 }
 
 void CanvasWidget::paintEvent(QPaintEvent* event) {

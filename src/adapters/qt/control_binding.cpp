@@ -36,12 +36,9 @@ public:
 protected:
     void SyncOwn() override {
         const QString caption = ToQt(button_.Caption());
-        // A form may show only a shape; the words are then in the hint.
-        const bool wordless = face_.property("wordless").toBool();
-        face_.setText(wordless ? QString() : caption);
-        if (!caption.isEmpty() && face_.property("hint").isNull()) {
+        face_.setText(caption);
+        if (!caption.isEmpty()) {
             face_.setAccessibleName(caption);
-            face_.setToolTip(wordless ? caption : QString());
         }
     }
 
@@ -209,7 +206,9 @@ ControlBinding::ControlBinding(model::VisibleControl& control, QWidget& widget, 
     control.Listen(this);
 }
 
-ControlBinding::~ControlBinding() { control_.Unlisten(this); }
+ControlBinding::~ControlBinding() {
+    control_.Unlisten(this);
+}
 
 void ControlBinding::PropertyChanged(model::Control&, model::PropertyBase& property) {
     if (&property == &control_.Visible) {
@@ -265,17 +264,23 @@ bool HasWidget(ControlKind kind) {
         case ControlKind::Window:
         case ControlKind::Timer:
         case ControlKind::MenuEntry:
-        case ControlKind::Imaging: return false;
-        default: return true;
+        case ControlKind::Imaging:
+            return false;
+        default:
+            return true;
     }
 }
 
 QWidget* MakePlainWidget(ControlKind kind, QWidget* parent) {
     switch (kind) {
-        case ControlKind::Button: return new QPushButton(parent);
-        case ControlKind::Label: return new QLabel(parent);
-        case ControlKind::PictureBox: return new CanvasWidget(parent);
-        default: return nullptr;
+        case ControlKind::Button:
+            return new QPushButton(parent);
+        case ControlKind::Label:
+            return new QLabel(parent);
+        case ControlKind::PictureBox:
+            return new CanvasWidget(parent);
+        default:
+            return nullptr;
     }
 }
 
@@ -290,14 +295,14 @@ std::unique_ptr<ControlBinding> MakeBinding(model::VisibleControl& control, QWid
             break;
         case ControlKind::CheckBox:
             if (auto* face = qobject_cast<QCheckBox*>(&widget)) {
-                return std::make_unique<CheckBinding>(static_cast<model::CheckBox&>(control),
-                                                      *face, gate);
+                return std::make_unique<CheckBinding>(static_cast<model::CheckBox&>(control), *face,
+                                                      gate);
             }
             break;
         case ControlKind::OptionButton:
             if (auto* face = qobject_cast<QRadioButton*>(&widget)) {
-                return std::make_unique<OptionBinding>(
-                    static_cast<model::OptionButton&>(control), *face, gate);
+                return std::make_unique<OptionBinding>(static_cast<model::OptionButton&>(control),
+                                                       *face, gate);
             }
             break;
         case ControlKind::Label:
@@ -334,7 +339,8 @@ std::unique_ptr<ControlBinding> MakeBinding(model::VisibleControl& control, QWid
                                                         *canvas, gate, host, physical);
             }
             break;
-        default: break;
+        default:
+            break;
     }
     qWarning("The form's widget %s is no %s", qUtf8Printable(widget.objectName()),
              widget.metaObject()->className());

@@ -33,7 +33,7 @@ protected:
     virtual void SyncOwn() = 0;
     /// Runs `call` when a person can reach the control.
     void Act(const std::function<void()>& call);
-    /// The widget has just been sized by the model.
+    /// Size of a widget for which the model says none.
     virtual QSize NaturalSize() const { return widget_.sizeHint(); }
 
     model::VisibleControl& control_;

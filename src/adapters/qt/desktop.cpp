@@ -105,12 +105,22 @@ Desktop::Desktop(int& argc, char** argv, const Options& options)
     ChooseFont();
 }
 
-Desktop::~Desktop() { UnmakeViews(); }
+Desktop::~Desktop() {
+    UnmakeViews();
+}
 
-platform::EventLoop& Desktop::Loop() { return parts_->loop; }
-platform::Dialogs& Desktop::Dialogs() { return parts_->dialogs; }
-platform::Monitors& Desktop::Monitors() { return parts_->monitors; }
-platform::TextRenderer& Desktop::TextRenderer() { return parts_->textRenderer; }
+platform::EventLoop& Desktop::Loop() {
+    return parts_->loop;
+}
+platform::Dialogs& Desktop::Dialogs() {
+    return parts_->dialogs;
+}
+platform::Monitors& Desktop::Monitors() {
+    return parts_->monitors;
+}
+platform::TextRenderer& Desktop::TextRenderer() {
+    return parts_->textRenderer;
+}
 
 void Desktop::MakeViews(model::Windows& windows) {
     UnmakeViews();

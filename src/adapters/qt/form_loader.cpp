@@ -34,8 +34,7 @@ QWidget* FormLoader::Make(const std::string& windowName) {
     return file.open(QIODevice::ReadOnly) ? load(&file) : nullptr;
 }
 
-QWidget* FormLoader::createWidget(const QString& className, QWidget* parent,
-                                  const QString& name) {
+QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, const QString& name) {
     QWidget* widget = nullptr;
     if (className == "CanvasWidget") {
         widget = new CanvasWidget(parent);

@@ -128,10 +128,9 @@ struct Glyph {
 };
 
 constexpr Glyph kGlyphs[] = {
-    {"play", Play},         {"pause", Pause},     {"stop", Stop},
-    {"previous", Previous}, {"next", Next},       {"fullscreen", FullScreen},
-    {"close", Close},       {"slides", Slides},   {"sound", Sound},
-    {"calendar", Calendar},
+    {"play", Play},   {"pause", Pause},           {"stop", Stop},   {"previous", Previous},
+    {"next", Next},   {"fullscreen", FullScreen}, {"close", Close}, {"slides", Slides},
+    {"sound", Sound}, {"calendar", Calendar},
 };
 
 /// Answers the colour to draw with, enabled or not.

@@ -16,10 +16,9 @@ ListBinding::ListBinding(model::ListBox& list, QListView& view, Gate& gate)
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setModel(&rows_);
     view.installEventFilter(this);
-    connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this](const QItemSelection& on, const QItemSelection& off) {
-                FollowSelection(on, off);
-            });
+    connect(
+        view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        [this](const QItemSelection& on, const QItemSelection& off) { FollowSelection(on, off); });
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current) { FollowCurrent(current); });
     connect(&view, &QListView::clicked, this, [this] { Act([this] { list_.Click(); }); });
@@ -35,7 +34,9 @@ ListBinding::ListBinding(model::ListBox& list, QListView& view, Gate& gate)
     RowsChanged(list, {model::RowChange::Cleared, 0});
 }
 
-ListBinding::~ListBinding() { view_.setModel(nullptr); }
+ListBinding::~ListBinding() {
+    view_.setModel(nullptr);
+}
 
 void ListBinding::RowsChanged(model::Control&, const model::RowChange& change) {
     if (following_ && change.kind == model::RowChange::Replaced) {

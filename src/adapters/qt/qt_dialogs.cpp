@@ -44,15 +44,22 @@ QString Lines(TextView text) {
 
 QMessageBox::Icon IconOf(int flags) {
     switch (flags & kIconMask) {
-        case platform::kStop: return QMessageBox::Critical;
-        case platform::kQuestion: return QMessageBox::Question;
-        case platform::kExclamation: return QMessageBox::Warning;
-        case platform::kInformation: return QMessageBox::Information;
-        default: return QMessageBox::NoIcon;
+        case platform::kStop:
+            return QMessageBox::Critical;
+        case platform::kQuestion:
+            return QMessageBox::Question;
+        case platform::kExclamation:
+            return QMessageBox::Warning;
+        case platform::kInformation:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
     }
 }
 
-bool IsPattern(const QString& name) { return name.contains('*') || name.contains('?'); }
+bool IsPattern(const QString& name) {
+    return name.contains('*') || name.contains('?');
+}
 
 }  // namespace
 

@@ -42,19 +42,25 @@ void QtLoop::Sleep(int milliseconds) {
     }
 }
 
-double QtLoop::Timer() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+double QtLoop::Timer() {
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
 
 platform::DateTime QtLoop::Now() {
     const QDateTime now = QDateTime::currentDateTime();
     const QDate date = now.date();
     const QTime time = now.time();
-    return platform::FromCalendar({date.year(), date.month(), date.day(), time.hour(),
-                                   time.minute(), time.second()});
+    return platform::FromCalendar(
+        {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()});
 }
 
-double QtLoop::Milliseconds() { return static_cast<double>(clock_.nsecsElapsed()) / 1e6; }
+double QtLoop::Milliseconds() {
+    return static_cast<double>(clock_.nsecsElapsed()) / 1e6;
+}
 
-double QtLoop::Rnd() { return static_cast<double>(random_()) / 4294967296.0; }
+double QtLoop::Rnd() {
+    return static_cast<double>(random_()) / 4294967296.0;
+}
 
 void QtLoop::SetTimer(const void* key, int milliseconds, std::function<void()> tick) {
     std::unique_ptr<Ticker>& ticker = tickers_[key];

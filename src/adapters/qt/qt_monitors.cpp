@@ -41,10 +41,9 @@ QScreen* ScreenAt(int physicalX, int physicalY) {
         const platform::Rect area = PhysicalRect(*screen);
         return Outside(physicalX, area.x, area.width) + Outside(physicalY, area.y, area.height);
     };
-    const auto nearest =
-        std::min_element(screens.begin(), screens.end(), [&](const QScreen* a, const QScreen* b) {
-            return distance(a) < distance(b);
-        });
+    const auto nearest = std::min_element(
+        screens.begin(), screens.end(),
+        [&](const QScreen* a, const QScreen* b) { return distance(a) < distance(b); });
     return nearest == screens.end() ? nullptr : *nearest;
 }
 

@@ -48,8 +48,8 @@ QFont ScreenFont(const platform::Font& font) {
     QFont result;
     // The second family serves the characters that the first lacks.
     result.setFamilies({FamilyFor(ToQt(font.name)), QString::fromLatin1(kDefaultFamily)});
-    result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.sizePoints *
-                                                                 kPixelsPerPoint))));
+    result.setPixelSize(
+        std::max(1, static_cast<int>(std::lround(font.sizePoints * kPixelsPerPoint))));
     result.setBold(font.bold);
     result.setItalic(font.italic);
     result.setUnderline(font.underline);

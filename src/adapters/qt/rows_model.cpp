@@ -4,7 +4,9 @@
 
 namespace qt_adapter {
 
-int RowsModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count_; }
+int RowsModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count_;
+}
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole && index.isValid()) {

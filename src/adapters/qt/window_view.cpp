@@ -33,11 +33,17 @@ QStringList Words(const QObject& object, const char* property) {
 }
 
 /// Windows here cannot choose their own place.
-bool PlacesAreNotOurs() { return QGuiApplication::platformName().startsWith("wayland"); }
+bool PlacesAreNotOurs() {
+    return QGuiApplication::platformName().startsWith("wayland");
+}
 
-bool Offscreen() { return QGuiApplication::platformName() == "offscreen"; }
+bool Offscreen() {
+    return QGuiApplication::platformName() == "offscreen";
+}
 
-int ToPixels(int twips) { return twips / platform::kTwipsPerPixel; }
+int ToPixels(int twips) {
+    return twips / platform::kTwipsPerPixel;
+}
 
 bool HasFiles(const QDropEvent& event) {
     const QList<QUrl> urls = event.mimeData()->urls();
@@ -222,8 +228,8 @@ void WindowView::DecorateWidgets() {
         const QString glyph = widget->property("glyph").toString();
         if (!glyph.isEmpty()) {
             const QString role = widget->property("glyphRole").toString();
-            const QIcon icon = GlyphIcon(glyph, role == "highlight" ? QPalette::HighlightedText
-                                                                    : QPalette::ButtonText);
+            const QIcon icon = GlyphIcon(
+                glyph, role == "highlight" ? QPalette::HighlightedText : QPalette::ButtonText);
             if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
                 button->setIcon(icon);
             } else if (auto* label = qobject_cast<QLabel*>(widget)) {
@@ -367,9 +373,15 @@ void WindowView::FollowState() {
 
 void WindowView::FollowPointer() {
     switch (window_.MousePointer) {
-        case model::kPointerBusy: root_->setCursor(Qt::WaitCursor); break;
-        case model::kPointerArrowBusy: root_->setCursor(Qt::BusyCursor); break;
-        default: root_->unsetCursor(); break;
+        case model::kPointerBusy:
+            root_->setCursor(Qt::WaitCursor);
+            break;
+        case model::kPointerArrowBusy:
+            root_->setCursor(Qt::BusyCursor);
+            break;
+        default:
+            root_->unsetCursor();
+            break;
     }
 }
 
@@ -388,8 +400,12 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
             event->ignore();
             gate_.Guarded([this] { window_.Unload(); });
             return true;
-        case QEvent::Resize: Resized(); return false;
-        case QEvent::WindowStateChange: StateChangedByPerson(); return false;
+        case QEvent::Resize:
+            Resized();
+            return false;
+        case QEvent::WindowStateChange:
+            StateChangedByPerson();
+            return false;
         case QEvent::KeyPress: {
             const int key = VirtualKey(static_cast<QKeyEvent*>(event)->key());
             if (key != 0) {
@@ -397,7 +413,9 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
             }
             return false;
         }
-        case QEvent::MouseButtonPress: event->accept(); return true;
+        case QEvent::MouseButtonPress:
+            event->accept();
+            return true;
         case QEvent::MouseButtonRelease: {
             auto* mouse = static_cast<QMouseEvent*>(event);
             if (mouse->button() == Qt::LeftButton && root_->rect().contains(mouse->pos())) {
@@ -415,15 +433,17 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
                 return true;
             }
             return false;
-        case QEvent::Drop: Dropped(*static_cast<QDropEvent*>(event)); return true;
-        default: return false;
+        case QEvent::Drop:
+            Dropped(*static_cast<QDropEvent*>(event));
+            return true;
+        default:
+            return false;
     }
 }
 
 void WindowView::Resized() {
     const QSize size = root_->size();
-    const bool known =
-        size == QSize(ToPixels(window_.Width), ToPixels(window_.Height));
+    const bool known = size == QSize(ToPixels(window_.Width), ToPixels(window_.Height));
     if (!fullScreen_ && root_->isWindow() && !known) {
         gate_.Guarded([&] {
             window_.ResizeTo(size.width() * platform::kTwipsPerPixel,
