@@ -31,9 +31,7 @@ public:
     bool Read(TextView, std::string&, platform::FileError&, size_t) override { return false; }
     bool Write(TextView, std::string_view, platform::FileError&) override { return false; }
     int Readable(TextView) override { return 1; }
-    std::optional<platform::DateTime> LastWrite(TextView) override {
-        return platform::DateTime{1};
-    }
+    std::optional<platform::DateTime> LastWrite(TextView) override { return platform::DateTime{1}; }
 };
 
 /// Holds a picture of 1600 × 900 and scales by handing out a new one.
@@ -100,7 +98,9 @@ void FillList(Application& app) {
     app.state.SlideListEnd = kSlides + 1;
 }
 
-double HeapBytes() { return static_cast<double>(mallinfo2().uordblks); }
+double HeapBytes() {
+    return static_cast<double>(mallinfo2().uordblks);
+}
 
 }  // namespace
 
@@ -115,8 +115,8 @@ int main() {
     robot::RobotSound sound(trace);
     NoSystem system;
     posix_adapter::IconvCodePage codePage;
-    Application app({loop, files, dialogs, monitors, imaging, text, sound, system, trace,
-                     codePage});
+    Application app(
+        {loop, files, dialogs, monitors, imaging, text, sound, system, trace, codePage});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);

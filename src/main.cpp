@@ -80,6 +80,21 @@ struct Surroundings {
     posix_adapter::PosixSystem system;
 };
 
+/// The views of a program's windows, for as long as the windows live: gone before them however the
+/// program is left.
+class Views {
+public:
+    Views(qt_adapter::Desktop& desktop, Application& application) : desktop_(desktop) {
+        desktop_.MakeViews(application.windows);
+    }
+    ~Views() { desktop_.UnmakeViews(); }
+    Views(const Views&) = delete;
+    Views& operator=(const Views&) = delete;
+
+private:
+    qt_adapter::Desktop& desktop_;
+};
+
 int RunUntilEnd(Application& application, const app::StartOptions& options) {
     try {
         app::RunProgram(application, options);
@@ -104,10 +119,8 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
                              around.imaging, desktop.TextRenderer(), sound, around.system, *trace,
                              around.codePage});
     windows.Attach(application.windows);
-    desktop.MakeViews(application.windows);
-    const int status = RunUntilEnd(application, {CommandText(document), true});
-    desktop.UnmakeViews();
-    return status;
+    const Views views(desktop, application);
+    return RunUntilEnd(application, {CommandText(document), true});
 }
 
 int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
@@ -130,13 +143,12 @@ int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
         Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
                                  around.imaging, desktop.TextRenderer(), robot.Sound(),
                                  around.system, *trace, around.codePage});
-        desktop.MakeViews(application.windows);
+        const Views views(desktop, application);
         robot.Attach(application, [&](model::Window& window, const std::string& file) {
             return desktop.Shot(window, file);
         });
         const int status =
             RunUntilEnd(application, {CommandText(options->document), options->title});
-        desktop.UnmakeViews();
         return status != 0 ? status : robot.ExitStatus();
     } catch (const robot::ScriptError& scriptError) {
         std::cerr << scriptError.what() << "\n";

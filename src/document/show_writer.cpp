@@ -135,8 +135,7 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
         if (error.whileOpening) {
             app.platform.dialogs.Message(error.message, platform::kPlain, u"");
         } else {
-            app.platform.dialogs.Message(error.message, platform::kExclamation,
-                                         u"ファイルの保存");
+            app.platform.dialogs.Message(error.message, platform::kExclamation, u"ファイルの保存");
         }
         return;
     }

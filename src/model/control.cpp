@@ -15,7 +15,9 @@ bool SameName(std::string_view a, std::string_view b) {
                       [&](char x, char y) { return lower(x) == lower(y); });
 }
 
-int ToPixels(int twips) { return twips / platform::kTwipsPerPixel; }
+int ToPixels(int twips) {
+    return twips / platform::kTwipsPerPixel;
+}
 
 }  // namespace
 
@@ -46,9 +48,13 @@ PropertyBase* Control::FindProperty(std::string_view name) const {
     return nullptr;
 }
 
-void Control::Listen(Listener* listener) { listeners_.push_back(listener); }
+void Control::Listen(Listener* listener) {
+    listeners_.push_back(listener);
+}
 
-void Control::Unlisten(Listener* listener) { std::erase(listeners_, listener); }
+void Control::Unlisten(Listener* listener) {
+    std::erase(listeners_, listener);
+}
 
 void Control::AnnounceRows(const RowChange& change) {
     for (size_t i = 0; i < listeners_.size(); ++i) {
@@ -87,7 +93,9 @@ const Text& ListBox::List(int row) const {
     return row >= 0 && row < ListCount() ? rows_[static_cast<size_t>(row)] : none;
 }
 
-void ListBox::AddItem(Text row) { AddItem(std::move(row), ListCount()); }
+void ListBox::AddItem(Text row) {
+    AddItem(std::move(row), ListCount());
+}
 
 void ListBox::AddItem(Text row, int before) {
     before = std::clamp(before, 0, ListCount());
@@ -236,7 +244,9 @@ void Window::Show() {
     }
 }
 
-void Window::Hide() { Visible = false; }
+void Window::Hide() {
+    Visible = false;
+}
 
 bool Window::Unload() {
     if (!Loaded || unloading_) {

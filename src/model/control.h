@@ -32,8 +32,25 @@ public:
 
 /// Kind of a control, by which a view knows how to show it.
 enum class ControlKind {
-    Window, Button, CheckBox, OptionButton, Label, TextBox, ListBox, ComboBox, PictureBox, Timer,
-    MenuEntry, FileList, FolderList, DriveList, Grid, Calendar, ScrollBar, Frame, Imaging
+    Window,
+    Button,
+    CheckBox,
+    OptionButton,
+    Label,
+    TextBox,
+    ListBox,
+    ComboBox,
+    PictureBox,
+    Timer,
+    MenuEntry,
+    FileList,
+    FolderList,
+    DriveList,
+    Grid,
+    Calendar,
+    ScrollBar,
+    Frame,
+    Imaging
 };
 
 class Control {

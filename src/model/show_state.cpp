@@ -11,9 +11,15 @@ namespace {
 /// Marks a setting that a new document leaves alone.
 constexpr double kUnchanged = std::numeric_limits<double>::infinity();
 
-std::variant<double, Text> Default(int value) { return static_cast<double>(value); }
-std::variant<double, Text> Default(double value) { return value; }
-std::variant<double, Text> Default(const char16_t* value) { return Text(value); }
+std::variant<double, Text> Default(int value) {
+    return static_cast<double>(value);
+}
+std::variant<double, Text> Default(double value) {
+    return value;
+}
+std::variant<double, Text> Default(const char16_t* value) {
+    return Text(value);
+}
 bool IsUnchanged(const std::variant<double, Text>& value) {
     const double* number = std::get_if<double>(&value);
     return number && *number == kUnchanged;
@@ -41,8 +47,8 @@ bool TextArray::Set(int index, Text value) {
 
 const std::vector<Setting>& Settings() {
     static const std::vector<Setting> table{
-#define SETTING(type, name, start, fresh, kept, lowest, highest)                              \
-    {#name,         &ShowState::name, Default(start), Default(fresh), IsUnchanged(Default(fresh)), \
+#define SETTING(type, name, start, fresh, kept, lowest, highest)                                \
+    {#name,      &ShowState::name, Default(start), Default(fresh), IsUnchanged(Default(fresh)), \
      Kept::kept, lowest,           highest},
 #include "model/settings.def"
 #undef SETTING
@@ -135,14 +141,16 @@ void SetNewDefaults(ShowState& state) {
 
 void ZeroReset(ShowState& state) {
     for (int16_t ShowState::*field :
-         {&ShowState::AutoStartFlag, &ShowState::ShowEffect, &ShowState::EraseEffect,
-          &ShowState::ShowSlitCount, &ShowState::EraseSlitCount, &ShowState::EffectSpeedTrim,
-          &ShowState::CdRepeatFlag, &ShowState::ShowMosaicCount, &ShowState::EraseMosaicCount,
-          &ShowState::MosaicDelayUnit, &ShowState::ListDblClickRecord,
-          &ShowState::ListDblClickWallpaper, &ShowState::ListDblClickText,
-          &ShowState::TextMacroFlag, &ShowState::SoundSyncFlag, &ShowState::RepeatFlag,
-          &ShowState::SoundMode, &ShowState::LinkAutoFlag, &ShowState::LinkRepeat,
-          &ShowState::LinkCheck3}) {
+         {&ShowState::AutoStartFlag,      &ShowState::ShowEffect,
+          &ShowState::EraseEffect,        &ShowState::ShowSlitCount,
+          &ShowState::EraseSlitCount,     &ShowState::EffectSpeedTrim,
+          &ShowState::CdRepeatFlag,       &ShowState::ShowMosaicCount,
+          &ShowState::EraseMosaicCount,   &ShowState::MosaicDelayUnit,
+          &ShowState::ListDblClickRecord, &ShowState::ListDblClickWallpaper,
+          &ShowState::ListDblClickText,   &ShowState::TextMacroFlag,
+          &ShowState::SoundSyncFlag,      &ShowState::RepeatFlag,
+          &ShowState::SoundMode,          &ShowState::LinkAutoFlag,
+          &ShowState::LinkRepeat,         &ShowState::LinkCheck3}) {
         state.*field = 0;
     }
     state.ShowEffectSpeed = -30;
@@ -150,10 +158,16 @@ void ZeroReset(ShowState& state) {
     state.ListShowPicture = 1;
 }
 
-Text ScheduleFromOfRow(TextView row) { return text::Mid(row, 1, 10) + u" " + text::Mid(row, 11, 5); }
+Text ScheduleFromOfRow(TextView row) {
+    return text::Mid(row, 1, 10) + u" " + text::Mid(row, 11, 5);
+}
 
-Text ScheduleToOfRow(TextView row) { return text::Mid(row, 16, 10) + u" " + text::Mid(row, 26, 5); }
+Text ScheduleToOfRow(TextView row) {
+    return text::Mid(row, 16, 10) + u" " + text::Mid(row, 26, 5);
+}
 
-Text BlankScheduleRow() { return Text(30, u' '); }
+Text BlankScheduleRow() {
+    return Text(30, u' ');
+}
 
 }  // namespace model

@@ -18,9 +18,10 @@ Form1::Form1() : Window("Form1", u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10") {
 }
 
 std::array<Window*, 26> Windows::All() {
-    return {&form1,  &form2,  &form3,  &form4,  &form5,  &form6,  &form7,       &form8,       &form9,
-            &form10, &form11, &form12, &form13, &form14, &form15, &form16,      &form17,      &form18,
-            &form19, &form20, &form21, &form22, &form23, &form24, &slidescreen, &slidescreen2};
+    return {&form1,  &form2,  &form3,  &form4,       &form5,       &form6,  &form7,
+            &form8,  &form9,  &form10, &form11,      &form12,      &form13, &form14,
+            &form15, &form16, &form17, &form18,      &form19,      &form20, &form21,
+            &form22, &form23, &form24, &slidescreen, &slidescreen2};
 }
 
 void Windows::SetPointer(MousePointerShape shape) {

@@ -49,10 +49,8 @@ std::optional<platform::Size> FittedSize(const FitRule& rule, platform::Size own
     }
     const double pw = static_cast<double>(own.width) * platform::kTwipsPerPixel;
     const double ph = static_cast<double>(own.height) * platform::kTwipsPerPixel;
-    const double tw =
-        rule.fullScreen ? Limit(rule, rule.areaTwips.width) : rule.areaTwips.width;
-    const double th =
-        rule.fullScreen ? Limit(rule, rule.areaTwips.height) : rule.areaTwips.height;
+    const double tw = rule.fullScreen ? Limit(rule, rule.areaTwips.width) : rule.areaTwips.width;
+    const double th = rule.fullScreen ? Limit(rule, rule.areaTwips.height) : rule.areaTwips.height;
     if (!Scales(rule, pw, ph, tw, th)) {
         return std::nullopt;
     }

@@ -23,8 +23,8 @@ FitRule CurrentRule(Application& app, bool fullScreen, double randomFactor) {
     rule.overlaySize = state.OverlaySize;
     rule.pictureScale = state.PictureScale;
     rule.randomFactor = randomFactor;
-    rule.areaTwips = fullScreen ? MonitorSizeTwips(app)
-                                : platform::Size{preview.Width(), preview.Height()};
+    rule.areaTwips =
+        fullScreen ? MonitorSizeTwips(app) : platform::Size{preview.Width(), preview.Height()};
     return rule;
 }
 
@@ -89,7 +89,9 @@ void RemoveFailingEntry(Application& app) {
 
 }  // namespace
 
-void ClearPreview(Application& app) { app.windows.form1.Picture1.SetPicture(nullptr); }
+void ClearPreview(Application& app) {
+    app.windows.form1.Picture1.SetPicture(nullptr);
+}
 
 bool LoadSlidePicture(Application& app) {
     model::ShowState& state = app.state;

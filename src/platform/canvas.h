@@ -43,7 +43,9 @@ struct Bitmap {
     Bitmap(int w, int h, Pixel fill = 0xFF000000u)
         : width(w), height(h), pixels(static_cast<size_t>(w) * static_cast<size_t>(h), fill) {}
     bool Empty() const { return width == 0 || height == 0; }
-    Pixel* Row(int y) { return pixels.data() + static_cast<size_t>(y) * static_cast<size_t>(width); }
+    Pixel* Row(int y) {
+        return pixels.data() + static_cast<size_t>(y) * static_cast<size_t>(width);
+    }
     const Pixel* Row(int y) const {
         return pixels.data() + static_cast<size_t>(y) * static_cast<size_t>(width);
     }
@@ -93,8 +95,8 @@ public:
 
     /// Copies `width` × `height` pixels of `source` from (sourceX, sourceY) to (x, y). Blackness
     /// and Whiteness need no source. What lies outside either buffer is left out.
-    void BitBlt(int x, int y, int width, int height, const Bitmap* source, int sourceX,
-                int sourceY, RasterOp op = RasterOp::SourceCopy);
+    void BitBlt(int x, int y, int width, int height, const Bitmap* source, int sourceX, int sourceY,
+                RasterOp op = RasterOp::SourceCopy);
     /// Nearest-pixel scaling of the whole source onto the rectangle.
     void StretchBlt(const Rect& target, const Bitmap& source);
 

@@ -8,7 +8,8 @@ namespace platform {
 class System {
 public:
     virtual ~System() = default;
-    /// Folder of the program's own files, with a separator at the end; made and filled at first use.
+    /// Folder of the program's own files, with a separator at the end; made and filled at first
+    /// use.
     virtual Text AppFolder() = 0;
     /// True when another instance of the program was running at start.
     virtual bool PreviousInstance() = 0;

@@ -14,7 +14,9 @@ namespace playback {
 
 namespace {
 
-bool Refused(Application& app) { return app.windows.Pointer() != model::kPointerNormal; }
+bool Refused(Application& app) {
+    return app.windows.Pointer() != model::kPointerNormal;
+}
 
 void SetRunning(Application& app) {
     SetButtons(app, Buttons::Running);
@@ -98,12 +100,11 @@ void Pause_Click(Application& app) {
         return;
     }
     const bool link = state.LinkRunning == 1;
-    SetBoxButtons(app,
-                  {.close = true,
-                   .start = true,
-                   .previous = state.SlideIndex > 1 || (link && state.LinkIndex > 2),
-                   .next = state.SlideIndex < state.SlideListEnd - 1 ||
-                           (link && state.LinkIndex < state.LinkEnd)});
+    SetBoxButtons(app, {.close = true,
+                        .start = true,
+                        .previous = state.SlideIndex > 1 || (link && state.LinkIndex > 2),
+                        .next = state.SlideIndex < state.SlideListEnd - 1 ||
+                                (link && state.LinkIndex < state.LinkEnd)});
 }
 
 void StepInBox(Application& app) {

@@ -29,12 +29,16 @@ Text DefaultSound(const model::ShowState& state) {
 
 Text VolumeCommand(int16_t mode) {
     switch (mode) {
-        case 2: return u"setaudio cdaudio volume to";
+        case 2:
+            return u"setaudio cdaudio volume to";
         case 4:
-        case 5: return u"setaudio mid volume to";
+        case 5:
+            return u"setaudio mid volume to";
         case 8:
-        case 9: return u"setaudio mp3 volume to";
-        default: return u"setaudio wav volume to";
+        case 9:
+            return u"setaudio mp3 volume to";
+        default:
+            return u"setaudio wav volume to";
     }
 }
 
@@ -69,10 +73,18 @@ void StartMainChannel(Application& app) {
     model::ShowState& state = app.state;
     Text path;
     switch (state.SoundMode) {
-        case 5: path = LinkedToSlide(app, u"mid"); break;
-        case 9: path = LinkedToSlide(app, u"mp3"); break;
-        case 0: path = state.AppFolder + u"vue1.wav"; break;
-        default: path = LinkedToSlide(app, u"wav"); break;
+        case 5:
+            path = LinkedToSlide(app, u"mid");
+            break;
+        case 9:
+            path = LinkedToSlide(app, u"mp3");
+            break;
+        case 0:
+            path = state.AppFolder + u"vue1.wav";
+            break;
+        default:
+            path = LinkedToSlide(app, u"wav");
+            break;
     }
     if (!app.platform.files.Exists(path)) {
         const bool takesDefault = state.SoundMode == 1 || state.SoundMode == 2;
@@ -89,16 +101,21 @@ void StartMainChannel(Application& app) {
 
 }  // namespace
 
-bool RunsForward(const Application& app) { return !app.windows.form1.Command1.Enabled; }
+bool RunsForward(const Application& app) {
+    return !app.windows.form1.Command1.Enabled;
+}
 
 bool PlaysPerPicture(const model::ShowState& state) {
     switch (state.SoundMode) {
         case 0:
         case 1:
         case 5:
-        case 9: return true;
-        case 2: return state.CdPlusLinkedWav == 0;
-        default: return false;
+        case 9:
+            return true;
+        case 2:
+            return state.CdPlusLinkedWav == 0;
+        default:
+            return false;
     }
 }
 
@@ -118,9 +135,9 @@ bool WaitForLinkedSound(Application& app) {
     }
     const WaitMark mark(state);
     for (bool playing = true; playing;) {
-        playing = Reports(
-            app, PlaysSecondChannel(state) ? u"status wav_ren mode" : u"status wav mode",
-            u"playing");
+        playing =
+            Reports(app, PlaysSecondChannel(state) ? u"status wav_ren mode" : u"status wav mode",
+                    u"playing");
         app.platform.loop.PumpEvents();
         app.platform.loop.Sleep(kSyncPollMs);
         if (!RunsForward(app)) {
@@ -135,8 +152,7 @@ bool FadeBeforeLinkedMedia(Application& app, bool isVideo) {
     if (state.SoundOpen != 1 || state.SoundPlaying != 1) {
         return true;
     }
-    const bool beforeMp3 =
-        state.SoundMode == 9 && app.platform.files.Exists(state.LinkedMediaPath);
+    const bool beforeMp3 = state.SoundMode == 9 && app.platform.files.Exists(state.LinkedMediaPath);
     const bool beforeVideo = isVideo && state.SoundMode == 6 && state.ListMp3Playing == 1;
     if (!beforeMp3 && !beforeVideo) {
         return true;

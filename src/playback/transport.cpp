@@ -297,7 +297,8 @@ void Command2_Click(Application& app) {
             state.SoundPaused = 1;
             sound::StopSound(app);
             break;
-        default: break;
+        default:
+            break;
     }
     if (state.SlideIndex > 0 && state.ShowRunning == 1) {
         form1.Timer1.Enabled = false;

@@ -7,7 +7,9 @@
 
 namespace platform {
 
-void PrintTo(const Size& size, std::ostream* out) { *out << size.width << "x" << size.height; }
+void PrintTo(const Size& size, std::ostream* out) {
+    *out << size.width << "x" << size.height;
+}
 
 }  // namespace platform
 
@@ -108,7 +110,9 @@ TEST(FitFullScreen, ShareOfTheScreen) {
         {"drawn, 0.6: a half", Screen(0, 5, 0, 0.6), {4000, 3000}, {720, 540}},
         {"no limit", Screen(0, 6), {4000, 3000}, kStays},
         {"no limit, to the width", Screen(1, 6), {4000, 3000}, kStays},
-        {"the share holds without overlay too", WithOverlay(Screen(0), 0, 2), {4000, 3000},
+        {"the share holds without overlay too",
+         WithOverlay(Screen(0), 0, 2),
+         {4000, 3000},
          {864, 648}},
         {"and with it", WithOverlay(Screen(0), 4, 2), {4000, 3000}, {864, 648}},
     });
@@ -156,9 +160,13 @@ TEST(FitRounding, NearestPixelTiesToEven) {
     Check({
         {"1080.5 down", Screen(1), {3840, 2161}, {1920, 1080}},
         {"1081.5 up", Screen(1), {3840, 2163}, {1920, 1082}},
-        {"12007 twips are 800.47 pixels", WithArea(Preview(1), {12007, 6750}), {1600, 600},
+        {"12007 twips are 800.47 pixels",
+         WithArea(Preview(1), {12007, 6750}),
+         {1600, 600},
          {800, 300}},
-        {"12008 twips are 800.53 pixels", WithArea(Preview(1), {12008, 6750}), {1600, 600},
+        {"12008 twips are 800.53 pixels",
+         WithArea(Preview(1), {12008, 6750}),
+         {1600, 600},
          {801, 300}},
     });
 }

@@ -77,8 +77,8 @@ TEST(Load, SecondControlKeepsTheUnscaledPicture) {
         int16_t sizeAdjust, overlayMode;
         bool copied;
     };
-    for (const Setting& setting : {Setting{0, 0, true}, {1, 0, true}, {2, 0, false}, {2, 1, true},
-                                   {2, 4, true}}) {
+    for (const Setting& setting :
+         {Setting{0, 0, true}, {1, 0, true}, {2, 0, false}, {2, 1, true}, {2, 4, true}}) {
         Loading at;
         at.state.SizeAdjust = setting.sizeAdjust;
         at.state.OverlayMode = setting.overlayMode;
@@ -398,12 +398,11 @@ TEST(LoadFailure, TheLastPictureOfTheListEndsTheShow) {
     at.state.ListErrorDelete = 1;
     HandleLoadFailure(at.app);
     ASSERT_EQ(at.dialogs.messages.size(), 1u);
-    EXPECT_EQ(at.dialogs.messages[0].text,
-              u"スライドリストに　画像ファイルが見つかりません。");
+    EXPECT_EQ(at.dialogs.messages[0].text, u"スライドリストに　画像ファイルが見つかりません。");
     EXPECT_EQ(at.dialogs.messages[0].flags, 48);
     EXPECT_EQ(at.dialogs.messages[0].title, u"パラピコ");
-    for (model::Button* button : {&at.form1.Command1, &at.form1.Command2, &at.form1.Command3,
-                                  &at.form1.Command4}) {
+    for (model::Button* button :
+         {&at.form1.Command1, &at.form1.Command2, &at.form1.Command3, &at.form1.Command4}) {
         EXPECT_FALSE(button->Enabled) << button->Name();
     }
     EXPECT_EQ(at.state.ShowAbort, 1);

@@ -115,8 +115,7 @@ public:
     /// The buttons that open the slide list, the sound list and the schedule.
     std::string ToolButtons() const {
         std::string digits;
-        for (const model::Button* button :
-             {&form1.Command6, &form1.Command10, &form1.Command11}) {
+        for (const model::Button* button : {&form1.Command6, &form1.Command10, &form1.Command11}) {
             digits += button->Enabled ? '1' : '0';
         }
         return digits;
@@ -150,8 +149,7 @@ private:
     template <class Test>
     Texts Commands(Test test) const {
         Texts found;
-        std::copy_if(sound.commands.begin(), sound.commands.end(), std::back_inserter(found),
-                     test);
+        std::copy_if(sound.commands.begin(), sound.commands.end(), std::back_inserter(found), test);
         return found;
     }
 

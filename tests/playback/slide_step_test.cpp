@@ -197,8 +197,7 @@ TEST(StepSync, WhichModesWaitForWhichSound) {
         show.state.SoundSyncFlag = 0;
         int playing = 2;
         show.sound.answer = [&](TextView command) -> Text {
-            return one.question && command == one.question && playing-- > 0 ? u"playing on"
-                                                                            : u"";
+            return one.question && command == one.question && playing-- > 0 ? u"playing on" : u"";
         };
         show.Step(2);
         // Two answers "playing" and one other: three passes.
@@ -363,20 +362,18 @@ TEST(StepRandom, DrawsByRoundingToEven) {
         int slide;
     };
     const Draw draws[] = {
-        {3, 0.0, 1},        // 0.5 → 0, which becomes 1
-        {3, 0.2, 1},        // 1.1
-        {3, 0.34, 2},       // 1.52
-        {3, 0.5, 2},        // 2.0
-        {3, 0.9, 3},        // 3.2
-        {3, 0.9999999, 3},  // 3.4999997
-        {4, 0.25, 2},       // 1.5 → 2
-        {4, 0.5, 2},        // 2.5 → 2
-        {4, 0.75, 4},       // 3.5 → 4
-        {4, 0.7, 3},        // 3.3
-        {1, 0.0, 1},
-        {1, 0.5, 1},  // 1.0
-        {1, 0.99, 1},
-        {1, 0.99999999999999989, 1},
+        {3, 0.0, 1},                     // 0.5 → 0, which becomes 1
+        {3, 0.2, 1},                     // 1.1
+        {3, 0.34, 2},                    // 1.52
+        {3, 0.5, 2},                     // 2.0
+        {3, 0.9, 3},                     // 3.2
+        {3, 0.9999999, 3},               // 3.4999997
+        {4, 0.25, 2},                    // 1.5 → 2
+        {4, 0.5, 2},                     // 2.5 → 2
+        {4, 0.75, 4},                    // 3.5 → 4
+        {4, 0.7, 3},                     // 3.3
+        {1, 0.0, 1},       {1, 0.5, 1},  // 1.0
+        {1, 0.99, 1},      {1, 0.99999999999999989, 1},
     };
     for (const Draw& draw : draws) {
         Show show(draw.count);

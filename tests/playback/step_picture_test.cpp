@@ -254,10 +254,14 @@ TEST(StepVideo, LinkedSoundBesideIt) {
         const char16_t* extension;  // null: no sound of its own
         int16_t restart;
     };
-    for (const Setting& setting :
-         {Setting{1, 0, 0, u"wav", 0}, {6, 1, 0, u"wav", 0}, {8, 0, 1, u"wav", 0},
-          {9, 0, 0, u"mp3", 0}, {6, 0, 0, nullptr, 1}, {8, 0, 0, nullptr, 1},
-          {3, 0, 0, nullptr, 0}, {0, 0, 0, nullptr, 0}}) {
+    for (const Setting& setting : {Setting{1, 0, 0, u"wav", 0},
+                                   {6, 1, 0, u"wav", 0},
+                                   {8, 0, 1, u"wav", 0},
+                                   {9, 0, 0, u"mp3", 0},
+                                   {6, 0, 0, nullptr, 1},
+                                   {8, 0, 0, nullptr, 1},
+                                   {3, 0, 0, nullptr, 0},
+                                   {0, 0, 0, nullptr, 0}}) {
         Show show(0);
         show.AddSlide(u"C:\\pic\\a.mp4");
         show.files.Put(u"C:\\pic\\a.mp4", "film");

@@ -161,8 +161,8 @@ TEST(StepCd, ADiscThatStandsIsStopped) {
     CdShow show;
     show.state.LastCdTrackText = u"01:02:03";
     show.Step(2);
-    EXPECT_EQ(show.sound.commands, (Texts{u"status cdaudio position", u"stop cdaudio",
-                                          u"status cdaudio mode"}));
+    EXPECT_EQ(show.sound.commands,
+              (Texts{u"status cdaudio position", u"stop cdaudio", u"status cdaudio mode"}));
 }
 
 TEST(StepCd, AStoppedDiscStartsAgainAndClearsTheWish) {
@@ -203,8 +203,10 @@ TEST(StepBackground, AsksTheAliasOfTheMode) {
         int16_t mode;
         const char16_t* question;
     };
-    for (const Setting& setting : {Setting{3, u"status wav mode"}, {4, u"status mid mode"},
-                                   {6, u"status wav mode"}, {8, u"status mp3 mode"}}) {
+    for (const Setting& setting : {Setting{3, u"status wav mode"},
+                                   {4, u"status mid mode"},
+                                   {6, u"status wav mode"},
+                                   {8, u"status mp3 mode"}}) {
         Show show;
         show.state.SoundMode = setting.mode;
         show.state.SoundPlaying = 1;
@@ -341,10 +343,13 @@ TEST(StepMainChannel, TheFileOfTheMode) {
         int16_t mode, cdPlusLinkedWav;
         const char16_t* path;  // null: none
     };
-    for (const Setting& setting :
-         {Setting{1, 1, u"C:\\pic\\2.wav"}, {2, 0, u"C:\\pic\\2.wav"}, {2, 1, nullptr},
-          {5, 1, u"C:\\pic\\2.mid"}, {9, 1, u"C:\\pic\\2.mp3"}, {3, 1, nullptr},
-          {7, 1, nullptr}}) {
+    for (const Setting& setting : {Setting{1, 1, u"C:\\pic\\2.wav"},
+                                   {2, 0, u"C:\\pic\\2.wav"},
+                                   {2, 1, nullptr},
+                                   {5, 1, u"C:\\pic\\2.mid"},
+                                   {9, 1, u"C:\\pic\\2.mp3"},
+                                   {3, 1, nullptr},
+                                   {7, 1, nullptr}}) {
         Show show;
         show.state.SoundMode = setting.mode;
         show.state.CdPlusLinkedWav = setting.cdPlusLinkedWav;

@@ -218,8 +218,7 @@ TEST(TickDocument, AChangedOneStartsOverInTheSameTick) {
     EXPECT_EQ(show.Shown(), (Numbers{1, 2, 1}));
     EXPECT_EQ(show.state.CurrentPath, u"C:\\new\\x.png");
     EXPECT_EQ(show.state.SlideListEnd, 3);
-    EXPECT_EQ(show.state.DocumentFileDate,
-              platform::DateTimeText(show.files.Get(kDocument)->date));
+    EXPECT_EQ(show.state.DocumentFileDate, platform::DateTimeText(show.files.Get(kDocument)->date));
     show.loop.Run(3000);
     EXPECT_EQ(show.state.CurrentPath, u"C:\\new\\y.png") << "read once";
 }

@@ -103,9 +103,17 @@ TEST(Pause, SoundByMode) {
     struct Setting {
         int16_t mode, cdPlusLinkedWav, soundPaused;
     };
-    for (const Setting& setting :
-         {Setting{0, 1, 0}, {1, 1, 1}, {2, 1, 0}, {2, 0, 1}, {3, 1, 1}, {4, 1, 1}, {5, 1, 1},
-          {6, 1, 1}, {7, 1, 0}, {8, 1, 0}, {9, 1, 1}}) {
+    for (const Setting& setting : {Setting{0, 1, 0},
+                                   {1, 1, 1},
+                                   {2, 1, 0},
+                                   {2, 0, 1},
+                                   {3, 1, 1},
+                                   {4, 1, 1},
+                                   {5, 1, 1},
+                                   {6, 1, 1},
+                                   {7, 1, 0},
+                                   {8, 1, 0},
+                                   {9, 1, 1}}) {
         Show show;
         show.Start();
         show.state.SoundMode = setting.mode;
@@ -114,9 +122,9 @@ TEST(Pause, SoundByMode) {
             return command == u"status cdaudio current track" ? u"5" : u"";
         };
         show.Pause();
-        const Texts expected =
-            setting.mode == 2 ? Texts{u"status cdaudio current track", u"stop cdaudio"}
-                              : Texts{u"stop cdaudio"};
+        const Texts expected = setting.mode == 2
+                                   ? Texts{u"status cdaudio current track", u"stop cdaudio"}
+                                   : Texts{u"stop cdaudio"};
         EXPECT_EQ(show.CommandsWith(u"cdaudio"), expected) << setting.mode;
         EXPECT_EQ(show.state.SoundPaused, setting.soundPaused) << setting.mode;
         EXPECT_EQ(show.state.CdPaused, setting.mode == 2 ? 1 : 0) << setting.mode;
@@ -277,8 +285,8 @@ TEST(MacroButtons, MenusJumpFromTheCurrentSlide) {
     struct Jump {
         int16_t value, index, target;
     };
-    for (const Jump& jump : {Jump{3, 5, 7}, {1, 5, 5}, {0, 5, 4}, {-2, 5, 2}, {-9, 5, 0},
-                             {32767, 30000, 32767}}) {
+    for (const Jump& jump :
+         {Jump{3, 5, 7}, {1, 5, 5}, {0, 5, 4}, {-2, 5, 2}, {-9, 5, 0}, {32767, 30000, 32767}}) {
         Show show(1);
         show.state.MenuJump[2] = jump.value;
         show.state.SlideIndex = jump.index;

@@ -26,8 +26,8 @@ TraceValue TextOrNull(const std::optional<Text>& text) {
 }
 
 /// The four fields, and the mark of a box that answered itself.
-void Tell(platform::Trace& trace, std::string_view event,
-          const platform::TraceField (&fields)[4], bool unanswered) {
+void Tell(platform::Trace& trace, std::string_view event, const platform::TraceField (&fields)[4],
+          bool unanswered) {
     if (unanswered) {
         trace.Event(event, {fields[0], fields[1], fields[2], fields[3], {"unanswered", true}});
     } else {

@@ -8,9 +8,9 @@ namespace model {
 struct Form1 : Window {
     Form1();
 
-    PictureBox Picture1{this, "Picture1"};                  // preview
-    PictureBox Picture3{this, "Picture3"};                  // stands in for a video
-    Label Label1{this, "Label1"};                           // scrolling text
+    PictureBox Picture1{this, "Picture1"};                       // preview
+    PictureBox Picture3{this, "Picture3"};                       // stands in for a video
+    Label Label1{this, "Label1"};                                // scrolling text
     ControlArray<PictureBox> Picture2{this, "Picture2", 0, 63};  // macro picture slots
 
     Button Command1{this, "Command1", u"START"};
@@ -20,8 +20,8 @@ struct Form1 : Window {
     Button Command5{this, "Command5", u"前画面"};
     Button Command6{this, "Command6", u"スライドリスト"};  // opens Form3
     Button Command7{this, "Command7", u"次画面"};
-    Button Command10{this, "Command10", u"サウンドリスト"};   // opens Form10
-    Button Command11{this, "Command11", u"スケジュール"};  // opens Form22
+    Button Command10{this, "Command10", u"サウンドリスト"};  // opens Form10
+    Button Command11{this, "Command11", u"スケジュール"};    // opens Form22
 
     // Placed by macros.
     Button Command8{this, "Command8", u"Yes"};
@@ -65,8 +65,7 @@ struct Form1 : Window {
     MenuEntry mnuDOUKI{this, "mnuDOUKI", u"効果音同期(&D)", &mnuOPTION};
     MenuArray mnuDOU{this, "mnuDOU", mnuDOUKI, {u"あり", u"なし"}};
     MenuEntry mnuKOICHI{this, "mnuKOICHI", u"画像連動効果音位置(&I)", &mnuOPTION};
-    MenuArray mnuKOICHI1{
-        this, "mnuKOICHI1", mnuKOICHI, {u"ﾃｷｽﾄ表示前に再生", u"ﾃｷｽﾄ表示後に再生"}};
+    MenuArray mnuKOICHI1{this, "mnuKOICHI1", mnuKOICHI, {u"ﾃｷｽﾄ表示前に再生", u"ﾃｷｽﾄ表示後に再生"}};
     MenuEntry mnuTEXTHead{this, "mnuTEXT", u"テキスト表示マクロ(&T)", &mnuOPTION};
     MenuArray mnuTEXT{this, "mnuTEXT", mnuTEXTHead, {u"あり", u"なし"}};
     MenuEntry mnuRENF{this, "mnuRENF", u"画像連動フォルダ指定(&F)", &mnuOPTION};
@@ -101,12 +100,12 @@ struct Form1 : Window {
                      {u"①上から", u"②下から", u"③左から", u"④右から", u"⑤中央から", u"⑥外側から",
                       u"⑦横スリット", u"⑧縦スリット", u"⑨モザイク", u"ランダム", u"順次", u"なし"}};
     MenuEntry mnuSYOUKOHead{this, "mnuSYOUKO", u"画面消去効果(&D)", &mnuGKO};
-    MenuArray mnuSYOUKO{this,
-                        "mnuSYOUKO",
-                        mnuSYOUKOHead,
-                        {u"①上から", u"②下から", u"③左から", u"④右から", u"⑤中央から",
-                         u"⑥外側から", u"⑦横スリット", u"⑧縦スリット", u"⑨モザイク", u"ランダム",
-                         u"順次", u"表示効果連動", u"なし"}};
+    MenuArray mnuSYOUKO{
+        this,
+        "mnuSYOUKO",
+        mnuSYOUKOHead,
+        {u"①上から", u"②下から", u"③左から", u"④右から", u"⑤中央から", u"⑥外側から", u"⑦横スリット",
+         u"⑧縦スリット", u"⑨モザイク", u"ランダム", u"順次", u"表示効果連動", u"なし"}};
     MenuEntry mnuKSPSELHead{this, "mnuKSPSEL", u"効果スピード(&S)", &mnuGKO};
     MenuArray mnuKSPSEL{this, "mnuKSPSEL", mnuKSPSELHead, {u"可変", u"固定"}};
     MenuEntry mnuHKSP{this, "mnuHKSP", u"表示効果スピード", &mnuGKO};
@@ -122,8 +121,8 @@ struct Form1 : Window {
     MenuArray mnuKAIRO{this,
                        "mnuKAIRO",
                        mnuKAHAI,
-                       {u"濃い灰", u"薄い灰", u"黒", u"薄赤", u"薄茶", u"薄黄", u"薄緑",
-                        u"薄水色", u"薄青", u"薄ピンク"}};
+                       {u"濃い灰", u"薄い灰", u"黒", u"薄赤", u"薄茶", u"薄黄", u"薄緑", u"薄水色",
+                        u"薄青", u"薄ピンク"}};
     MenuEntry mnuKASASHead{this, "mnuKASAS", u"画像サイズ", &mnuKASANEHead};
     MenuArray mnuKASAS{this,
                        "mnuKASAS",

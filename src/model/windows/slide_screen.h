@@ -8,9 +8,9 @@ namespace model {
 struct Slidescreen : Window {
     Slidescreen() : Window("Slidescreen", u"パラピコ") {}
 
-    PictureBox P2{this, "P2"};  // visible canvas
-    PictureBox P3{this, "P3"};  // background under macro objects
-    PictureBox P4{this, "P4"};  // canvas without text
+    PictureBox P2{this, "P2"};                                   // visible canvas
+    PictureBox P3{this, "P3"};                                   // background under macro objects
+    PictureBox P4{this, "P4"};                                   // canvas without text
     ControlArray<PictureBox> Picture1{this, "Picture1", 0, 63};  // macro picture slots
     PictureBox Picture2{this, "Picture2"};                       // stands in for a video
     Label Label1{this, "Label1"};                                // scrolling text

@@ -23,8 +23,9 @@ struct Form17 : Window {
 
 struct Form10 : Window {
     Form10()
-        : Window("Form10",
-                 u"WAV,MID,ＭＰ３ リスト（※パラピコの動画再生中はリスト音声再生が一時停止します）") {}
+        : Window(
+              "Form10",
+              u"WAV,MID,ＭＰ３ リスト（※パラピコの動画再生中はリスト音声再生が一時停止します）") {}
     ListBox List1{this, "List1"};
     Label Label4{this, "Label4", u"0"};
     CheckBox Check1{this, "Check1", u"ＫＶＳに保存あり"};
