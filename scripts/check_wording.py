@@ -23,12 +23,21 @@ BINARY_SUFFIXES = {".png", ".jpg", ".kvs", ".wav", ".mid", ".bmp", ".ico", ".ttf
 SKIPPED = {"COPYING"}
 
 
+def names_of_files(root):
+    """Files git knows or would take; without git, everything but what is built."""
+    try:
+        listing = subprocess.run(
+            ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+            cwd=root, check=True, capture_output=True).stdout.decode("utf-8")
+        return sorted(filter(None, listing.split("\0")))
+    except (OSError, subprocess.CalledProcessError):
+        names = (p.relative_to(root).as_posix() for p in root.rglob("*"))
+        return sorted(n for n in names if not n.startswith(("build/", ".git/", "demo-pictures/")))
+
+
 def tracked_files(root):
-    """Files git knows or would take; the corpus of the fuzz targets is bytes, not words."""
-    listing = subprocess.run(
-        ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
-        cwd=root, check=True, capture_output=True).stdout.decode("utf-8")
-    for name in sorted(filter(None, listing.split("\0"))):
+    """The corpus of the fuzz targets is bytes, not words, and the licence is not ours."""
+    for name in names_of_files(root):
         path = root / name
         if path.is_file() and name not in SKIPPED and not name.startswith("fuzz/corpus/"):
             yield name, path

@@ -17,7 +17,9 @@ export QT_QPA_PLATFORM=offscreen
 
 "$program" --inspect "$document" >"$scratch/document.json" || {
     echo "not a show that can be played: $document" >&2
-    cat "$scratch/document.json" >&2
+    python3 -c 'import json, sys
+for message in json.load(sys.stdin).get("messages", []): print(message["text"], file=sys.stderr)' \
+        <"$scratch/document.json" || true
     exit 1
 }
 python3 - "$scratch/document.json" "$slides_at_most" >"$scratch/play.robot" <<'PYTHON'
@@ -25,7 +27,8 @@ import json
 import sys
 
 document = json.load(open(sys.argv[1], encoding="utf-8"))
-slides = min(len(document.get("List1", [])), int(sys.argv[2]))
+# A list of shows has no slides of its own: as many as there may be.
+slides = min(len(document.get("List1", [])) or int(sys.argv[2]), int(sys.argv[2]))
 interval = document.get("state", {}).get("Form1.Timer1.Interval", 3000)
 # A picture is taken in the middle of each slide's time.
 for i in range(slides):
