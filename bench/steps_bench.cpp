@@ -48,6 +48,9 @@ public:
     int BitsPerPixel() const override { return 24; }
     void SetColorResolution(int, int, int, int) override {}
     void Resize(int width, int height, int) override { size_ = {width, height}; }
+    void GrayScale() override {}
+    void Reverse() override {}
+    void Mosaic(int) override {}
     platform::BitmapPtr Picture() override {
         return std::make_shared<platform::Bitmap>(size_.width / 8, size_.height / 8);
     }

@@ -2,6 +2,8 @@
 
 #include "authoring/slide_list.h"
 #include "document/settings_to_controls.h"
+#include "picture/overlay.h"
+#include "picture/screen.h"
 #include "playback/transport.h"
 
 namespace app {
@@ -26,9 +28,20 @@ void ForcePartners(model::ShowState& state, int16_t model::ShowState::*chosen) {
     }
 }
 
+/// The canvas takes its ground at once; how pictures are muted shows from the next slide on.
+void LayScreenGround(Application& app) {
+    if (app.state.OverlayMode != 0) {
+        picture::SizeLayers(app);
+    }
+    picture::ResetCanvasGround(app);
+}
+
 void ChooseRadio(Application& app, const document::RadioMenu& row, int index) {
     app.state.*row.field = static_cast<int16_t>(index);
     ForcePartners(app.state, row.field);
+    if (row.field == &model::ShowState::OverlayMode) {
+        LayScreenGround(app);
+    }
     document::FollowAllSettings(app);
 }
 

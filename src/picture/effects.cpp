@@ -1,5 +1,6 @@
 #include "picture/effects.h"
 
+#include "picture/overlay.h"
 #include "picture/screen.h"
 #include "text/numbers.h"
 
@@ -35,6 +36,7 @@ void RunShowEffect(Application& app) {
         app.windows.slidescreen.P2.canvas.BitBlt(app.state.PictureX, app.state.PictureY,
                                                  source.width, source.height, &source, 0, 0);
     }
+    DrawOverlapFrame(app);
 }
 
 void RunEraseEffect(Application&) {}

@@ -96,7 +96,6 @@ void ClearPreview(Application& app) {
 bool LoadSlidePicture(Application& app) {
     model::ShowState& state = app.state;
     model::Windows& windows = app.windows;
-    const bool fullScreen = state.FullScreenActive == 1;
     windows.form1.Picture3.Visible = false;
     windows.slidescreen.Picture2.Visible = false;
 
@@ -104,12 +103,14 @@ bool LoadSlidePicture(Application& app) {
     state.SlideList.Set(state.SlideIndex, path);
     state.CurrentName = app.platform.files.Dir(path);
     state.CurrentPath = path;
-    if (fullScreen) {
+    if (state.FullScreenActive == 1) {
         windows.SetPointer(model::kPointerArrowBusy);
     }
     if (state.OverlayMode >= 2) {
         ReprocessPreviousPicture(app);
     }
+    // Asked behind the redraw, which pumps events: the window can be closed in it.
+    const bool fullScreen = state.FullScreenActive == 1;
     platform::ImagingControl& lead = *windows.form4.Lead1.imaging;
     // The decoder may work scaled: for a random limit the largest that can be drawn.
     const FitRule hint = CurrentRule(app, fullScreen, 1.0);

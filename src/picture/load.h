@@ -9,8 +9,8 @@ namespace picture {
 /// Decodes SlideList(SlideIndex) into Lead1 (and its unscaled twin Lead2), erases the old picture
 /// in full screen, fits the new one into Form4.Picture1 and shows it in the preview. Sets
 /// CurrentName, CurrentPath, PictureWidthPx, PictureHeightPx and their twips, and the captions.
-/// False for a file that cannot be read: nothing of the screen has changed then, and the caller
-/// runs HandleLoadFailure.
+/// False for a file that cannot be read: nothing of the screen has changed then, but that an
+/// overlay muted the previous picture; the caller runs HandleLoadFailure.
 bool LoadSlidePicture(Application& app);
 
 /// What follows a picture that cannot be read: the previews are emptied; unless the main window is

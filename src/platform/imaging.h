@@ -1,4 +1,4 @@
-// The imaging control: decodes one picture file, holds it, scales it.
+// The imaging control: decodes one picture file, holds it, scales and filters it.
 #pragma once
 
 #include <functional>
@@ -42,6 +42,17 @@ public:
 
     /// Resamples the held picture to whole pixels, both at least 1.
     virtual void Resize(int width, int height, int flags) = 0;
+
+    // Filters change the held picture for good and keep its size; nothing happens without one, or
+    // where memory does not do.
+
+    /// Greys of the brightness that the colours have.
+    virtual void GrayScale() = 0;
+    /// Mirrors left to right.
+    virtual void Reverse() = 0;
+    /// Squares of `block` pixels (at least 1) from the top left on, each of its mean colour; the
+    /// last ones are cut at the right and bottom edge. A two-level picture has 24 bits then.
+    virtual void Mosaic(int block) = 0;
 
     /// The held picture's pixels at HeldSize; decodes whole where that was put off. Null when
     /// nothing is held.

@@ -92,6 +92,48 @@ TEST(RadioMenus, TrackOrderStartsAtTheFirstTrack) {
     EXPECT_TRUE(menus.form1.mnuCD.Visible);
 }
 
+TEST(OverlayMenu, LaysTheGroundOfTheScreenAtOnce) {
+    Menus menus;
+    model::Slidescreen& screen = menus.app.windows.slidescreen;
+    menus.state.OverlayBackColor = 5;  // pale yellow
+    screen.Width = 1500;
+    screen.Height = 900;
+    screen.P2.Left = 150;
+    screen.P2.Top = 300;
+    for (int mode = 1; mode <= 4; ++mode) {
+        menus.form1.mnuKASANE(0).Click();
+        EXPECT_EQ(screen.P2.BackColor(), 0);
+        EXPECT_FALSE(menus.form1.mnuKAHAI.Visible);
+        menus.form1.mnuKASANE(mode).Click();
+        EXPECT_TRUE(menus.form1.mnuKAHAI.Visible) << mode;
+        EXPECT_EQ(screen.P2.Left, 0);
+        EXPECT_EQ(screen.P2.Top, 0);
+        EXPECT_EQ(screen.P2.Width, 1500);
+        EXPECT_EQ(screen.P2.Height, 900);
+        for (model::PictureBox* layer : {&screen.P2, &screen.P3, &screen.P4}) {
+            EXPECT_EQ(layer->BackColor(), 0xC0FFFF) << layer->Name();
+            EXPECT_EQ(layer->canvas.Point(99, 59), 0xC0FFFFu);
+        }
+    }
+}
+
+TEST(OverlayMenu, WithoutOverlayTheCanvasStaysWhereItIs) {
+    Menus menus;
+    model::Slidescreen& screen = menus.app.windows.slidescreen;
+    screen.Width = 1500;
+    screen.P2.Left = 150;
+    menus.form1.mnuKASANE(0).Click();
+    EXPECT_EQ(screen.P2.Left, 150);
+    EXPECT_EQ(screen.P2.Width, 0);
+}
+
+TEST(OverlayMenu, ABackgroundChosenLaterWaitsForTheNextReset) {
+    Menus menus;
+    menus.form1.mnuKASANE(1).Click();
+    menus.form1.mnuKAIRO(3).Click();
+    EXPECT_EQ(menus.app.windows.slidescreen.P2.BackColor(), 0x808080);
+}
+
 TEST(FileMenu, OpenedDocumentCanBeStarted) {
     Menus menus;
     menus.dialogs.fileAnswers = {Text(u"C:\\show\\two.kvs")};

@@ -73,7 +73,8 @@ public:
 };
 
 /// A "picture" is any file whose content begins with "PIC width height [rrggbb [bits]]".
-/// `log` tells what was asked, one line each: "load PATH", "resize 80 60", "colors 1", "clear".
+/// `log` tells what was asked, one line each: "load PATH", "resize 80 60", "colors 1", "gray",
+/// "reverse", "mosaic 12", "clear". Two levels and greys go by the mean of the three colour parts.
 class FakeImagingControl : public platform::ImagingControl {
 public:
     FakeImagingControl(platform::Files& files, std::vector<std::string>& log)
@@ -95,8 +96,19 @@ public:
         log_.push_back("colors " + std::to_string(bits));
         if (held_) {
             held_->bits = bits;
+            if (bits == 1) {
+                held_->pixel = Mean(held_->pixel) < 128 ? 0xFF000000u : 0xFFFFFFFFu;
+            }
         }
     }
+    void GrayScale() override {
+        log_.push_back("gray");
+        if (held_) {
+            held_->pixel = 0xFF000000u | Mean(held_->pixel) * 0x010101u;
+        }
+    }
+    void Reverse() override { log_.push_back("reverse"); }
+    void Mosaic(int block) override { log_.push_back("mosaic " + std::to_string(block)); }
     void Resize(int width, int height, int) override {
         log_.push_back("resize " + std::to_string(width) + " " + std::to_string(height));
         if (held_) {
@@ -124,6 +136,9 @@ private:
         platform::Pixel pixel = 0xFF808080u;
         int bits = 24;
     };
+    static uint32_t Mean(platform::Pixel p) {
+        return ((p >> 16 & 0xFF) + (p >> 8 & 0xFF) + (p & 0xFF)) / 3;
+    }
     std::optional<Held> Parse(TextView path) {
         std::string content;
         platform::FileError error;

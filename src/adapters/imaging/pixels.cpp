@@ -28,13 +28,12 @@ QImage View(const Bitmap& bitmap) {
                   static_cast<qsizetype>(bitmap.width) * 4, QImage::Format_RGB32);
 }
 
-/// Brightness of a pixel, 0 to 255.
+}  // namespace
+
 int Brightness(Pixel p) {
     return static_cast<int>(((p >> 16 & 0xFF) * 299 + (p >> 8 & 0xFF) * 587 + (p & 0xFF) * 114) /
                             1000);
 }
-
-}  // namespace
 
 BitmapPtr OverWhite(QImage image) {
     const bool alpha = image.hasAlphaChannel();

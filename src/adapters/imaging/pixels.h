@@ -7,6 +7,9 @@ class QImage;
 
 namespace imaging {
 
+/// Brightness of a pixel, 0 to 255.
+int Brightness(platform::Pixel p);
+
 /// Opaque pixels of a decoded image: what is transparent lies over white. Null on failure.
 platform::BitmapPtr OverWhite(QImage image);
 

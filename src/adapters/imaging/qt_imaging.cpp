@@ -5,6 +5,7 @@
 #include <new>
 #include <utility>
 
+#include "adapters/imaging/filters.h"
 #include "adapters/imaging/picture_file.h"
 #include "adapters/imaging/pixels.h"
 
@@ -61,7 +62,7 @@ public:
             return;
         }
         if (bits == 1 && state_.bitsPerPixel != 1) {
-            Settle(Guarded([&] { return TwoLevels(*Picture()); }));
+            Change(TwoLevels);
         }
         state_.bitsPerPixel = bits;
     }
@@ -80,6 +81,15 @@ public:
         // A drawing can be drawn anew at any later size; pixels are now all there is.
         if (state_.source && !state_.source->file->IsDrawing() && state_.held == size) {
             state_.source = nullptr;
+        }
+    }
+
+    void GrayScale() override { Change(Gray); }
+    void Reverse() override { Change(Mirrored); }
+    void Mosaic(int block) override {
+        Change([block](const Bitmap& whole) { return imaging::Mosaic(whole, block); });
+        if (Holds() && state_.bitsPerPixel == 1) {
+            state_.bitsPerPixel = 24;
         }
     }
 
@@ -154,6 +164,14 @@ private:
         }
         const BitmapPtr base = Covers(SizeOf(*state_.pixels), size) ? state_.pixels : Picture();
         return Guarded([&] { return twoLevels ? Nearest(*base, size) : Smooth(*base, size); });
+    }
+
+    /// The held picture becomes what `filter` makes of all its pixels.
+    template <typename Filter>
+    void Change(const Filter& filter) {
+        if (const BitmapPtr whole = Picture()) {
+            Settle(Guarded([&] { return filter(*whole); }));
+        }
     }
 
     /// From here on the held picture is these pixels and no longer a file's.

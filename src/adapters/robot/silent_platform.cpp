@@ -37,6 +37,9 @@ public:
     int BitsPerPixel() const override { return 0; }
     void SetColorResolution(int, int, int, int) override {}
     void Resize(int, int, int) override {}
+    void GrayScale() override {}
+    void Reverse() override {}
+    void Mosaic(int) override {}
     platform::BitmapPtr Picture() override { return nullptr; }
     void CopyFrom(const platform::ImagingControl&) override {}
     void Clear() override {}

@@ -1,0 +1,116 @@
+// Filters of the imaging control.
+#include "adapters/imaging/filters.h"
+
+#include <gtest/gtest.h>
+
+#include "imaging/imaging_support.h"
+
+namespace {
+
+using platform::Bitmap;
+using platform::BitmapPtr;
+using platform::Pixel;
+using Pixels = std::vector<Pixel>;
+
+constexpr Pixel kBlack = 0xFF000000u, kWhite = 0xFFFFFFFFu;
+
+Bitmap Of(int width, int height, const Pixels& pixels) {
+    Bitmap bitmap(width, height);
+    bitmap.pixels = pixels;
+    return bitmap;
+}
+
+TEST(Filters, GreysHaveTheBrightnessOfTheColours) {
+    const Bitmap source = Of(5, 1, {0xFFFF0000u, 0xFF00FF00u, 0xFF0000FFu, kWhite, kBlack});
+    // 29.9, 58.7 and 11.4 % of 255, cut.
+    EXPECT_EQ(imaging::Gray(source)->pixels,
+              (Pixels{0xFF4C4C4Cu, 0xFF959595u, 0xFF1D1D1Du, kWhite, kBlack}));
+}
+
+TEST(Filters, MirrorExchangesLeftAndRight) {
+    const Bitmap odd = Of(3, 2, {1, 2, 3, 4, 5, 6});
+    EXPECT_EQ(imaging::Mirrored(odd)->pixels, (Pixels{3, 2, 1, 6, 5, 4}));
+    EXPECT_EQ(imaging::Mirrored(*imaging::Mirrored(odd))->pixels, odd.pixels);
+}
+
+TEST(Filters, MosaicSquaresHaveTheMeanOfWhatTheyCover) {
+    // Blocks of 2 on 3 × 3: one whole, two halves, a corner.
+    const Bitmap source = Of(3, 3,
+                             {0xFF000000u, 0xFF0000FFu, 0xFF100000u, 0xFF00FF00u, 0xFFFF0000u,
+                              0xFF210000u, 0xFF000003u, 0xFF000004u, 0xFF123456u});
+    const Pixel whole = 0xFF404040u;  // 255 / 4 = 63.75
+    const Pixel right = 0xFF190000u;  // (16 + 33) / 2 = 24.5
+    const Pixel below = 0xFF000004u;  // (3 + 4) / 2 = 3.5
+    EXPECT_EQ(imaging::Mosaic(source, 2)->pixels,
+              (Pixels{whole, whole, right, whole, whole, right, below, below, 0xFF123456u}));
+}
+
+TEST(Filters, MosaicOfOnePixelAndOfMoreThanThePicture) {
+    const Bitmap source = Of(2, 2, {kBlack, kWhite, kWhite, kBlack});
+    for (const int block : {1, 0, -7}) {
+        EXPECT_EQ(imaging::Mosaic(source, block)->pixels, source.pixels) << block;
+    }
+    for (const int block : {2, 3, 2147483647}) {
+        EXPECT_EQ(imaging::Mosaic(source, block)->pixels, Pixels(4, 0xFF808080u)) << block;
+    }
+}
+
+TEST(Filters, OfNothingAreNothing) {
+    const Bitmap none;
+    EXPECT_TRUE(imaging::Gray(none)->Empty());
+    EXPECT_TRUE(imaging::Mirrored(none)->Empty());
+    EXPECT_TRUE(imaging::Mosaic(none, 12)->Empty());
+}
+
+class FilteredControl : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(control_->Load(folder_.Put("a.jpg", Encoded(Quarters(400, 200), "jpg", 95)),
+                                   [](platform::Size) {
+                                       return platform::Size{100, 50};
+                                   }));
+        control_->Resize(100, 50, 0);
+    }
+    Pixel At(int x, int y) { return control_->Picture()->Row(y)[x]; }
+
+    ImagingFolder folder_;
+    std::unique_ptr<platform::ImagingControl> control_ = folder_.Control();
+};
+
+TEST_F(FilteredControl, WorksOnTheFittedPictureAndLeavesCopiesAlone) {
+    const auto twin = folder_.Control();
+    twin->CopyFrom(*control_);
+    control_->Reverse();
+    EXPECT_EQ(control_->HeldSize(), (platform::Size{100, 50}));
+    EXPECT_LE(Distance(At(10, 10), 0xFF00FF00u), 12) << "green was at the top right";
+    EXPECT_LE(Distance(At(90, 10), 0xFFFF0000u), 12);
+    EXPECT_LE(Distance(twin->Picture()->Row(10)[10], 0xFFFF0000u), 12);
+    control_->GrayScale();
+    EXPECT_LE(Distance(At(90, 10), 0xFF4C4C4Cu), 12);
+    EXPECT_EQ(control_->BitsPerPixel(), 24);
+    control_->CopyFrom(*twin);
+    EXPECT_LE(Distance(At(10, 10), 0xFFFF0000u), 12);
+}
+
+TEST_F(FilteredControl, MosaicOfTwoLevelsHasAllLevels) {
+    control_->SetColorResolution(1, 1, 1, 0);
+    control_->GrayScale();
+    control_->Reverse();
+    EXPECT_EQ(control_->BitsPerPixel(), 1);
+    control_->Mosaic(25);
+    EXPECT_EQ(control_->BitsPerPixel(), 24);
+    const Pixel green = At(0, 0);
+    EXPECT_EQ(green, At(24, 24));
+    EXPECT_LE(Distance(green, 0xFF959595u), 16) << "the dots' mean is the brightness";
+}
+
+TEST_F(FilteredControl, OfNothingDoNothing) {
+    control_->Clear();
+    control_->GrayScale();
+    control_->Reverse();
+    control_->Mosaic(12);
+    EXPECT_FALSE(control_->Holds());
+    EXPECT_EQ(control_->Picture(), nullptr);
+}
+
+}  // namespace
