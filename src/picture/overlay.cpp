@@ -55,4 +55,6 @@ void ResetCanvasGround(Application& app) {
 
 void ReprocessPreviousPicture(Application&) {}
 
+void DrawOverlapFrame(Application&) {}
+
 }  // namespace picture

@@ -18,4 +18,8 @@ void ResetCanvasGround(Application& app);
 /// Redraws the previous picture in a muted form. Not built yet: does nothing.
 void ReprocessPreviousPicture(Application& app);
 
+/// Bevel of two pixels around the picture on P2, after each show effect. Only with an overlay mode
+/// and while OverlayFrameOff is 0. Not built yet: does nothing.
+void DrawOverlapFrame(Application& app);
+
 }  // namespace picture
