@@ -1,45 +1,84 @@
 #include "picture/effects.h"
 
+#include "picture/effect_choice.h"
+#include "picture/effect_run.h"
 #include "picture/overlay.h"
-#include "picture/screen.h"
-#include "text/numbers.h"
 
 namespace picture {
 
 namespace {
 
-int32_t Offset(int roomTwips, int pictureTwips, double factor) {
-    const double pixels = (roomTwips - pictureTwips) * factor / platform::kTwipsPerPixel;
-    return text::ToInt32(pixels).value_or(0);
+constexpr int kNoEraseEffect = 12;
+
+EffectSettings ShowSettings(const model::ShowState& state) {
+    return {.speed = state.ShowEffectSpeed,
+            .fixedSpeed = state.EffectSpeedFixed == 1,
+            .speedFactor = state.EffectSpeedFactor,
+            .slits = state.ShowSlitCount,
+            .blocks = state.ShowMosaicCount,
+            .mosaicDelay = state.MosaicDelayUnit};
 }
 
-void PlacePicture(Application& app) {
-    const platform::Size monitor = MonitorSizeTwips(app);
-    const model::PictureBox& picture = app.windows.form4.Picture1;
-    double xFactor = 0.5;
-    double yFactor = 0.5;
-    if (app.state.PicturePosition != 0) {
-        xFactor = app.platform.loop.Rnd();
-        yFactor = app.platform.loop.Rnd();
+EffectSettings EraseSettings(const model::ShowState& state) {
+    EffectSettings settings = ShowSettings(state);
+    settings.speed = state.EraseEffectSpeed;
+    settings.slits = state.EraseSlitCount;
+    settings.blocks = state.EraseMosaicCount;
+    return settings;
+}
+
+bool ErasesNothing(const model::ShowState& state) {
+    return state.FullScreenActive != 1 || (state.SlideIndex == 1 && state.EraseSkipOnce == 1) ||
+           state.EraseEffect == kNoEraseEffect || state.LastWasVideo == 1;
+}
+
+void ErasePicture(Application& app) {
+    model::ShowState& state = app.state;
+    state.EraseSkipOnce = 0;
+    ChooseEraseEffect(app);
+    EffectScene scene(app);
+    RunEffect(
+        app, scene,
+        {u"erase", state.CurrentEraseEffect, platform::RasterOp::Blackness, EraseSettings(state)});
+    app.platform.loop.PumpEvents();
+    if (!scene.Gone()) {
+        app.windows.slidescreen.P2.Cls();
     }
-    app.state.PictureX = Offset(monitor.width, picture.Width, xFactor);
-    app.state.PictureY = Offset(monitor.height, picture.Height, yFactor);
+    state.EffectStop = 0;
 }
 
 }  // namespace
 
 void RunShowEffect(Application& app) {
+    model::ShowState& state = app.state;
     PlacePicture(app);
-    app.state.EffectStop = 0;
-    if (app.state.EffectDc) {
-        const platform::Bitmap& source = *app.state.EffectDc;
-        app.windows.slidescreen.P2.canvas.BitBlt(app.state.PictureX, app.state.PictureY,
-                                                 source.width, source.height, &source, 0, 0);
+    state.EffectStop = 0;
+    ChooseShowEffect(app);
+    EffectScene scene(app);
+    RunEffect(
+        app, scene,
+        {u"show", state.CurrentShowEffect, platform::RasterOp::SourceCopy, ShowSettings(state)});
+    app.platform.loop.PumpEvents();
+    scene.DrawWhole(platform::RasterOp::SourceCopy);
+    state.EffectStop = 0;
+    if (!scene.Gone()) {
+        DrawOverlapFrame(app);
     }
-    DrawOverlapFrame(app);
 }
 
-void RunEraseEffect(Application&) {}
+void RunEraseEffect(Application& app) {
+    app.state.EffectStop = 0;
+    if (!ErasesNothing(app.state)) {
+        ErasePicture(app);
+    }
+    ReleaseEffectContext(app);
+}
+
+void RestartEffects(model::ShowState& state) {
+    state.NextShowEffect = 0;
+    state.NextEraseEffect = 0;
+    state.EraseSkipOnce = 1;
+}
 
 void ReleaseEffectContext(Application& app) {
     app.state.EffectDc.reset();

@@ -5,12 +5,20 @@
 
 namespace picture {
 
-/// Places the picture (PictureX, PictureY) and brings it onto P2. The nine geometries are not
-/// built yet: whatever ShowEffect says, the picture comes whole at once.
+/// Places the picture of Form4 (PictureX, PictureY) and brings it onto P2 by the effect that
+/// ShowEffect asks for (CurrentShowEffect), then draws the frame of an overlap. Runs handlers
+/// meanwhile; EffectStop makes it show the whole picture at once, a closed window ends it. Needs
+/// the effect context.
 void RunShowEffect(Application& app);
 
-/// Takes the picture off P2. Not built yet: does nothing.
+/// Takes the picture off P2 by the effect that EraseEffect asks for (CurrentEraseEffect), clears
+/// P2 and gives up the effect context. Only the latter outside full screen, before the first
+/// slide of a window (EraseSkipOnce), for EraseEffect 12 and after a video. Runs handlers
+/// meanwhile; EffectStop clears at once.
 void RunEraseEffect(Application& app);
+
+/// A new full-screen window: sequences of effects begin anew, and the first slide erases nothing.
+void RestartEffects(model::ShowState& state);
 
 /// Gives up the bitmap the effects copy from. Safe when there is none.
 void ReleaseEffectContext(Application& app);

@@ -139,7 +139,8 @@ bool LoadSlidePicture(Application& app) {
     state.PictureHeightPx = own.height;
     state.PictureWidthTwips = own.width * platform::kTwipsPerPixel;
     state.PictureHeightTwips = own.height * platform::kTwipsPerPixel;
-    FitIntoHolder(app, fullScreen);
+    // Asked again: the erase effect yields, and the window can be closed in it.
+    FitIntoHolder(app, state.FullScreenActive == 1);
     SizePreview(app);
     windows.form1.Picture1.SetPicture(windows.form4.Picture1.Picture());
     return true;

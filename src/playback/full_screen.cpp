@@ -141,6 +141,7 @@ void Form_Load(Application& app) {
         layer->SetPicture(nullptr);
     }
     picture::ResetCanvasGround(app);
+    picture::RestartEffects(app.state);
     app.state.FullScreenClosed = 0;
 }
 

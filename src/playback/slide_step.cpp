@@ -175,12 +175,14 @@ void TraceSlide(Application& app) {
 
 Next ShowPicture(Application& app) {
     model::ShowState& state = app.state;
-    state.LastWasVideo = 0;
     PollCd(app);
     // The load mode is only carried: every step puts it back before the load.
     state.LoadMode = 0;
     app.windows.form1.mnuYOMI.Check(0);
-    if (!picture::LoadSlidePicture(app)) {
+    const bool loaded = picture::LoadSlidePicture(app);
+    // Not earlier: behind a video the load erases nothing.
+    state.LastWasVideo = 0;
+    if (!loaded) {
         picture::HandleLoadFailure(app);
         return Next::End;
     }

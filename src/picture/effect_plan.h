@@ -1,0 +1,50 @@
+// The order in which an effect treats the parts of a picture, and its pauses: worked out before the
+// effect begins, so that its length is known and nothing but the clock decides while it runs.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/canvas.h"
+#include "platform/imaging.h"
+
+namespace picture {
+
+/// Effects 0 to 8: from the top, bottom, left, right, centre, outside; horizontal slits, vertical
+/// slits, mosaic.
+constexpr int kEffectCount = 9;
+
+/// What an effect's course depends on, of showing or of erasing.
+struct EffectSettings {
+    int speed = -30;          // -999 slow to 10 fast
+    bool fixedSpeed = false;  // pauses of whole milliseconds instead of those by speed
+    double speedFactor = 2;   // lengthens the pauses by speed
+    int slits = 10;           // 2 to 100
+    int blocks = 10;          // of the mosaic along each side, 5 to 100
+    int mosaicDelay = 0;      // shortens the pauses of the mosaic
+};
+
+/// One rectangle that is copied or blackened.
+struct EffectBand {
+    platform::Rect area;    // pixels of the picture; may lie beyond its edges
+    double before = 0;      // ms of pause ahead of it
+    double after = 0;       // ms of pause behind it
+    bool stopsHere = true;  // false within a group that is drawn as a whole, even after a stop
+};
+
+struct EffectPlan {
+    std::vector<EffectBand> bands;
+    bool wholeAtEnd = false;  // the whole picture follows, also after a stop
+
+    /// Sum of all pauses: the effect's nominal length in ms.
+    double Length() const;
+};
+
+/// Plan of effect `number` for a picture of that size (pixels). Empty for a number that is no
+/// effect and for an empty picture. `erasing` turns the order of slits around. Only the mosaic
+/// draws random numbers (0 <= r < 1): two a block, column first. Counts and speeds beyond what
+/// the dialogs allow, which a document may hold, are taken as the nearest that can be drawn.
+EffectPlan PlanEffect(int number, const EffectSettings& settings, bool erasing,
+                      platform::Size picture, const std::function<double()>& random);
+
+}  // namespace picture
