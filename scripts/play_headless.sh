@@ -22,17 +22,34 @@ for message in json.load(sys.stdin).get("messages", []): print(message["text"], 
         <"$scratch/document.json" || true
     exit 1
 }
-python3 - "$scratch/document.json" "$slides_at_most" >"$scratch/play.robot" <<'PYTHON'
+# How long a slide takes depends on its effects, so the show is played twice, both times alike: once
+# for the times at which its pictures stand, once for a shot in the middle of each slide's time.
+python3 - "$scratch/document.json" "$slides_at_most" >"$scratch/listen.robot" <<'PYTHON'
 import json
 import sys
+
+SLOWEST_EFFECTS_MS = 20000
 
 document = json.load(open(sys.argv[1], encoding="utf-8"))
 # A list of shows has no slides of its own: as many as there may be.
 slides = min(len(document.get("List1", [])) or int(sys.argv[2]), int(sys.argv[2]))
 interval = document.get("state", {}).get("Form1.Timer1.Interval", 3000)
-# A picture is taken in the middle of each slide's time.
-for i in range(slides):
-    print(f"@{interval * i + interval // 2} shot {i + 1:02}.png")
+print(f"@{slides * (interval + SLOWEST_EFFECTS_MS)} quit")
+PYTHON
+"$program" --robot "$scratch/listen.robot" --trace "$scratch/trace.jsonl" \
+    --app-folder "$scratch/app1" "$document"
+python3 - "$scratch/document.json" "$scratch/trace.jsonl" "$slides_at_most" \
+    >"$scratch/play.robot" <<'PYTHON'
+import json
+import sys
+
+document = json.load(open(sys.argv[1], encoding="utf-8"))
+interval = document.get("state", {}).get("Form1.Timer1.Interval", 3000)
+slides = min(len(document.get("List1", [])) or int(sys.argv[3]), int(sys.argv[3]))
+events = [json.loads(line) for line in open(sys.argv[2], encoding="utf-8")]
+times = [event["t"] for event in events if event["event"] == "slide"][:slides]
+for i, stands in enumerate(times):
+    print(f"@{stands + interval / 2:.0f} shot {i + 1:02}.png")
 print("quit")
 PYTHON
 
@@ -41,7 +58,7 @@ mkdir -p "$folder/$name"
 folder=$(realpath "$folder")
 cd "$folder/$name"
 rm -f -- [0-9][0-9].png
-"$program" --robot "$scratch/play.robot" --trace trace.jsonl --app-folder "$scratch/app" "$document"
+"$program" --robot "$scratch/play.robot" --trace trace.jsonl --app-folder "$scratch/app2" "$document"
 if ! grep -q '"event":"slide"' trace.jsonl; then
     echo "no slide of $document could be shown; see $folder/$name/trace.jsonl" >&2
     exit 1

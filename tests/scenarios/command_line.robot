@@ -3,7 +3,8 @@
 # args: five.kvs
 # slides: 0 a.png 3000 b.png 6000 c.png
 # trace: "event":"message","title":"パラピコ","text":"スライド画面全体表示スタート","flags":0,"answer":"ok"
-expect CommandLineKind 1
+# Not at once: the first picture yields before it stands.
+@1 expect CommandLineKind 1
 expect LoadingFromStart 0
 expect DocumentName five.kvs
 expect Slidescreen.Visible true

@@ -3,7 +3,7 @@
 # args: all.kvl
 # slides: 0 a.png 3000 a.png 6000 b.png 9000 c.png
 # no trace: "event":"message"
-expect CommandLineKind 2
+@1 expect CommandLineKind 2
 expect LinkAutoFlag 0
 expect LinkRunning 1
 expect LinkEnd 3
@@ -11,7 +11,7 @@ expect LinkIndex 2
 expect DocumentName one.kvs
 expect Form9.List1.ListCount 2
 expect Slidescreen.Visible true
-@3000 expect DocumentName repeat.kvs
+@3001 expect DocumentName repeat.kvs
 expect LinkIndex 3
 expect RepeatFlag 0
 expect SlideIndex 2

@@ -15,6 +15,7 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   bad_first.kvs text.jpg, a
   only_bad.kvs  text.jpg alone
   full.kvs      a b c, START goes to the full screen
+  effects.kvs   a b c as full.kvs, effects in turn, erased as shown
   failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
   names.kvs     絵１, wide, tall
   vue2.kvs      a b in the oldest form
@@ -42,14 +43,15 @@ def png(width, height, rgb):
             + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
 
 
-def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1):
+def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1,
+                  effects=(11, 12)):
     """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
     def number(value):
         return (f" {value}" if value >= 0 else str(value)) + " "
 
     rows = rows or [BLANK_ROW] * len(slides)
     before = ["21vue3167893", "show.kvs", number(interval), number(repeat), number(7), "*.wav", "",
-              number(11), number(-30), number(12), number(-30), number(10), number(10), number(1),
+              number(effects[0]), number(-30), number(effects[1]), number(-30), number(10), number(10), number(1),
               "1", number(20), number(20), number(0), "", number(0), number(0), number(random),
               number(0), number(0), "", number(len(slides))]
     # Overlay 0 0, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
@@ -97,6 +99,7 @@ def main():
     files["bad_first.kvs"] = document(lines_of_show(["text.jpg", "a.png"]))
     files["only_bad.kvs"] = document(lines_of_show(["text.jpg"]))
     files["full.kvs"] = document(lines_of_show(five[:3], always_full=0))
+    files["effects.kvs"] = document(lines_of_show(five[:3], always_full=0, effects=(10, 11)))
     files["all.kvl"] = document(["1vue3167", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
     files["failing.kvs"] = document(lines_of_show(
         ["a.png", "text.jpg", "zero.png", "missing.png", "b.png"]))
