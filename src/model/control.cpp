@@ -171,8 +171,18 @@ void PictureBox::SetSize(int widthTwips, int heightTwips) {
     Height = heightTwips;
     const int width = std::max(0, ToPixels(widthTwips));
     const int height = std::max(0, ToPixels(heightTwips));
-    if (width != canvas.Width() || height != canvas.Height()) {
-        canvas.Resize(width, height, static_cast<platform::Color>(BackColor()));
+    const int oldWidth = canvas.Width();
+    const int oldHeight = canvas.Height();
+    if (width == oldWidth && height == oldHeight) {
+        return;
+    }
+    canvas.Resize(width, height, static_cast<platform::Color>(BackColor()));
+    // The picture is whole again where a smaller box had cut it off.
+    if (picture_ && width > oldWidth) {
+        canvas.BitBlt(oldWidth, 0, width - oldWidth, height, picture_.get(), oldWidth, 0);
+    }
+    if (picture_ && height > oldHeight) {
+        canvas.BitBlt(0, oldHeight, width, height - oldHeight, picture_.get(), 0, oldHeight);
     }
 }
 

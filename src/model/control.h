@@ -189,7 +189,8 @@ public:
     void SetPicture(platform::BitmapPtr picture);
     /// What was drawn is gone, the picture stays.
     void Cls();
-    /// Sets the control's size (twips) and the canvas's, keeping what is on it.
+    /// Sets the control's size (twips) and the canvas's, keeping what is on it. What the box grows
+    /// by shows the picture, else the back colour.
     void SetSize(int widthTwips, int heightTwips);
     /// Pixels inside: of the picture with AutoSize, of the canvas otherwise.
     int ScaleWidth() const;

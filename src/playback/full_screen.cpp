@@ -164,7 +164,7 @@ void EndShowOnUnload(Application& app) {
     EnableShowMenus(app, true);
     SetButtons(app, Buttons::Idle);
     state.SlideListEnd = static_cast<int16_t>(app.windows.form3.List1.ListCount() + 1);
-    RestoreCaption(app);
+    sound::RestoreCaption(app);
     sound::StopCd(app);
     sound::StopSound(app);
 }

@@ -59,7 +59,7 @@ void StartAtListEnd(Application& app) {
     model::ShowState& state = app.state;
     app.windows.form1.Timer1.Enabled = false;
     if (state.RepeatFlag == 1) {
-        RestoreCaption(app);
+        sound::RestoreCaption(app);
         sound::StopCd(app);
         sound::StopSound(app);
         EndShow(app);
@@ -106,7 +106,7 @@ bool EndOfList(Application& app) {
         state.SlideIndex = 1;
         return false;
     }
-    RestoreCaption(app);
+    sound::RestoreCaption(app);
     sound::StopCd(app);
     sound::StopSound(app);
     if (state.LinkRunning == 0) {
@@ -187,12 +187,6 @@ void EnableShowMenus(Application& app, bool enabled) {
          {&form1.mnuOPTION, &form1.mnuGKO, &form1.mnuICHI, &form1.mnuCDM, &form1.mnuURU}) {
         menu->Enabled = enabled;
     }
-}
-
-void RestoreCaption(Application& app) {
-    app.windows.form1.Caption = app.state.DocumentPath.empty()
-                                    ? Text(u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10")
-                                    : u"ｽﾗｲﾄﾞ - " + app.state.DocumentPath;
 }
 
 void ResetRun(Application& app) {

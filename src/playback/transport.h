@@ -18,9 +18,6 @@ void ShowFileEntries(Application& app, bool visible);
 /// The menus that are off while a show runs.
 void EnableShowMenus(Application& app, bool enabled);
 
-/// Caption of the main window: the document's, or the program's without a document.
-void RestoreCaption(Application& app);
-
 /// What START and the full screen reset before a run.
 void ResetRun(Application& app);
 

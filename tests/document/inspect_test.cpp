@@ -162,6 +162,13 @@ TEST_F(Inspect, ResaveTellsWhyItCannot) {
     EXPECT_FALSE(err_.str().empty());
 }
 
+TEST_F(Inspect, TellsWhenItsOutputIsLost) {
+    const std::string path = PutLines("a.kvs", FullDocument());
+    std::ofstream full("/dev/full");
+    EXPECT_EQ(robot::RunDocumentCommand({"--inspect", path}, full, err_), 1);
+    EXPECT_FALSE(err_.str().empty());
+}
+
 TEST_F(Inspect, WrongUsage) {
     for (const std::vector<std::string>& arguments :
          std::vector<std::vector<std::string>>{{},

@@ -231,6 +231,23 @@ TEST(PictureBox, DrawingGoesWhenThePictureComes) {
     EXPECT_EQ(window.Picture1.canvas.Point(1, 1), 0u);
 }
 
+TEST(PictureBox, GrowingShowsThePictureWhereItWasCutOff) {
+    SampleWindow window;
+    window.Picture1.SetSize(150, 150);
+    window.Picture1.SetPicture(OnePixel(8, 8, 0xFF0000));
+    window.Picture1.SetSize(60, 30);  // 4 x 2 pixels
+    window.Picture1.canvas.FillRect({0, 0, 4, 2}, 0x00FF00);
+    window.Picture1.SetSize(150, 150);
+    EXPECT_EQ(window.Picture1.canvas.Point(3, 1), 0x00FF00u);  // the drawing that was left
+    EXPECT_EQ(window.Picture1.canvas.Point(4, 0), 0xFF0000u);
+    EXPECT_EQ(window.Picture1.canvas.Point(0, 2), 0xFF0000u);
+    EXPECT_EQ(window.Picture1.canvas.Point(7, 7), 0xFF0000u);
+    EXPECT_EQ(window.Picture1.canvas.Point(8, 7), 0u);  // back colour
+    window.Picture1.SetSize(0, 0);
+    window.Picture1.SetSize(150, 150);
+    EXPECT_EQ(window.Picture1.canvas.Point(0, 0), 0xFF0000u);
+}
+
 TEST(PictureBox, HolderTakesThePicturesSize) {
     SampleWindow window;
     window.Holder.SetPicture(OnePixel(20, 30, 0));

@@ -168,6 +168,19 @@ TEST(Stop, ClearsTheWholeRun) {
     EXPECT_EQ(show.Shown(), Numbers{1});
 }
 
+TEST(Stop, PutsTheDocumentBackIntoTheCaption) {
+    Show show;
+    show.state.DocumentPath = u"C:\\pic\\show.kvs";
+    show.Start();
+    EXPECT_EQ(show.form1.Caption(), u"1.png");
+    show.Stop();
+    EXPECT_EQ(show.form1.Caption(), u"ｽﾗｲﾄﾞ - C:\\pic\\show.kvs");
+    show.state.DocumentPath.clear();
+    show.Start();
+    show.Stop();
+    EXPECT_EQ(show.form1.Caption(), u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10");
+}
+
 TEST(Stop, IsRefusedByAMacroAndAfterAStop) {
     for (int16_t model::ShowState::*flag :
          {&model::ShowState::MacroWaitClick, &model::ShowState::StopRequest}) {

@@ -54,6 +54,9 @@ expect Form1.Command4.Enabled true
 expect Form1.Command6.Enabled true
 expect Form1.mnuOPEN.Visible true
 expect Form1.mnuOPTION.Enabled true
+# The caption names the document again, and saving proposes the document's own path.
+# trace: "title":"パラピコ　ファイルの保存","save":true,"initial":"/
+menu mnuSAVE
 
 # A show that was stopped starts from the top.
 @21000 click Form1.Command1

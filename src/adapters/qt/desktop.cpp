@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QTranslator>
 #include <cstdio>
+#include <cstdlib>
 
 #include "adapters/qt/form_loader.h"
 #include "adapters/qt/gate.h"
@@ -21,10 +22,20 @@ namespace {
 
 constexpr double kSmallestFontPoints = 10;
 
-/// The platform without a display tells of every window what it cannot do with it.
-void DropPlatformChatter(QtMsgType type, const QMessageLogContext& context,
-                         const QString& message) {
-    if (!message.startsWith("This plugin does not support")) {
+constexpr int kNoDisplay = 1;
+
+/// The toolkit ends a program that finds no display by a crash, with advice to reinstall it.
+bool starting = false;
+
+void Tell(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (type == QtFatalMsg && starting) {
+        std::fputs("parapico: no display was found; parapico --help lists what works without\n",
+                   stderr);
+        std::_Exit(kNoDisplay);
+    }
+    // Of every window, the platform without a display tells what it cannot do with it.
+    if (!message.startsWith("This plugin does not support") &&
+        !message.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")) {
         std::fputs(qUtf8Printable(qFormatLogMessage(type, context, message) + '\n'), stderr);
     }
 }
@@ -35,9 +46,12 @@ std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv, bool offsc
     }
     if (offscreen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        qInstallMessageHandler(DropPlatformChatter);
     }
-    return std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(Tell);
+    starting = true;
+    auto application = std::make_unique<QApplication>(argc, argv);
+    starting = false;
+    return application;
 }
 
 /// The system's own font, with Japanese letters in their Japanese form whatever the locale.

@@ -158,6 +158,8 @@ struct FreshProgram {
     }
 };
 
+constexpr int kOutputLost = 1;
+
 int Usage(std::ostream& err) {
     err << "usage: parapico --inspect FILE\n"
            "       parapico --resave IN OUT [--distribution]\n";
@@ -228,7 +230,12 @@ int RunDocumentCommand(const std::vector<std::string>& arguments, std::ostream& 
         }
     }
     if (command == "--inspect" && paths.size() == 1 && !distribution) {
-        return Inspect(paths[0], out);
+        const int status = Inspect(paths[0], out);
+        if (!out.flush()) {
+            err << "parapico: the output could not be written\n";
+            return kOutputLost;
+        }
+        return status;
     }
     if (command == "--resave" && paths.size() == 2) {
         return Resave(paths[0], paths[1], distribution, err);
