@@ -19,8 +19,8 @@ public:
     /// is asked ahead of every pause and after every pump.
     Pacer(platform::EventLoop& loop, double length, std::function<bool()> stopped);
 
-    /// Pauses `milliseconds`; not at all once it is stopped. Pumps at least once a frame while it waits, and also without waiting
-    /// where drawing has taken a frame's time.
+    /// Pauses `milliseconds`; not at all once it is stopped. Pumps at least once a frame while it
+    /// waits, and also without waiting where drawing has taken a frame's time.
     void Pause(double milliseconds);
 
 private:
