@@ -1,6 +1,7 @@
 #include "app/start_up.h"
 
 #include "app/exit.h"
+#include "app/keep_awake.h"
 #include "app/main_menus.h"
 #include "app/timers.h"
 #include "app/title_screen.h"
@@ -20,8 +21,7 @@ namespace app {
 
 namespace {
 
-constexpr int kHeightWithoutMargin = 8200;    // twips
-constexpr int kSystemButtonColor = 0xF0F0F0;  // as the desktop's buttons are on most themes
+constexpr int kHeightWithoutMargin = 8200;  // twips
 
 Text DropQuoteBeforeNativePath(TextView command) {
     return command.size() > 1 && command[0] == u'"' && command[1] == u'/' ? Text(command.substr(1))
@@ -39,7 +39,7 @@ void MakeImagingControls(Application& app) {
 void ClearMacroSlots(Application& app) {
     macro::ClearMacroObjects(app);
     for (auto& slot : app.windows.form1.Picture2) {
-        slot->BackColor = kSystemButtonColor;
+        slot->BackColor = model::kSystemButtonColor;
     }
 }
 
@@ -137,6 +137,7 @@ void StartInFullScreen(Application& app) {
 void Form1_Load(Application& app) {
     model::ShowState& state = app.state;
     state.PrimaryMonitor = 0;
+    picture::FillMonitorTable(app);
     state.MainBottomMargin = app.windows.form1.Height - kHeightWithoutMargin;
     ClearMacroSlots(app);
     SetDefaults(app);
@@ -194,6 +195,7 @@ CommandLine ReadCommandLine(TextView commandText) {
 void RunProgram(Application& application, const StartOptions& options) {
     model::Form1& form1 = application.windows.form1;
     TimerRunner timers(application);
+    const KeepAwake keepAwake(application);
     const CommandLine command = ReadCommandLine(options.commandText);
     application.state.CommandLineArg = command.argument;
     application.state.CommandLineKind = command.kind;

@@ -14,6 +14,8 @@ void ClearMacroObjects(Application& app) {
           &slidescreen.menu2, &slidescreen.menu3, &slidescreen.menu4, &slidescreen.menu5}) {
         button->Visible = false;
     }
+    app.state.CutoutJump.fill(0);
+    app.state.CutoutAction.fill({});
     for (auto* slots : {&form1.Picture2, &slidescreen.Picture1}) {
         for (auto& slot : *slots) {
             slot->Visible = false;

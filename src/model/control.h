@@ -16,6 +16,9 @@ namespace model {
 
 class Window;
 
+/// Face of buttons, as most of the desktop's themes have it.
+constexpr int kSystemButtonColor = 0xF0F0F0;
+
 /// A change of a list's rows, told after it happened.
 struct RowChange {
     enum Kind { Inserted, Removed, Replaced, Cleared } kind;
@@ -181,6 +184,8 @@ public:
     Property<bool> Border{*this, "Border", false};
     Event<> Click;
     Event<int> KeyDown;
+    /// Takes the keyboard; attached by the view.
+    Event<> SetFocus;
 
     platform::Canvas canvas;
 

@@ -19,6 +19,8 @@ constexpr int kSlideListLast = 30010;
 constexpr int kLinkListLast = 1010;
 /// Entries after which adding is refused.
 constexpr int kSlideListLimit = 30000;
+/// Monitors that the table holds; those beyond are not used.
+constexpr int kMonitorsMost = 11;
 
 /// Texts from index 1; index 0 exists and is not used. Reading an index that was never set gives
 /// the empty text.
@@ -55,6 +57,17 @@ struct ShowState {
 
     /// Jump values of the macro menus 1 to 5.
     std::array<int16_t, 64> MenuJump{};
+
+    /// What a click on the macro object of that index does: slides to jump, 0 none, and the full
+    /// path of a file to play, empty none.
+    std::array<int16_t, 64> CutoutJump{};
+    std::array<Text, 64> CutoutAction;
+
+    /// The monitors by number, in twips; zeros behind the last one.
+    std::array<int32_t, kMonitorsMost> MonitorLeft{}, MonitorTop{}, MonitorRight{}, MonitorBottom{};
+    int MonitorCount = 0;
+    /// Far edges of them all, in twips.
+    int32_t MonitorsRight = 0, MonitorsBottom = 0;
 
     /// Moment the schedule is compared with: taken at START and whenever slide 1 comes up.
     platform::DateTime ShowDateTime;

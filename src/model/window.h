@@ -19,6 +19,7 @@ public:
     Property<Text> Caption;
     Property<int> WindowState{*this, "WindowState"};  // 0 normal, 1 minimised, 2 maximised
     Property<int> MousePointer{*this, "MousePointer"};
+    Property<int> CursorCount{*this, "CursorCount"};  // below 0 no pointer is seen over the window
     Property<int> BackColor{*this, "BackColor"};
     Property<bool> Loaded{*this, "Loaded", false};
 

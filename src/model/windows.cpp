@@ -31,6 +31,21 @@ void Windows::SetPointer(MousePointerShape shape) {
     }
 }
 
+int Windows::ShowCursor(bool show) {
+    const int count = form1.CursorCount + (show ? 1 : -1);
+    for (Window* window : {static_cast<Window*>(&form1), static_cast<Window*>(&slidescreen),
+                           static_cast<Window*>(&slidescreen2)}) {
+        window->CursorCount = count;
+    }
+    return count;
+}
+
+void Windows::ForceCursor(bool seen) {
+    while ((form1.CursorCount >= 0) != seen) {
+        ShowCursor(seen);
+    }
+}
+
 Window* Windows::Find(std::string_view name) {
     const auto lower = [](std::string_view text) {
         std::string result(text);

@@ -46,6 +46,11 @@ struct Windows {
     /// The mouse pointer is one for the whole program; its shape also serves as a guard.
     void SetPointer(MousePointerShape shape);
     int Pointer() const { return form1.MousePointer; }
+    /// One count for the whole program: up by 1 to show the pointer, down by 1 to hide it; it is
+    /// seen unless the count is below 0. Answers the new count.
+    int ShowCursor(bool show);
+    /// Calls ShowCursor until the pointer is seen (or unseen); not at all when it is already.
+    void ForceCursor(bool seen);
 
     /// In declaration order.
     std::array<Window*, 26> All();

@@ -11,14 +11,43 @@ constexpr int kPreviewFrameTwips = 1450;
 
 }  // namespace
 
-platform::Rect MonitorTwips(Application& app, int index) {
-    const std::vector<platform::Rect> monitors = app.platform.monitors.Enumerate();
-    const auto known = index >= 0 && static_cast<size_t>(index) < monitors.size()
-                           ? static_cast<size_t>(index)
-                           : size_t{0};
-    const platform::Rect& pixels = monitors.at(known);
+void FillMonitorTable(Application& app) {
+    model::ShowState& state = app.state;
+    for (auto* edges :
+         {&state.MonitorLeft, &state.MonitorTop, &state.MonitorRight, &state.MonitorBottom}) {
+        edges->fill(0);
+    }
+    state.MonitorCount = 0;
+    state.MonitorsRight = 0;
+    state.MonitorsBottom = 0;
     constexpr int k = platform::kTwipsPerPixel;
-    return {pixels.x * k, pixels.y * k, pixels.width * k, pixels.height * k};
+    for (const platform::Rect& pixels : app.platform.monitors.Enumerate()) {
+        if (state.MonitorCount == model::kMonitorsMost) {
+            return;
+        }
+        const auto number = static_cast<size_t>(state.MonitorCount++);
+        state.MonitorLeft[number] = pixels.x * k;
+        state.MonitorTop[number] = pixels.y * k;
+        state.MonitorRight[number] = (pixels.x + pixels.width) * k;
+        state.MonitorBottom[number] = (pixels.y + pixels.height) * k;
+        state.MonitorsRight = std::max(state.MonitorsRight, state.MonitorRight[number]);
+        state.MonitorsBottom = std::max(state.MonitorsBottom, state.MonitorBottom[number]);
+    }
+}
+
+int MonitorOfMainWindow(Application& app) {
+    const int number = app.platform.monitors.OfMainWindow();
+    return number >= 0 && number < app.state.MonitorCount ? number : 0;
+}
+
+platform::Rect MonitorTwips(Application& app, int index) {
+    FillMonitorTable(app);
+    const model::ShowState& state = app.state;
+    const auto known =
+        index >= 0 && index < state.MonitorCount ? static_cast<size_t>(index) : size_t{0};
+    const int left = state.MonitorLeft[known];
+    const int top = state.MonitorTop[known];
+    return {left, top, state.MonitorRight[known] - left, state.MonitorBottom[known] - top};
 }
 
 platform::Size MonitorSizeTwips(Application& app) {

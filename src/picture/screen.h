@@ -5,7 +5,15 @@
 
 namespace picture {
 
-/// Rectangle of monitor `index` in twips; of the primary one where that monitor is gone.
+/// Reads the monitor table anew: MonitorLeft, MonitorTop, MonitorRight, MonitorBottom, their count
+/// and far edges. Monitors come and go, so whoever places something reads it first.
+void FillMonitorTable(Application& app);
+
+/// Number of the main window's monitor in the table as it was last read; 0 for one that it lacks.
+int MonitorOfMainWindow(Application& app);
+
+/// Reads the table anew. Rectangle of monitor `index` in twips; of the primary one where that
+/// monitor is gone.
 platform::Rect MonitorTwips(Application& app, int index);
 
 /// Size in twips of the monitor in use (MonitorIndex).

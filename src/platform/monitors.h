@@ -1,6 +1,7 @@
 // Monitors, in physical pixels of one desktop.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "platform/canvas.h"
@@ -17,6 +18,11 @@ public:
     virtual std::vector<Rect> Enumerate() = 0;
     /// Index of the monitor that the main window is on; 0 when unknown.
     virtual int OfMainWindow() = 0;
+    /// Asks the desktop to neither blank nor lock the monitors until asked with false. Returns at
+    /// once; a desktop that cannot do it is nobody's business.
+    virtual void KeepAwake(bool on) = 0;
+    /// Given by the program: called from inside a pump after a monitor came, went or changed.
+    std::function<void()> onChanged;
 };
 
 }  // namespace platform

@@ -23,12 +23,8 @@ void SetRunning(Application& app) {
     SetBoxButtons(app, {.close = true, .pause = true});
 }
 
-void Close_Click(Application& app) {
+void CloseShow(Application& app) {
     model::ShowState& state = app.state;
-    state.EffectStop = 1;
-    if (app.windows.form3.Timer1.Enabled || state.MacroWaitClick == 1 || Refused(app)) {
-        return;
-    }
     state.ExitToMainOnClose = 1;
     app.windows.slidescreen.Unload();
     state.ExitToMainOnClose = 0;
@@ -38,10 +34,18 @@ void Close_Click(Application& app) {
     SetSlideInterval(app);
 }
 
+void Close_Click(Application& app) {
+    NoteInput(app);
+    if (app.windows.form3.Timer1.Enabled || app.state.MacroWaitClick == 1 || Refused(app)) {
+        return;
+    }
+    CloseShow(app);
+}
+
 void StartAtEnd(Application& app) {
     model::ShowState& state = app.state;
     if (state.LinkRunning != 1 && state.RepeatFlag == 1) {
-        Close_Click(app);
+        CloseShow(app);
         return;
     }
     SetRunning(app);
@@ -56,7 +60,7 @@ void StartAtEnd(Application& app) {
 
 void Start_Click(Application& app) {
     model::ShowState& state = app.state;
-    state.EffectStop = 1;
+    NoteInput(app);
     if (Refused(app) || state.StepBusy == 1) {
         return;
     }
@@ -80,10 +84,11 @@ void Start_Click(Application& app) {
     RunSlideStep(app);
     if (state.ShowAbort == 1) {
         state.ShowAbort = 0;
-        Close_Click(app);
+        CloseShow(app);
         return;
     }
-    if (state.FullScreenClosed == 1 || state.StopRequest == 1) {
+    // Closed, stopped or paused while the step waited.
+    if (state.FullScreenClosed == 1 || state.StopRequest == 1 || state.ShowRunning == 0) {
         return;
     }
     StartShowSound(app);
@@ -92,19 +97,35 @@ void Start_Click(Application& app) {
     state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
 }
 
+bool HasDocumentBefore(const model::ShowState& state) {
+    return state.LinkRunning == 1 && state.LinkIndex > 2;
+}
+
+bool HasDocumentBehind(const model::ShowState& state) {
+    return state.LinkRunning == 1 && state.LinkIndex < state.LinkEnd;
+}
+
+/// Enables previous and next by the place in the list; the main window's too, from which the box
+/// takes them whenever it comes up.
+void FollowPlace(Application& app) {
+    const model::ShowState& state = app.state;
+    const bool previous = state.SlideIndex > 1 || HasDocumentBefore(state);
+    const bool next = state.SlideIndex < state.SlideListEnd - 1 || HasDocumentBehind(state);
+    app.windows.form1.Command5.Enabled = previous;
+    app.windows.form1.Command7.Enabled = next;
+    app.windows.slidescreen2.Command4.Enabled = previous;
+    app.windows.slidescreen2.Command5.Enabled = next;
+}
+
 void Pause_Click(Application& app) {
     model::ShowState& state = app.state;
-    state.EffectStop = 1;
+    NoteInput(app);
     Command2_Click(app);
     if (state.ShowRunning == 1 || !app.windows.form1.Command1.Enabled) {
         return;
     }
-    const bool link = state.LinkRunning == 1;
-    SetBoxButtons(app, {.close = true,
-                        .start = true,
-                        .previous = state.SlideIndex > 1 || (link && state.LinkIndex > 2),
-                        .next = state.SlideIndex < state.SlideListEnd - 1 ||
-                                (link && state.LinkIndex < state.LinkEnd)});
+    SetBoxButtons(app, {.close = true, .start = true});
+    FollowPlace(app);
 }
 
 void StepInBox(Application& app) {
@@ -114,26 +135,16 @@ void StepInBox(Application& app) {
     app.windows.SetPointer(model::kPointerNormal);
 }
 
-/// Enables previous and next of the box by the place in the list.
-void FollowPlace(Application& app) {
-    const model::ShowState& state = app.state;
-    const bool link = state.LinkRunning == 1;
-    app.windows.slidescreen2.Command4.Enabled =
-        state.SlideIndex > 1 || (link && state.LinkIndex > 2);
-    app.windows.slidescreen2.Command5.Enabled =
-        state.SlideIndex < state.SlideListEnd - 1 || (link && state.LinkIndex < state.LinkEnd);
-}
-
 void Previous_Click(Application& app) {
     model::ShowState& state = app.state;
-    state.EffectStop = 1;
+    NoteInput(app);
     if (Refused(app) || state.StepBusy == 1) {
         return;
     }
-    while (state.ShowRunning == 0 && state.SlideIndex > 0) {
+    while (state.ShowRunning == 0 && (state.SlideIndex > 0 || HasDocumentBefore(state))) {
         state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
         if (state.SlideIndex < 1) {
-            if (state.LinkRunning != 1 || state.LinkIndex <= 2) {
+            if (!HasDocumentBefore(state)) {
                 break;
             }
             state.LinkIndex = static_cast<int16_t>(state.LinkIndex - 2);
@@ -143,6 +154,9 @@ void Previous_Click(Application& app) {
             state.SlideIndex = static_cast<int16_t>(state.SlideListEnd - 1);
         }
         StepInBox(app);
+        if (state.FullScreenClosed == 1) {
+            return;
+        }
         if (state.ScheduleSkipped != 1) {
             break;
         }
@@ -152,14 +166,14 @@ void Previous_Click(Application& app) {
 
 void Next_Click(Application& app) {
     model::ShowState& state = app.state;
-    state.EffectStop = 1;
+    NoteInput(app);
     if (Refused(app) || state.StepBusy == 1) {
         return;
     }
     while (state.ShowRunning == 0) {
         if (state.SlideIndex < state.SlideListEnd - 1) {
             state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
-        } else if (state.LinkRunning == 1 && state.LinkIndex < state.LinkEnd) {
+        } else if (HasDocumentBehind(state)) {
             if (!LoadLinkEntry(app)) {
                 return;
             }
@@ -168,6 +182,9 @@ void Next_Click(Application& app) {
             break;
         }
         StepInBox(app);
+        if (state.FullScreenClosed == 1) {
+            return;
+        }
         if (state.ScheduleSkipped != 1) {
             break;
         }
@@ -187,6 +204,11 @@ void Form_Activate(Application& app) {
 
 }  // namespace
 
+void NoteInput(Application& app) {
+    app.state.UserInputSeen = 1;
+    app.state.EffectStop = 1;
+}
+
 void SetBoxButtons(Application& app, const BoxButtons& buttons) {
     model::Slidescreen2& box = app.windows.slidescreen2;
     box.Command1.Enabled = buttons.close;
@@ -194,6 +216,13 @@ void SetBoxButtons(Application& app, const BoxButtons& buttons) {
     box.Command3.Enabled = buttons.pause;
     box.Command4.Enabled = buttons.previous;
     box.Command5.Enabled = buttons.next;
+}
+
+void BringUpControlBox(Application& app) {
+    if (app.state.ControlBoxFlag == 0 && app.state.FullScreenClosed == 0 &&
+        app.windows.slidescreen.Loaded) {
+        app.windows.slidescreen2.Show();
+    }
 }
 
 void PlaceControlBox(Application& app) {

@@ -9,6 +9,7 @@
 #include "picture/screen.h"
 #include "playback/control_box.h"
 #include "playback/link_run.h"
+#include "playback/macro_clicks.h"
 #include "playback/slide_step.h"
 #include "playback/step_sound.h"
 #include "playback/transport.h"
@@ -19,12 +20,6 @@ namespace playback {
 namespace {
 
 constexpr int kKeyEscape = 27;
-
-void ShowControlBox(Application& app) {
-    if (app.state.ControlBoxFlag == 0) {
-        app.windows.slidescreen2.Show();
-    }
-}
 
 void UnloadWithEndMark(Application& app) {
     app.state.FullScreenEndMark = 1;
@@ -93,6 +88,9 @@ bool StartShow(Application& app) {
         UnloadWithEndMark(app);
         return false;
     }
+    if (state.ShowRunning == 0) {
+        return true;  // paused while the step waited
+    }
     app.windows.form1.Timer1.Enabled = true;
     state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
     return true;
@@ -126,8 +124,8 @@ void Form_Activate(Application& app) {
     if (state.ShowRunning == 0 && state.SlideIndex == 0 && !StartFromIdle(app)) {
         return;
     }
-    if (state.FullScreenClosed == 0 && state.MacroButtonsShown == 0) {
-        ShowControlBox(app);
+    if (state.MacroButtonsShown == 0) {
+        BringUpControlBox(app);
     }
     if (state.StopRequest == 1 || state.FullScreenClosed == 1) {
         app.windows.slidescreen.Unload();
@@ -137,6 +135,10 @@ void Form_Activate(Application& app) {
 void Form_Load(Application& app) {
     model::Slidescreen& slidescreen = app.windows.slidescreen;
     macro::ClearMacroObjects(app);
+    for (auto& slot : slidescreen.Picture1) {
+        slot->BackColor = model::kSystemButtonColor;
+    }
+    slidescreen.BackColor = 0;
     for (model::PictureBox* layer : {&slidescreen.P2, &slidescreen.P3, &slidescreen.P4}) {
         layer->SetPicture(nullptr);
     }
@@ -181,9 +183,19 @@ void ShowCaller(Application& app) {
     }
 }
 
+/// A running show's index points at the slide behind the one on the screen.
+bool HasCurrentPicture(const model::ShowState& state) {
+    if (state.SlideIndex <= 0) {
+        return false;
+    }
+    const int shown = state.ShowRunning == 1 ? state.SlideIndex - 1 : state.SlideIndex;
+    return !state.SlideList(state.SlideIndex).empty() || !state.SlideList(shown).empty();
+}
+
 void Form_Unload(Application& app) {
     model::ShowState& state = app.state;
     model::Windows& windows = app.windows;
+    windows.ForceCursor(true);  // macros may have hidden it any number of times
     state.MacroCursorHidden = 0;
     macro::ClearMacroObjects(app);
     windows.slidescreen2.Hide();
@@ -196,8 +208,8 @@ void Form_Unload(Application& app) {
     if (UnloadEndsShow(state)) {
         EndShowOnUnload(app);
     }
-    if (!state.SlideList(state.SlideIndex).empty() && state.SlideIndex > 0 &&
-        state.ShowAbort != 1 && state.SizeAdjust <= 1) {
+    if (HasCurrentPicture(state) && state.ShowAbort != 1 &&
+        (state.SizeAdjust == 0 || state.SizeAdjust == 1)) {
         picture::RefitHeldPicture(app, false);
     }
     windows.form1.Picture1.AutoRedraw = true;
@@ -210,22 +222,27 @@ bool MacroButtonsUp(Application& app) {
 }
 
 void Screen_Click(Application& app) {
-    model::ShowState& state = app.state;
-    state.UserInputSeen = 1;
-    state.EffectStop = 1;
-    if (state.MacroWaitClick == 1 || state.MacroCursorHidden == 1 ||
-        app.windows.form3.Timer1.Enabled) {
+    NoteInput(app);
+    if (app.state.MacroWaitClick == 1 || app.state.MacroCursorHidden == 1) {
         return;
     }
-    ShowControlBox(app);
+    BringUpControlBox(app);
     if (!MacroButtonsUp(app) && app.windows.Pointer() == model::kPointerNormal) {
         app.windows.slidescreen.Unload();
     }
 }
 
+/// After a video the second press of a double click may land here: it must not end the show.
+void P2_Click(Application& app) {
+    if (app.windows.form3.Timer1.Enabled) {
+        NoteInput(app);
+    } else {
+        Screen_Click(app);
+    }
+}
+
 void Screen_KeyDown(Application& app, int code) {
-    app.state.UserInputSeen = 1;
-    app.state.EffectStop = 1;
+    NoteInput(app);
     if (app.state.MacroWaitClick != 1 && code == kKeyEscape &&
         app.windows.Pointer() == model::kPointerNormal) {
         app.windows.slidescreen.Unload();
@@ -236,7 +253,8 @@ void Screen_KeyDown(Application& app, int code) {
 
 void PlaceFullScreen(Application& app) {
     model::Slidescreen& slidescreen = app.windows.slidescreen;
-    app.state.MonitorIndex = static_cast<int16_t>(app.platform.monitors.OfMainWindow());
+    picture::FillMonitorTable(app);
+    app.state.MonitorIndex = static_cast<int16_t>(picture::MonitorOfMainWindow(app));
     const platform::Rect monitor = picture::MonitorTwips(app, app.state.MonitorIndex);
     slidescreen.Load();
     slidescreen.Left = monitor.x;
@@ -244,6 +262,13 @@ void PlaceFullScreen(Application& app) {
     slidescreen.Width = monitor.width;
     slidescreen.Height = monitor.height;
     picture::SizeLayers(app);
+}
+
+void FollowMonitors(Application& app) {
+    if (app.windows.slidescreen.Loaded) {
+        PlaceFullScreen(app);
+        PlaceControlBox(app);
+    }
 }
 
 void TakeResumeIndex(Application& app) {
@@ -305,12 +330,13 @@ void AttachFullScreen(Application& app) {
     slidescreen.ApplyOverlayBackground = [&app] { picture::ApplyOverlayBackground(app); };
     slidescreen.Click = [&app] { Screen_Click(app); };
     slidescreen.KeyDown = [&app](int code) { Screen_KeyDown(app, code); };
+    slidescreen.P2.Click = [&app] { P2_Click(app); };
+    slidescreen.Picture2.Click = [&app] { Screen_Click(app); };
     for (model::PictureBox* surface : {&slidescreen.P2, &slidescreen.Picture2}) {
-        surface->Click = [&app] { Screen_Click(app); };
         surface->KeyDown = [&app](int code) { Screen_KeyDown(app, code); };
     }
-    slidescreen.Command1.Click = [&app] { app.state.MacroNextPressed = 1; };
-    slidescreen.Command2.Click = [&app] { app.state.MacroBackPressed = 1; };
+    AttachScreenMacroClicks(app);
+    app.platform.monitors.onChanged = [&app] { FollowMonitors(app); };
 }
 
 }  // namespace playback

@@ -11,6 +11,9 @@ void AttachFullScreen(Application& app);
 /// Puts Slidescreen over the monitor that the main window is on and sizes its layers.
 void PlaceFullScreen(Application& app);
 
+/// After a monitor came, went or changed: puts the full screen, if it is up, where it belongs now.
+void FollowMonitors(Application& app);
+
 /// The full-screen button.
 void Command4_Click(Application& app);
 

@@ -52,8 +52,8 @@ bool ContinueLinkRun(Application& app) {
         state.ShowAbort = 0;
         return true;
     }
-    if (state.StopRequest == 1) {
-        return true;
+    if (state.StopRequest == 1 || state.ShowRunning == 0) {
+        return true;  // stopped, or paused while the step waited
     }
     StartShowSound(app);
     timer.Enabled = true;

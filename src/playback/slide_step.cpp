@@ -227,6 +227,8 @@ Next ShowEntry(Application& app) {
         return Next::End;
     }
     state.ShowAbort = 0;
+    // A full screen that was closed before this step is no reason for its waits to give up.
+    state.FullScreenClosed = 0;
     TakeEffectSpeed(state);
     if (!WaitForLinkedSound(app)) {
         return Next::End;

@@ -1,13 +1,12 @@
 #include "playback/transport.h"
 
-#include <algorithm>
-
 #include "document/show_document.h"
 #include "macro/macro.h"
 #include "picture/load.h"
 #include "picture/screen.h"
 #include "playback/full_screen.h"
 #include "playback/link_run.h"
+#include "playback/macro_clicks.h"
 #include "playback/schedule.h"
 #include "playback/slide_step.h"
 #include "playback/step_sound.h"
@@ -97,7 +96,9 @@ void FollowDocumentFile(Application& app) {
 /// True when the tick is over.
 bool EndOfList(Application& app) {
     model::ShowState& state = app.state;
-    const bool listEnded = state.SlideIndex >= state.SlideListEnd && state.SlideListEnd > 1;
+    // In a chain a document without slides is over at once: nothing else would go on to the next.
+    const bool listEnded = state.SlideIndex >= state.SlideListEnd &&
+                           (state.SlideListEnd > 1 || state.LinkRunning == 1);
     if (!listEnded && state.CdProgramEnded != 1) {
         return false;
     }
@@ -138,16 +139,6 @@ void StepByHand(Application& app, Next next) {
             break;
         }
     }
-}
-
-/// A macro menu's choice; -1 counts the transport's own step forward.
-void ChooseJump(Application& app, int entry) {
-    model::ShowState& state = app.state;
-    const int target = state.MenuJump[static_cast<size_t>(entry)] + state.SlideIndex - 1;
-    state.SlideIndex = static_cast<int16_t>(std::clamp(target, 0, 32767));
-    state.MacroButtonsShown = 0;
-    state.MacroDelayWaiting = 0;
-    state.MacroJumpChosen = 1;
 }
 
 void Timer2_Tick(Application& app) {
@@ -410,14 +401,7 @@ void AttachTransport(Application& app) {
     form1.Command4.Click = [&app] { Command4_Click(app); };
     form1.Command5.Click = [&app] { Command5_Click(app); };
     form1.Command7.Click = [&app] { Command7_Click(app); };
-    form1.Command8.Click = [&app] { app.state.MacroNextPressed = 1; };
-    form1.Command9.Click = [&app] { app.state.MacroBackPressed = 1; };
-    int entry = 1;
-    for (model::Button* button :
-         {&form1.menu1, &form1.menu2, &form1.menu3, &form1.menu4, &form1.menu5}) {
-        button->Click = [&app, entry] { ChooseJump(app, entry); };
-        ++entry;
-    }
+    AttachWindowMacroClicks(app);
     form1.Timer1.Tick = [&app] { Timer1_Tick(app); };
     form1.Timer2.Tick = [&app] { Timer2_Tick(app); };
     form1.Timer3.Tick = [&app] { app.state.MacroDelayWaiting = 0; };

@@ -70,6 +70,8 @@ public:
     int ofMainWindow = 0;
     std::vector<platform::Rect> Enumerate() override { return monitors; }
     int OfMainWindow() override { return ofMainWindow; }
+    std::vector<bool> awake;  // every KeepAwake, in order
+    void KeepAwake(bool on) override { awake.push_back(on); }
 };
 
 /// A "picture" is any file whose content begins with "PIC width height [rrggbb [bits]]".

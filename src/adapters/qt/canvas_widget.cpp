@@ -19,6 +19,7 @@ CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent) {
 CanvasWidget::~CanvasWidget() {
     if (box_) {
         box_->canvas.onChanged = nullptr;
+        box_->SetFocus = nullptr;
     }
 }
 
@@ -34,6 +35,7 @@ void CanvasWidget::Attach(model::PictureBox& box, Gate& gate, bool physical) {
             QMetaObject::invokeMethod(this, &CanvasWidget::Flush, Qt::QueuedConnection);
         }
     };
+    box.SetFocus = [this] { setFocus(); };
     update();
 }
 

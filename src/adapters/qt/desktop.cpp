@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPixmap>
+#include <QScreen>
 #include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
@@ -75,6 +76,31 @@ struct Desktop::Parts {
           dialogs(gate),
           monitors(options.screens, [this] { return MainWindow(); }) {}
 
+    /// The program hears of monitors that come, go or change, when the toolkit is done with it.
+    void WatchScreens() {
+        const auto changed = [this] {
+            gate.Guarded([this] {
+                if (monitors.onChanged) {
+                    monitors.onChanged();
+                }
+            });
+        };
+        const auto follow = [this, changed](QScreen* screen) {
+            QObject::connect(screen, &QScreen::geometryChanged, &watcher, changed,
+                             Qt::QueuedConnection);
+        };
+        for (QScreen* screen : QGuiApplication::screens()) {
+            follow(screen);
+        }
+        QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &watcher, follow);
+        QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &watcher, changed,
+                         Qt::QueuedConnection);
+        QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &watcher, changed,
+                         Qt::QueuedConnection);
+        QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, &watcher, changed,
+                         Qt::QueuedConnection);
+    }
+
     WindowView* ViewOf(const QString& name) {
         for (const auto& view : views) {
             if (QString::fromStdString(view->Window().Name()) == name) {
@@ -99,6 +125,7 @@ struct Desktop::Parts {
     QtTextRenderer textRenderer;
     std::unique_ptr<FormLoader> loader;
     std::vector<std::unique_ptr<WindowView>> views;
+    QObject watcher;  // goes first: its connections end with it
 };
 
 Desktop::Desktop(int& argc, char** argv, const Options& options)
@@ -117,6 +144,9 @@ Desktop::Desktop(int& argc, char** argv, const Options& options)
         QApplication::setWindowIcon(icon);
     }
     ChooseFont();
+    if (options.screens.empty()) {
+        parts_->WatchScreens();
+    }
 }
 
 Desktop::~Desktop() {

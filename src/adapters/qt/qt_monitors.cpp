@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "adapters/qt/screen_keeper.h"
+
 namespace qt_adapter {
 
 namespace {
@@ -61,6 +63,8 @@ QPoint FromPhysical(int physicalX, int physicalY) {
 QtMonitors::QtMonitors(std::vector<platform::Rect> screens, std::function<QWidget*()> mainWindow)
     : screens_(std::move(screens)), mainWindow_(std::move(mainWindow)) {}
 
+QtMonitors::~QtMonitors() = default;
+
 std::vector<platform::Rect> QtMonitors::Enumerate() {
     if (!screens_.empty()) {
         return screens_;
@@ -82,6 +86,16 @@ int QtMonitors::OfMainWindow() {
         return 0;
     }
     return static_cast<int>(std::max<qsizetype>(0, OrderedScreens().indexOf(window->screen())));
+}
+
+void QtMonitors::KeepAwake(bool on) {
+    if (!screens_.empty() || (!on && !keeper_)) {
+        return;
+    }
+    if (!keeper_) {
+        keeper_ = std::make_unique<ScreenKeeper>();
+    }
+    keeper_->Keep(on);
 }
 
 }  // namespace qt_adapter

@@ -3,6 +3,7 @@
 
 #include <QPoint>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "platform/monitors.h"
@@ -21,17 +22,23 @@ QScreen* ScreenAt(int physicalX, int physicalY);
 /// The toolkit's coordinates of a physical point.
 QPoint FromPhysical(int physicalX, int physicalY);
 
+class ScreenKeeper;
+
 class QtMonitors : public platform::Monitors {
 public:
     /// `screens` are reported instead of the real ones unless empty; `mainWindow` answers the main
     /// window's widget, or null.
     QtMonitors(std::vector<platform::Rect> screens, std::function<QWidget*()> mainWindow);
+    ~QtMonitors() override;
     std::vector<platform::Rect> Enumerate() override;
     int OfMainWindow() override;
+    /// Nothing happens when other monitors than the real ones are reported.
+    void KeepAwake(bool on) override;
 
 private:
     std::vector<platform::Rect> screens_;
     std::function<QWidget*()> mainWindow_;
+    std::unique_ptr<ScreenKeeper> keeper_;  // made when first needed
 };
 
 }  // namespace qt_adapter

@@ -110,7 +110,7 @@ void WindowView::PropertyChanged(model::Control& control, model::PropertyBase& p
         FollowSize();
     } else if (&property == &window_.WindowState) {
         FollowState();
-    } else if (&property == &window_.MousePointer) {
+    } else if (&property == &window_.MousePointer || &property == &window_.CursorCount) {
         FollowPointer();
         ApplyConditions();
     } else if (&property == &window_.Enabled) {
@@ -372,6 +372,10 @@ void WindowView::FollowState() {
 }
 
 void WindowView::FollowPointer() {
+    if (window_.CursorCount < 0) {
+        root_->setCursor(Qt::BlankCursor);
+        return;
+    }
     switch (window_.MousePointer) {
         case model::kPointerBusy:
             root_->setCursor(Qt::WaitCursor);

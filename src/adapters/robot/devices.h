@@ -21,6 +21,7 @@ public:
 
     std::vector<platform::Rect> Enumerate() override { return monitors_; }
     int OfMainWindow() override;
+    void KeepAwake(bool) override {}
 
 private:
     std::vector<platform::Rect> monitors_;

@@ -6,7 +6,10 @@
 namespace model {
 
 struct Slidescreen2 : Window {
-    Slidescreen2() : Window("Slidescreen2") {}
+    Slidescreen2() : Window("Slidescreen2") {
+        Width = 3360;  // 224 by 72 pixels: a caption over five buttons
+        Height = 1080;
+    }
 
     Button Command1{this, "Command1"};  // close
     Button Command2{this, "Command2"};  // START

@@ -1,0 +1,239 @@
+// A run over a link list: from document to document, back over a border, and its ends.
+#include <gtest/gtest.h>
+
+#include "show_support.h"
+
+namespace playback_tests {
+namespace {
+
+/// Documents a (slides a1 a2), b (b1), c (c1 c2 c3) in folders of their own; 3 s a slide.
+class LinkShow : public Show {
+public:
+    model::Slidescreen2& box = windows.slidescreen2;
+
+    explicit LinkShow(const std::vector<Text>& documents = {u"a", u"b", u"c"}) : Show(0) {
+        PutDocument(u"a", 2);
+        PutDocument(u"b", 1);
+        PutDocument(u"c", 3);
+        PutDocument(u"empty", 0);
+        files.Put(u"C:\\bad\\bad.kvs", "no document");
+        for (const Text& name : documents) {
+            state.LinkEnd = static_cast<int16_t>(state.LinkEnd + 1);
+            state.LinkList.Set(state.LinkEnd, u"C:\\" + name + u"\\" + name + u".kvs");
+        }
+        state.LinkEnd = static_cast<int16_t>(state.LinkEnd + 1);
+        state.LinkRunning = 1;
+        state.LinkRepeat = 0;
+        state.ControlBoxFlag = 0;
+    }
+    void Run() {
+        playback::PlaceFullScreen(app);
+        screen.Show();
+    }
+    /// Names of the pictures shown, in order: "a1 a2".
+    std::string Names() const {
+        std::string names;
+        for (const auto& line : trace.Of("slide")) {
+            const Text path = line.String("path");
+            const size_t start = path.rfind(u'\\') + 1;
+            names += (names.empty() ? "" : " ") +
+                     text::ToUtf8(path.substr(start, path.rfind(u'.') - start));
+        }
+        return names;
+    }
+
+private:
+    void PutDocument(const Text& name, int slides) {
+        // The oldest form: file name, interval, repeat (1: none), sound mode, sound file, slides.
+        Text lines = u"vue2\r\nx.kvs\r\n 3000 \r\n 1 \r\n 7 \r\n*.wav\r\n";
+        lines += text::FromUtf8(" " + std::to_string(slides) + " \r\n");
+        for (int i = 1; i <= slides; ++i) {
+            const Text picture = name + text::FromUtf8(std::to_string(i)) + u".png";
+            lines += picture + u"\r\n";
+            PutPicture(u"C:\\" + name + u"\\" + picture, 10, 10);
+        }
+        PutText(u"C:\\" + name + u"\\" + name + u".kvs", lines);
+    }
+};
+
+TEST(LinkRun, BeginsWithTheFirstDocumentAndAsksNothing) {
+    LinkShow show;
+    show.Run();
+    EXPECT_TRUE(show.dialogs.messages.empty());
+    EXPECT_EQ(show.state.LinkIndex, 2) << "the next entry";
+    EXPECT_EQ(show.state.BaseFolder, u"C:\\a\\");
+    EXPECT_EQ(show.state.SlideListEnd, 3);
+    EXPECT_EQ(show.state.SlideList(1), u"C:\\a\\a1.png");
+    EXPECT_EQ(show.state.SlideList(3), u"");
+    EXPECT_EQ(show.state.SlideIndex, 2);
+    EXPECT_EQ(show.Names(), "a1");
+}
+
+TEST(LinkRun, PlaysAllDocumentsOnceAndEnds) {
+    LinkShow show;
+    show.Run();
+    show.loop.Run(17999);
+    EXPECT_EQ(show.Names(), "a1 a2 b1 c1 c2 c3");
+    EXPECT_EQ(show.state.LinkIndex, 4);
+    EXPECT_EQ(show.state.ShowRunning, 1);
+    show.loop.Run(1);
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_EQ(show.state.LinkRunning, 0);
+    EXPECT_EQ(show.state.LinkIndex, 0);
+    EXPECT_EQ(show.state.ShowRunning, 0);
+    EXPECT_TRUE(show.form1.Visible);
+    EXPECT_EQ(show.Buttons(), "SF");
+}
+
+TEST(LinkRun, ReturnsToTheLinkWindow) {
+    LinkShow show({u"b"});
+    show.state.LinkWindowOpen = 1;
+    show.Run();
+    show.loop.Run(3000);
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_TRUE(show.windows.form9.Visible);
+    EXPECT_FALSE(show.form1.Visible);
+}
+
+TEST(LinkRun, RepeatsTheWholeList) {
+    LinkShow show({u"b", u"a"});
+    show.state.LinkRepeat = 1;
+    show.Run();
+    show.loop.Run(12000);
+    EXPECT_EQ(show.Names(), "b1 a1 a2 b1 a1");
+    EXPECT_EQ(show.state.LinkIndex, 3);
+}
+
+TEST(LinkRun, OverrulesADocumentsRepeatAndRandomOrder) {
+    for (const int16_t repeat : {0, 1}) {
+        LinkShow show({u"c"});
+        show.Run();
+        show.state.RepeatFlag = repeat;
+        show.state.RandomFlag = 0;
+        show.loop.Run(9000);
+        EXPECT_EQ(show.Names(), "c1 c2 c3");
+        EXPECT_FALSE(show.screen.Loaded);
+    }
+}
+
+TEST(LinkRun, ARefusedFirstDocumentEndsItWithAMessage) {
+    LinkShow show({u"bad", u"a"});
+    show.Run();
+    EXPECT_EQ(show.dialogs.messages.size(), 1u);
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_EQ(show.state.ShowAbort, 0);
+    EXPECT_EQ(show.state.LinkRunning, 0);
+    EXPECT_TRUE(show.form1.Visible);
+    show.loop.Run(10000);
+    EXPECT_EQ(show.Names(), "");
+}
+
+TEST(LinkRun, ARefusedLaterDocumentEndsItWithAMessage) {
+    LinkShow show({u"b", u"bad", u"a"});
+    show.Run();
+    show.loop.Run(10000);
+    EXPECT_EQ(show.dialogs.messages.size(), 1u);
+    EXPECT_EQ(show.Names(), "b1");
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_EQ(show.state.ShowAbort, 0);
+    EXPECT_EQ(show.state.LinkRunning, 0);
+    EXPECT_FALSE(show.form1.Timer1.Enabled);
+}
+
+TEST(LinkRun, AFailingFirstSlideOfALaterDocumentEndsIt) {
+    LinkShow show({u"b", u"a"});
+    show.files.Put(u"C:\\a\\a1.png", "no picture");
+    show.dialogs.answers = {platform::Answer::No};
+    show.Run();
+    show.loop.Run(10000);
+    EXPECT_EQ(show.Names(), "b1");
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_EQ(show.state.ShowAbort, 0);
+    EXPECT_EQ(show.state.LinkRunning, 0);
+}
+
+TEST(LinkRun, AnEmptyDocumentHoldsNothingUp) {
+    LinkShow show({u"b", u"empty", u"a"});
+    show.Run();
+    show.loop.Run(6000);
+    EXPECT_EQ(show.Names(), "b1 a1");
+}
+
+TEST(LinkRun, AnEmptyFirstDocumentCanBeLeft) {
+    LinkShow show({u"empty"});
+    show.Run();
+    show.loop.Run(10000);
+    EXPECT_EQ(show.state.ShowRunning, 0);
+    show.screen.KeyDown(27);
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_EQ(show.state.LinkRunning, 0);
+}
+
+TEST(LinkRun, PreviousReachesTheLastSlideOfTheDocumentBefore) {
+    LinkShow show;
+    show.Run();
+    show.loop.Run(7000);  // b1 stands
+    show.box.Command3.Click();
+    ASSERT_EQ(show.state.LinkIndex, 3);
+    show.box.Command4.Click();
+    EXPECT_EQ(show.Names(), "a1 a2 b1 a2");
+    EXPECT_EQ(show.state.LinkIndex, 2);
+    EXPECT_EQ(show.state.SlideIndex, 2);
+    EXPECT_EQ(show.state.BaseFolder, u"C:\\a\\");
+    show.box.Command4.Click();
+    show.box.Command4.Click();
+    EXPECT_EQ(show.Names(), "a1 a2 b1 a2 a1");
+    EXPECT_EQ(show.state.SlideIndex, 0) << "before the first document there is nothing";
+}
+
+TEST(LinkRun, NextReachesTheFirstSlideOfTheDocumentBehind) {
+    LinkShow show({u"a", u"b"});
+    show.Run();
+    show.box.Command3.Click();
+    for (int i = 0; i < 4; ++i) {
+        show.box.Command5.Click();
+    }
+    EXPECT_EQ(show.Names(), "a1 a2 b1");
+    EXPECT_EQ(show.state.LinkIndex, 3);
+    EXPECT_FALSE(show.box.Command5.Enabled);
+    EXPECT_TRUE(show.box.Command4.Enabled);
+    show.box.Command2.Click();
+    show.loop.Run(3000);
+    EXPECT_FALSE(show.screen.Loaded) << "START behind the last slide ends the run with its tick";
+}
+
+TEST(LinkRun, StartAtADocumentsEndGoesOnWithTheNext) {
+    LinkShow show({u"b", u"a"});
+    show.Run();
+    show.box.Command3.Click();
+    show.box.Command2.Click();
+    EXPECT_EQ(show.Names(), "b1");
+    EXPECT_FALSE(show.box.Command2.Enabled);
+    EXPECT_TRUE(show.box.Command3.Enabled);
+    show.loop.Run(3000);
+    EXPECT_EQ(show.Names(), "b1 a1");
+}
+
+TEST(LinkRun, ARefusedNeighbourEndsTheRun) {
+    LinkShow show({u"b", u"bad"});
+    show.Run();
+    show.box.Command3.Click();
+    show.box.Command5.Click();
+    EXPECT_EQ(show.dialogs.messages.size(), 1u);
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_FALSE(show.box.Visible);
+    EXPECT_EQ(show.state.LinkRunning, 0);
+}
+
+TEST(LinkRun, EscapeEndsItThoughAWindowShowWouldGoOn) {
+    LinkShow show;
+    show.Run();
+    ASSERT_EQ(show.state.AlwaysFullFlag, 1);
+    show.screen.KeyDown(27);
+    EXPECT_EQ(show.state.LinkRunning, 0);
+    show.loop.Run(10000);
+    EXPECT_EQ(show.Names(), "a1");
+}
+
+}  // namespace
+}  // namespace playback_tests
