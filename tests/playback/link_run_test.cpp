@@ -25,6 +25,9 @@ public:
         state.LinkRunning = 1;
         state.LinkRepeat = 0;
         state.ControlBoxFlag = 0;
+        // No effects, which would take time; documents this old leave these settings alone.
+        state.ShowEffect = 11;
+        state.EraseEffect = 12;
     }
     void Run() {
         playback::PlaceFullScreen(app);
