@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "macro/macro.h"
+#include "macro/telop.h"
 #include "picture/effects.h"
 #include "picture/load.h"
 #include "picture/overlay.h"
@@ -325,6 +326,7 @@ void Command4_Click(Application& app) {
 void AttachFullScreen(Application& app) {
     model::Slidescreen& slidescreen = app.windows.slidescreen;
     slidescreen.OnLoad = [&app] { Form_Load(app); };
+    slidescreen.Timer1.Tick = [&app] { macro::ScrollTelopOnScreen(app); };
     slidescreen.OnActivate = [&app] { Form_Activate(app); };
     slidescreen.OnUnload = [&app] { Form_Unload(app); };
     slidescreen.ApplyOverlayBackground = [&app] { picture::ApplyOverlayBackground(app); };

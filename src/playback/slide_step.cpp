@@ -4,6 +4,7 @@
 
 #include "document/linked_names.h"
 #include "macro/macro.h"
+#include "macro/telop.h"
 #include "picture/effects.h"
 #include "picture/load.h"
 #include "picture/overlay.h"
@@ -37,22 +38,11 @@ void SkipBySchedule(Application& app) {
     app.platform.trace.Event("skip", {{"SlideIndex", double(app.state.SlideIndex)}});
 }
 
-void CancelTelop(Application& app) {
-    model::Windows& windows = app.windows;
-    for (model::Label* label : {&windows.form1.Label1, &windows.slidescreen.Label1}) {
-        label->Caption = Text();
-        label->Visible = false;
-    }
-    windows.slidescreen.Timer1.Enabled = false;
-    windows.form1.Timer4.Enabled = false;
-    app.state.TelopRunning = 0;
-}
-
 /// The next slide never comes before a scrolling text has run out.
 Next WaitForTelop(Application& app) {
     model::ShowState& state = app.state;
     if (state.MacroJumpChosen == 1 && state.TelopRunning == 1) {
-        CancelTelop(app);
+        macro::CancelTelop(app);
     }
     const WaitMark mark(state);
     while (state.TelopRunning == 1) {

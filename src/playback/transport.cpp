@@ -2,6 +2,7 @@
 
 #include "document/show_document.h"
 #include "macro/macro.h"
+#include "macro/telop.h"
 #include "picture/load.h"
 #include "picture/screen.h"
 #include "playback/full_screen.h"
@@ -405,6 +406,7 @@ void AttachTransport(Application& app) {
     form1.Timer1.Tick = [&app] { Timer1_Tick(app); };
     form1.Timer2.Tick = [&app] { Timer2_Tick(app); };
     form1.Timer3.Tick = [&app] { app.state.MacroDelayWaiting = 0; };
+    form1.Timer4.Tick = [&app] { macro::ScrollTelopInWindow(app); };
 }
 
 }  // namespace playback
