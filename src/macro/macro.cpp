@@ -1,29 +1,68 @@
 #include "macro/macro.h"
 
+#include "macro/buttons.h"
+#include "macro/cutouts.h"
+#include "macro/jump_exit.h"
+#include "macro/reader.h"
+#include "macro/text_words.h"
+#include "text/paths.h"
+
 namespace macro {
 
-void RunTextMacro(Application&) {}
-void ResetTextSettings(Application&) {}
+namespace {
+
+void ResetForSlide(Run& run) {
+    model::ShowState& state = run.state;
+    for (auto flag : {&model::ShowState::MacroButtonsShown, &model::ShowState::MacroJumpChosen,
+                      &model::ShowState::MacroNextPressed, &model::ShowState::MacroBackPressed,
+                      &model::ShowState::OverPicMode, &model::ShowState::PicPbType}) {
+        state.*flag = 0;
+    }
+    state.TextOriginX = state.TextOriginScreen == 0 ? state.PictureX : 0;
+    state.TextOriginY = state.TextOriginScreen == 0 ? state.PictureY : 0;
+    state.MenuJump.fill(0);
+    ResetTextOfSlide(run);
+}
+
+}  // namespace
+
+Text MacroFile(const Application& app) {
+    const model::ShowState& state = app.state;
+    Text path = state.LinkedFolderFlag == 0
+                    ? state.SlideList(state.SlideIndex)
+                    : text::WithSeparator(state.LinkedFolder) + state.CurrentName;
+    if (path.size() < 4) {
+        return {};
+    }
+    return path.replace(path.size() - 4, 4, u".txt");
+}
+
+void RunTextMacro(Application& app) {
+    if (app.state.TextMacroFlag == 1 || app.state.ShowAbort == 1) {
+        return;
+    }
+    Run run(app);
+    ResetForSlide(run);
+    std::string bytes;
+    platform::FileError error;
+    const Text path = MacroFile(app);
+    if (path.empty() || !app.platform.files.Read(path, bytes, error)) {
+        return;
+    }
+    run.source = text::DecodeHandWrittenFile(bytes, app.platform.codePage);
+    if (ReadLines(run) == Flow::Jump) {
+        LeaveSlide(run);
+    }
+}
 
 void ClearMacroObjects(Application& app) {
-    model::Form1& form1 = app.windows.form1;
-    model::Slidescreen& slidescreen = app.windows.slidescreen;
-    for (model::Button* button :
-         {&form1.Command8, &form1.Command9, &form1.menu1, &form1.menu2, &form1.menu3, &form1.menu4,
-          &form1.menu5, &slidescreen.Command1, &slidescreen.Command2, &slidescreen.menu1,
-          &slidescreen.menu2, &slidescreen.menu3, &slidescreen.menu4, &slidescreen.menu5}) {
-        button->Visible = false;
-    }
-    app.state.CutoutJump.fill(0);
-    app.state.CutoutAction.fill({});
-    for (auto* slots : {&form1.Picture2, &slidescreen.Picture1}) {
-        for (auto& slot : *slots) {
-            slot->Visible = false;
-            if (slot->Picture()) {
-                slot->SetPicture(nullptr);
-            }
-        }
-    }
+    HideButtons(app);
+    RemoveObjects(app);
+}
+
+void ResetTextSettings(Application& app) {
+    app.state.BorderColorIndex = 0;
+    app.state.LineSpaceExtra = 0;
 }
 
 }  // namespace macro

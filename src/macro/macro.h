@@ -5,13 +5,19 @@
 
 namespace macro {
 
-/// Runs the slide's macro file. Not built yet: does nothing.
+/// Runs the slide's macro file, if it has one: draws its text, carries out its words. Returns when
+/// the run has ended; waits, menus and motion happen inside, with events pumped. A jump leaves
+/// SlideIndex one before the slide chosen, MacroEndShow 1 and Timer1 of Form1 at 100 ms.
 void RunTextMacro(Application& app);
 
 /// Hides the macro buttons and menu entries of both windows and clears the 63 picture slots.
 void ClearMacroObjects(Application& app);
 
-/// Text settings back to those of a fresh show. Not built yet: does nothing.
+/// What words set for the whole show goes back: outline colour and line space.
 void ResetTextSettings(Application& app);
+
+/// Text file of the slide in force: its path, or its name in the linked folder, with ".txt" in
+/// place of the last four characters, whatever they are. Empty for a name that is shorter.
+Text MacroFile(const Application& app);
 
 }  // namespace macro

@@ -55,13 +55,20 @@ struct ShowState {
     TextArray SoundList{32767};
     TextArray LinkList{kLinkListLast};
 
-    /// Jump values of the macro menus 1 to 5.
-    std::array<int16_t, 64> MenuJump{};
+    /// Jump values of the macro menus 1 to 5, and which of them stand on the screen.
+    std::array<int16_t, 64> MenuJump{}, MenuActive{};
 
     /// What a click on the macro object of that index does: slides to jump, 0 none, and the full
     /// path of a file to play, empty none.
     std::array<int16_t, 64> CutoutJump{};
     std::array<Text, 64> CutoutAction;
+    /// Which objects exist, and their shapes: 0 rectangle, 1 ellipse, 2 diamond, 3 star, 4 heart,
+    /// 999 by the coordinate file.
+    std::array<int16_t, 64> CutoutActive{}, CutoutType{};
+    /// The coordinate file named for an object; outlives the slide.
+    std::array<Text, 64> CutoutDataFile;
+    /// Bounding box of a polygon in the object's own pixels; 9999, 9999, 0, 0 without one.
+    std::array<int16_t, 64> CutoutMinX{}, CutoutMinY{}, CutoutMaxX{}, CutoutMaxY{};
 
     /// The monitors by number, in twips; zeros behind the last one.
     std::array<int32_t, kMonitorsMost> MonitorLeft{}, MonitorTop{}, MonitorRight{}, MonitorBottom{};

@@ -1,0 +1,77 @@
+#include "macro/arguments.h"
+
+#include <algorithm>
+
+#include "text/numbers.h"
+
+namespace macro {
+
+TextView BeforeComment(TextView line) {
+    return line.substr(0, line.find(u"//"));
+}
+
+TextView Quoted(TextView line) {
+    const size_t first = line.find(u'"');
+    if (first == TextView::npos) {
+        return {};
+    }
+    const size_t last = line.find(u'"', first + 1);
+    return last == TextView::npos ? TextView() : line.substr(first + 1, last - first - 1);
+}
+
+std::vector<TextView> CallFields(TextView line, size_t most) {
+    const size_t open = line.find(u'(');
+    if (open == TextView::npos) {
+        return {};
+    }
+    const size_t close = line.rfind(u')');
+    const bool closed = close != TextView::npos && close > open;
+    TextView rest =
+        closed ? line.substr(open + 1, close - open - 1) : WithoutLineEnd(line.substr(open + 1));
+    std::vector<TextView> fields;
+    while (fields.size() + 1 < most) {
+        const size_t comma = rest.find(u',');
+        if (comma == TextView::npos) {
+            break;
+        }
+        fields.push_back(rest.substr(0, comma));
+        rest.remove_prefix(comma + 1);
+    }
+    fields.push_back(rest);
+    return fields;
+}
+
+TextView WithoutLineEnd(TextView line) {
+    while (!line.empty() && (line.back() == u'\r' || line.back() == u'\n')) {
+        line.remove_suffix(1);
+    }
+    return line;
+}
+
+Text Unquoted(TextView value) {
+    Text result = text::Trim(value);
+    if (!result.empty() && result.front() == u'"') {
+        result.erase(0, 1);
+    }
+    if (!result.empty() && result.back() == u'"') {
+        result.pop_back();
+    }
+    return result;
+}
+
+Text Unwrapped(TextView value) {
+    Text result = text::Trim(value);
+    if (!result.empty() && result.front() == u'"') {
+        result.erase(0, 1);
+        if (!result.empty()) {
+            result.pop_back();
+        }
+    }
+    return result;
+}
+
+double NumberField(const std::vector<TextView>& fields, size_t index) {
+    return index < fields.size() ? text::SafeNumber(fields[index]) : 0;
+}
+
+}  // namespace macro

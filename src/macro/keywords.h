@@ -1,0 +1,77 @@
+// The words of the macro language: one row each, in the order in which a line is tested for them.
+#pragma once
+
+#include <vector>
+
+#include "macro/run.h"
+
+namespace macro {
+
+/// How a word takes its argument.
+enum class Form {
+    Number,  // KEY=value
+    Quoted,  // KEY="text"
+    Call,    // KEY(a,b,…)
+    Bare,    // KEY
+    Comment,
+};
+
+/// What becomes of a number outside the range.
+enum class BadValue {
+    None,      // there is none: the word takes any number
+    Clipped,   // to the nearer end of the range
+    Ignored,   // the word does nothing
+    Replaced,  // by the row's replacement
+};
+
+/// What an argument must be apart from its range.
+enum class Number {
+    Real,
+    Down,   // rounded down, 0.1 being added first; must fit in 16 bits
+    Whole,  // to the nearest whole number, halves to the even one; must fit in 16 bits
+};
+
+/// How long a setting holds.
+enum class Scope {
+    None,      // it is no setting
+    Slide,     // for this slide
+    Show,      // until changed or until the next START
+    Document,  // changes what the menus set, and is saved with it
+};
+
+struct Range {
+    double lowest = 0, highest = 0;
+};
+
+struct Keyword {
+    TextView name;  // upper case
+    Form form;
+    Range range;
+    BadValue badValue;
+    Scope scope;
+    /// `value` is the number behind '=' as the columns made it; 0 for other forms. The line is
+    /// emptied behind the handler unless `setsLine`.
+    Flow (*handler)(Run& run, double value);
+    TextView arguments;      // as the manual shows them behind the name
+    TextView documentation;  // one line of the manual
+    double replacement = 0;
+    Number number = Number::Real;
+    size_t digits = 5;      // characters of a number that are read
+    bool setsLine = false;  // the handler leaves a line of its own for what follows
+};
+
+const std::vector<Keyword>& Keywords();
+
+/// Runs the line in work against every word, in order. A word that runs empties the line, so that
+/// the words behind it find nothing. Between CURRENTX and CURRENTY the pens go to the margin.
+/// A number beyond its word's 16 bits fails.
+Flow RunKeywords(Run& run);
+
+/// Number of a line for a word: its `digits` characters from the place behind the first '=', or
+/// from the beginning of the line without one.
+double NumberArgument(const Run& run, size_t digits);
+
+/// The line that begins the text.
+constexpr TextView kTextSection = u"[テキスト]";
+
+}  // namespace macro
