@@ -17,11 +17,14 @@ enum class Form {
 };
 
 /// What becomes of a number outside the range.
-enum class BadValue {
-    None,      // there is none: the word takes any number
-    Clipped,   // to the nearer end of the range
-    Ignored,   // the word does nothing
-    Replaced,  // by the row's replacement
+struct BadValue {
+    enum Kind {
+        Unbounded,  // there is none: the word takes any number
+        Clipped,    // to the nearer end of the range
+        Ignored,    // the word does nothing
+        Replaced,   // by the number that follows
+    } kind;
+    double replacement = 0;
 };
 
 /// What an argument must be apart from its range.
@@ -49,17 +52,17 @@ struct Keyword {
     Range range;
     BadValue badValue;
     Scope scope;
+    Number number;
+    size_t digits;  // characters of a number that are read
+    bool setsLine;  // the handler leaves a line of its own for what follows
     /// `value` is the number behind '=' as the columns made it; 0 for other forms. The line is
     /// emptied behind the handler unless `setsLine`.
     Flow (*handler)(Run& run, double value);
     TextView arguments;      // as the manual shows them behind the name
     TextView documentation;  // one line of the manual
-    double replacement = 0;
-    Number number = Number::Real;
-    size_t digits = 5;      // characters of a number that are read
-    bool setsLine = false;  // the handler leaves a line of its own for what follows
 };
 
+/// The rows of keywords.def.
 const std::vector<Keyword>& Keywords();
 
 /// Runs the line in work against every word, in order. A word that runs empties the line, so that
