@@ -131,7 +131,6 @@ Flow YesNoButtons(Run& run, double) {
     }
     const Flow flow = AfterYesNo(run, yes, no);
     if (flow == Flow::Jump) {
-        run.answeredYesNo = true;
         return flow;
     }
     for (model::Button* button :

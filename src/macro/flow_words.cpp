@@ -52,7 +52,9 @@ Flow Skip(Run& run, double slides) {
 }
 
 Flow Lock(Run& run, double mode) {
-    run.state.MacroWaitClick = mode == 1 ? 1 : 0;
+    if (mode == 1 || mode == 2) {
+        run.state.MacroWaitClick = mode == 1 ? 1 : 0;
+    }
     return Flow::GoOn;
 }
 

@@ -14,6 +14,7 @@ Flow SleepFor(Run& run, double seconds);
 Flow EndAfter(Run& run, double seconds);
 /// One slide further than the same number in a menu or behind Yes: kept.
 Flow Skip(Run& run, double slides);
+/// 1 locks, 2 unlocks; others change nothing.
 Flow Lock(Run& run, double mode);
 /// 1 ends the show, 2 the program.
 Flow End(Run& run, double mode);

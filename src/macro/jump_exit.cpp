@@ -16,7 +16,7 @@ void LeaveSlide(Run& run) {
     model::ShowState& state = run.state;
     HideButtons(app);
     app.platform.loop.PumpEvents();
-    if (InFullScreen(state) && run.answeredYesNo) {
+    if (InFullScreen(state) && (state.MacroNextPressed != 0 || state.MacroBackPressed != 0)) {
         RestoreBackground(app, PlaceOf(app.windows.slidescreen.Command1));
         RestoreBackground(app, PlaceOf(app.windows.slidescreen.Command2));
     }

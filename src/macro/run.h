@@ -39,8 +39,7 @@ struct Run {
     int loopLine = 0;         // that line's number
     platform::Color TextForeColor = 0;
 
-    bool clampsJump = true;      // false: the jump exit may run off the list's end
-    bool answeredYesNo = false;  // the jump came from the Yes and No buttons
+    bool clampsJump = true;  // false: the jump exit may run off the list's end
 };
 
 /// Both line texts become `text`.
