@@ -12,6 +12,7 @@
 #include "adapters/posix/posix_system.h"
 #include "adapters/posix/start_paths.h"
 #include "adapters/qt/desktop.h"
+#include "adapters/robot/check_command.h"
 #include "adapters/robot/devices.h"
 #include "adapters/robot/inspect.h"
 #include "adapters/robot/options.h"
@@ -30,6 +31,7 @@ constexpr const char* kUsage =
     "  parapico [--trace FILE] [DOCUMENT]\n"
     "  parapico --inspect FILE\n"
     "  parapico --resave IN OUT [--distribution]\n"
+    "  parapico --check [--json] FILE...\n"
     "  parapico --robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N]\n"
     "           [--now \"YYYY-MM-DD hh:mm:ss\"] [--screen WxH[,WxH…]] [--title] [DOCUMENT]\n";
 
@@ -186,6 +188,9 @@ int main(int argc, char** argv) {
     }
     if (door == "--inspect" || door == "--resave") {
         return robot::RunDocumentCommand(arguments, std::cout, std::cerr);
+    }
+    if (door == "--check") {
+        return robot::RunCheckCommand(arguments, std::cout, std::cerr);
     }
     for (const std::string& argument : arguments) {
         if (argument == "--robot") {

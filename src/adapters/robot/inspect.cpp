@@ -1,12 +1,10 @@
 #include "adapters/robot/inspect.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <ostream>
 
 #include "adapters/posix/json.h"
-#include "adapters/posix/posix_system.h"
-#include "adapters/robot/silent_platform.h"
+#include "adapters/robot/fresh_program.h"
 #include "document/link_document.h"
 #include "document/show_document.h"
 #include "document/state_files.h"
@@ -73,19 +71,6 @@ const Kind& KindOfFile(const Text& path, TextView tag) {
     return kKinds[0];
 }
 
-Text AbsolutePath(const std::string& path) {
-    const Text given = text::FromUtf8(path);
-    if (given.empty() || text::IsNativePath(given) || (given.size() > 1 && given[1] == u':')) {
-        return given;
-    }
-    std::string_view name = path;
-    while (name.starts_with("./")) {
-        name.remove_prefix(2);
-    }
-    std::error_code ignored;
-    return text::FromUtf8((std::filesystem::current_path(ignored) / name).string());
-}
-
 Text FirstLine(platform::Files& files, const text::CodePage& codePage, const Text& path) {
     std::string bytes;
     platform::FileError error;
@@ -144,19 +129,6 @@ std::string JsonMessages(const std::vector<RecordingDialogs::Box>& boxes) {
     }
     return json + "]";
 }
-
-/// The program as it is before it reads its first document.
-struct FreshProgram {
-    SilentPlatform surroundings{posix_adapter::ProgramFolder("")};
-    Application app{surroundings.Get()};
-
-    explicit FreshProgram(const Text& path) {
-        model::ZeroReset(app.state);
-        model::SetStartDefaults(app.state);
-        app.state.AppFolder = app.platform.system.AppFolder();
-        app.state.BaseFolder = text::FolderPart(path);
-    }
-};
 
 constexpr int kOutputLost = 1;
 

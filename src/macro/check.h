@@ -1,0 +1,28 @@
+// Looks through a macro file for what its writer cannot have meant. The player itself is silent
+// about all of it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/files.h"
+#include "text/text.h"
+
+namespace macro {
+
+struct Finding {
+    int line = 0, column = 0;  // from 1; a column is a character
+    Text wrong;                // what is wrong
+    Text effect;               // what will happen
+};
+
+/// The slide that the macro belongs to.
+struct CheckedSlide {
+    Text folder;               // in front of names without one
+    int index = 0, count = 0;  // its place, from 1, among how many; 0, 0: not known
+};
+
+/// Findings in the order of their lines. Reads no file but asks whether named ones exist.
+std::vector<Finding> CheckMacro(platform::Files& files, const CheckedSlide& slide, TextView source);
+
+}  // namespace macro
