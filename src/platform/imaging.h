@@ -53,6 +53,14 @@ public:
     /// Squares of `block` pixels (at least 1) from the top left on, each of its mean colour; the
     /// last ones are cut at the right and bottom edge. A two-level picture has 24 bits then.
     virtual void Mosaic(int block) = 0;
+    /// Exchanges top and bottom.
+    virtual void Flip() = 0;
+    /// Complements of the colours.
+    virtual void Invert() = 0;
+    /// Edges bright on black; 8 is the full level.
+    virtual void EdgeFilter(int level) = 0;
+    /// A relief on mid grey, its depth in per mille. Direction 0: light from the top left.
+    virtual void Emboss(int direction, int depth) = 0;
 
     /// The held picture's pixels at HeldSize; decodes whole where that was put off. Null when
     /// nothing is held.

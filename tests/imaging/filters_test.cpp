@@ -33,6 +33,38 @@ TEST(Filters, MirrorExchangesLeftAndRight) {
     EXPECT_EQ(imaging::Mirrored(*imaging::Mirrored(odd))->pixels, odd.pixels);
 }
 
+TEST(Filters, FlipExchangesTopAndBottom) {
+    const Bitmap odd = Of(2, 3, {1, 2, 3, 4, 5, 6});
+    EXPECT_EQ(imaging::Flipped(odd)->pixels, (Pixels{5, 6, 3, 4, 1, 2}));
+}
+
+TEST(Filters, InvertedColoursAreComplements) {
+    EXPECT_EQ(imaging::Inverted(Of(2, 1, {0xFF102030u, kWhite}))->pixels,
+              (Pixels{0xFFEFDFCFu, kBlack}));
+}
+
+TEST(Filters, EdgesAreBrightWhereColoursChange) {
+    // Red parts 0, 0, 10, 10 in every row: across an edge the Sobel sum is 4 × 10.
+    const Pixel low = 0xFF000000u, high = 0xFF0A0000u, edge = 0xFF280000u;
+    const Bitmap step = Of(4, 2, {low, low, high, high, low, low, high, high});
+    EXPECT_EQ(imaging::Edges(step, 8)->pixels,
+              (Pixels{low, edge, edge, low, low, edge, edge, low}));
+    EXPECT_EQ(imaging::Edges(step, 4)->pixels[1], 0xFF140000u);
+    EXPECT_EQ(imaging::Edges(Of(2, 1, {kBlack, kWhite}), 8)->pixels, (Pixels{kWhite, kWhite}))
+        << "no more than full";
+    EXPECT_EQ(imaging::Edges(Of(1, 1, {kWhite}), 8)->pixels, Pixels{kBlack});
+}
+
+TEST(Filters, ReliefIsLitFromItsDirection) {
+    // Middle pixel of three in a column: neighbours differ by 100; 70 % of it.
+    const Pixel dark = 0xFF000000u, light = 0xFF640000u;
+    const Bitmap column = Of(1, 3, {light, dark, dark});
+    EXPECT_EQ(imaging::Embossed(column, 0, 700)->pixels[1], 0xFF808080u + 70 * 0x10000u);
+    EXPECT_EQ(imaging::Embossed(column, 5, 700)->pixels[1], 0xFF808080u - 70 * 0x10000u);
+    EXPECT_EQ(imaging::Embossed(column, 3, 700)->pixels[1], 0xFF808080u);
+    EXPECT_EQ(imaging::Embossed(Of(1, 1, {kWhite}), 0, 700)->pixels, Pixels{0xFF808080u});
+}
+
 TEST(Filters, MosaicSquaresHaveTheMeanOfWhatTheyCover) {
     // Blocks of 2 on 3 × 3: one whole, two halves, a corner.
     const Bitmap source = Of(3, 3,
@@ -58,6 +90,9 @@ TEST(Filters, MosaicOfOnePixelAndOfMoreThanThePicture) {
 TEST(Filters, OfNothingAreNothing) {
     const Bitmap none;
     EXPECT_TRUE(imaging::Gray(none)->Empty());
+    EXPECT_TRUE(imaging::Flipped(none)->Empty());
+    EXPECT_TRUE(imaging::Edges(none, 8)->Empty());
+    EXPECT_TRUE(imaging::Embossed(none, 0, 700)->Empty());
     EXPECT_TRUE(imaging::Mirrored(none)->Empty());
     EXPECT_TRUE(imaging::Mosaic(none, 12)->Empty());
 }

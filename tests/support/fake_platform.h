@@ -76,7 +76,8 @@ public:
 
 /// A "picture" is any file whose content begins with "PIC width height [rrggbb [bits]]".
 /// `log` tells what was asked, one line each: "load PATH", "resize 80 60", "colors 1", "gray",
-/// "reverse", "mosaic 12", "clear". Two levels and greys go by the mean of the three colour parts.
+/// "reverse", "flip", "invert", "edges 8", "emboss 0 700", "mosaic 12", "clear". Two levels and
+/// greys go by the mean of the three colour parts.
 class FakeImagingControl : public platform::ImagingControl {
 public:
     FakeImagingControl(platform::Files& files, std::vector<std::string>& log)
@@ -110,6 +111,12 @@ public:
         }
     }
     void Reverse() override { log_.push_back("reverse"); }
+    void Flip() override { log_.push_back("flip"); }
+    void Invert() override { log_.push_back("invert"); }
+    void EdgeFilter(int level) override { log_.push_back("edges " + std::to_string(level)); }
+    void Emboss(int direction, int depth) override {
+        log_.push_back("emboss " + std::to_string(direction) + " " + std::to_string(depth));
+    }
     void Mosaic(int block) override { log_.push_back("mosaic " + std::to_string(block)); }
     void Resize(int width, int height, int) override {
         log_.push_back("resize " + std::to_string(width) + " " + std::to_string(height));

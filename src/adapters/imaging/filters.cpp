@@ -1,6 +1,8 @@
 #include "adapters/imaging/filters.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <iterator>
 #include <memory>
 
 #include "adapters/imaging/pixels.h"
@@ -40,6 +42,57 @@ void FillArea(Bitmap& bitmap, const Rect& area, Pixel pixel) {
     }
 }
 
+/// A pixel's colour parts, red first.
+struct Parts {
+    int of[3];
+};
+
+Parts PartsOf(Pixel p) {
+    return {{static_cast<int>(p >> 16 & 0xFF), static_cast<int>(p >> 8 & 0xFF),
+             static_cast<int>(p & 0xFF)}};
+}
+
+Pixel PixelOf(const Parts& parts) {
+    Pixel pixel = kOpaque;
+    for (int i = 0; i < 3; ++i) {
+        pixel |= static_cast<Pixel>(std::clamp(parts.of[i], 0, 255)) << (16 - 8 * i);
+    }
+    return pixel;
+}
+
+/// The three rows and columns around a pixel; those beyond the edge are the edge's.
+struct Neighbours {
+    const Pixel* rows[3];
+    int columns[3];
+
+    Neighbours(const Bitmap& bitmap, int x, int y) {
+        for (int i = 0; i < 3; ++i) {
+            rows[i] = bitmap.Row(std::clamp(y + i - 1, 0, bitmap.height - 1));
+            columns[i] = std::clamp(x + i - 1, 0, bitmap.width - 1);
+        }
+    }
+    /// dx and dy: -1, 0, 1.
+    Parts At(int dx, int dy) const { return PartsOf(rows[dy + 1][columns[dx + 1]]); }
+};
+
+template <class OnePixel>
+BitmapPtr MadeOf(const Bitmap& source, OnePixel onePixel) {
+    auto result = std::make_shared<Bitmap>(source);
+    for (int y = 0; y < source.height; ++y) {
+        for (int x = 0; x < source.width; ++x) {
+            result->Row(y)[x] = onePixel(Neighbours(source, x, y));
+        }
+    }
+    return result;
+}
+
+constexpr int kFullLevel = 8;    // of Edges
+constexpr int kPerMille = 1000;  // of Embossed
+constexpr int kReliefGround = 128;
+
+/// Towards the light, by direction.
+constexpr int kLight[8][2] = {{-1, -1}, {0, -1}, {1, -1}, {1, 0}, {1, 1}, {0, 1}, {-1, 1}, {-1, 0}};
+
 }  // namespace
 
 BitmapPtr Gray(const Bitmap& source) {
@@ -70,6 +123,50 @@ BitmapPtr Mosaic(const Bitmap& source, int block) {
         }
     }
     return result;
+}
+
+BitmapPtr Flipped(const Bitmap& source) {
+    auto result = std::make_shared<Bitmap>(source);
+    for (int y = 0; y < source.height; ++y) {
+        std::copy_n(source.Row(y), source.width, result->Row(source.height - 1 - y));
+    }
+    return result;
+}
+
+BitmapPtr Inverted(const Bitmap& source) {
+    auto result = std::make_shared<Bitmap>(source);
+    for (Pixel& p : result->pixels) {
+        p = kOpaque | (~p & 0xFFFFFFu);
+    }
+    return result;
+}
+
+BitmapPtr Edges(const Bitmap& source, int level) {
+    return MadeOf(source, [level](const Neighbours& around) {
+        Parts result{};
+        for (int i = 0; i < 3; ++i) {
+            const auto part = [&](int dx, int dy) { return around.At(dx, dy).of[i]; };
+            const int across = part(1, -1) + 2 * part(1, 0) + part(1, 1) - part(-1, -1) -
+                               2 * part(-1, 0) - part(-1, 1);
+            const int down = part(-1, 1) + 2 * part(0, 1) + part(1, 1) - part(-1, -1) -
+                             2 * part(0, -1) - part(1, -1);
+            result.of[i] = (std::abs(across) + std::abs(down)) * level / kFullLevel;
+        }
+        return PixelOf(result);
+    });
+}
+
+BitmapPtr Embossed(const Bitmap& source, int direction, int depth) {
+    const auto& light = kLight[static_cast<size_t>(direction) % std::size(kLight)];
+    return MadeOf(source, [&light, depth](const Neighbours& around) {
+        const Parts lit = around.At(light[0], light[1]);
+        const Parts shaded = around.At(-light[0], -light[1]);
+        Parts result{};
+        for (int i = 0; i < 3; ++i) {
+            result.of[i] = kReliefGround + (lit.of[i] - shaded.of[i]) * depth / kPerMille;
+        }
+        return PixelOf(result);
+    });
 }
 
 }  // namespace imaging

@@ -15,4 +15,19 @@ platform::BitmapPtr Mirrored(const platform::Bitmap& source);
 /// covers; the last ones are cut at the right and bottom edge.
 platform::BitmapPtr Mosaic(const platform::Bitmap& source, int block);
 
+/// Top and bottom exchanged.
+platform::BitmapPtr Flipped(const platform::Bitmap& source);
+
+/// Each colour part as its complement.
+platform::BitmapPtr Inverted(const platform::Bitmap& source);
+
+/// Edges bright on black, each colour part by itself: the sums of both Sobel differences, times
+/// level / 8. Pixels beyond the edge count as those on it.
+platform::BitmapPtr Edges(const platform::Bitmap& source, int level);
+
+/// A relief in grey light: 128 and, per mille of `depth`, the difference of the two neighbours that
+/// lie along the light. Direction 0 to 7: the light comes from the top left, top, top right, right
+/// and on around.
+platform::BitmapPtr Embossed(const platform::Bitmap& source, int direction, int depth);
+
 }  // namespace imaging

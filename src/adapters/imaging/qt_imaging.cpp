@@ -86,6 +86,14 @@ public:
 
     void GrayScale() override { Change(Gray); }
     void Reverse() override { Change(Mirrored); }
+    void Flip() override { Change(Flipped); }
+    void Invert() override { Change(Inverted); }
+    void EdgeFilter(int level) override {
+        Change([level](const Bitmap& whole) { return Edges(whole, level); });
+    }
+    void Emboss(int direction, int depth) override {
+        Change([=](const Bitmap& whole) { return Embossed(whole, direction, depth); });
+    }
     void Mosaic(int block) override {
         Change([block](const Bitmap& whole) { return imaging::Mosaic(whole, block); });
         if (Holds() && state_.bitsPerPixel == 1) {

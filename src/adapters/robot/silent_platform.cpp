@@ -41,6 +41,10 @@ public:
     void GrayScale() override {}
     void Reverse() override {}
     void Mosaic(int) override {}
+    void Flip() override {}
+    void Invert() override {}
+    void EdgeFilter(int) override {}
+    void Emboss(int, int) override {}
     platform::BitmapPtr Picture() override { return nullptr; }
     void CopyFrom(const platform::ImagingControl&) override {}
     void Clear() override {}

@@ -1,0 +1,125 @@
+#include "macro/sound_words.h"
+
+#include <algorithm>
+
+#include "macro/arguments.h"
+#include "macro/cutouts.h"
+#include "picture/video_window.h"
+#include "sound/sound.h"
+#include "sound/volume.h"
+#include "text/numbers.h"
+#include "text/paths.h"
+
+namespace macro {
+
+namespace {
+
+constexpr int kVolumeStep = 100;  // of 1000
+constexpr int kFadePassMs = 100;
+constexpr int kListMode = 6;
+
+/// sndPlaySound's flags for n = 0, 1, 2: play and go on, wait, repeat; none with a default sound.
+constexpr int kWaveFlags[] = {3, 2, 11};
+
+struct FileCall {
+    Text file;
+    double number = 0;
+};
+
+/// The first quoted text, and the number between the comma behind it and the last ')'.
+FileCall ReadFileCall(TextView upperLine) {
+    const TextView line = BeforeComment(upperLine);
+    FileCall call{Text(Quoted(line))};
+    const size_t first = line.find(u'"');
+    const size_t last = first == TextView::npos ? first : line.find(u'"', first + 1);
+    const size_t comma = line.find(u',', last == TextView::npos ? 0 : last);
+    if (comma != TextView::npos) {
+        const TextView rest = line.substr(comma + 1);
+        call.number = text::SafeNumber(rest.substr(0, rest.rfind(u')')));
+    }
+    return call;
+}
+
+Flow ChangeVolume(Run& run, int offset) {
+    model::ShowState& state = run.state;
+    state.Mp3VolumeOffset = static_cast<int16_t>(std::clamp(offset, 0, sound::kFullVolume));
+    sound::SendVolume(run.app, sound::kFullVolume - state.Mp3VolumeOffset);
+    return Flow::GoOn;
+}
+
+int FadeStep(double seconds) {
+    return seconds <= 0 ? sound::kFullVolume : static_cast<int>(text::Int(100 / seconds + 0.5));
+}
+
+}  // namespace
+
+Flow ShowMovie(Run& run, double) {
+    const FileCall call = ReadFileCall(run.MacroLineUpper);
+    picture::ShowMacroMovie(run.app, call.file, static_cast<int>(text::Int(call.number)));
+    return Flow::GoOn;
+}
+
+Flow PlayWave(Run& run, double) {
+    const FileCall call = ReadFileCall(run.MacroLineUpper);
+    if (call.number == 0 || call.number == 1 || call.number == 2) {
+        run.app.platform.sound.SndPlaySound(text::WithFolder(SlideFolder(run.app), call.file),
+                                            kWaveFlags[static_cast<size_t>(call.number)]);
+    }
+    return Flow::GoOn;
+}
+
+Flow StopWave(Run& run, double) {
+    run.app.platform.sound.SndPlaySound(std::nullopt, 0);
+    return Flow::GoOn;
+}
+
+Flow SetVolume(Run& run, double percent) {
+    return ChangeVolume(run,
+                        sound::kFullVolume - static_cast<int>(text::RoundHalfEven(10 * percent)));
+}
+
+Flow LowerVolume(Run& run, double) {
+    return ChangeVolume(run, run.state.Mp3VolumeOffset + kVolumeStep);
+}
+
+Flow RaiseVolume(Run& run, double) {
+    return ChangeVolume(run, run.state.Mp3VolumeOffset - kVolumeStep);
+}
+
+Flow FadeOut(Run& run, double seconds) {
+    model::ShowState& state = run.state;
+    const int step = FadeStep(seconds);
+    const TextView question =
+        state.SoundMode == kListMode ? u"status wav mode" : u"status mp3 mode";
+    if (sound::Reports(run.app, question, u"playing")) {
+        int level = sound::kFullVolume - state.Mp3VolumeOffset;
+        while (level >= 0 && state.SoundOpen == 1) {
+            level -= step;
+            sound::SendVolume(run.app, level);
+            run.app.platform.loop.Sleep(kFadePassMs);
+            run.app.platform.loop.PumpEvents();
+            if (Stopping(state)) {
+                return Flow::Stop;
+            }
+        }
+    }
+    sound::StopSound(run.app);
+    state.SoundVolumeRestart = 1;
+    state.RestartSoundMacro = 1;
+    return Flow::GoOn;
+}
+
+Flow SwitchSoundMode(Run& run, double mode) {
+    sound::SetSoundMode(run.app, static_cast<int>(text::RoundHalfEven(mode)));
+    return Flow::GoOn;
+}
+
+Flow SetSoundSync(Run& run, double mode) {
+    if (mode == 0 || mode == 1) {
+        run.state.SoundSyncFlag = mode == 0 ? 1 : 0;
+        run.app.windows.form1.mnuDOU.Check(run.state.SoundSyncFlag);
+    }
+    return Flow::GoOn;
+}
+
+}  // namespace macro
