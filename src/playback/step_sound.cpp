@@ -2,7 +2,7 @@
 
 #include "document/linked_names.h"
 #include "sound/sound.h"
-#include "text/numbers.h"
+#include "sound/volume.h"
 #include "text/paths.h"
 
 namespace playback {
@@ -11,12 +11,7 @@ namespace {
 
 constexpr int kSyncPollMs = 10;
 constexpr int kFadePollMs = 100;
-constexpr int kFullVolume = 1000;
 constexpr int kFadeStep = 20;
-
-bool Reports(Application& app, TextView question, TextView answer) {
-    return text::Left(app.platform.sound.MciSendString(question), answer.size()) == answer;
-}
 
 /// The default sound's path, empty where none is set.
 Text DefaultSound(const model::ShowState& state) {
@@ -25,21 +20,6 @@ Text DefaultSound(const model::ShowState& state) {
         return {};
     }
     return text::WithFolder(state.AppFolder, name);
-}
-
-Text VolumeCommand(int16_t mode) {
-    switch (mode) {
-        case 2:
-            return u"setaudio cdaudio volume to";
-        case 4:
-        case 5:
-            return u"setaudio mid volume to";
-        case 8:
-        case 9:
-            return u"setaudio mp3 volume to";
-        default:
-            return u"setaudio wav volume to";
-    }
 }
 
 bool PlayOnSecondChannel(Application& app, const Text& path) {
@@ -90,8 +70,13 @@ void StartMainChannel(Application& app) {
         const bool takesDefault = state.SoundMode == 1 || state.SoundMode == 2;
         path = takesDefault ? DefaultSound(state) : Text();
         if (path.empty() || !app.platform.files.Exists(path)) {
+            // What plays goes on; a later picture with the same sound starts it again.
+            state.LastSoundFile.clear();
             return;
         }
+    }
+    if (state.SoundMode != 0 && path == state.LastSoundFile) {
+        return;  // stopping it would forget that it was played
     }
     sound::StopSound(app);
     const bool media = state.SoundMode == 5 || state.SoundMode == 9;
@@ -105,20 +90,6 @@ bool RunsForward(const Application& app) {
     return !app.windows.form1.Command1.Enabled;
 }
 
-bool PlaysPerPicture(const model::ShowState& state) {
-    switch (state.SoundMode) {
-        case 0:
-        case 1:
-        case 5:
-        case 9:
-            return true;
-        case 2:
-            return state.CdPlusLinkedWav == 0;
-        default:
-            return false;
-    }
-}
-
 bool PlaysSecondChannel(const model::ShowState& state) {
     return (state.SoundMode == 4 && state.MidiLinkedWavFlag == 1) ||
            (state.SoundMode == 8 && state.Mp3LinkedWavFlag == 1) ||
@@ -128,16 +99,17 @@ bool PlaysSecondChannel(const model::ShowState& state) {
 bool WaitForLinkedSound(Application& app) {
     model::ShowState& state = app.state;
     const bool modeWaits =
-        PlaysPerPicture(state) || state.SoundMode == 6 || PlaysSecondChannel(state);
+        sound::PlaysPerPicture(state) || state.SoundMode == 6 || PlaysSecondChannel(state);
     if (state.SoundPlaying != 1 || state.SoundSyncFlag != 0 || state.SkipSyncWaitOnce != 0 ||
         !RunsForward(app) || !modeWaits) {
         return true;
     }
     const WaitMark mark(state);
+    // Kept: linked MIDI and MP3 have aliases that nobody asks here, so they are not waited for.
     for (bool playing = true; playing;) {
-        playing =
-            Reports(app, PlaysSecondChannel(state) ? u"status wav_ren mode" : u"status wav mode",
-                    u"playing");
+        playing = sound::Reports(
+            app, PlaysSecondChannel(state) ? u"status wav_ren mode" : u"status wav mode",
+            u"playing");
         app.platform.loop.PumpEvents();
         app.platform.loop.Sleep(kSyncPollMs);
         if (!RunsForward(app)) {
@@ -158,12 +130,11 @@ bool FadeBeforeLinkedMedia(Application& app, bool isVideo) {
         return true;
     }
     const TextView question = state.SoundMode == 6 ? u"status wav mode" : u"status mp3 mode";
-    if (Reports(app, question, u"playing")) {
-        int volume = kFullVolume - state.Mp3VolumeOffset;
+    if (sound::Reports(app, question, u"playing")) {
+        int volume = sound::kFullVolume - state.Mp3VolumeOffset;
         while (volume >= 0 && state.SoundOpen == 1) {
             volume -= kFadeStep;
-            app.platform.sound.MciSendString(VolumeCommand(state.SoundMode) + u" " +
-                                             text::Trim(text::Str(volume)));
+            sound::SendVolume(app, volume);
             app.platform.loop.Sleep(kFadePollMs);
             app.platform.loop.PumpEvents();
             if (state.StopRequest == 1 || state.FullScreenClosed == 1) {
@@ -203,7 +174,7 @@ void PollCd(Application& app) {
             app.platform.sound.MciSendString(u"stop cdaudio");
         }
         state.LastCdTrackText = position;
-        if (Reports(app, u"status cdaudio mode", u"stopped")) {
+        if (sound::Reports(app, u"status cdaudio mode", u"stopped")) {
             sound::StartCd(app);
             state.RestartSoundFlag = 0;
         }
@@ -233,11 +204,11 @@ void RestartBackgroundSound(Application& app) {
                 sound::StartSound(app);
                 state.RestartSoundFlag = 0;
                 state.RestartSoundMacro = 0;
+                return;  // one try a picture: a list of missing files is not run through at once
             }
         }
     }
     if (mode == 6 && state.SoundListNext == 1) {
-        state.SoundListNext = 0;
         sound::StopSound(app);
         sound::StartSound(app);
     }
@@ -247,7 +218,7 @@ void StartLinkedSounds(Application& app) {
     if (PlaysSecondChannel(app.state)) {
         StartSecondChannel(app);
     }
-    if (PlaysPerPicture(app.state)) {
+    if (sound::PlaysPerPicture(app.state)) {
         StartMainChannel(app);
     }
 }
@@ -255,7 +226,7 @@ void StartLinkedSounds(Application& app) {
 void StartShowSound(Application& app) {
     model::ShowState& state = app.state;
     sound::StartCd(app);
-    if (state.MacroEndShow == 1 && PlaysPerPicture(state)) {
+    if (state.MacroEndShow == 1 && sound::PlaysPerPicture(state)) {
         return;
     }
     state.SkipSyncWaitOnce = 1;

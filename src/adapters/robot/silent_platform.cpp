@@ -1,5 +1,7 @@
 #include "adapters/robot/silent_platform.h"
 
+#include "adapters/robot/no_video.h"
+
 namespace robot {
 
 namespace {
@@ -76,6 +78,7 @@ public:
     explicit NoSystem(std::string folder) : folder_(std::move(folder)) {}
     Text AppFolder() override { return text::FromUtf8(folder_); }
     bool PreviousInstance() override { return false; }
+    bool Shell(TextView, TextView) override { return false; }
 
 private:
     std::string folder_;
@@ -108,6 +111,7 @@ struct SilentPlatform::Devices {
     BlindImaging imaging;
     NoText textRenderer;
     NoSound sound;
+    NoVideo video;
     NoSystem system;
     NoTrace trace;
 };
@@ -121,8 +125,9 @@ platform::Platform SilentPlatform::Get() {
     return {devices_->loop,    files,
             dialogs,           devices_->monitors,
             devices_->imaging, devices_->textRenderer,
-            devices_->sound,   devices_->system,
-            devices_->trace,   codePage};
+            devices_->sound,   devices_->video,
+            devices_->system,  devices_->trace,
+            codePage};
 }
 
 }  // namespace robot
