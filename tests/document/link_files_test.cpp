@@ -179,7 +179,8 @@ TEST(CutoutPoints, ABlankFirstFieldHasNoPartner) {
 }
 
 TEST(CutoutPoints, NumbersOutOfRangeAndWordsCountZero) {
-    EXPECT_EQ(Points(u"KVS_PICTYPE_DATA\r\nx,7\r\n99999999999,-99999999999\r\n"), (Pairs{{0, 7}, {0, 0}}));
+    EXPECT_EQ(Points(u"KVS_PICTYPE_DATA\r\nx,7\r\n99999999999,-99999999999\r\n"),
+              (Pairs{{0, 7}, {0, 0}}));
 }
 
 TEST(CutoutPoints, StopAtTheirLimit) {
