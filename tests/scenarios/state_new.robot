@@ -1,9 +1,10 @@
-# New writes the empty state at once: the next start has neither list nor document.
+# New empties list and settings, in the menus too; state_after_new.robot is the next start.
 # first: state_leave.robot
-# no trace: "event":"slide"
-key Slidescreen 27
+@10000 key Slidescreen 27
++100 expect Form1.Visible true
+click Form1.Command3
 expect Form3.List1.ListCount 3
-menu mnuNEW
++100 menu mnuNEW
 expect Form3.List1.ListCount 0
 expect AutoStartFlag 1
 expect SoundMode 6
