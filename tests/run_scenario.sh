@@ -4,6 +4,9 @@
 # It runs in a fresh copy of the data, so that a scenario may change and delete files. Comments of
 # the script say what else is wanted:
 #   # args: --seed 3 --now "2026-01-01 23:59:50" show.kvs    more arguments
+#   # app: uautst.dat one.kvs                             data that the program folder begins with
+#   # first: other.robot                                  a script of an earlier run of the program
+#   # held: yes                                          another instance holds the program folder
 #   # exit: 1                                                the exit status, otherwise 0
 #   # trace: "t":3000,"event":"slide"                        a line of the trace holds this text
 #   # no trace: "event":"message"                            no line of the trace holds it
@@ -24,9 +27,18 @@ if [[ -n $line ]]; then
     mapfile -t arguments < <(xargs -n 1 printf '%s\n' <<<"$line")
 fi
 trace=$scratch/trace.jsonl
+for name in $(wanted app); do cp "$name" "$scratch/app/"; done
+for name in $(wanted first); do
+    "$program" --robot "$(dirname "$script")/$name" --app-folder "$scratch/app" ||
+        { echo "$script: the earlier run of $name failed" >&2; exit 1; }
+done
 status=0
 # Its own trace and folder come first: a scenario can have others.
-"$program" --robot "$script" --trace "$trace" --app-folder "$scratch/app" "${arguments[@]}" ||
+run=("$program")
+if [[ -n $(wanted held) ]]; then
+    run=(env -u XDG_RUNTIME_DIR flock "$scratch/app/.parapico.lock" "$program")
+fi
+"${run[@]}" --robot "$script" --trace "$trace" --app-folder "$scratch/app" "${arguments[@]}" ||
     status=$?
 
 failed=0

@@ -81,7 +81,6 @@ void ReadStateFiles(Application& app) {
     app.state.ReadingDocument = 0;
     document::ReadLinkStateFile(app);
     document::ReadStateFile(app);
-    document::FollowAllSettings(app);
 }
 
 void ReadCommandLineDocument(Application& app) {

@@ -21,10 +21,8 @@ void ClearLists(model::Windows& windows, model::ShowState& state) {
     windows.form3.Label4.Caption = u"0";
     windows.form10.List1.Clear();
     windows.form10.Label4.Caption = u"0";
-    windows.form9.List1.Clear();
-    windows.form9.Label4.Caption = u"0";
     for (model::TextArray* array : {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo,
-                                    &state.CdProgram, &state.SoundList, &state.LinkList}) {
+                                    &state.CdProgram, &state.SoundList}) {
         array->Erase();
     }
     state.CdProgramCount = 0;
@@ -83,9 +81,13 @@ void NewDocument(Application& app) {
     app.windows.form1.Caption = u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10";
     app.windows.form1.Timer1.Interval = kNewIntervalMs;
     DisableLinkedFileButtons(app.windows.form3);
-    document::WriteStateFile(app);
-    document::ReadStateFile(app);
-    document::FollowAllSettings(app);
+    // The read-back brings menus and controls in line. A file that could not be written still holds
+    // the old settings: they must not come back.
+    if (document::WriteStateFile(app)) {
+        document::ReadStateFile(app);
+    } else {
+        document::FollowAllSettings(app);
+    }
     playback::SetButtons(app, playback::Buttons::Idle);
     app.windows.SetPointer(model::kPointerNormal);
 }

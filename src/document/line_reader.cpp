@@ -58,23 +58,11 @@ TextView LineReader::ItemOfLine() {
 }
 
 double LineReader::Number() {
-    const Text number = text::RTrim(Item());
-    if (number.empty()) {
-        return 0;
-    }
-    const auto value = IsDecimal(number) ? text::Val(number) : std::nullopt;
-    if (!value) {
-        throw ReadFailure{};
-    }
-    return *value;
+    return DecimalNumber(Item());
 }
 
 int16_t LineReader::Int16() {
-    const auto value = text::ToInt16(Number());
-    if (!value) {
-        throw ReadFailure{};
-    }
-    return *value;
+    return ToField16(Number());
 }
 
 int32_t LineReader::Int32() {
@@ -87,6 +75,26 @@ int32_t LineReader::Int32() {
 
 int16_t LineReader::Count16() {
     return std::max<int16_t>(Int16(), 0);
+}
+
+double DecimalNumber(TextView item) {
+    const Text number = text::Trim(item);
+    if (number.empty()) {
+        return 0;
+    }
+    const auto value = IsDecimal(number) ? text::Val(number) : std::nullopt;
+    if (!value) {
+        throw ReadFailure{};
+    }
+    return *value;
+}
+
+int16_t ToField16(double number) {
+    const auto value = text::ToInt16(number);
+    if (!value) {
+        throw ReadFailure{};
+    }
+    return *value;
 }
 
 int16_t NumberOfItem(TextView item) {

@@ -50,6 +50,13 @@ private:
     size_t place_ = 0;
 };
 
+/// One decimal number with or without blanks around it; nothing but blanks is 0. ReadFailure for
+/// anything else.
+double DecimalNumber(TextView item);
+
+/// Rounded to the nearest whole number, halves to even. ReadFailure for one that does not fit.
+int16_t ToField16(double number);
+
 /// Number of a setting that is read as text: what is no number counts 0; ReadFailure for one that
 /// does not fit.
 int16_t NumberOfItem(TextView item);

@@ -2,11 +2,14 @@
 
 #include "document/document_file.h"
 #include "document/line_reader.h"
+#include "document/line_writer.h"
 #include "text/paths.h"
 
 namespace document {
 
 namespace {
+
+constexpr TextView kTag = u"1vue3167";
 
 void ReadLinks(Application& app, LineReader& reader) {
     auto& state = app.state;
@@ -28,6 +31,12 @@ void ReadLinks(Application& app, LineReader& reader) {
     }
 }
 
+void TakeIdentity(Application& app, TextView path) {
+    app.windows.form9.Caption = u"ＫＶＳリンク - " + Text(path);
+    app.state.LinkDocumentPath = path;
+    app.state.LinkDocumentName = app.platform.files.Dir(path);
+}
+
 }  // namespace
 
 void ReadLinkDocument(Application& app, TextView path) {
@@ -46,8 +55,28 @@ void ReadLinkDocument(Application& app, TextView path) {
         EndIfLoadingFromStart(app);
         return;
     }
-    app.windows.form9.Caption = u"ＫＶＳリンク - " + Text(path);
+    TakeIdentity(app, path);
     pointer = model::kPointerNormal;
+}
+
+void WriteLinkDocument(Application& app, TextView requestedPath) {
+    const bool distribution = app.state.DistributionSaveFlag == 1;
+    const auto name = [&](TextView path) {
+        return distribution ? text::BareName(path) : Text(path);
+    };
+    const Text path = text::WithDefaultExtension(requestedPath, u".kvl");
+    const auto& list = app.windows.form9.List1;
+    LineWriter lines;
+    lines.Line(kTag);
+    lines.Line(name(path));
+    lines.Number(list.ListCount());
+    for (const Text& row : list.Rows()) {
+        lines.Line(name(row));
+    }
+    if (SaveDocumentFile(app, path, lines.Content())) {
+        TakeIdentity(app, path);
+    }
+    app.windows.form1.MousePointer = model::kPointerNormal;
 }
 
 }  // namespace document

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "document/document_file.h"
+#include "document/interval.h"
 #include "document/line_reader.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
@@ -16,7 +17,6 @@ namespace document {
 
 namespace {
 
-constexpr int32_t kShortestIntervalMs = 1000;
 constexpr int16_t kFixedEffectSpeed = -30;
 constexpr int kFastestEffectSpeed = 10;
 enum SoundModes : int16_t { kMidiSound = 4, kSoundListSound = 6, kNoSound = 7, kMp3Sound = 8 };
@@ -110,10 +110,7 @@ void ShowReader::ClearLists() {
 
 void ShowReader::ReadTiming() {
     state_.DocumentName = reader_.Line();
-    const int32_t intervalMs = std::max(reader_.Int32(), kShortestIntervalMs);
-    state_.SlideIntervalSec =
-        std::max<int32_t>(1, static_cast<int32_t>(text::RoundHalfEven(intervalMs / 1000.0)));
-    app_.windows.form1.Timer1.Interval = intervalMs;
+    TakeInterval(app_, reader_.Int32());
     state_.RepeatFlag = reader_.Int16();
 }
 

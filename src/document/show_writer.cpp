@@ -1,6 +1,6 @@
 // Writing show documents: always today's form.
-#include <algorithm>
-
+#include "document/document_file.h"
+#include "document/interval.h"
 #include "document/line_writer.h"
 #include "document/show_document.h"
 #include "document/show_schedule.h"
@@ -11,7 +11,6 @@ namespace document {
 namespace {
 
 constexpr TextView kTag = u"21vue3167893";
-constexpr double kLongestIntervalMs = 2147483647;
 
 /// Builds the document's text and changes nothing: a save that fails leaves the record alone.
 class ShowWriter {
@@ -42,8 +41,7 @@ private:
 const Text& ShowWriter::Write(TextView path) {
     lines_.Line(kTag);
     Path(path);
-    // Readers take 32 bits: the longest interval of a file comes back as it was.
-    lines_.Number(std::min(state_.SlideIntervalSec * 1000.0, kLongestIntervalMs));
+    lines_.Number(IntervalMs(state_));
     lines_.Number(state_.RepeatFlag);
     WriteSoundAndEffects();
     WriteSlides();
@@ -129,14 +127,8 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
     const Text path = text::WithDefaultExtension(requestedPath, u".kvs");
     form1.MousePointer = model::kPointerBusy;
     ShowWriter writer(app);
-    platform::FileError error;
-    if (!files.Write(path, text::EncodeFile(writer.Write(path), app.platform.codePage), error)) {
+    if (!SaveDocumentFile(app, path, writer.Write(path))) {
         form1.MousePointer = model::kPointerNormal;
-        if (error.whileOpening) {
-            app.platform.dialogs.Message(error.message, platform::kPlain, u"");
-        } else {
-            app.platform.dialogs.Message(error.message, platform::kExclamation, u"ファイルの保存");
-        }
         return;
     }
     if (state.DistributionSaveFlag == 1) {

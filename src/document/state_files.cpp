@@ -1,5 +1,7 @@
 #include "document/state_files.h"
 
+#include <algorithm>
+
 #include "document/line_reader.h"
 #include "document/line_writer.h"
 #include "text/paths.h"
@@ -9,9 +11,45 @@ namespace document {
 namespace {
 
 constexpr TextView kSoundListTag = u"WAV3.4";
+constexpr TextView kLinkStateTag = u"KVSV3";
 
 Text SoundListPath(const Application& app) {
     return app.state.AppFolder + u"wavlist.dat";
+}
+
+Text LinkStatePath(const Application& app) {
+    return app.state.AppFolder + u"uautst.dat";
+}
+
+/// False for another tag: then nothing was touched. A file that ends early leaves what was read.
+bool ReadLinks(Application& app, LineReader& reader) {
+    if (reader.AtEnd() || text::RTrim(reader.Line()) != kLinkStateTag) {
+        return false;
+    }
+    auto& state = app.state;
+    auto& form9 = app.windows.form9;
+    try {
+        state.LinkAutoFlag = reader.Int16();
+        state.LinkRepeat = reader.Int16();
+        state.LinkCheck3 = reader.Int16();
+        state.LinkDocumentName = reader.Line();
+        if (!state.LinkDocumentName.empty()) {
+            form9.Caption = u"ＫＶＳリンク - " + state.LinkDocumentName;
+        }
+        // What a run could not hold is left out.
+        const int32_t count = std::min(reader.Int32(), model::kLinkListLast);
+        form9.List1.Clear();
+        for (int32_t i = 0; i < count; ++i) {
+            form9.List1.AddItem(text::WithFolder(state.AppFolder, reader.Line()));
+        }
+    } catch (const ReadFailure&) {
+        // Kept: what stands before the fault is in force, and nothing is said.
+    }
+    form9.Check1.Value = state.LinkAutoFlag;
+    form9.Check2.Value = state.LinkRepeat;
+    form9.Check3.Value = state.LinkCheck3;
+    form9.Label4.Caption = text::Trim(text::Str(form9.List1.ListCount()));
+    return true;
 }
 
 /// False for another tag: then nothing was touched. A file that ends early leaves what was read.
@@ -41,20 +79,49 @@ bool ReadSounds(Application& app, LineReader& reader) {
 
 }  // namespace
 
-void ReadStateFile(Application&) {
-    // Not built yet: the state of the last run is not kept.
+Text StateFilePath(const Application& app) {
+    return app.state.AppFolder + u"autstart.dat";
 }
 
-void WriteStateFile(Application&) {
-    // Not built yet: the state of the last run is not kept.
+bool WriteProgramFile(Application& app, TextView path, TextView content) {
+    platform::FileError error;
+    if (app.platform.files.Write(path, text::EncodeFile(content, app.platform.codePage), error)) {
+        return true;
+    }
+    app.platform.dialogs.Message(error.message, platform::kPlain, u"");
+    return false;
 }
 
-void ReadLinkStateFile(Application&) {
-    // Not built yet: the link window's list is not kept.
+bool ReadLinkStateFile(Application& app, TextView path) {
+    std::string bytes;
+    platform::FileError ignored;
+    bool taken = false;
+    if (app.platform.files.Read(path, bytes, ignored)) {
+        LineReader reader(text::DecodeFile(bytes, app.platform.codePage));
+        taken = ReadLinks(app, reader);
+    }
+    app.windows.SetPointer(model::kPointerNormal);
+    return taken;
 }
 
-void WriteLinkStateFile(Application&) {
-    // Not built yet: the link window's list is not kept.
+void ReadLinkStateFile(Application& app) {
+    ReadLinkStateFile(app, LinkStatePath(app));
+}
+
+void WriteLinkStateFile(Application& app) {
+    const auto& state = app.state;
+    const auto& links = app.windows.form9.List1;
+    LineWriter writer;
+    writer.Line(kLinkStateTag);
+    for (int16_t flag : {state.LinkAutoFlag, state.LinkRepeat, state.LinkCheck3}) {
+        writer.Number(flag);
+    }
+    writer.Line(state.LinkDocumentName);
+    writer.Number(links.ListCount());
+    for (const Text& path : links.Rows()) {
+        writer.Line(path);
+    }
+    WriteProgramFile(app, LinkStatePath(app), writer.Content());
 }
 
 bool ReadSoundListFile(Application& app, TextView path) {
@@ -83,11 +150,7 @@ void WriteSoundListFile(Application& app) {
     for (int i = 1; i <= state.SoundListCount; ++i) {
         writer.Line(state.SoundList(i));
     }
-    platform::FileError error;
-    if (!app.platform.files.Write(
-            SoundListPath(app), text::EncodeFile(writer.Content(), app.platform.codePage), error)) {
-        app.platform.dialogs.Message(error.message, platform::kPlain, u"");
-    }
+    WriteProgramFile(app, SoundListPath(app), writer.Content());
 }
 
 }  // namespace document

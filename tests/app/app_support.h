@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/start_up.h"
+#include "document/state_files.h"
 #include "support/fake_platform.h"
 
 namespace app_tests {
@@ -58,6 +59,27 @@ struct Program {
         around.PutText(u"C:\\show\\two.kvs", ShowOf({u"a.png", u"b.png"}));
         around.PutText(u"C:\\show\\one.kvs", ShowOf({u"a.png"}));
         around.PutText(u"C:\\show\\refused.kvs", u"vue\r\n" + ShowOf({u"a.png"}));
+    }
+
+    struct LastRun {
+        int16_t autoStart = 1, allowDuplicate = 0;
+        int monitor = 0;
+        std::vector<Text> slides{};  // of C:\show\two.kvs; without slides no document
+    };
+    /// Leaves the state file of such a run in the program folder.
+    static void PutState(fakes::FakePlatform& folder, const LastRun& run) {
+        fakes::FakePlatform last;
+        last.app.state.AutoStartFlag = run.autoStart;
+        last.app.state.AllowDuplicate = run.allowDuplicate;
+        last.app.state.DocumentPath = run.slides.empty() ? u"" : u"C:\\show\\two.kvs";
+        last.monitors.ofMainWindow = run.monitor;
+        for (const Text& slide : run.slides) {
+            last.app.windows.form3.List1.AddItem(slide);
+            last.app.windows.form3.List2.AddItem(model::BlankScheduleRow());
+        }
+        document::WriteStateFile(last.app);
+        folder.files.Put(u"C:\\app\\autstart.dat",
+                         last.files.Get(u"C:\\app\\autstart.dat")->content);
     }
 
     /// Runs until nothing is left to do, at most `milliseconds`; answers the exit status.

@@ -26,8 +26,10 @@ TEST(Exit, UnloadsTheWindowsInTheirOrderAfterTheFiles) {
     EXPECT_THROW(app::ExitProgram(around.app), platform::ProgramEnd);
     EXPECT_EQ(unloaded, (Names{"form2", "Form3", "Form4", "Form5", "Form6", "Form7", "form8",
                                "Form9", "Form10", "Form11", "Form12", "form13", "Form14"}));
-    EXPECT_EQ(around.files.written, std::vector<Text>{u"C:\\app\\wavlist.dat"});
-    EXPECT_EQ(writtenBefore, 1u);
+    EXPECT_EQ(around.files.written,
+              (std::vector<Text>{u"C:\\app\\uautst.dat", u"C:\\app\\autstart.dat",
+                                 u"C:\\app\\wavlist.dat"}));
+    EXPECT_EQ(writtenBefore, 3u);
 }
 
 TEST(Exit, LeavesNoPictureAndNoMark) {
@@ -71,6 +73,49 @@ TEST(Exit, WritesTheSoundListAsItIs) {
     EXPECT_EQ(file->content, text::EncodeFile(u"WAV3.4\r\n 1 \r\nC:\\曲.mp3\r\n", around.codePage));
 }
 
+TEST(Exit, SettingsAndListsAreThereAtTheNextStart) {
+    Program first;
+    first.around.loop.At(10, [&] {
+        first.windows.slidescreen.KeyDown(27);
+        first.state.AutoStartFlag = 0;
+        first.state.SoundMode = 8;
+        first.state.LinkRepeat = 1;
+        first.windows.form9.List1.AddItem(u"C:\\show\\one.kvs");
+        first.form1.Unload();
+    });
+    EXPECT_EQ(first.Run(u"C:\\show\\two.kvs"), 0);
+    Program second;
+    for (const char16_t* name : {u"uautst.dat", u"autstart.dat", u"wavlist.dat"}) {
+        const Text path = u"C:\\app\\" + Text(name);
+        ASSERT_NE(first.around.files.Get(path), nullptr);
+        second.around.files.Put(path, first.around.files.Get(path)->content);
+    }
+    second.Run();
+    EXPECT_EQ(second.state.SoundMode, 8);
+    EXPECT_EQ(second.state.LinkRepeat, 1);
+    EXPECT_EQ(second.windows.form9.List1.List(0), u"C:\\show\\one.kvs");
+    EXPECT_EQ(second.windows.form3.List1.List(1), u"C:\\show\\b.png");
+    EXPECT_EQ(second.state.DocumentPath, u"C:\\show\\two.kvs");
+    EXPECT_TRUE(second.windows.slidescreen.Visible);
+    EXPECT_TRUE(second.state.LinkRunning == 0);
+}
+
+TEST(Exit, AFullDiskIsToldAndTheOldFilesStay) {
+    Program program;
+    Program::PutState(program.around, {.slides = {u"C:\\show\\a.png"}});
+    const std::string before = program.around.files.Get(u"C:\\app\\autstart.dat")->content;
+    program.around.loop.At(10, [&] {
+        program.around.files.writeError = u"ディスクの空き領域が不足しています。";
+        program.state.ShowEffect = 3;
+        program.form1.Unload();
+    });
+    EXPECT_EQ(program.Run(), 0);
+    EXPECT_EQ(program.around.files.Get(u"C:\\app\\autstart.dat")->content, before);
+    ASSERT_EQ(program.around.dialogs.messages.size(), 3u);  // one a file
+    EXPECT_EQ(program.around.dialogs.messages[1].text, u"ディスクの空き領域が不足しています。");
+    EXPECT_EQ(program.around.dialogs.messages[1].flags, 0);
+}
+
 TEST(Exit, FollowsTheMenuAndTheCloseButton) {
     for (const bool byMenu : {true, false}) {
         Program program;
@@ -84,7 +129,7 @@ TEST(Exit, FollowsTheMenuAndTheCloseButton) {
         EXPECT_EQ(program.Run(), 0) << byMenu;
         EXPECT_FALSE(program.form1.Visible);
         EXPECT_FALSE(program.form1.Loaded);
-        EXPECT_EQ(program.around.files.written.size(), 1u);
+        EXPECT_EQ(program.around.files.written.size(), 3u);
     }
 }
 

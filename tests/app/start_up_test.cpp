@@ -124,15 +124,12 @@ TEST(StartUp, ReadsTheSoundListOfItsFolder) {
 TEST(StartUp, RefusedSecondInstanceEndsAfterTheFilesWereRead) {
     Program program;
     program.around.PutText(u"C:\\app\\wavlist.dat", u"WAV3.4\r\n 1 \r\nC:\\s.mp3\r\n");
+    program.PutState(program.around, {.allowDuplicate = 1});
     program.system.previousInstance = true;
-    size_t filesRead = 0;
-    program.system.asked = [&] {
-        filesRead = program.around.files.read.size();
-        program.state.AllowDuplicate = 1;  // as the state file brings it
-    };
     EXPECT_EQ(program.Run(u"C:\\show\\two.kvs", true), 0);
-    EXPECT_EQ(filesRead, 1u);
-    EXPECT_EQ(program.around.files.read, std::vector<Text>{u"C:\\app\\wavlist.dat"});
+    EXPECT_EQ(program.around.files.read,
+              (std::vector<Text>{u"C:\\app\\wavlist.dat", u"C:\\app\\uautst.dat",
+                                 u"C:\\app\\autstart.dat"}));
     EXPECT_TRUE(program.around.dialogs.messages.empty());
     EXPECT_TRUE(program.around.files.written.empty());
     EXPECT_FALSE(program.form1.Visible);
@@ -148,7 +145,7 @@ TEST(StartUp, AllowedSecondInstanceRuns) {
 
 TEST(StartUp, FirstInstanceRunsWhateverTheSettingSays) {
     Program program;
-    program.system.asked = [&] { program.state.AllowDuplicate = 1; };
+    program.PutState(program.around, {.allowDuplicate = 1});
     EXPECT_EQ(program.Run(), Program::kTimeOut);
     EXPECT_TRUE(program.form1.Visible);
 }
@@ -278,12 +275,7 @@ TEST(StartUp, EmptyLinkDocumentRunsNothing) {
 
 TEST(StartUp, AutoStartNeedsSlides) {
     Program filled;
-    filled.system.asked = [&] {
-        filled.state.AutoStartFlag = 0;
-        filled.windows.form3.List1.AddItem(u"C:\\show\\a.png");
-        filled.windows.form3.List2.AddItem(model::BlankScheduleRow());
-        filled.state.SlideList.Set(1, u"C:\\show\\a.png");
-    };
+    filled.PutState(filled.around, {.autoStart = 0, .slides = {u"C:\\show\\a.png"}});
     EXPECT_EQ(filled.Run(u"", true), Program::kTimeOut);
     EXPECT_TRUE(filled.windows.slidescreen.Visible);
     EXPECT_FALSE(filled.form1.Visible);
@@ -291,10 +283,48 @@ TEST(StartUp, AutoStartNeedsSlides) {
     EXPECT_TRUE(filled.around.textRenderer.drawn.empty());
 
     Program empty;
-    empty.system.asked = [&] { empty.state.AutoStartFlag = 0; };
+    empty.PutState(empty.around, {.autoStart = 0});
     EXPECT_EQ(empty.Run(), Program::kTimeOut);
     EXPECT_TRUE(empty.form1.Visible);
     EXPECT_FALSE(empty.windows.slidescreen.Visible);
+}
+
+TEST(StartUp, BareAutoStartNumberStartsWithTheDefaults) {
+    Program program;
+    program.around.PutText(u"C:\\app\\autstart.dat", u" 0 \r\n");
+    EXPECT_EQ(program.Run(), Program::kTimeOut);
+    EXPECT_EQ(program.state.AutoStartFlag, 0);
+    EXPECT_EQ(program.state.SoundMode, 7);
+    EXPECT_TRUE(program.form1.Visible);
+    EXPECT_TRUE(program.around.dialogs.messages.empty());
+}
+
+TEST(StartUp, StateComesBackWithItsListAndCaption) {
+    Program program;
+    program.PutState(program.around, {.slides = {u"C:\\show\\a.png", u"C:\\show\\b.png"}});
+    program.Run();
+    EXPECT_EQ(program.windows.form3.List1.ListCount(), 2);
+    EXPECT_EQ(program.state.SlideListEnd, 3);
+    EXPECT_TRUE(program.form1.Command1.Enabled);
+    EXPECT_EQ(program.form1.Caption(), u"ｽﾗｲﾄﾞ - C:\\show\\two.kvs");
+}
+
+TEST(StartUp, DocumentOnTheCommandLineGoesBeforeTheStatesList) {
+    Program program;
+    program.PutState(program.around, {.slides = {u"C:\\show\\b.png"}});
+    program.Run(u"C:\\show\\one.kvs");
+    EXPECT_EQ(program.windows.form3.List1.ListCount(), 1);
+    EXPECT_EQ(program.windows.form3.List1.List(0), u"C:\\show\\a.png");
+    EXPECT_EQ(program.state.DocumentPath, u"C:\\show\\one.kvs");
+}
+
+TEST(StartUp, WindowStandsOnTheMonitorOfTheLastRun) {
+    Program program;
+    program.around.monitors.monitors = {{0, 0, 1920, 1080}, {1920, 0, 1280, 1024}};
+    program.PutState(program.around, {.monitor = 1});
+    program.Run();
+    EXPECT_EQ(program.form1.Left, 1920 * kTwips + (1280 * kTwips - program.form1.Width) / 2);
+    EXPECT_EQ(program.form1.Top, (1024 * kTwips - program.form1.Height) / 2);
 }
 
 TEST(StartUp, SlidesWithoutAutoStartWaitForStart) {
@@ -311,20 +341,20 @@ TEST(StartUp, SlidesWithoutAutoStartWaitForStart) {
     EXPECT_EQ(program.state.SlideListEnd, 2);
 }
 
+constexpr const char16_t* kLinkStateRest = u" \r\n 0 \r\n 0 \r\n\r\n 1 \r\nC:\\show\\two.kvs\r\n";
+
 TEST(StartUp, LinkListStartsByItselfWithItsFlag) {
     Program program;
-    program.system.asked = [&] {
-        program.state.LinkAutoFlag = 1;
-        program.windows.form9.List1.AddItem(u"C:\\show\\two.kvs");
-    };
+    program.around.PutText(u"C:\\app\\uautst.dat", Text(u"KVSV3\r\n 1") + kLinkStateRest);
     program.Run();
     EXPECT_EQ(program.state.LinkEnd, 2);
     EXPECT_EQ(program.state.LinkRunning, 1);
     EXPECT_TRUE(program.windows.slidescreen.Visible);
 
     Program waiting;
-    waiting.system.asked = [&] { waiting.windows.form9.List1.AddItem(u"C:\\show\\two.kvs"); };
+    waiting.around.PutText(u"C:\\app\\uautst.dat", Text(u"KVSV3\r\n 0") + kLinkStateRest);
     waiting.Run();
+    EXPECT_EQ(waiting.windows.form9.List1.ListCount(), 1);
     EXPECT_EQ(waiting.state.LinkRunning, 0);
     EXPECT_EQ(waiting.state.LinkEnd, 0);
     EXPECT_TRUE(waiting.form1.Visible);
@@ -332,13 +362,25 @@ TEST(StartUp, LinkListStartsByItselfWithItsFlag) {
 
 TEST(StartUp, ShowDocumentGoesBeforeTheLinkList) {
     Program program;
-    program.system.asked = [&] {
-        program.state.LinkAutoFlag = 1;
-        program.windows.form9.List1.AddItem(u"C:\\show\\one.kvs");
-    };
-    program.Run(u"C:\\show\\two.kvs");
+    program.around.PutText(u"C:\\app\\uautst.dat", Text(u"KVSV3\r\n 1") + kLinkStateRest);
+    program.Run(u"C:\\show\\one.kvs");
     EXPECT_EQ(program.state.LinkRunning, 0);
-    EXPECT_EQ(program.state.DocumentPath, u"C:\\show\\two.kvs");
+    EXPECT_EQ(program.state.DocumentPath, u"C:\\show\\one.kvs");
+}
+
+TEST(StartUp, GarbageInTheProgramFolderStartsWithTheDefaults) {
+    for (const char* content : {"", "\xFF\xFE\x00\x01", "V2.1a3567893sp6", "KVSV3", "WAV3.4",
+                                "V2.1a3567893sp6\r\n x \r\n", "KVSV3\r\n 1"}) {
+        Program program;
+        for (const char16_t* name : {u"wavlist.dat", u"uautst.dat", u"autstart.dat"}) {
+            program.around.files.Put(u"C:\\app\\" + Text(name), content);
+        }
+        EXPECT_EQ(program.Run(), Program::kTimeOut);
+        EXPECT_TRUE(program.form1.Visible);
+        EXPECT_TRUE(program.around.dialogs.messages.empty());
+        EXPECT_EQ(program.state.AutoStartFlag, 1);
+        EXPECT_EQ(program.state.ShowEffect, 9);
+    }
 }
 
 TEST(StartUp, CdMenuStandsForCdSoundOnly) {

@@ -186,10 +186,46 @@ TEST(New, AsksBeforeItForgets) {
     EXPECT_EQ(desk.state.DocumentName, u"two.kvs");
 }
 
+TEST(New, WritesTheStateAndReadsItBack) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    desk.state.ReservedStateText = u"kept";
+    desk.files.read.clear();
+    NewDocument(desk.app);
+    const Text path = u"C:\\app\\autstart.dat";
+    EXPECT_EQ(desk.files.written, std::vector<Text>{path});
+    EXPECT_EQ(desk.files.read, std::vector<Text>{path});
+    EXPECT_EQ(desk.LineOf(path, 1), u"V2.1a3567893sp6");
+    EXPECT_EQ(desk.LineOf(path, 37), u"");     // no document
+    EXPECT_EQ(desk.LineOf(path, 40), u" 6 ");  // sound list
+    EXPECT_EQ(desk.LineOf(path, 42), u" 0 ");  // no slide
+    EXPECT_EQ(desk.state.ReservedStateText, u"kept");
+    EXPECT_EQ(desk.state.SlideListEnd, 0);
+    // The window goes back to the middle of its monitor.
+    EXPECT_EQ(desk.windows.form1.Left, (1920 * 15 - desk.windows.form1.Width) / 2);
+    EXPECT_TRUE(desk.windows.form1.mnuKOU(6).Checked);
+}
+
+TEST(New, OldStateThatCouldNotBeReplacedStaysAway) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    document::WriteStateFile(desk.app);
+    desk.files.writeError = u"書き込みできません。";
+    NewDocument(desk.app);
+    ASSERT_EQ(desk.dialogs.messages.size(), 2u);
+    EXPECT_EQ(desk.dialogs.messages[1].text, u"書き込みできません。");
+    EXPECT_EQ(desk.form3.List1.ListCount(), 0);
+    EXPECT_EQ(desk.state.SoundMode, 6);
+    EXPECT_EQ(desk.state.DocumentPath, u"");
+    EXPECT_TRUE(desk.windows.form1.mnuKOU(6).Checked);
+    EXPECT_EQ(desk.windows.Pointer(), model::kPointerNormal);
+}
+
 TEST(New, ForgetsTheDocument) {
     Desk desk;
     desk.Open(u"C:\\show\\two.kvs");
     desk.windows.form9.List1.AddItem(u"C:\\show\\two.kvs");
+    desk.state.LinkList.Set(1, u"C:\\show\\two.kvs");
     desk.windows.form10.List1.AddItem(u"C:\\s.mp3");
     desk.windows.form10.Label4.Caption = u"1";
     desk.state.SoundListCount = 1;
@@ -200,7 +236,8 @@ TEST(New, ForgetsTheDocument) {
     EXPECT_EQ(desk.form3.List1.ListCount(), 0);
     EXPECT_EQ(desk.form3.List2.ListCount(), 0);
     EXPECT_EQ(desk.form3.Label4.Caption(), u"0");
-    EXPECT_EQ(desk.windows.form9.List1.ListCount(), 0);
+    EXPECT_EQ(desk.windows.form9.List1.ListCount(), 1);  // the chain of shows is no setting
+    EXPECT_EQ(desk.state.LinkList(1), u"C:\\show\\two.kvs");
     EXPECT_EQ(desk.windows.form10.List1.ListCount(), 0);
     EXPECT_EQ(desk.windows.form10.Label4.Caption(), u"0");
     EXPECT_EQ(desk.state.SlideList(1), u"");

@@ -8,7 +8,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "document_support.h"
+#include "state_support.h"
 
 namespace document_tests {
 namespace {
@@ -107,13 +107,61 @@ TEST_F(Inspect, KnowsTheKinds) {
     Put("wavlist.dat", "WAV3.3\r\n 1 \r\na.wav\r\n");
     EXPECT_EQ(Run({"--inspect", sounds}), 1);
     EXPECT_TRUE(Printed("{\"ok\":false,\"kind\":\"wavlist\",\"tag\":\"WAV3.3\""));
+}
 
-    EXPECT_EQ(Run({"--inspect", Put("autstart.dat", "V2.1a3567893sp6\r\n")}), 1);
-    EXPECT_TRUE(Printed("{\"ok\":false,\"kind\":\"autstart\",\"tag\":\"V2.1a3567893sp6\""));
-    EXPECT_EQ(Run({"--inspect", Put("Uautst.dat", "KVSV3\r\n")}), 1);
-    EXPECT_TRUE(Printed("\"kind\":\"uautst\""));
-    EXPECT_EQ(Run({"--inspect", Put("x.dat", "KVS_PICTYPE_DATA\r\n")}), 1);
-    EXPECT_TRUE(Printed("\"kind\":\"cutout\""));
+TEST_F(Inspect, PrintsTheStateOfTheLastRun) {
+    const std::string content =
+        text::EncodeFile(TextOf(With(FullState(), "slide", u"bare.jpg")), codePage_);
+    // The tag tells it whatever its name.
+    for (const char* name : {"autstart.dat", "copy.bak"}) {
+        EXPECT_EQ(Run({"--inspect", Put(name, content)}), 0);
+        for (const std::string& part : std::vector<std::string>{
+                 "{\"ok\":true,\"kind\":\"autstart\",\"tag\":\"V2.1a3567893sp6\",\"state\":{",
+                 "\"AutoStartFlag\":0,", "\"ResumeIndex\":17,", "\"MonitorIndex\":1,",
+                 "\"UserHeaderFlag\":1,", "\"DocumentPath\":\"C:\\\\show\\\\表.kvs\",",
+                 "\"Form1.Timer1.Interval\":9000}",
+                 "\"List1\":[\"" + folder_ + "/bare.jpg\",\"C:\\\\pic\\\\x.avi\"]",
+                 "\"ScheduleFrom\":[\"2026/01/02 10:30\",\"                \"]",
+                 "\"CdProgram\":[\"4\",\"7\"]", "\"messages\":[]}\n"}) {
+            EXPECT_TRUE(Printed(part)) << part << "\n" << out_.str();
+        }
+        EXPECT_FALSE(Printed("\"Points\""));
+    }
+}
+
+TEST_F(Inspect, KnowsTheOldestStateFilesByTheirName) {
+    EXPECT_EQ(Run({"--inspect", Put("Autstart.dat", "0\r\n")}), 0);
+    EXPECT_TRUE(Printed("{\"ok\":true,\"kind\":\"autstart\",\"tag\":\"0\""));
+    EXPECT_TRUE(Printed("\"AutoStartFlag\":0,"));
+    EXPECT_EQ(Run({"--inspect", Put("Autstart.dat", "nothing\r\n")}), 1);
+    EXPECT_TRUE(Printed("{\"ok\":false,\"kind\":\"autstart\",\"tag\":\"nothing\""));
+    EXPECT_TRUE(Printed("\"messages\":[]"));
+}
+
+TEST_F(Inspect, PrintsTheLinkWindowsState) {
+    const std::string content =
+        "KVSV3\r\n 1 \r\n 1 \r\n 0 \r\nall.kvl\r\n 2 \r\na.kvs\r\nC:\\b.kvs\r\n";
+    EXPECT_EQ(Run({"--inspect", Put("uautst.dat", content)}), 0);
+    EXPECT_TRUE(Printed("{\"ok\":true,\"kind\":\"uautst\",\"tag\":\"KVSV3\""));
+    EXPECT_TRUE(Printed("\"LinkAutoFlag\":1,\"LinkRepeat\":1,\"LinkCheck3\":0"));
+    EXPECT_TRUE(Printed("\"LinkDocumentName\":\"all.kvl\""));
+    EXPECT_TRUE(Printed("\"LinkList\":[\"" + folder_ + "/a.kvs\",\"C:\\\\b.kvs\"]"));
+    EXPECT_EQ(Run({"--inspect", Put("Uautst.dat", "KVSV2\r\n 1 \r\n")}), 1);
+    EXPECT_TRUE(Printed("{\"ok\":false,\"kind\":\"uautst\",\"tag\":\"KVSV2\""));
+    EXPECT_TRUE(Printed("\"LinkAutoFlag\":0,"));
+}
+
+TEST_F(Inspect, PrintsThePointsOfACoordinateFile) {
+    EXPECT_EQ(Run({"--inspect", Put("x.dat", "KVS_PICTYPE_DATA\r\n1,2\r\n-3,40\r\n")}), 0);
+    EXPECT_TRUE(
+        Printed("{\"ok\":true,\"kind\":\"cutout\",\"tag\":\"KVS_PICTYPE_DATA\",\"state\":{"));
+    EXPECT_TRUE(Printed(",\"Points\":[[1,2],[-3,40]],\"messages\":[]}\n"));
+    EXPECT_EQ(Run({"--inspect", Put("one_line.txt", " KVS_PICTYPE_DATA ,5,6")}), 0);
+    EXPECT_TRUE(Printed("\"tag\":\"KVS_PICTYPE_DATA\""));
+    EXPECT_TRUE(Printed("\"Points\":[[5,6]]"));
+    EXPECT_EQ(Run({"--inspect", Put("x.dat", "KVS_PICTYPE_DATE\r\n1,2\r\n")}), 1);
+    EXPECT_TRUE(Printed("{\"ok\":false,\"kind\":\"cutout\",\"tag\":\"KVS_PICTYPE_DATE\""));
+    EXPECT_TRUE(Printed("\"Points\":[]"));
 }
 
 TEST_F(Inspect, TakesRelativePathsFromTheCurrentFolder) {

@@ -22,6 +22,9 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   cut.kvs       five.kvs without its end
   refused.kvs   a tag that is none
   all.kvl       one.kvs, then repeat.kvs
+State files, for the program folder:
+  uautst.dat    the link window with its auto start: one.kvs, then repeat.kvs beside itself
+  autstart.dat  of the oldest form: auto start and nothing else
 """
 
 import pathlib
@@ -101,6 +104,9 @@ def main():
     files["full.kvs"] = document(lines_of_show(five[:3], always_full=0))
     files["effects.kvs"] = document(lines_of_show(five[:3], always_full=0, effects=(10, 11)))
     files["all.kvl"] = document(["1vue3167", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
+    files["uautst.dat"] = document(
+        ["KVSV3", " 1 ", " 0 ", " 0 ", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
+    files["autstart.dat"] = document([" 0 "])
     files["failing.kvs"] = document(lines_of_show(
         ["a.png", "text.jpg", "zero.png", "missing.png", "b.png"]))
     files["names.kvs"] = document(lines_of_show(["絵１.png", "wide.png", "tall.png"]))

@@ -5,6 +5,7 @@
 
 #include "adapters/posix/json.h"
 #include "adapters/robot/fresh_program.h"
+#include "document/cutout_points.h"
 #include "document/link_document.h"
 #include "document/show_document.h"
 #include "document/state_files.h"
@@ -17,42 +18,98 @@ namespace {
 using posix_adapter::JsonNumber;
 using posix_adapter::JsonText;
 
-/// What the tool knows of a file kind. `read` tells whether the file was accepted; null: the
-/// program does not read this kind yet.
+/// The program as it is before it reads its first document, and what reading leaves beside it.
+struct FreshProgram {
+    SilentPlatform surroundings{posix_adapter::ProgramFolder("")};
+    Application app{surroundings.Get()};
+    std::vector<document::CutoutPoint> points;  // of a coordinate file
+
+    explicit FreshProgram(const Text& path) {
+        model::ZeroReset(app.state);
+        model::SetStartDefaults(app.state);
+        app.state.AppFolder = app.platform.system.AppFolder();
+        app.state.BaseFolder = text::FolderPart(path);
+    }
+};
+
+/// What the tool knows of a file kind. `read` tells whether the file was accepted.
 struct Kind {
     const char* name;
     const char16_t* extension;  // in upper case
     const char16_t* fileName;   // in upper case
     const char16_t* tag;        // beginning of the first line
-    bool (*read)(Application& app, const Text& path);
+    bool (*read)(FreshProgram& program, const Text& path);
 };
 
-bool ReadShow(Application& app, const Text& path) {
-    document::ReadShowDocument(app, path);
-    return app.state.ShowAbort == 0;
+bool ReadShow(FreshProgram& program, const Text& path) {
+    document::ReadShowDocument(program.app, path);
+    return program.app.state.ShowAbort == 0;
 }
 
-bool ReadLinks(Application& app, const Text& path) {
-    document::ReadLinkDocument(app, path);
+bool ReadLinks(FreshProgram& program, const Text& path) {
+    document::ReadLinkDocument(program.app, path);
     return true;
 }
 
-bool ReadSounds(Application& app, const Text& path) {
-    app.state.AppFolder = app.state.BaseFolder;  // where such a file belongs
-    return document::ReadSoundListFile(app, path);
+/// Files of the program folder: where one lies is taken for that folder.
+model::ShowState& InProgramFolder(FreshProgram& program) {
+    program.app.state.AppFolder = program.app.state.BaseFolder;
+    return program.app.state;
+}
+
+bool ReadSounds(FreshProgram& program, const Text& path) {
+    InProgramFolder(program);
+    return document::ReadSoundListFile(program.app, path);
+}
+
+bool ReadLastState(FreshProgram& program, const Text& path) {
+    InProgramFolder(program);
+    return document::ReadStateFile(program.app, path);
+}
+
+/// The links stand in the window; shown are those that a start would take over from there.
+bool ReadLinkState(FreshProgram& program, const Text& path) {
+    model::ShowState& state = InProgramFolder(program);
+    const bool accepted = document::ReadLinkStateFile(program.app, path);
+    int index = 0;
+    for (const Text& link : program.app.windows.form9.List1.Rows()) {
+        state.LinkList.Set(++index, link);
+    }
+    return accepted;
+}
+
+bool ReadCutout(FreshProgram& program, const Text& path) {
+    std::string bytes;
+    platform::FileError ignored;
+    if (!program.app.platform.files.Read(path, bytes, ignored)) {
+        return false;
+    }
+    auto points =
+        document::ReadCutoutPoints(text::DecodeFile(bytes, program.surroundings.codePage));
+    const bool accepted = points.has_value();
+    if (accepted) {
+        program.points = std::move(*points);
+    }
+    return accepted;
 }
 
 const Kind kKinds[] = {
     {"kvs", u"KVS", u"", u"", ReadShow},
     {"kvl", u"KVL", u"", u"", ReadLinks},
     {"wavlist", u"", u"WAVLIST.DAT", u"WAV3.4", ReadSounds},
-    {"autstart", u"", u"AUTSTART.DAT", u"V2", nullptr},
-    {"uautst", u"", u"UAUTST.DAT", u"KVSV3", nullptr},
-    {"cutout", u"", u"", u"KVS_PICTYPE_DATA", nullptr},
+    {"autstart", u"", u"AUTSTART.DAT", u"V2", ReadLastState},
+    {"uautst", u"", u"UAUTST.DAT", u"KVSV3", ReadLinkState},
+    {"cutout", u"", u"", document::kCutoutHeader.data(), ReadCutout},
 };
 
-/// By extension, then by first line, then by file name; what is left is tried as a show document.
-const Kind& KindOfFile(const Text& path, TextView tag) {
+const Kind& kCutoutKind = *std::find_if(std::begin(kKinds), std::end(kKinds),
+                                        [](const Kind& kind) { return kind.read == ReadCutout; });
+
+/// By extension, then by first line, then by file name (the oldest state files begin with a bare
+/// number). What is left is tried as a coordinate file if it has such a file's extension and does
+/// not begin like a document, otherwise as a show document.
+const Kind& KindOfFile(const Text& path, TextView firstLine) {
+    const Text tag = text::LTrim(firstLine);
     for (const Kind& kind : kKinds) {
         if (*kind.extension && text::KindOf(path) == kind.extension) {
             return kind;
@@ -68,7 +125,8 @@ const Kind& KindOfFile(const Text& path, TextView tag) {
             return kind;
         }
     }
-    return kKinds[0];
+    const bool likeShow = tag.substr(0, 5).find(u"vue") != Text::npos;
+    return text::KindOf(path) == u"DAT" && !likeShow ? kCutoutKind : kKinds[0];
 }
 
 Text FirstLine(platform::Files& files, const text::CodePage& codePage, const Text& path) {
@@ -110,9 +168,10 @@ std::string JsonState(const Application& app) {
         json += "\"" + std::string(setting.name) +
                 "\":" + JsonValue(model::ReadField(app.state, setting.field)) + ",";
     }
-    for (const char* name : {"DocumentPath", "DocumentName", "DocumentFileDate", "BaseFolder",
-                             "SlideListEnd", "SlideIndex", "CdProgramCount", "SoundListCount",
-                             "Mp3ModeFlag", "DistributionSaveFlag", "ShowAbort"}) {
+    for (const char* name :
+         {"DocumentPath", "DocumentName", "DocumentFileDate", "BaseFolder", "SlideListEnd",
+          "SlideIndex", "CdProgramCount", "SoundListCount", "Mp3ModeFlag", "DistributionSaveFlag",
+          "ShowAbort", "MonitorIndex", "LinkDocumentName"}) {
         json += "\"" + std::string(name) +
                 "\":" + JsonValue(model::ReadField(app.state, *model::FindField(name))) + ",";
     }
@@ -126,6 +185,15 @@ std::string JsonMessages(const std::vector<RecordingDialogs::Box>& boxes) {
         json += json.size() > 1 ? "," : "";
         json += "{\"title\":" + JsonText(box.title) + ",\"text\":" + JsonText(box.text) +
                 ",\"flags\":" + JsonNumber(box.flags) + "}";
+    }
+    return json + "]";
+}
+
+std::string JsonPoints(const std::vector<document::CutoutPoint>& points) {
+    std::string json = "[";
+    for (const document::CutoutPoint& point : points) {
+        json += json.size() > 1 ? ",[" : "[";
+        json += JsonNumber(point.x) + "," + JsonNumber(point.y) + "]";
     }
     return json + "]";
 }
@@ -145,14 +213,11 @@ int Inspect(const std::string& givenPath, std::ostream& out) {
     FreshProgram program(path);
     Application& app = program.app;
     auto& messages = program.surroundings.dialogs.messages;
-    const Text tag = FirstLine(app.platform.files, app.platform.codePage, path);
-    const Kind& kind = KindOfFile(path, tag);
-    bool accepted = false;
-    if (kind.read) {
-        accepted = kind.read(app, path) && messages.empty();
-    } else {
-        messages.push_back({u"", u"not built yet", 0});
-    }
+    const Text firstLine = FirstLine(app.platform.files, app.platform.codePage, path);
+    const Kind& kind = KindOfFile(path, firstLine);
+    const bool isCutout = kind.read == ReadCutout;
+    const Text tag = isCutout ? document::CutoutHeaderOf(firstLine) : firstLine;
+    const bool accepted = kind.read(program, path) && messages.empty();
     const auto& state = app.state;
     const auto& form3 = app.windows.form3;
     out << "{\"ok\":" << (accepted ? "true" : "false") << ",\"kind\":\"" << kind.name
@@ -165,6 +230,7 @@ int Inspect(const std::string& givenPath, std::ostream& out) {
         << ",\"CdProgram\":" << JsonArray(state.CdProgram)
         << ",\"SoundList\":" << JsonArray(state.SoundList)
         << ",\"LinkList\":" << JsonArray(state.LinkList)
+        << (isCutout ? ",\"Points\":" + JsonPoints(program.points) : std::string())
         << ",\"messages\":" << JsonMessages(messages) << "}\n";
     return accepted ? 0 : 1;
 }

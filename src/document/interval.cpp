@@ -1,0 +1,28 @@
+#include "document/interval.h"
+
+#include <algorithm>
+
+#include "text/numbers.h"
+
+namespace document {
+
+namespace {
+
+constexpr int32_t kShortestMs = 1000;
+constexpr double kLongestMs = 2147483647;
+
+}  // namespace
+
+void TakeInterval(Application& app, int32_t milliseconds) {
+    const int32_t interval = std::max(milliseconds, kShortestMs);
+    app.state.SlideIntervalSec =
+        std::max<int32_t>(1, static_cast<int32_t>(text::RoundHalfEven(interval / 1000.0)));
+    app.windows.form1.Timer1.Interval = interval;
+}
+
+double IntervalMs(const model::ShowState& state) {
+    // Readers take 32 bits: the longest interval of a file comes back as it was.
+    return std::min(state.SlideIntervalSec * 1000.0, kLongestMs);
+}
+
+}  // namespace document

@@ -1,0 +1,247 @@
+// Reading autstart.dat, of every age. The tag tells which of the lines ahead of the slides a file
+// holds; what was added behind them is told by the end of the file.
+#include <algorithm>
+
+#include "document/interval.h"
+#include "document/line_reader.h"
+#include "document/settings_to_controls.h"
+#include "document/show_schedule.h"
+#include "document/state_files.h"
+#include "document/state_lines.h"
+#include "text/numbers.h"
+#include "text/paths.h"
+
+namespace document {
+
+namespace {
+
+using model::ShowState;
+
+constexpr int16_t kMp3Sound = 8;
+
+class StateReader {
+public:
+    StateReader(Application& app, Text content)
+        : app_(app), state_(app.state), reader_(std::move(content)) {}
+
+    /// False, with nothing changed, for a first line that is neither a tag nor a number. Throws
+    /// ReadFailure further on; what was read until then stays.
+    bool ReadTag();
+    void ReadLines();
+
+private:
+    void ReadHead(const StateLine& line);
+    void ReadDocument();
+    void ReadSlides();
+    void ReadCdProgram();
+    void ReadTail(const StateTailLine& line);
+    void ReadLinkedWavFlagsAndRows();
+
+    int16_t Int16OrZero() { return reader_.AtEnd() ? int16_t{0} : reader_.Int16(); }
+
+    Application& app_;
+    ShowState& state_;
+    LineReader reader_;
+    Text tag_;
+};
+
+bool StateReader::ReadTag() {
+    if (reader_.AtEnd()) {
+        return false;
+    }
+    const TextView line = reader_.Line();
+    if (line.starts_with(kTaggedState)) {
+        tag_ = line;
+        return true;
+    }
+    if (text::Trim(line).empty()) {
+        return false;
+    }
+    try {
+        state_.AutoStartFlag = ToField16(DecimalNumber(line));
+    } catch (const ReadFailure&) {
+        return false;
+    }
+    return true;
+}
+
+void StateReader::ReadLines() {
+    for (const StateLine& line : kStateHead) {
+        if (tag_.starts_with(line.block)) {
+            ReadHead(line);
+        }
+    }
+    ReadDocument();
+    ReadSlides();
+    ReadCdProgram();
+    for (const StateTailLine& line : kStateTail) {
+        ReadTail(line);
+    }
+    if (state_.Mp3ModeFlag == 1) {
+        state_.SoundMode = kMp3Sound;
+    }
+    ReadLinkedWavFlagsAndRows();
+    state_.MonitorIndex = Int16OrZero();
+    state_.UserHeaderFlag = Int16OrZero();
+}
+
+void StateReader::ReadHead(const StateLine& line) {
+    if (const auto* textField = std::get_if<Text ShowState::*>(&line.field)) {
+        state_.** textField = line.item ? reader_.ItemOfLine() : reader_.Line();
+        return;
+    }
+    const auto field = std::get<int16_t ShowState::*>(line.field);
+    const double number = reader_.Number();
+    // A measured unit of an earlier run is of use only to a show that starts by itself.
+    if (field != &ShowState::MosaicDelayUnit || state_.AutoStartFlag == 0) {
+        state_.*field = ToField16(number);
+    }
+}
+
+void StateReader::ReadDocument() {
+    state_.DocumentPath = reader_.Line();
+    state_.DocumentName = state_.DocumentPath;
+    TakeInterval(app_, reader_.Int32());
+    state_.RepeatFlag = reader_.Int16();
+    state_.SoundMode = reader_.Int16();
+    state_.DefaultEffectSound = reader_.Line();
+}
+
+void StateReader::ReadSlides() {
+    const int32_t count = reader_.Int32();
+    auto& form3 = app_.windows.form3;
+    state_.SlideList.Erase();
+    form3.List1.Clear();
+    form3.List2.Clear();
+    const Text blankRow = model::BlankScheduleRow();
+    for (int32_t i = 1; i <= count; ++i) {
+        Text path = text::WithFolder(state_.AppFolder, reader_.Line());
+        if (!state_.SlideList.Set(i, path)) {
+            throw ReadFailure{};
+        }
+        form3.List1.AddItem(std::move(path));
+        form3.List2.AddItem(blankRow);
+    }
+}
+
+void StateReader::ReadCdProgram() {
+    state_.CdProgram.Erase();
+    state_.CdProgramCount = 0;
+    const int16_t count = reader_.AtEnd() ? int16_t{0} : reader_.Count16();
+    for (int i = 1; i <= count; ++i) {
+        state_.CdProgram.Set(i, Text(reader_.Line()));
+        state_.CdProgramCount = static_cast<int16_t>(i);
+    }
+}
+
+void StateReader::ReadTail(const StateTailLine& line) {
+    if (const auto* textField = std::get_if<Text ShowState::*>(&line.field)) {
+        state_.** textField = reader_.AtEnd() ? TextView() : reader_.Line();
+        return;
+    }
+    const auto field = std::get<int16_t ShowState::*>(line.field);
+    if (!reader_.AtEnd()) {
+        state_.*field = reader_.Int16();
+    } else if (line.otherwise == kByOverlayMode) {
+        state_.*field = state_.OverlayMode != 0 ? 1 : 0;
+    } else {
+        state_.*field = static_cast<int16_t>(line.otherwise);
+    }
+}
+
+/// Files with rows are older than the four flags in front of them: an item that begins with the
+/// rows' protecting "-" is the first row already.
+void StateReader::ReadLinkedWavFlagsAndRows() {
+    TextView firstRow;
+    const TextView item = reader_.AtEnd() ? TextView() : reader_.Item();
+    if (item.starts_with(u'-')) {
+        firstRow = item;
+        for (auto field : {&ShowState::Mp3LinkedWavFlag, &ShowState::SoundListCheck5,
+                           &ShowState::ControlBoxPos, &ShowState::SoundListCheck6}) {
+            state_.*field = 0;
+        }
+    } else {
+        state_.Mp3LinkedWavFlag = NumberOfItem(item);
+        state_.SoundListCheck5 = Int16OrZero();
+        state_.ControlBoxPos = Int16OrZero();
+        state_.SoundListCheck6 = Int16OrZero();
+    }
+    auto& rows = app_.windows.form3.List2;
+    for (int i = 0; i < rows.ListCount(); ++i) {
+        if (firstRow.empty() && reader_.AtEnd()) {
+            return;  // the rows that are missing stay blank
+        }
+        TextView row = firstRow.empty() ? reader_.Item() : firstRow;
+        firstRow = {};
+        row.remove_prefix(std::min<size_t>(1, row.size()));
+        rows.SetRow(i, Text(row));
+    }
+}
+
+/// On the monitor that the main window was on. Kept: one whose left edge is 0 counts with the
+/// primary monitor's size, and so does one that is gone.
+void CentreMainWindow(Application& app) {
+    const std::vector<platform::Rect> monitors = app.platform.monitors.Enumerate();
+    const int index = app.state.MonitorIndex;
+    const int count = std::min(static_cast<int>(monitors.size()), model::kMonitorsMost);
+    platform::Rect monitor;
+    if (index >= 0 && index < count) {
+        monitor = monitors[static_cast<size_t>(index)];
+    }
+    if (monitor.x == 0 && !monitors.empty()) {
+        monitor.width = monitors.front().width;
+        monitor.height = monitors.front().height;
+    }
+    constexpr int k = platform::kTwipsPerPixel;
+    auto& form1 = app.windows.form1;
+    form1.Left = monitor.x * k + (monitor.width * k - form1.Width) / 2;
+    form1.Top = monitor.y * k + (monitor.height * k - form1.Height) / 2;
+}
+
+void TakeIdentity(Application& app) {
+    auto& state = app.state;
+    if (state.DocumentPath.empty()) {
+        return;
+    }
+    app.windows.form1.Caption = u"ｽﾗｲﾄﾞ - " + state.DocumentPath;
+    const auto date = app.platform.files.LastWrite(state.DocumentPath);
+    state.DocumentFileDate = date ? platform::DateTimeText(*date) : Text();
+}
+
+}  // namespace
+
+bool ReadStateFile(Application& app, TextView path) {
+    std::string bytes;
+    platform::FileError ignored;
+    if (!app.platform.files.Read(path, bytes, ignored)) {
+        app.windows.SetPointer(model::kPointerNormal);
+        return false;
+    }
+    StateReader reader(app, text::DecodeFile(bytes, app.platform.codePage));
+    const bool known = reader.ReadTag();
+    if (known) {
+        bool whole = false;
+        try {
+            reader.ReadLines();
+            whole = true;
+        } catch (const ReadFailure&) {
+            // Kept: what stands before the fault is in force, and nothing is said.
+        }
+        RebuildSchedule(app);
+        auto& form3 = app.windows.form3;
+        form3.Label4.Caption = text::Trim(text::Str(form3.List1.ListCount()));
+        FollowAllSettings(app);
+        if (whole) {
+            CentreMainWindow(app);
+            TakeIdentity(app);
+        }
+    }
+    app.windows.SetPointer(model::kPointerNormal);
+    return known;
+}
+
+void ReadStateFile(Application& app) {
+    ReadStateFile(app, StateFilePath(app));
+}
+
+}  // namespace document
