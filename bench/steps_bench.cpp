@@ -80,6 +80,7 @@ class NoSystem : public platform::System {
 public:
     Text AppFolder() override { return u"/app/"; }
     bool PreviousInstance() override { return false; }
+    bool OpenText(TextView) override { return false; }
 };
 
 /// Counts the slides that came up.

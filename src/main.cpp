@@ -118,6 +118,7 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
                              around.imaging, desktop.TextRenderer(), sound, around.system, *trace,
                              around.codePage});
+    around.system.textOpener = [](TextView path) { return qt_adapter::Desktop::OpenText(path); };
     windows.Attach(application.windows);
     const Views views(desktop, application);
     return RunUntilEnd(application, {CommandText(document), true});
@@ -140,6 +141,10 @@ int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
         clock->loop = &robot.Loop();
         qt_adapter::Desktop desktop(argc, argv, {.offscreen = true, .screens = options->screens});
         Surroundings around(robot.AppFolder());
+        around.system.textOpener = [&](TextView path) {
+            trace->Event("shell", {{"command", u"NOTEPAD.EXE " + Text(path)}});
+            return true;
+        };
         Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
                                  around.imaging, desktop.TextRenderer(), robot.Sound(),
                                  around.system, *trace, around.codePage});

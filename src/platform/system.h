@@ -13,6 +13,9 @@ public:
     virtual Text AppFolder() = 0;
     /// True when another instance of the program was running at start.
     virtual bool PreviousInstance() = 0;
+    /// Opens one of the program's own texts (a full path) in the person's text editor, which goes
+    /// on by itself. False where none could be started.
+    virtual bool OpenText(TextView path) = 0;
 };
 
 }  // namespace platform

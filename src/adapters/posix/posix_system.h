@@ -1,6 +1,7 @@
 // The program's folder, and the other instance of the program.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -28,6 +29,12 @@ public:
     /// Decided at the first call, by a lock on a file in $XDG_RUNTIME_DIR or else in the program
     /// folder: one instance for each program folder. Never waits; the lock ends with the process.
     bool PreviousInstance() override;
+
+    /// False while there is no opener.
+    bool OpenText(TextView path) override { return textOpener && textOpener(path); }
+
+    /// What shows a text to a person: the desktop's editor, or a note in the robot's trace.
+    std::function<bool(TextView path)> textOpener;
 
 private:
     std::string programFolder_;
