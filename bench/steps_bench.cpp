@@ -83,6 +83,7 @@ public:
     Text AppFolder() override { return u"/app/"; }
     bool PreviousInstance() override { return false; }
     bool Shell(TextView, TextView) override { return false; }
+    bool OpenText(TextView) override { return false; }
 };
 
 /// Counts the slides that came up.

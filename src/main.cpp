@@ -127,6 +127,7 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
                              around.imaging, desktop.TextRenderer(), sound, video, system, *trace,
                              around.codePage});
+    around.system.textOpener = [](TextView path) { return qt_adapter::Desktop::OpenText(path); };
     windows.Attach(application.windows);
     const Views views(desktop, application);
     return RunUntilEnd(application, {CommandText(document), true});

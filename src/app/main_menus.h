@@ -1,12 +1,11 @@
-// The main window's menus.
+// The main window's menus, and its buttons that open windows.
 #pragma once
 
 #include "model/application.h"
 
 namespace app {
 
-/// Connects the file menu and the radio menus. The dialogs and notes of the other entries are not
-/// built yet.
+/// Connects every entry. One that opens a window which is not built yet does nothing.
 void AttachMainMenus(Application& application);
 
 }  // namespace app

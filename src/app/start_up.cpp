@@ -3,6 +3,7 @@
 #include "app/exit.h"
 #include "app/keep_awake.h"
 #include "app/main_menus.h"
+#include "app/play_menu.h"
 #include "app/timers.h"
 #include "app/title_screen.h"
 #include "document/link_document.h"
@@ -205,6 +206,7 @@ void RunProgram(Application& application, const StartOptions& options) {
     playback::AttachControlBox(application);
     picture::AttachVideoWindow(application);
     AttachMainMenus(application);
+    const PlayMenu playMenu(application);
     form1.OnLoad = [&] { Form1_Load(application); };
     form1.OnResize = [&] { Form1_Resize(application); };
     form1.OnActivate = [&] { Form1_Activate(application); };

@@ -234,6 +234,7 @@ public:
     Property<bool> Enabled{*this, "Enabled", true};
     Property<bool> Visible{*this, "Visible", true};
     Property<bool> Checked{*this, "Checked", false};
+    Property<Text> Shortcut{*this, "Shortcut"};  // "Ctrl+N", "F5", "Space"; empty: none
     Event<> Click;
 
     MenuEntry* ParentEntry() const { return parentEntry_; }

@@ -34,6 +34,10 @@ public:
     Event<int> KeyDown;
     Event<const std::vector<Text>&> FilesDropped;
 
+    /// Somebody shows this window. One that nobody can see must not be opened by a menu, least of
+    /// all in place of another window.
+    bool HasView = false;
+
     /// Fires OnLoad unless the window is loaded.
     void Load();
     /// Loads and becomes visible; unless it was visible already fires OnResize (the first time

@@ -15,6 +15,16 @@ Form1::Form1() : Window("Form1", u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10") {
     }
     Picture3.Visible = false;
     Label1.Visible = false;
+    mnuNEW.Shortcut = u"Ctrl+N";
+    mnuOPEN.Shortcut = u"Ctrl+O";
+    mnuSAVE.Shortcut = u"Ctrl+S";
+    nmuEND.Shortcut = u"Ctrl+Q";
+    mnuFULL.Shortcut = u"F5";
+    // Never both enabled.
+    mnuSTART.Shortcut = u"Space";
+    mnuPAUSE.Shortcut = u"Space";
+    mnuPREVIOUS.Shortcut = u"Left";
+    mnuNEXT.Shortcut = u"Right";
 }
 
 std::array<Window*, 26> Windows::All() {

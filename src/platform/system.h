@@ -18,6 +18,9 @@ public:
     /// what holds blanks; no shell sees it. The user may be asked first, on behalf of `document`
     /// (the full path of the open show). False when it was refused or could not be started.
     virtual bool Shell(TextView commandLine, TextView document) = 0;
+    /// Opens one of the program's own texts (a full path) in the person's text editor, which goes
+    /// on by itself. False where none could be started.
+    virtual bool OpenText(TextView path) = 0;
 };
 
 }  // namespace platform

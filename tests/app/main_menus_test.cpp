@@ -1,39 +1,10 @@
-// The file menu and the radio menus of the main window.
-#include "app/main_menus.h"
-
+// The file menu of the main window, and what radio menus bring with them.
 #include <gtest/gtest.h>
 
-#include "app_support.h"
-#include "document/settings_to_controls.h"
+#include "menu_support.h"
 
 namespace app_tests {
 namespace {
-
-struct Menus : fakes::FakePlatform {
-    model::Form1& form1 = app.windows.form1;
-    model::ShowState& state = app.state;
-    Menus() {
-        app::AttachMainMenus(app);
-        document::FollowAllSettings(app);
-        PutText(u"C:\\show\\two.kvs", ShowOf({u"a.png", u"b.png"}));
-        PutText(u"C:\\show\\refused.kvs", u"vue\r\n" + ShowOf({u"a.png"}));
-    }
-};
-
-TEST(RadioMenus, ChoosingStoresTheIndexAndMovesTheCheck) {
-    for (const document::RadioMenu& row : document::RadioMenus()) {
-        Menus menus;
-        model::MenuArray& array = menus.form1.*row.menu;
-        SCOPED_TRACE(array.Name());
-        for (int chosen = array.Count() - 1; chosen >= 0; --chosen) {
-            array(chosen).Click();
-            EXPECT_EQ(menus.state.*row.field, chosen);
-            for (int i = 0; i < array.Count(); ++i) {
-                EXPECT_EQ(array(i).Checked, i == chosen) << i;
-            }
-        }
-    }
-}
 
 TEST(RadioMenus, RandomShowCannotStopByItself) {
     Menus menus;

@@ -27,7 +27,8 @@ public:
         Text title;
     };
     std::vector<Box> messages;
-    std::vector<Box> inputs;  // text is the prompt
+    std::vector<Box> inputs;     // text is the prompt
+    std::vector<Text> initials;  // what stood in them at first
     std::vector<FileRequest> requests;
     std::deque<platform::Answer> answers;
     std::deque<std::optional<Text>> inputAnswers;
@@ -45,6 +46,7 @@ public:
     }
     std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override {
         inputs.push_back({Text(prompt), 0, Text(title)});
+        initials.emplace_back(initial);
         return Next(inputAnswers, std::optional(Text(initial)));
     }
     std::optional<Text> ChooseFile(const FileRequest& request) override {
@@ -284,6 +286,12 @@ public:
     bool Shell(TextView commandLine, TextView document) override {
         started.emplace_back(commandLine, document);
         return true;
+    }
+    bool opens = true;         // what OpenText answers
+    std::vector<Text> opened;  // every text it was given
+    bool OpenText(TextView path) override {
+        opened.emplace_back(path);
+        return opens;
     }
 };
 

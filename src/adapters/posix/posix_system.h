@@ -38,6 +38,11 @@ public:
     std::function<platform::ProgramAnswer(TextView commandLine)> ask;
     /// Where programs are found that are given with a drive letter; it outlives the system.
     void FindWith(platform::Files& files) { files_ = &files; }
+    /// False while there is no opener.
+    bool OpenText(TextView path) override { return textOpener && textOpener(path); }
+
+    /// What shows a text to a person: the desktop's editor, or a note in the robot's trace.
+    std::function<bool(TextView path)> textOpener;
 
 private:
     std::string programFolder_;

@@ -1,14 +1,17 @@
 #include "adapters/qt/desktop.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPixmap>
 #include <QScreen>
 #include <QTranslator>
+#include <QUrl>
 #include <cstdio>
 #include <cstdlib>
 
+#include "adapters/qt/convert.h"
 #include "adapters/qt/form_loader.h"
 #include "adapters/qt/gate.h"
 #include "adapters/qt/qt_dialogs.h"
@@ -177,6 +180,7 @@ void Desktop::MakeViews(model::Windows& windows) {
             parts_->views.push_back(std::make_unique<WindowView>(
                 *window, *parts_->loader, parts_->gate,
                 [this](const QString& name) { return parts_->ViewOf(name); }));
+            window->HasView = true;
         }
     }
 }
@@ -185,6 +189,7 @@ void Desktop::UnmakeViews() {
     const Gate::Mute mute(parts_->gate);
     // Backwards: windows that stand over others go before them.
     while (!parts_->views.empty()) {
+        parts_->views.back()->Window().HasView = false;
         parts_->views.pop_back();
     }
     parts_->loader.reset();
@@ -199,6 +204,10 @@ bool Desktop::Shot(model::Window& window, const std::string& file) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     parts_->ViewOf(widget->objectName())->FlushCanvases();
     return widget->grab().save(QString::fromStdString(file), "PNG");
+}
+
+bool Desktop::OpenText(TextView path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path)));
 }
 
 QWidget* Desktop::WidgetOf(model::Window& window) {

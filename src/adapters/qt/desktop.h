@@ -52,6 +52,9 @@ public:
     /// model runs. False when the window has no view or the file cannot be written.
     bool Shot(model::Window& window, const std::string& file);
 
+    /// Opens the text in the desktop's own editor. False where the desktop has none.
+    static bool OpenText(TextView path);
+
     /// The window's widget, made if need be; null without a view.
     QWidget* WidgetOf(model::Window& window);
 

@@ -57,6 +57,7 @@ void MenuBinding::Add(model::MenuEntry& entry, QWidget& menu) {
     if (entry.Children().empty()) {
         action = new QAction(&menu);
         menu.addAction(action);
+        action->setAutoRepeat(false);  // a key held down is one wish
         connect(action, &QAction::triggered, this, [this, &entry] { Chosen(entry); });
     } else {
         auto* children = new QMenu(&menu);
@@ -96,6 +97,8 @@ void MenuBinding::Sync(const model::MenuEntry& entry) {
     action->setText(ToQt(entry.Caption()));
     action->setEnabled(entry.Enabled);
     action->setVisible(entry.Visible);
+    action->setShortcut(
+        QKeySequence::fromString(ToQt(entry.Shortcut()), QKeySequence::PortableText));
     if (entry.Checked && entry.Children().empty()) {
         action->setCheckable(true);
     }

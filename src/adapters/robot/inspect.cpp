@@ -18,18 +18,10 @@ namespace {
 using posix_adapter::JsonNumber;
 using posix_adapter::JsonText;
 
-/// The program as it is before it reads its first document, and what reading leaves beside it.
-struct FreshProgram {
-    SilentPlatform surroundings{posix_adapter::ProgramFolder("")};
-    Application app{surroundings.Get()};
+/// The program, and what reading leaves beside it.
+struct Inspected : FreshProgram {
+    using FreshProgram::FreshProgram;
     std::vector<document::CutoutPoint> points;  // of a coordinate file
-
-    explicit FreshProgram(const Text& path) {
-        model::ZeroReset(app.state);
-        model::SetStartDefaults(app.state);
-        app.state.AppFolder = app.platform.system.AppFolder();
-        app.state.BaseFolder = text::FolderPart(path);
-    }
 };
 
 /// What the tool knows of a file kind. `read` tells whether the file was accepted.
@@ -38,37 +30,37 @@ struct Kind {
     const char16_t* extension;  // in upper case
     const char16_t* fileName;   // in upper case
     const char16_t* tag;        // beginning of the first line
-    bool (*read)(FreshProgram& program, const Text& path);
+    bool (*read)(Inspected& program, const Text& path);
 };
 
-bool ReadShow(FreshProgram& program, const Text& path) {
+bool ReadShow(Inspected& program, const Text& path) {
     document::ReadShowDocument(program.app, path);
     return program.app.state.ShowAbort == 0;
 }
 
-bool ReadLinks(FreshProgram& program, const Text& path) {
+bool ReadLinks(Inspected& program, const Text& path) {
     document::ReadLinkDocument(program.app, path);
     return true;
 }
 
 /// Files of the program folder: where one lies is taken for that folder.
-model::ShowState& InProgramFolder(FreshProgram& program) {
+model::ShowState& InProgramFolder(Inspected& program) {
     program.app.state.AppFolder = program.app.state.BaseFolder;
     return program.app.state;
 }
 
-bool ReadSounds(FreshProgram& program, const Text& path) {
+bool ReadSounds(Inspected& program, const Text& path) {
     InProgramFolder(program);
     return document::ReadSoundListFile(program.app, path);
 }
 
-bool ReadLastState(FreshProgram& program, const Text& path) {
+bool ReadLastState(Inspected& program, const Text& path) {
     InProgramFolder(program);
     return document::ReadStateFile(program.app, path);
 }
 
 /// The links stand in the window; shown are those that a start would take over from there.
-bool ReadLinkState(FreshProgram& program, const Text& path) {
+bool ReadLinkState(Inspected& program, const Text& path) {
     model::ShowState& state = InProgramFolder(program);
     const bool accepted = document::ReadLinkStateFile(program.app, path);
     int index = 0;
@@ -78,7 +70,7 @@ bool ReadLinkState(FreshProgram& program, const Text& path) {
     return accepted;
 }
 
-bool ReadCutout(FreshProgram& program, const Text& path) {
+bool ReadCutout(Inspected& program, const Text& path) {
     std::string bytes;
     platform::FileError ignored;
     if (!program.app.platform.files.Read(path, bytes, ignored)) {
@@ -210,7 +202,7 @@ int Usage(std::ostream& err) {
 
 int Inspect(const std::string& givenPath, std::ostream& out) {
     const Text path = AbsolutePath(givenPath);
-    FreshProgram program(path);
+    Inspected program(path);
     Application& app = program.app;
     auto& messages = program.surroundings.dialogs.messages;
     const Text firstLine = FirstLine(app.platform.files, app.platform.codePage, path);

@@ -90,6 +90,39 @@ platform::Answer AnswerOf(const Text& word) {
                            : platform::Answer::Cancel;
 }
 
+bool Reachable(const model::MenuEntry& entry) {
+    for (const model::MenuEntry* one = &entry; one; one = one->ParentEntry()) {
+        if (!one->Visible || !one->Enabled) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Keys that menu entries take while their window has the keyboard, and their numbers.
+struct ShortcutKey {
+    int code;
+    TextView name;
+};
+constexpr ShortcutKey kShortcutKeys[] = {
+    {32, u"Space"}, {37, u"Left"}, {39, u"Right"}, {116, u"F5"}};
+
+/// One entry at most, as of all that bear the key only one can be chosen.
+void PressShortcut(model::Window& window, int code) {
+    for (const ShortcutKey& key : kShortcutKeys) {
+        if (key.code != code) {
+            continue;
+        }
+        for (model::Control* control : window.Controls()) {
+            auto* entry = dynamic_cast<model::MenuEntry*>(control);
+            if (entry && entry->Shortcut() == key.name && Reachable(*entry)) {
+                entry->Click();
+                return;
+            }
+        }
+    }
+}
+
 model::Control* FindTarget(model::Application& application, const Action& action) {
     model::Window* window = application.windows.Find(action.window);
     if (!window || action.control.empty()) {
@@ -282,6 +315,7 @@ void ScriptedUser::Key(const Action& action, model::Control& control) {
     const int code = action.numbers.front();
     if (auto* window = dynamic_cast<model::Window*>(&control)) {
         window->KeyDown(code);
+        PressShortcut(*window, code);
     } else if (auto* list = dynamic_cast<model::ListBox*>(&control)) {
         list->KeyDown(code);
     } else if (auto* picture = dynamic_cast<model::PictureBox*>(&control)) {
@@ -297,12 +331,9 @@ void ScriptedUser::Menu(const Action& action) {
     if (!CanUse(form1)) {
         return;
     }
-    for (const model::MenuEntry* one = &entry; one; one = one->ParentEntry()) {
-        if (!one->Visible || !one->Enabled) {
-            return;
-        }
+    if (Reachable(entry)) {
+        entry.Click();
     }
-    entry.Click();
 }
 
 void ScriptedUser::Select(const Action& action, model::Control& control) {

@@ -79,6 +79,7 @@ public:
     Text AppFolder() override { return text::FromUtf8(folder_); }
     bool PreviousInstance() override { return false; }
     bool Shell(TextView, TextView) override { return false; }
+    bool OpenText(TextView) override { return false; }
 
 private:
     std::string folder_;

@@ -19,6 +19,10 @@ public:
         trace_.Event("shell", {{"command", Text(commandLine)}});
         return !starts_ || system_.Shell(commandLine, document);
     }
+    bool OpenText(TextView path) override {
+        trace_.Event("shell", {{"command", u"NOTEPAD.EXE " + Text(path)}});
+        return !starts_ || system_.OpenText(path);
+    }
 
 private:
     platform::System& system_;

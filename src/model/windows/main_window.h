@@ -110,6 +110,7 @@ struct Form1 : Window {
     MenuArray mnuKSPSEL{this, "mnuKSPSEL", mnuKSPSELHead, {u"可変", u"固定"}};
     MenuEntry mnuHKSP{this, "mnuHKSP", u"表示効果スピード", &mnuGKO};
     MenuEntry mnuSKSP{this, "mnuSKSP", u"消去効果スピード", &mnuGKO};
+    MenuEntry mnuHOSEI{this, "mnuHOSEI", u"画面効果スピード補正", &mnuGKO};
 
     MenuEntry mnuKASANEHead{this, "mnuKASANE", u"画像重ね合せ処理(&K)"};
     MenuArray mnuKASANE{this,
@@ -143,6 +144,18 @@ struct Form1 : Window {
     MenuArray mnuCDR{this, "mnuCDR", mnuCDRP, {u"あり", u"なし"}};
     MenuEntry mnuCDWAVHead{this, "mnuCDWAV", u"ＣＤ＋画像連動(WAV)(&P)", &mnuCDM};
     MenuArray mnuCDWAV{this, "mnuCDWAV", mnuCDWAVHead, {u"あり", u"なし"}};
+
+    // What the buttons do, once more: for the keyboard and for those who look in menus.
+    MenuEntry mnuPLAY{this, "mnuPLAY", u"再生(&R)"};
+    MenuEntry mnuSTART{this, "mnuSTART", u"START", &mnuPLAY};
+    MenuEntry mnuPAUSE{this, "mnuPAUSE", u"PAUSE", &mnuPLAY};
+    MenuEntry mnuSTOP{this, "mnuSTOP", u"STOP", &mnuPLAY};
+    MenuEntry mnuPREVIOUS{this, "mnuPREVIOUS", u"前画面", &mnuPLAY};
+    MenuEntry mnuNEXT{this, "mnuNEXT", u"次画面", &mnuPLAY};
+    MenuEntry mnuFULL{this, "mnuFULL", u"画面全体", &mnuPLAY};
+    MenuEntry mnuLIST{this, "mnuLIST", u"スライドリスト", &mnuPLAY};
+    MenuEntry mnuSOUNDS{this, "mnuSOUNDS", u"サウンドリスト", &mnuPLAY};
+    MenuEntry mnuSCHEDULE{this, "mnuSCHEDULE", u"スケジュール", &mnuPLAY};
 
     MenuEntry mnuHELP{this, "mnuHELP", u"説明(&H)"};
     MenuEntry mnuGAI{this, "mnuGAI", u"機能概要.txt", &mnuHELP};
