@@ -254,8 +254,54 @@ TEST(StepBackground, TheNextListSoundIsTakenUp) {
     Show show;
     show.state.SoundMode = 6;
     show.state.SoundListNext = 1;
+    show.state.SoundListCount = 1;
+    show.state.SoundList.Set(1, u"C:\\s\\a.wav");
+    show.files.Put(u"C:\\s\\a.wav", "sound");
     show.Step(2);
     EXPECT_EQ(show.state.SoundListNext, 0);
+    EXPECT_EQ(show.CommandsFrom(u"open").size(), 1u);
+}
+
+TEST(StepBackground, APieceThatEndedBeginsAgainAtThePicture) {
+    for (const Text answer : {u"stopped", u"Xtopped", u"playing", u""}) {
+        Show show;
+        show.state.SoundMode = 3;
+        show.state.WavFile = u"C:\\s\\a.wav";
+        show.files.Put(show.state.WavFile, "sound");
+        show.sound.answer = [&](TextView command) -> Text {
+            return command.starts_with(u"status") ? answer : Text();
+        };
+        show.state.SoundOpen = 1;
+        show.state.SoundPlaying = 1;
+        show.Step(2);
+        // The first letter is not compared.
+        const bool again = answer.size() == 7 && answer != u"playing";
+        EXPECT_EQ(show.CommandsFrom(u"open").size(), again ? 1u : 0u) << text::ToUtf8(answer);
+        EXPECT_EQ(show.CommandsFrom(u"close").size(), again ? 4u : 0u) << text::ToUtf8(answer);
+        EXPECT_EQ(show.state.SoundPlaying, 1);
+    }
+}
+
+TEST(StepBackground, AMissingListEntryCostsOnePicture) {
+    Show show;
+    show.state.SoundMode = 6;
+    show.state.SoundListCount = 3;
+    for (const int entry : {1, 2}) {
+        show.state.SoundList.Set(entry, u"C:\\s\\gone.wav");
+    }
+    show.state.SoundList.Set(3, u"C:\\s\\a.wav");
+    show.files.Put(u"C:\\s\\a.wav", "sound");
+    show.state.RestartSoundFlag = 1;
+    show.Step(1);
+    EXPECT_EQ(show.state.SoundListPos, 1);
+    show.state.StepBusy = 0;
+    show.Step(2);
+    EXPECT_EQ(show.state.SoundListPos, 2);
+    EXPECT_TRUE(show.CommandsFrom(u"open").empty());
+    show.Step(3);
+    EXPECT_EQ(show.state.SoundListPos, 3);
+    EXPECT_EQ(show.CommandsFrom(u"open").size(), 1u);
+    EXPECT_TRUE(show.dialogs.messages.empty());
 }
 
 Texts SecondChannel(const Text& path) {
@@ -393,6 +439,67 @@ TEST(StepMainChannel, SoundsOfTheLinkedFolder) {
     show.Step(2);
     EXPECT_TRUE(show.SoundAskedFor(u"D:\\snd\\2.wav"));
     EXPECT_FALSE(show.SoundAskedFor(u"C:\\pic\\2.wav"));
+}
+
+/// Opens, plays and stops of the alias "wav".
+size_t Opened(const Show& show) {
+    return show.CommandsFrom(u"open").size();
+}
+
+TEST(StepMainChannel, TwoPicturesWithTheSameSoundPlayItOnce) {
+    Show show(2);
+    show.AddSlide(Show::PathOf(2));
+    show.state.SoundMode = 1;
+    show.files.Put(u"C:\\pic\\2.wav", "sound");
+    show.Step(2);
+    EXPECT_EQ(Opened(show), 1u);
+    show.sound.commands.clear();
+    show.Step(3);
+    EXPECT_TRUE(show.sound.commands.empty()) << "it is not even stopped";
+    EXPECT_EQ(show.state.SoundPlaying, 1);
+}
+
+TEST(StepMainChannel, BehindAPictureWithoutOneTheSameSoundPlaysAgain) {
+    Show show(2);
+    show.state.SoundMode = 1;
+    show.files.Put(u"C:\\pic\\2.wav", "sound");
+    show.Step(2);
+    show.sound.commands.clear();
+    show.Step(1);
+    EXPECT_TRUE(show.sound.commands.empty()) << "what plays goes on";
+    show.Step(2);
+    EXPECT_EQ(Opened(show), 1u);
+}
+
+TEST(StepMainChannel, TheCommonSoundPlaysWithEveryPicture) {
+    Show show;
+    show.state.SoundMode = 0;
+    show.files.Put(u"C:\\app\\vue1.wav", "sound");
+    for (int slide = 1; slide <= 3; ++slide) {
+        show.Step(slide);
+    }
+    EXPECT_EQ(Opened(show), 3u);
+    EXPECT_EQ(show.CommandsFrom(u"close wav_ren").size(), 2u) << "each ends the one before";
+}
+
+TEST(StepMainChannel, WithoutTheCommonSoundSilence) {
+    Show show;
+    show.state.SoundMode = 0;
+    show.Step(1);
+    EXPECT_TRUE(show.sound.commands.empty());
+    EXPECT_TRUE(show.dialogs.messages.empty());
+}
+
+TEST(StepMainChannel, WithoutAnMp3ThePieceRunsOn) {
+    Show show;
+    show.state.SoundMode = 9;
+    show.files.Put(u"C:\\pic\\1.mp3", "sound");
+    show.Step(1);
+    EXPECT_EQ(show.state.ListMp3Playing, 1);
+    show.sound.commands.clear();
+    show.Step(2);
+    EXPECT_TRUE(show.sound.commands.empty());
+    EXPECT_EQ(show.state.SoundOpen, 1);
 }
 
 }  // namespace
