@@ -209,7 +209,9 @@ TEST(FullScreenStart, AnEmptyListShowsNothing) {
 TEST(FullScreenStart, PauseDuringTheFirstStepHoldsTheShow) {
     Show show;
     show.state.ControlBoxFlag = 0;
-    show.state.TelopRunning = 1;
+    // START has ended what scrolled before; the question comes behind that.
+    show.state.FullStartConfirm = 0;
+    show.dialogs.whileOpen = [&](const auto&) { show.state.TelopRunning = 1; };
     show.loop.At(500, [&] { show.windows.slidescreen2.Command3.Click(); });
     StartInScreen(show);
     EXPECT_TRUE(show.Shown().empty());

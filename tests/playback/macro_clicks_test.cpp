@@ -15,6 +15,7 @@ protected:
         show.form1.Command4.Click();
         show.screen.P2.SetFocus = [this] { ++focused; };
         show.windows.slidescreen2.Hide();
+        show.sound.played.clear();
         show.state.UserInputSeen = 0;
         show.state.SlideIndex = 2;
         show.state.MacroButtonsShown = 1;

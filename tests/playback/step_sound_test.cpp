@@ -37,6 +37,7 @@ TEST(StepFade, GoesFromFullVolumeBelowZeroInStepsOf100Ms) {
     Texts expected = Volumes(u"setaudio mp3 volume to", 980);
     expected.push_back(u"setaudio mp3 volume to -20");
     ASSERT_EQ(expected.size(), 51u);
+    expected.push_back(u"setaudio mp3 volume to 1000");  // of the piece that comes
     EXPECT_EQ(show.CommandsFrom(u"setaudio"), expected);
     EXPECT_EQ(show.CommandsFrom(u"status mp3 mode").size(), 1u);
     EXPECT_EQ(show.loop.sleeps, Numbers(51, 100));
@@ -48,10 +49,11 @@ TEST(StepFade, BeginsAtTheVolumeThatTheMacroLeft) {
     show.state.Mp3VolumeOffset = 300;
     show.Step(2);
     const Texts sent = show.CommandsFrom(u"setaudio");
-    ASSERT_EQ(sent.size(), 36u);  // 680 to 0, and −20
+    ASSERT_EQ(sent.size(), 37u);  // 680 to 0, −20, and the piece that comes
     EXPECT_EQ(sent.front(), u"setaudio mp3 volume to 680");
     EXPECT_EQ(sent[34], u"setaudio mp3 volume to 0");
-    EXPECT_EQ(sent.back(), u"setaudio mp3 volume to -20");
+    EXPECT_EQ(sent[35], u"setaudio mp3 volume to -20");
+    EXPECT_EQ(sent.back(), u"setaudio mp3 volume to 700");
 }
 
 TEST(StepFade, NotWithoutALinkedMp3OrASoundThatPlays) {
@@ -71,7 +73,7 @@ TEST(StepFade, NotWithoutALinkedMp3OrASoundThatPlays) {
         FadeShow show;
         setting.set(show);
         show.Step(2);
-        EXPECT_TRUE(show.CommandsFrom(u"setaudio").empty()) << setting.what;
+        EXPECT_TRUE(show.loop.sleeps.empty()) << setting.what;
         EXPECT_EQ(show.CommandsFrom(u"status mp3 mode").size(), setting.asked) << setting.what;
         EXPECT_EQ(show.Shown(), Numbers{2}) << setting.what;
     }
@@ -103,8 +105,11 @@ TEST(StepFade, ASoundThatWasClosedEndsItAndThePictureComes) {
     FadeShow show;
     show.loop.At(250, [&] { show.state.SoundOpen = 0; });
     show.Step(2);
-    // Sent at 0, 100 and 200; the pump at 300 sees the end.
-    EXPECT_EQ(show.CommandsFrom(u"setaudio").size(), 3u);
+    // Sent at 0, 100 and 200; the pump at 300 sees the end. Then the next piece begins.
+    const Texts sent = show.CommandsFrom(u"setaudio");
+    ASSERT_EQ(sent.size(), 4u);
+    EXPECT_EQ(sent[2], u"setaudio mp3 volume to 940");
+    EXPECT_EQ(sent[3], u"setaudio mp3 volume to 1000");
     EXPECT_EQ(show.Shown(), Numbers{2});
     EXPECT_EQ(show.state.StepBusy, 0);
 }
