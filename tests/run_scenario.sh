@@ -4,13 +4,18 @@
 # It runs in a fresh copy of the data, so that a scenario may change and delete files. Comments of
 # the script say what else is wanted:
 #   # args: --seed 3 --now "2026-01-01 23:59:50" show.kvs    more arguments
-#   # app: uautst.dat one.kvs                             data that the program folder begins with
-#   # first: other.robot                                  a script of an earlier run of the program
-#   # held: yes                                          another instance holds the program folder
+#   # app: uautst.dat b.wav=vue1.wav                         data that the program folder begins with,
+#                                                            under another name behind '='
+#   # first: other.robot                                     a script of an earlier run of the program
+#   # held: yes                                              another instance holds the program folder
 #   # exit: 1                                                the exit status, otherwise 0
 #   # trace: "t":3000,"event":"slide"                        a line of the trace holds this text
 #   # no trace: "event":"message"                            no line of the trace holds it
 #   # slides: 0 a.png 3000 b.png                             all slides shown, each with its time
+#   # sound: 4000 stop wav | close wav                       all commands to the sound device, those of
+#                                                            one moment on one line, files without
+#                                                            folders; repeated questions once, a fade's
+#                                                            volumes not at all
 set -euo pipefail
 program=$1 script=$2 data=$3 scratch=$4
 
@@ -27,7 +32,7 @@ if [[ -n $line ]]; then
     mapfile -t arguments < <(xargs -n 1 printf '%s\n' <<<"$line")
 fi
 trace=$scratch/trace.jsonl
-for name in $(wanted app); do cp "$name" "$scratch/app/"; done
+for name in $(wanted app); do cp "${name%%=*}" "$scratch/app/${name##*=}"; done
 for name in $(wanted first); do
     "$program" --robot "$(dirname "$script")/$name" --app-folder "$scratch/app" ||
         { echo "$script: the earlier run of $name failed" >&2; exit 1; }
@@ -59,5 +64,20 @@ if grep -q '^# slides:' "$script"; then
         "$trace" | paste -sd ' ')
     expected=$(wanted slides | paste -sd ' ')
     [[ $shown == "$expected" ]] || complain "shown: $shown"$'\n'"  expected: $expected"
+fi
+if grep -q '^# sound:' "$script"; then
+    heard=$(sed -nE '
+        s/^\{"t":([0-9.]+),"event":"mci","command":"(.*)","result":.*/\1 \2/p
+        s/^\{"t":([0-9.]+),"event":"sndPlaySound","file":null,.*/\1 cancel/p
+        s/^\{"t":([0-9.]+),"event":"sndPlaySound","file":"([^"]*)","flags":([0-9]+).*/\1 sound \2 \3/p
+        ' "$trace" | sed -E 's/\\"/"/g; s|"[^"]*/|"|' | awk '
+        { time = $1; sub(/^[^ ]+ /, ""); }
+        /^setaudio/ && !/ 1000$/ { next }
+        $0 == last && /^status/ { next }
+        { last = $0; if (time == now) line = line " | " $0
+          else { if (line != "") print line; line = time " " $0; now = time } }
+        END { if (line != "") print line }')
+    expected=$(wanted sound)
+    [[ $heard == "$expected" ]] || complain "heard: $heard"$'\n'"  expected: $expected"
 fi
 exit $failed
