@@ -163,6 +163,10 @@ void Canvas::StretchBlt(const Rect& target, const Bitmap& source) {
     if (inside.Empty() || source.Empty()) {
         return;
     }
+    if (target.width == source.width && target.height == source.height) {
+        BitBlt(target.x, target.y, target.width, target.height, &source, 0, 0);
+        return;
+    }
     if (&source == &pixels_) {
         StretchBlt(target, Bitmap(source));
         return;

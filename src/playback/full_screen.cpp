@@ -22,6 +22,10 @@ namespace {
 
 constexpr int kKeyEscape = 27;
 
+bool MacroButtonsUp(const Application& app) {
+    return app.state.MacroButtonsShown == 1 || app.windows.slidescreen.Command1.Visible;
+}
+
 void UnloadWithEndMark(Application& app) {
     app.state.FullScreenEndMark = 1;
     app.windows.slidescreen.Unload();
@@ -38,6 +42,7 @@ void TakeOverRunningShow(Application& app) {
     state.PreviousPictureOnScreen = 1;
     picture::CreateEffectContext(app);
     picture::RunShowEffect(app);
+    CopyCanvasForMacros(app);
     app.windows.SetPointer(model::kPointerNormal);
     if (RunsForward(app)) {
         SetSlideInterval(app);
@@ -104,7 +109,7 @@ bool StartFromIdle(Application& app) {
         return false;
     }
     if (state.ControlBoxFlag == 0) {
-        if (state.MacroButtonsShown == 0) {
+        if (!MacroButtonsUp(app)) {
             app.windows.slidescreen2.Caption = u"START";
             app.windows.slidescreen2.Show();
         }
@@ -125,7 +130,7 @@ void Form_Activate(Application& app) {
     if (state.ShowRunning == 0 && state.SlideIndex == 0 && !StartFromIdle(app)) {
         return;
     }
-    if (state.MacroButtonsShown == 0) {
+    if (!MacroButtonsUp(app)) {
         BringUpControlBox(app);
     }
     if (state.StopRequest == 1 || state.FullScreenClosed == 1) {
@@ -216,10 +221,6 @@ void Form_Unload(Application& app) {
     windows.form1.Picture1.AutoRedraw = true;
     windows.slidescreen.Hide();
     ShowCaller(app);
-}
-
-bool MacroButtonsUp(Application& app) {
-    return app.state.MacroButtonsShown == 1 || app.windows.slidescreen.Command1.Visible;
 }
 
 void Screen_Click(Application& app) {

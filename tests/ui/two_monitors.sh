@@ -1,0 +1,55 @@
+#!/bin/bash
+# Two monitors of different size side by side: the full screen covers the one that the main window
+# is on, to the pixel, and comes over when that one is unplugged. Then the same with the second
+# monitor scaled.
+set -euo pipefail
+source "$(dirname "$0")/screen.sh"
+picture=$PARAPICO_DATA/pattern.png  # 640x400
+
+# Covers X Y WIDTH HEIGHT: the picture in the middle of black, and nothing beyond.
+ExpectCover() {
+    local right=$(($1 + $3)) bottom=$(($2 + $4))
+    ExpectScreen "$1" "$2" '#000000' 'the monitor is covered from its corner'
+    ExpectScreen $((right - 1)) $((bottom - 1)) '#000000' 'the monitor is covered to its far corner'
+    if [[ $1 -gt 0 ]]; then ExpectScreen $(($1 - 1)) "$2" "$ground" 'its neighbour is not'; fi
+    if [[ $right -lt 2304 ]]; then ExpectScreen "$right" "$2" "$ground" 'its neighbour is not'; fi
+    if [[ $bottom -lt 1024 ]]; then ExpectScreen "$1" "$bottom" "$ground" 'nor what lies below'; fi
+}
+
+PlugMonitors() {
+    xrandr --setmonitor LEFT 1024/270x768/203+0+0 screen >"$PARAPICO_SCRATCH/xrandr" 2>&1
+    xrandr --setmonitor RIGHT 1280/338x1024/270+1024+0 none >"$PARAPICO_SCRATCH/xrandr" 2>&1
+}
+
+# PlayOnBoth X Y: the place in the second monitor where the main window is moved to.
+PlayOnBoth() {
+    StartProgram "$PARAPICO_DATA/still.kvs"
+    WaitFor 'the show in the first monitor' StartedShowShows "$picture" 192 184
+    ExpectCover 0 0 1024 768
+    xdotool key Escape
+    WaitForWindow 'still.kvs'
+    MoveWindow "$1" "$2"
+    sleep 1
+    xdotool key --window "$window" Tab  # the window has noticed by then where it is
+    Click $((45 * scale)) $((545 * scale))  # START
+    WaitFor 'the show in the second monitor' StartedShowShows "$picture" 1344 312
+    ExpectCover 1024 0 1280 1024
+}
+
+StartDisplay 2304x1024
+PlugMonitors
+scale=1
+PlayOnBoth 1400 200
+xrandr --delmonitor RIGHT
+WaitFor 'the show where there is a monitor left' ScreenShows "$picture" 192 184
+ExpectCover 0 0 1024 768
+kill "$program"
+wait "$program" 2>/dev/null || true
+
+PlugMonitors
+export QT_SCREEN_SCALE_FACTORS='1;1.5'
+StartProgram "$PARAPICO_DATA/still.kvs"
+WaitFor 'the show beside a scaled monitor' StartedShowShows "$picture" 192 184
+ExpectCover 0 0 1024 768
+CloseProgram
+echo "each monitor was covered as seen"
