@@ -45,9 +45,8 @@ void FindMonitors(Application& app) {
     const int error = errno;
     for (const platform::Rect& monitor : monitors) {
         if (monitor.Empty()) {
-            app.platform.dialogs.Message(
-                u"APIｴﾗｰｺｰﾄﾞ = " + text::FromUtf8(std::to_string(error)), platform::kStop,
-                u"パラピコ");
+            app.platform.dialogs.Message(u"APIｴﾗｰｺｰﾄﾞ = " + text::FromUtf8(std::to_string(error)),
+                                         platform::kStop, u"パラピコ");
         }
     }
 }

@@ -117,7 +117,8 @@ TEST(StartUp, TellsOfAMonitorThatTheSystemCannotDescribe) {
     program.around.monitors.monitors = {{0, 0, 1280, 1024}, {}};
     program.Run();
     ASSERT_EQ(program.around.dialogs.messages.size(), 1u);
-    EXPECT_EQ(program.around.dialogs.messages[0].text, u"APIｴﾗｰｺｰﾄﾞ = 0") << "no error of the system";
+    EXPECT_EQ(program.around.dialogs.messages[0].text, u"APIｴﾗｰｺｰﾄﾞ = 0")
+        << "no error of the system";
     EXPECT_EQ(program.around.dialogs.messages[0].flags, 16);
     EXPECT_EQ(program.state.MonitorCount, 2);
     EXPECT_EQ(program.state.MonitorRight[0], 19200);

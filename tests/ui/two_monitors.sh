@@ -21,24 +21,22 @@ PlugMonitors() {
     xrandr --setmonitor RIGHT 1280/338x1024/270+1024+0 none >"$PARAPICO_SCRATCH/xrandr" 2>&1
 }
 
-# PlayOnBoth X Y: the place in the second monitor where the main window is moved to.
+# PlayOnBoth X Y: the main window is moved there, into the second monitor, for the second time.
 PlayOnBoth() {
     StartProgram "$PARAPICO_DATA/still.kvs"
     WaitFor 'the show in the first monitor' StartedShowShows "$picture" 192 184
     ExpectCover 0 0 1024 768
+    WaitForWindow '^パラピコ$'
     xdotool key Escape
     WaitForWindow 'still.kvs'
     MoveWindow "$1" "$2"
-    sleep 1
-    xdotool key --window "$window" Tab  # the window has noticed by then where it is
-    Click $((45 * scale)) $((545 * scale))  # START
+    Click 45 545  # START
     WaitFor 'the show in the second monitor' StartedShowShows "$picture" 1344 312
     ExpectCover 1024 0 1280 1024
 }
 
 StartDisplay 2304x1024
 PlugMonitors
-scale=1
 PlayOnBoth 1400 200
 xrandr --delmonitor RIGHT
 WaitFor 'the show where there is a monitor left' ScreenShows "$picture" 192 184
