@@ -32,15 +32,19 @@ void UnloadWithEndMark(Application& app) {
     app.state.FullScreenEndMark = 0;
 }
 
-/// A show that ran in the main window, running or paused, moves to the full screen.
-void TakeOverRunningShow(Application& app) {
-    model::ShowState& state = app.state;
-    app.windows.SetPointer(model::kPointerArrowBusy);
+/// Clears the canvas and makes the picture on show ready for it at the size of its monitor.
+void FitToScreenAnew(Application& app) {
     app.windows.slidescreen.P2.SetPicture(nullptr);
     picture::ReleaseEffectContext(app);
     picture::RefitHeldPicture(app, true);
-    state.PreviousPictureOnScreen = 1;
     picture::CreateEffectContext(app);
+}
+
+/// A show that ran in the main window, running or paused, moves to the full screen.
+void TakeOverRunningShow(Application& app) {
+    app.windows.SetPointer(model::kPointerArrowBusy);
+    FitToScreenAnew(app);
+    app.state.PreviousPictureOnScreen = 1;
     picture::RunShowEffect(app);
     CopyCanvasForMacros(app);
     app.windows.SetPointer(model::kPointerNormal);
@@ -267,9 +271,21 @@ void PlaceFullScreen(Application& app) {
 }
 
 void FollowMonitors(Application& app) {
-    if (app.windows.slidescreen.Loaded) {
-        PlaceFullScreen(app);
-        PlaceControlBox(app);
+    const model::ShowState& state = app.state;
+    const model::PictureBox& canvas = app.windows.slidescreen.P2;
+    if (!app.windows.slidescreen.Loaded) {
+        return;
+    }
+    const platform::Size before{canvas.ScaleWidth(), canvas.ScaleHeight()};
+    PlaceFullScreen(app);
+    PlaceControlBox(app);
+    const bool resized =
+        canvas.ScaleWidth() != before.width || canvas.ScaleHeight() != before.height;
+    // A step in progress goes on where it is; pictures piled up cannot be fitted again.
+    if (resized && state.EffectDcValid == 1 && state.StepBusy == 0 && state.OverlayMode == 0) {
+        FitToScreenAnew(app);
+        picture::ShowAtOnce(app);
+        CopyCanvasForMacros(app);
     }
 }
 
