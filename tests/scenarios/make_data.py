@@ -17,6 +17,7 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   only_bad.kvs  text.jpg alone
   full.kvs      a b c, START goes to the full screen
   still.kvs     pattern for a minute, in full screen
+  still.kvl     still.kvs
   extremes.kvs  line dot line e, in full screen, effects in turn
   effects.kvs   a b c as full.kvs, effects in turn, erased as shown
   failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
@@ -115,6 +116,7 @@ def main():
     files["full.kvs"] = document(lines_of_show(five[:3], always_full=0))
     files["effects.kvs"] = document(lines_of_show(five[:3], always_full=0, effects=(10, 11)))
     files["still.kvs"] = document(lines_of_show(["pattern.png"], interval=60000, always_full=0))
+    files["still.kvl"] = document(["1vue3167", "still.kvl", " 1 ", "still.kvs"])
     files["extremes.kvs"] = document(lines_of_show(
         ["line.png", "dot.png", "line.png", "e.png"], always_full=0, effects=(10, 11)))
     files["all.kvl"] = document(["1vue3167", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
