@@ -81,14 +81,20 @@ void Canvas::Resize(int width, int height, Color fill) {
 }
 
 void Canvas::Fill(Color fill) {
-    std::fill(pixels_.pixels.begin(), pixels_.pixels.end(), ToPixel(fill));
-    Touch(Bounds(pixels_));
+    FillRect(Bounds(pixels_), fill);
 }
 
 void Canvas::FillRect(const Rect& area, Color fill) {
     const Rect inside = Intersection(area, Bounds(pixels_));
-    for (int y = inside.y; y < inside.y + inside.height; ++y) {
-        std::fill_n(pixels_.Row(y) + inside.x, inside.width, ToPixel(fill));
+    if (inside.Empty()) {
+        return;
+    }
+    // Copying is several times as fast as filling.
+    Pixel* first = pixels_.Row(inside.y) + inside.x;
+    std::fill_n(first, inside.width, ToPixel(fill));
+    for (int y = inside.y + 1; y < inside.y + inside.height; ++y) {
+        std::memcpy(pixels_.Row(y) + inside.x, first,
+                    static_cast<size_t>(inside.width) * sizeof(Pixel));
     }
     Touch(inside);
 }
