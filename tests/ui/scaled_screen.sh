@@ -11,8 +11,8 @@ for QT_SCALE_FACTOR in 2 1.5 1.25; do
     WaitFor "the picture at $QT_SCALE_FACTOR" \
         StartedShowShows "$PARAPICO_DATA/pattern.png" 480 400
     for corner in '0 0' '1599 0' '0 1199' '1599 1199' '479 400' '1120 799'; do
-        # shellcheck disable=SC2086
-        ExpectScreen $corner '#000000' "the monitor is covered at $QT_SCALE_FACTOR"
+        read -r x y <<<"$corner"
+        ExpectScreen "$x" "$y" '#000000' "the monitor is covered at $QT_SCALE_FACTOR"
     done
     kill "$program"
     wait "$program" 2>/dev/null || true
