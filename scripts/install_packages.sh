@@ -15,7 +15,7 @@ run_packages=(
 test_packages=(
     libgtest-dev libgmock-dev git
     clang clang-tidy clang-format libclang-rt-14-dev llvm
-    xvfb xauth xdotool imagemagick dbus-daemon
+    xvfb xauth xdotool x11-xserver-utils weston imagemagick dbus-daemon
     # Benchmarks compare with these.
     pkg-config libbenchmark-dev libturbojpeg0-dev libjpeg-dev
 )

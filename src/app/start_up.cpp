@@ -1,5 +1,7 @@
 #include "app/start_up.h"
 
+#include <cerrno>
+
 #include "app/exit.h"
 #include "app/keep_awake.h"
 #include "app/main_menus.h"
@@ -36,6 +38,19 @@ void MakeImagingControls(Application& app) {
     app.state.LeadVersion =
         text::ToInt16(text::SafeNumber(text::Right(app.platform.imaging.VersionText(), 4)))
             .value_or(0);
+}
+
+void FindMonitors(Application& app) {
+    picture::FillMonitorTable(app);
+    errno = 0;
+    const std::vector<platform::Rect> monitors = app.platform.monitors.Enumerate();
+    const int error = errno;
+    for (const platform::Rect& monitor : monitors) {
+        if (monitor.Empty()) {
+            app.platform.dialogs.Message(u"APIｴﾗｰｺｰﾄﾞ = " + text::FromUtf8(std::to_string(error)),
+                                         platform::kStop, u"パラピコ");
+        }
+    }
 }
 
 void ClearMacroSlots(Application& app) {
@@ -138,7 +153,7 @@ void StartInFullScreen(Application& app) {
 void Form1_Load(Application& app) {
     model::ShowState& state = app.state;
     state.PrimaryMonitor = 0;
-    picture::FillMonitorTable(app);
+    FindMonitors(app);
     state.MainBottomMargin = app.windows.form1.Height - kHeightWithoutMargin;
     ClearMacroSlots(app);
     SetDefaults(app);

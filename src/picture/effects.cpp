@@ -66,6 +66,12 @@ void RunShowEffect(Application& app) {
     }
 }
 
+void ShowAtOnce(Application& app) {
+    PlacePicture(app);
+    EffectScene(app).DrawWhole(platform::RasterOp::SourceCopy);
+    DrawOverlapFrame(app);
+}
+
 void RunEraseEffect(Application& app) {
     app.state.EffectStop = 0;
     if (!ErasesNothing(app.state)) {

@@ -11,6 +11,9 @@ namespace picture {
 /// the effect context.
 void RunShowEffect(Application& app);
 
+/// The same without an effect, and without running handlers.
+void ShowAtOnce(Application& app);
+
 /// Takes the picture off P2 by the effect that EraseEffect asks for (CurrentEraseEffect), clears
 /// P2 and gives up the effect context. Only the latter outside full screen, before the first
 /// slide of a window (EraseSkipOnce), for EraseEffect 12 and after a video. Runs handlers

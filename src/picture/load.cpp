@@ -123,8 +123,11 @@ bool LoadSlidePicture(Application& app) {
     if (lead.BitsPerPixel() != 24) {
         lead.SetColorResolution(24, 4, 0, 0);
     }
+    platform::ImagingControl& unscaled = *windows.form4.Lead2.imaging;
     if (state.SizeAdjust == 0 || state.SizeAdjust == 1 || state.OverlayMode >= 1) {
-        windows.form4.Lead2.imaging->CopyFrom(lead);
+        unscaled.CopyFrom(lead);
+    } else {
+        unscaled.Clear();  // or a later fit would bring an older picture back
     }
     if (fullScreen) {
         ClearCanvasForPicture(app);

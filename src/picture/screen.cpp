@@ -43,8 +43,12 @@ int MonitorOfMainWindow(Application& app) {
 platform::Rect MonitorTwips(Application& app, int index) {
     FillMonitorTable(app);
     const model::ShowState& state = app.state;
-    const auto known =
-        index >= 0 && index < state.MonitorCount ? static_cast<size_t>(index) : size_t{0};
+    const auto usable = [&state](int number) {
+        const auto i = static_cast<size_t>(number);
+        return number >= 0 && number < state.MonitorCount &&
+               state.MonitorRight[i] > state.MonitorLeft[i];
+    };
+    const auto known = usable(index) ? static_cast<size_t>(index) : size_t{0};
     const int left = state.MonitorLeft[known];
     const int top = state.MonitorTop[known];
     return {left, top, state.MonitorRight[known] - left, state.MonitorBottom[known] - top};

@@ -13,7 +13,7 @@ void FillMonitorTable(Application& app);
 int MonitorOfMainWindow(Application& app);
 
 /// Reads the table anew. Rectangle of monitor `index` in twips; of the primary one where that
-/// monitor is gone.
+/// monitor is gone or unknown to the system.
 platform::Rect MonitorTwips(Application& app, int index);
 
 /// Size in twips of the monitor in use (MonitorIndex).

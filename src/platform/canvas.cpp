@@ -81,14 +81,20 @@ void Canvas::Resize(int width, int height, Color fill) {
 }
 
 void Canvas::Fill(Color fill) {
-    std::fill(pixels_.pixels.begin(), pixels_.pixels.end(), ToPixel(fill));
-    Touch(Bounds(pixels_));
+    FillRect(Bounds(pixels_), fill);
 }
 
 void Canvas::FillRect(const Rect& area, Color fill) {
     const Rect inside = Intersection(area, Bounds(pixels_));
-    for (int y = inside.y; y < inside.y + inside.height; ++y) {
-        std::fill_n(pixels_.Row(y) + inside.x, inside.width, ToPixel(fill));
+    if (inside.Empty()) {
+        return;
+    }
+    // Copying is several times as fast as filling.
+    Pixel* first = pixels_.Row(inside.y) + inside.x;
+    std::fill_n(first, inside.width, ToPixel(fill));
+    for (int y = inside.y + 1; y < inside.y + inside.height; ++y) {
+        std::memcpy(pixels_.Row(y) + inside.x, first,
+                    static_cast<size_t>(inside.width) * sizeof(Pixel));
     }
     Touch(inside);
 }
@@ -161,6 +167,10 @@ void Canvas::BitBlt(int x, int y, int width, int height, const Bitmap* source, i
 void Canvas::StretchBlt(const Rect& target, const Bitmap& source) {
     const Rect inside = Intersection(target, Bounds(pixels_));
     if (inside.Empty() || source.Empty()) {
+        return;
+    }
+    if (target.width == source.width && target.height == source.height) {
+        BitBlt(target.x, target.y, target.width, target.height, &source, 0, 0);
         return;
     }
     if (&source == &pixels_) {

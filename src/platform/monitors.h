@@ -14,7 +14,8 @@ constexpr int kTwipsPerPixel = 15;
 class Monitors {
 public:
     virtual ~Monitors() = default;
-    /// At least one; the primary first.
+    /// At least one; the primary first. Empty rectangles stand for monitors that the system lists
+    /// but cannot describe.
     virtual std::vector<Rect> Enumerate() = 0;
     /// Index of the monitor that the main window is on; 0 when unknown.
     virtual int OfMainWindow() = 0;

@@ -22,22 +22,31 @@ namespace {
 
 constexpr int kKeyEscape = 27;
 
+bool MacroButtonsUp(const Application& app) {
+    return app.state.MacroButtonsShown == 1 || app.windows.slidescreen.Command1.Visible;
+}
+
 void UnloadWithEndMark(Application& app) {
     app.state.FullScreenEndMark = 1;
     app.windows.slidescreen.Unload();
     app.state.FullScreenEndMark = 0;
 }
 
-/// A show that ran in the main window, running or paused, moves to the full screen.
-void TakeOverRunningShow(Application& app) {
-    model::ShowState& state = app.state;
-    app.windows.SetPointer(model::kPointerArrowBusy);
+/// Clears the canvas and makes the picture on show ready for it at the size of its monitor.
+void FitToScreenAnew(Application& app) {
     app.windows.slidescreen.P2.SetPicture(nullptr);
     picture::ReleaseEffectContext(app);
     picture::RefitHeldPicture(app, true);
-    state.PreviousPictureOnScreen = 1;
     picture::CreateEffectContext(app);
+}
+
+/// A show that ran in the main window, running or paused, moves to the full screen.
+void TakeOverRunningShow(Application& app) {
+    app.windows.SetPointer(model::kPointerArrowBusy);
+    FitToScreenAnew(app);
+    app.state.PreviousPictureOnScreen = 1;
     picture::RunShowEffect(app);
+    CopyCanvasForMacros(app);
     app.windows.SetPointer(model::kPointerNormal);
     if (RunsForward(app)) {
         SetSlideInterval(app);
@@ -104,7 +113,7 @@ bool StartFromIdle(Application& app) {
         return false;
     }
     if (state.ControlBoxFlag == 0) {
-        if (state.MacroButtonsShown == 0) {
+        if (!MacroButtonsUp(app)) {
             app.windows.slidescreen2.Caption = u"START";
             app.windows.slidescreen2.Show();
         }
@@ -125,7 +134,7 @@ void Form_Activate(Application& app) {
     if (state.ShowRunning == 0 && state.SlideIndex == 0 && !StartFromIdle(app)) {
         return;
     }
-    if (state.MacroButtonsShown == 0) {
+    if (!MacroButtonsUp(app)) {
         BringUpControlBox(app);
     }
     if (state.StopRequest == 1 || state.FullScreenClosed == 1) {
@@ -218,10 +227,6 @@ void Form_Unload(Application& app) {
     ShowCaller(app);
 }
 
-bool MacroButtonsUp(Application& app) {
-    return app.state.MacroButtonsShown == 1 || app.windows.slidescreen.Command1.Visible;
-}
-
 void Screen_Click(Application& app) {
     NoteInput(app);
     if (app.state.MacroWaitClick == 1 || app.state.MacroCursorHidden == 1) {
@@ -266,9 +271,21 @@ void PlaceFullScreen(Application& app) {
 }
 
 void FollowMonitors(Application& app) {
-    if (app.windows.slidescreen.Loaded) {
-        PlaceFullScreen(app);
-        PlaceControlBox(app);
+    const model::ShowState& state = app.state;
+    const model::PictureBox& canvas = app.windows.slidescreen.P2;
+    if (!app.windows.slidescreen.Loaded) {
+        return;
+    }
+    const platform::Size before{canvas.ScaleWidth(), canvas.ScaleHeight()};
+    PlaceFullScreen(app);
+    PlaceControlBox(app);
+    const bool resized =
+        canvas.ScaleWidth() != before.width || canvas.ScaleHeight() != before.height;
+    // A step in progress goes on where it is; pictures piled up cannot be fitted again.
+    if (resized && state.EffectDcValid == 1 && state.StepBusy == 0 && state.OverlayMode == 0) {
+        FitToScreenAnew(app);
+        picture::ShowAtOnce(app);
+        CopyCanvasForMacros(app);
     }
 }
 

@@ -12,6 +12,7 @@ void AttachFullScreen(Application& app);
 void PlaceFullScreen(Application& app);
 
 /// After a monitor came, went or changed: puts the full screen, if it is up, where it belongs now.
+/// A picture that stands there alone is fitted to the new size; what macros drew on it goes.
 void FollowMonitors(Application& app);
 
 /// The full-screen button.

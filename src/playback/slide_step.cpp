@@ -131,7 +131,8 @@ void ShowInFullScreen(Application& app) {
     picture::RunShowEffect(app);
 }
 
-/// The clean copy for the macros; a scrolling label does not land in it.
+}  // namespace
+
 void CopyCanvasForMacros(Application& app) {
     model::Slidescreen& slidescreen = app.windows.slidescreen;
     if (app.state.FullScreenActive != 1 || app.state.TextMacroFlag != 0) {
@@ -141,14 +142,20 @@ void CopyCanvasForMacros(Application& app) {
     if (scrolling) {
         slidescreen.Label1.Visible = false;
         app.platform.loop.PumpEvents();
+        if (app.state.FullScreenActive != 1) {
+            return;
+        }
     }
     slidescreen.P4.canvas.StretchBlt(
         {0, 0, slidescreen.P4.ScaleWidth(), slidescreen.P4.ScaleHeight()},
         slidescreen.P2.canvas.Pixels());
-    if (scrolling) {
+    // The text may have run out in the pump.
+    if (scrolling && slidescreen.Timer1.Enabled) {
         slidescreen.Label1.Visible = true;
     }
 }
+
+namespace {
 
 void TraceSlide(Application& app) {
     const model::ShowState& state = app.state;

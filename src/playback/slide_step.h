@@ -10,4 +10,9 @@ namespace playback {
 /// ScheduleSkipped, ShowRunning and the interval of Timer1.
 void RunSlideStep(Application& app);
 
+/// Copies P2 to P4, the canvas without text, before macros draw on it. Only in full screen with
+/// text macros on. While Slidescreen.Timer1 scrolls a text its label is hidden for the copy, with
+/// one pump.
+void CopyCanvasForMacros(Application& app);
+
 }  // namespace playback

@@ -112,6 +112,19 @@ TEST(StartUp, ReadsTheVersionBehindTheImagingControlsName) {
     EXPECT_EQ(nameless.state.LeadVersion, 0);
 }
 
+TEST(StartUp, TellsOfAMonitorThatTheSystemCannotDescribe) {
+    Program program;
+    program.around.monitors.monitors = {{0, 0, 1280, 1024}, {}};
+    program.Run();
+    ASSERT_EQ(program.around.dialogs.messages.size(), 1u);
+    EXPECT_EQ(program.around.dialogs.messages[0].text, u"APIｴﾗｰｺｰﾄﾞ = 0")
+        << "no error of the system";
+    EXPECT_EQ(program.around.dialogs.messages[0].flags, 16);
+    EXPECT_EQ(program.state.MonitorCount, 2);
+    EXPECT_EQ(program.state.MonitorRight[0], 19200);
+    EXPECT_EQ(program.state.MonitorRight[1], 0);
+}
+
 TEST(StartUp, ReadsTheSoundListOfItsFolder) {
     Program program;
     program.around.PutText(u"C:\\app\\wavlist.dat", u"WAV3.4\r\n 2 \r\nC:\\s.mp3\r\nt.wav\r\n");

@@ -98,21 +98,63 @@ TEST(Monitors, OneUnpluggedBeforeTheShowIsNotUsed) {
     EXPECT_EQ(show.screen.Width, 28800);
 }
 
+TEST(Monitors, OneThatTheSystemCannotDescribeIsNotUsed) {
+    Show show;
+    show.monitors.monitors.push_back({});
+    show.monitors.ofMainWindow = 1;
+    StartInScreen(show);
+    EXPECT_EQ(show.screen.Width, 28800);
+    EXPECT_EQ(show.screen.P2.canvas.Height(), 1080);
+}
+
 TEST(Monitors, OneUnpluggedInMidShowHandsItOver) {
     Show show;
     UseSecondMonitor(show);
     show.state.ControlBoxFlag = 0;
+    show.files.Put(Show::PathOf(1), "PIC 3000 1500 FF0000");
     StartInScreen(show);
+    EXPECT_EQ(show.windows.form4.Picture1.ScaleWidth(), 1280);
     show.monitors.monitors.pop_back();
     show.monitors.ofMainWindow = 0;
     show.monitors.onChanged();
     EXPECT_EQ(show.screen.Left, 0);
     EXPECT_EQ(show.screen.Height, 16200);
     EXPECT_EQ(show.screen.P2.canvas.Width(), 1920);
+    EXPECT_EQ(show.windows.form4.Picture1.ScaleWidth(), 1920) << "from the unscaled picture";
+    EXPECT_EQ(show.state.PictureX, 0);
+    EXPECT_EQ(show.state.PictureY, 60);
+    EXPECT_EQ(show.screen.P2.canvas.Point(1919, 60), 0x0000FFu);
+    EXPECT_EQ(show.screen.P2.canvas.Point(1919, 59), 0u);
     EXPECT_EQ(show.windows.slidescreen2.Left, 28800 - show.windows.slidescreen2.Width);
     show.screen.Unload();
     show.monitors.onChanged();
     EXPECT_FALSE(show.screen.Loaded) << "nothing comes up by itself";
+}
+
+TEST(Monitors, OneUnpluggedLeavesAPileAndAnEffectInProgressAlone) {
+    for (const bool pile : {true, false}) {
+        Show show;
+        UseSecondMonitor(show);
+        show.state.OverlayMode = pile ? 1 : 0;
+        show.state.ShowEffect = pile ? 11 : 0;
+        const auto unplug = [&] {
+            show.monitors.monitors.pop_back();
+            show.monitors.ofMainWindow = 0;
+            show.monitors.onChanged();
+        };
+        if (!pile) {
+            show.loop.At(10, unplug);
+        }
+        StartInScreen(show);
+        if (pile) {
+            unplug();
+        }
+        EXPECT_EQ(show.screen.P2.canvas.Width(), 1920);
+        EXPECT_EQ(show.state.PictureX, 635);  // (1280 - 10) / 2, as it was
+        EXPECT_EQ(show.screen.P2.canvas.Point(640, 512), 0x808080u);
+        show.loop.Run(3500);
+        EXPECT_EQ(show.state.PictureX, 955) << "the next picture has its place by the monitor";
+    }
 }
 
 TEST(FullScreenStart, AsksBeforeTheFirstSlide) {
@@ -182,6 +224,20 @@ TEST(FullScreenStart, ShowsTheBoxBeforeTheFirstPicture) {
     EXPECT_EQ(buttons, "10100") << "close and PAUSE";
 }
 
+TEST(FullScreenStart, NoBoxComesUpOverMacroButtons) {
+    for (const bool menu : {true, false}) {
+        Show show;
+        show.state.ControlBoxFlag = 0;
+        show.state.ShowRunning = 1;  // a show is taken over: what macros placed stands
+        show.state.SlideIndex = 2;
+        playback::PlaceFullScreen(show.app);
+        show.state.MacroButtonsShown = menu ? 1 : 0;
+        show.screen.Command1.Visible = !menu;
+        show.screen.Show();
+        EXPECT_FALSE(show.windows.slidescreen2.Visible) << menu;
+    }
+}
+
 TEST(FullScreenStart, AFailingFirstSlideTakesTheWindowDown) {
     Show show;
     show.Break(1);
@@ -237,6 +293,33 @@ TEST(FullScreenButton, TakesARunningShowOver) {
     EXPECT_EQ(show.Shown(), Numbers{1}) << "the interval starts anew";
     show.loop.Run(1);
     EXPECT_EQ(show.Shown(), (Numbers{1, 2}));
+}
+
+TEST(FullScreenButton, WithoutSizeAdjustmentNoOlderPictureComesBack) {
+    Show show;
+    show.files.Put(Show::PathOf(2), "PIC 100 50 00FF00");
+    show.Start();
+    show.state.SizeAdjust = 2;  // nothing is kept for another fit
+    show.loop.Run(3500);
+    show.form1.Command4.Click();
+    EXPECT_EQ(show.screen.P2.canvas.Point(960, 540), 0x00FF00u);
+    EXPECT_EQ(show.windows.form4.Picture1.ScaleWidth(), 100);
+}
+
+TEST(FullScreenButton, ThePictureTakenOverStaysUnderTheNextOfAnOverlap) {
+    Show show;
+    show.files.Put(Show::PathOf(1), "PIC 400 300 FF0000");
+    show.files.Put(Show::PathOf(2), "PIC 100 50 00FF00");
+    show.state.OverlayMode = 1;
+    show.state.TextOriginScreen = 1;  // the canvas comes back from its copy without text
+    show.state.TextMacroFlag = 0;
+    show.Start();
+    show.loop.Run(1000);
+    show.form1.Command4.Click();
+    show.loop.Run(3000);
+    EXPECT_EQ(show.Shown(), (Numbers{1, 2}));
+    EXPECT_EQ(show.screen.P2.canvas.Point(960, 540), 0x00FF00u);
+    EXPECT_EQ(show.screen.P2.canvas.Point(960 - 190, 540), 0x0000FFu) << "red beside it";
 }
 
 TEST(FullScreenButton, APausedShowStaysPaused) {

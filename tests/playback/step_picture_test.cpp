@@ -116,6 +116,32 @@ TEST(StepFullScreen, AScrollingLabelDoesNotLandInTheCopy) {
     EXPECT_TRUE(show.screen.Label1.Visible);
 }
 
+TEST(StepFullScreen, AScrollingLabelStaysAwayWhenItEndsInThePumpOfTheCopy) {
+    for (const bool closed : {true, false}) {
+        Show show;
+        show.GoFullScreen();
+        show.state.ShowEffect = 11;
+        show.state.TextMacroFlag = 0;
+        show.screen.Timer1.Interval = 50;
+        show.screen.Timer1.Enabled = true;
+        show.screen.Label1.Visible = true;
+        show.screen.P4.canvas.Fill(0x00FF00);
+        show.loop.onPump = [&] {
+            if (show.screen.Label1.Visible) {
+                return;
+            }
+            if (closed) {
+                show.screen.Unload();
+            } else {
+                show.screen.Timer1.Enabled = false;
+            }
+        };
+        show.Step(1);
+        EXPECT_FALSE(show.screen.Label1.Visible) << closed;
+        EXPECT_EQ(show.screen.P4.canvas.Point(0, 0), closed ? 0x00FF00u : 0u);
+    }
+}
+
 TEST(StepFullScreen, TheTextOfTheSlideBeforeLeavesALayeredCanvas) {
     struct Setting {
         int16_t overlayMode, textOriginScreen, textMacroFlag;

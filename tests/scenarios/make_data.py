@@ -2,7 +2,8 @@
 """make_data.py FOLDER: pictures and show documents for the scenarios and user-interface tests.
 
 Pictures, all PNG: a (red), b (green), c (blue), d (yellow), e (white), 絵１ (magenta) of 320x240;
-wide (cyan) of 640x120, tall (grey) of 120x640. text.jpg and zero.png are no pictures.
+wide (cyan) of 640x120, tall (grey) of 120x640, pattern (neighbouring pixels differ) of 640x400,
+line (orange) of 40000x10, dot (white) of 1x1. text.jpg and zero.png are no pictures.
 Documents (3 s a slide, no effects, no sound, main window, unless said):
   five.kvs      a b c d e, stops at the end
   repeat.kvs    a b c, from the top again
@@ -15,6 +16,9 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   bad_first.kvs text.jpg, a
   only_bad.kvs  text.jpg alone
   full.kvs      a b c, START goes to the full screen
+  still.kvs     pattern for a minute, in full screen
+  still.kvl     still.kvs
+  extremes.kvs  line dot line e, in full screen, effects in turn
   effects.kvs   a b c as full.kvs, effects in turn, erased as shown
   failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
   names.kvs     絵１, wide, tall
@@ -53,11 +57,20 @@ BLANK_ROW = " " * 30
 
 
 def png(width, height, rgb):
+    return png_of_rows(width, height, (b"\0" + bytes(rgb) * width) * height)
+
+
+def pattern(width, height):
+    return png_of_rows(width, height, b"".join(
+        b"\0" + b"".join(bytes((x * 7 & 255, y * 5 & 255, (x ^ y) * 3 & 255)) for x in range(width))
+        for y in range(height)))
+
+
+def png_of_rows(width, height, rows):
     def chunk(kind, body):
         return (struct.pack(">I", len(body)) + kind + body
                 + struct.pack(">I", zlib.crc32(kind + body)))
 
-    rows = (b"\0" + bytes(rgb) * width) * height
     header = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
     return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header)
             + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
@@ -130,8 +143,10 @@ def main():
         "c.png": (320, 240, (0, 0, 255)), "d.png": (320, 240, (255, 255, 0)),
         "e.png": (320, 240, (255, 255, 255)), "絵１.png": (320, 240, (255, 0, 255)),
         "wide.png": (640, 120, (0, 255, 255)), "tall.png": (120, 640, (128, 128, 128)),
+        "line.png": (40000, 10, (255, 128, 0)), "dot.png": (1, 1, (255, 255, 255)),
     }
     files = {name: png(*what) for name, what in pictures.items()}
+    files["pattern.png"] = pattern(640, 400)
     files["zero.png"] = b""
     files["text.jpg"] = "これは絵ではない。\r\n".encode("cp932")
 
@@ -153,6 +168,10 @@ def main():
     files["only_bad.kvs"] = document(lines_of_show(["text.jpg"]))
     files["full.kvs"] = document(lines_of_show(five[:3], always_full=0))
     files["effects.kvs"] = document(lines_of_show(five[:3], always_full=0, effects=(10, 11)))
+    files["still.kvs"] = document(lines_of_show(["pattern.png"], interval=60000, always_full=0))
+    files["still.kvl"] = document(["1vue3167", "still.kvl", " 1 ", "still.kvs"])
+    files["extremes.kvs"] = document(lines_of_show(
+        ["line.png", "dot.png", "line.png", "e.png"], always_full=0, effects=(10, 11)))
     files["all.kvl"] = document(["1vue3167", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
     files["uautst.dat"] = document(
         ["KVSV3", " 1 ", " 0 ", " 0 ", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])

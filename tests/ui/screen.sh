@@ -3,13 +3,31 @@
 # Needs PARAPICO, PARAPICO_DATA, PARAPICO_SCRATCH. Sets `program` and `window`.
 
 limit=100  # tries of 0.2 s
+ground='#405060'  # of the screen where no window is
+
+# StartDisplay WxH: an X server of one's own, for what the common one cannot show.
+StartDisplay() {
+    mkdir -p "$PARAPICO_SCRATCH"
+    exec 3>"$PARAPICO_SCRATCH/display"
+    Xvfb -noreset -nolisten tcp -displayfd 3 -screen 0 "$1x24" 2>/dev/null &
+    server=$!
+    trap 'kill "$server" 2>/dev/null || true' EXIT
+    local try
+    for ((try = 0; try < limit; ++try)); do
+        if [[ -s $PARAPICO_SCRATCH/display ]]; then break; fi
+        sleep 0.2
+    done
+    DISPLAY=:$(<"$PARAPICO_SCRATCH/display")
+    export DISPLAY
+    xsetroot -solid "$ground"
+}
 
 StartProgram() {
-    rm -rf "$PARAPICO_SCRATCH"
+    rm -rf "$PARAPICO_SCRATCH/home"
     mkdir -p "$PARAPICO_SCRATCH"
     PARAPICO_HOME="$PARAPICO_SCRATCH/home" "$PARAPICO" "$@" >"$PARAPICO_SCRATCH/output" 2>&1 &
     program=$!
-    trap 'kill "$program" 2>/dev/null || true' EXIT
+    trap 'kill "$program" ${server:-} 2>/dev/null || true' EXIT
 }
 
 Fail() {
@@ -71,8 +89,34 @@ ExpectColor() {
     HasColor "$1" "$2" "$3" || Fail "$4: found $(ColorAt "$1" "$2")"
 }
 
+# Of the whole screen: position in pixels, colour.
+ScreenHas() {
+    local found
+    found=$(import -window root -crop "1x1+$1+$2" -depth 8 txt:- | grep -o '#[0-9A-F]\{6\}')
+    [[ ${found%%$'\n'*} == "$3" ]]
+}
+
+ExpectScreen() {
+    ScreenHas "$1" "$2" "$3" || Fail "at $1,$2 there is no $3: $4"
+}
+
+# ScreenShows PICTURE X Y: pixel by pixel, with its corner there.
+ScreenShows() {
+    local size
+    size=$(identify -format '%wx%h' "$1")
+    [[ $(import -window root -crop "$size+$2+$3" +repage png:- |
+        compare -metric AE - "$1" null: 2>&1) == 0 ]]
+}
+
+# The show asks before it starts; Enter means nothing once it runs.
+StartedShowShows() {
+    xdotool key Return
+    ScreenShows "$@"
+}
+
 CloseProgram() {
     kill "$program"
     wait "$program" 2>/dev/null || true
+    if [[ -n ${server:-} ]]; then kill "$server"; fi
     trap - EXIT
 }

@@ -73,9 +73,10 @@ std::vector<platform::Rect> QtMonitors::Enumerate() {
     for (const QScreen* screen : OrderedScreens()) {
         areas.push_back(PhysicalRect(*screen));
     }
-    if (areas.empty()) {
+    const auto unknown = [](const platform::Rect& area) { return area.Empty(); };
+    if (std::all_of(areas.begin(), areas.end(), unknown)) {
         // All monitors are unplugged for the moment; the program still needs one to reckon with.
-        areas.push_back({0, 0, 1920, 1080});
+        areas = {{0, 0, 1920, 1080}};
     }
     return areas;
 }

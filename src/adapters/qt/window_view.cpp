@@ -127,7 +127,8 @@ void WindowView::Build() {
         return;
     }
     root_->setObjectName(QString::fromStdString(window_.Name()));
-    fullScreen_ = root_->property("fullScreen").toBool();
+    // Not "fullScreen": every widget has a property of that name, which cannot be written.
+    fullScreen_ = root_->property("coversMonitor").toBool();
     ApplyWindowKind();
     root_->setAcceptDrops(true);
     if (auto* frame = qobject_cast<QMainWindow*>(root_.data())) {

@@ -1,7 +1,7 @@
 // One window on the screen: made from its form when first needed, tied to its model by names.
 // What a form can say beside its widgets, as dynamic properties:
 //   root   windowKind   "Frameless Tool StayOnTop NoFocus" in any choice
-//   root   fullScreen   covers the monitor that the model's place lies on, in physical pixels
+//   root   coversMonitor  covers the monitor that the model's place lies on, in physical pixels
 //   root   over         name of the window that this one stands above
 //   root   unseen       names of controls that are never shown
 //   canvas hostsObjects controls without a widget are made over this canvas when shown
