@@ -30,10 +30,10 @@ void ReadLinks(Application& app, LineReader& reader) {
 
 }  // namespace
 
-void ReadLinkDocument(Application& app, TextView path) {
+bool ReadLinkDocument(Application& app, TextView path) {
     auto content = OpenDocument(app, path);
     if (!content) {
-        return;
+        return false;
     }
     auto& pointer = app.windows.form1.MousePointer;
     pointer = model::kPointerBusy;
@@ -44,10 +44,11 @@ void ReadLinkDocument(Application& app, TextView path) {
         RefuseDocument(app, path);
         pointer = model::kPointerNormal;
         EndIfLoadingFromStart(app);
-        return;
+        return false;
     }
     app.windows.form9.Caption = u"ＫＶＳリンク - " + Text(path);
     pointer = model::kPointerNormal;
+    return true;
 }
 
 }  // namespace document

@@ -5,9 +5,9 @@
 
 namespace document {
 
-/// Reads the document into Form9's list; the caller sets BaseFolder first. Failures as with show
-/// documents: the platform's words, or the message of a refused file (ProgramEnd while
-/// LoadingFromStart is 1).
-void ReadLinkDocument(Application& app, TextView path);
+/// Reads the document into Form9's list; the caller sets BaseFolder first. False after a failure,
+/// which is told as with show documents: the platform's words, or the message of a refused file
+/// (ProgramEnd while LoadingFromStart is 1).
+bool ReadLinkDocument(Application& app, TextView path);
 
 }  // namespace document

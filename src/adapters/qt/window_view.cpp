@@ -339,7 +339,14 @@ void WindowView::FollowPlace() {
     const int y = ToPixels(window_.Top);
     QPoint place = FromPhysical(x, y);
     const QScreen* screen = ScreenAt(x, y);
-    if (screen && root_->property("over").isValid()) {
+    if (screen && screen->devicePixelRatio() != 1.0 && !root_->property("over").isValid()) {
+        // The program reckons with the monitor's pixels: where it put the middle, it stays.
+        const QPoint half(ToPixels(window_.Width) / 2, ToPixels(window_.Height) / 2);
+        const QRect free = screen->availableGeometry();
+        place = FromPhysical(x + half.x(), y + half.y()) - half;
+        place.setX(std::max(free.x(), place.x()));
+        place.setY(std::max(free.y(), place.y()));
+    } else if (screen && root_->property("over").isValid()) {
         // Sizes are counted in other units than the monitor's pixels on a scaled screen.
         const QRect area = screen->geometry();
         place.setX(std::min(place.x(), area.x() + area.width() - root_->width()));
