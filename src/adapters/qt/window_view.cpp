@@ -438,6 +438,11 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
             }
             return true;
         }
+        case QEvent::ApplicationPaletteChange:
+            // Later: the toolkit is still telling its widgets.
+            QMetaObject::invokeMethod(
+                this, [this] { TakeNewColors(); }, Qt::QueuedConnection);
+            return false;
         case QEvent::DragEnter:
             if (window_.FilesDropped && HasFiles(*static_cast<QDropEvent*>(event))) {
                 static_cast<QDropEvent*>(event)->acceptProposedAction();
@@ -460,6 +465,17 @@ void WindowView::Resized() {
             window_.ResizeTo(size.width() * platform::kTwipsPerPixel,
                              size.height() * platform::kTwipsPerPixel);
         });
+    }
+}
+
+/// Widgets with a style sheet keep the colours they were made with, until the sheet is set again.
+void WindowView::TakeNewColors() {
+    for (QWidget* widget : root_->findChildren<QWidget*>() << root_.data()) {
+        const QString sheet = widget->styleSheet();
+        if (!sheet.isEmpty()) {
+            widget->setStyleSheet(QString());
+            widget->setStyleSheet(sheet);
+        }
     }
 }
 
