@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QDBusInterface>
+#include <QDBusConnectionInterface>
 #include <QDBusReply>
 #include <QDialog>
 

@@ -85,6 +85,8 @@ ColorScheme::~ColorScheme() {
 }
 
 void ColorScheme::Ask(QDBusConnection bus) {
+    // Known by its name only once it was used, and the slot is found by names.
+    qRegisterMetaType<QDBusVariant>();
     bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(SettingChanged(QString, QString, QDBusVariant)));
     QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kInterface, "Read");
