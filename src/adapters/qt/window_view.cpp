@@ -470,7 +470,9 @@ void WindowView::Resized() {
 
 /// Widgets with a style sheet keep the colours they were made with, until the sheet is set again.
 void WindowView::TakeNewColors() {
-    for (QWidget* widget : root_->findChildren<QWidget*>() << root_.data()) {
+    QList<QWidget*> widgets = root_->findChildren<QWidget*>();
+    widgets += root_.data();
+    for (QWidget* widget : widgets) {
         const QString sheet = widget->styleSheet();
         if (!sheet.isEmpty()) {
             widget->setStyleSheet(QString());
