@@ -66,9 +66,9 @@ KINDS
 printf 'vuelta al mundo\r\n' >"$scratch/nameless"
 Expect "kind of a letter" "$(ContentType "$scratch/nameless")" text/plain
 for kind in "$show" "$link"; do
-    PATH=$prefix/bin:$PATH XDG_DATA_DIRS=$share XDG_DATA_HOME=$scratch/none \
-        XDG_CONFIG_HOME=$scratch/none XDG_CONFIG_DIRS=$scratch/none gio mime "$kind" |
-        grep -q 'parapico\.desktop' || Fail "no program opens $kind"
+    openers=$(PATH=$prefix/bin:$PATH XDG_DATA_DIRS=$share XDG_DATA_HOME=$scratch/none \
+        XDG_CONFIG_HOME=$scratch/none XDG_CONFIG_DIRS=$scratch/none gio mime "$kind")
+    [[ $openers == *parapico.desktop* ]] || Fail "no program opens $kind"
 done
 
 echo "-- the installed program"
@@ -77,7 +77,7 @@ echo quit >"$scratch/quit.robot"
 QT_QPA_PLATFORM=offscreen "$prefix/bin/parapico" --robot "$scratch/quit.robot" \
     --app-folder "$scratch/home"
 [[ -f $scratch/home/only-here.txt ]] || Fail "the program folder is not filled from the installed files"
-! ldd "$prefix/bin/parapico" | grep 'not found' || Fail "a library is missing"
+[[ $(ldd "$prefix/bin/parapico") != *"not found"* ]] || Fail "a library is missing"
 
 echo "-- the Debian package"
 (cd "$scratch" && cpack -G DEB --config "$build/CPackConfig.cmake" -B "$scratch/package") \
