@@ -6,7 +6,9 @@ limit=100  # tries of 0.2 s
 
 StartProgram() {
     rm -rf "$PARAPICO_SCRATCH"
-    mkdir -p "$PARAPICO_SCRATCH"
+    mkdir -p "$PARAPICO_SCRATCH/home"
+    # The size that the clicks' places belong to, whatever the monitor has room for.
+    printf 'window1\r\n 840 \r\n 586 \r\n 0 \r\n' >"$PARAPICO_SCRATCH/home/window.dat"
     PARAPICO_HOME="$PARAPICO_SCRATCH/home" "$PARAPICO" "$@" >"$PARAPICO_SCRATCH/output" 2>&1 &
     program=$!
     trap 'kill "$program" 2>/dev/null || true' EXIT
