@@ -199,6 +199,23 @@ TEST_F(Player, ASecondProgramTakesANameOfItsOwn) {
     EXPECT_TRUE(WaitUntil([&] { return desktop.interface()->isServiceRegistered(name).value(); }));
 }
 
+TEST(SessionBus, TellsEveryoneOnceWhetherEarlyOrLate) {
+    TestBus daemon;
+    qt_adapter::SessionBus bus(daemon.address);
+    QObject early, late;
+    int earlyTold = 0, lateTold = 0;
+    bus.WhenConnected(early, [&](const QDBusConnection& connection) {
+        ++earlyTold;
+        EXPECT_TRUE(connection.isConnected());
+    });
+    ASSERT_TRUE(WaitUntil([&] { return earlyTold > 0; }));
+    bus.WhenConnected(late, [&](const QDBusConnection&) { ++lateTold; });
+    EXPECT_TRUE(WaitUntil([&] { return lateTold > 0; }));
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    EXPECT_EQ(earlyTold, 1);
+    EXPECT_EQ(lateTold, 1);
+}
+
 TEST(MediaPlayer, WithoutABusNothingHappens) {
     model::Windows windows;
     qt_adapter::Gate gate;

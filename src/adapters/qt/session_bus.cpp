@@ -1,6 +1,7 @@
 #include "adapters/qt/session_bus.h"
 
 #include <QFileInfo>
+#include <utility>
 
 namespace qt_adapter {
 
@@ -51,16 +52,16 @@ void SessionBus::WhenConnected(QObject& receiver, std::function<void(QDBusConnec
     if (!thread_) {
         return;
     }
-    QObject::connect(
-        thread_.get(), &QThread::finished, &receiver,
-        [name = name_, then = std::move(then)] {
-            const QDBusConnection bus(name);
-            if (bus.isConnected()) {
-                then(bus);
-            }
-        },
-        Qt::QueuedConnection);
-    if (!thread_->isRunning() && !thread_->isFinished()) {
+    const auto tell = [name = name_, told = std::make_shared<bool>(false), then = std::move(then)] {
+        const QDBusConnection bus(name);
+        if (!std::exchange(*told, true) && bus.isConnected()) {
+            then(bus);
+        }
+    };
+    QObject::connect(thread_.get(), &QThread::finished, &receiver, tell, Qt::QueuedConnection);
+    if (thread_->isFinished()) {
+        QMetaObject::invokeMethod(&receiver, tell, Qt::QueuedConnection);  // nobody would say it
+    } else if (!thread_->isRunning()) {
         thread_->start();
     }
 }
