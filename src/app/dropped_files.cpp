@@ -35,8 +35,8 @@ void PlayLinkList(Application& app, const Text& path) {
 
 void Form1_FilesDropped(Application& app, const std::vector<Text>& files) {
     // The entry is hidden while a show is under way.
-    const bool mayOpen =
-        app.windows.form1.mnuOPEN.Visible && app.windows.Pointer() == model::kPointerNormal;
+    const bool mayOpen = app.windows.form1.mnuOPEN.Visible && app.state.StepBusy != 1 &&
+                         app.windows.Pointer() == model::kPointerNormal;
     if (!mayOpen || files.empty()) {
         return;
     }

@@ -4,7 +4,7 @@
 drop Form1 all.kvl
 expect Slidescreen.Visible true
 expect LinkRunning 1
-expect LinkList ["one.kvs", "repeat.kvs"]
+expect LinkEnd 3
 @12001 expect Slidescreen.Visible false
 expect LinkRunning 0
 expect Form1.Visible true
