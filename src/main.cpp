@@ -130,7 +130,7 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     around.system.textOpener = [](TextView path) { return qt_adapter::Desktop::OpenText(path); };
     windows.Attach(application.windows);
     const Views views(desktop, application);
-    return RunUntilEnd(application, {CommandText(document), true});
+    return RunUntilEnd(application, {CommandText(document), true, true});
 }
 
 int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {

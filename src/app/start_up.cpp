@@ -2,12 +2,16 @@
 
 #include <cerrno>
 
+#include "app/dropped_files.h"
 #include "app/exit.h"
 #include "app/keep_awake.h"
+#include "app/link_start.h"
 #include "app/main_menus.h"
 #include "app/play_menu.h"
+#include "app/slide_count.h"
 #include "app/timers.h"
 #include "app/title_screen.h"
+#include "app/window_size.h"
 #include "document/link_document.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
@@ -114,20 +118,11 @@ void ReadCommandLineDocument(Application& app) {
 }
 
 void TakeLinkListAtStart(Application& app) {
-    model::ShowState& state = app.state;
-    const model::ListBox& list = app.windows.form9.List1;
-    const bool automatic =
-        list.ListCount() > 0 && state.LinkAutoFlag == 1 && state.CommandLineKind == 0;
-    if (!automatic && state.CommandLineKind != 2) {
-        return;
-    }
-    state.LinkList.Erase();
-    for (int row = 0; row < list.ListCount(); ++row) {
-        state.LinkList.Set(row + 1, list.List(row));
-    }
-    state.LinkEnd = static_cast<int16_t>(list.ListCount() + 1);
-    if (!state.LinkList(1).empty()) {
-        state.LinkRunning = 1;
+    const model::ShowState& state = app.state;
+    const bool automatic = app.windows.form9.List1.ListCount() > 0 && state.LinkAutoFlag == 1 &&
+                           state.CommandLineKind == 0;
+    if (automatic || state.CommandLineKind == 2) {
+        TakeLinkList(app);
     }
 }
 
@@ -150,13 +145,15 @@ void StartInFullScreen(Application& app) {
     app.windows.slidescreen.Show();
 }
 
-void Form1_Load(Application& app) {
+void Form1_Load(Application& app, bool roomy) {
     model::ShowState& state = app.state;
     state.PrimaryMonitor = 0;
     FindMonitors(app);
     state.MainBottomMargin = app.windows.form1.Height - kHeightWithoutMargin;
     ClearMacroSlots(app);
     SetDefaults(app);
+    // Behind the margin, which belongs to the window as it is declared.
+    RestoreWindowSize(app, roomy);
     CentreOnScreen(app);
     SetStartButtons(app);
     ReadStateFiles(app);
@@ -179,6 +176,7 @@ void Form1_Resize(Application& app) {
         app.state.IgnoreNextResize = 0;
         return;
     }
+    NoteWindowSize(app);
     picture::SizePreview(app);
     ShowTitleScreen(app);
 }
@@ -212,6 +210,7 @@ void RunProgram(Application& application, const StartOptions& options) {
     model::Form1& form1 = application.windows.form1;
     TimerRunner timers(application);
     const KeepAwake keepAwake(application);
+    const SlideCount slideCount(application);
     const CommandLine command = ReadCommandLine(options.commandText);
     application.state.CommandLineArg = command.argument;
     application.state.CommandLineKind = command.kind;
@@ -222,10 +221,14 @@ void RunProgram(Application& application, const StartOptions& options) {
     picture::AttachVideoWindow(application);
     AttachMainMenus(application);
     const PlayMenu playMenu(application);
-    form1.OnLoad = [&] { Form1_Load(application); };
+    AttachDroppedFiles(application);
+    form1.OnLoad = [&] { Form1_Load(application, options.roomy); };
     form1.OnResize = [&] { Form1_Resize(application); };
     form1.OnActivate = [&] { Form1_Activate(application); };
-    form1.OnUnload = [&] { ExitProgram(application); };
+    form1.OnUnload = [&] {
+        KeepWindowSize(application);
+        ExitProgram(application);
+    };
     form1.Load();
     if (StartsByItself(application)) {
         StartInFullScreen(application);

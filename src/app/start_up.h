@@ -17,7 +17,8 @@ CommandLine ReadCommandLine(TextView commandText);
 
 struct StartOptions {
     Text commandText;
-    bool title = true;  // show the title screen
+    bool title = true;   // show the title screen
+    bool roomy = false;  // a first window takes a large share of the monitor
 };
 
 /// Runs the program: attaches the handlers, loads the main window, waits for the user.

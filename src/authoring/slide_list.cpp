@@ -101,12 +101,16 @@ bool OpenDocument(Application& app) {
     if (!path) {
         return false;
     }
-    model::Form3& form3 = app.windows.form3;
-    app.state.BaseFolder = text::FolderPart(*path);
-    DisableLinkedFileButtons(form3);
-    document::ReadShowDocument(app, *path);
-    form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
+    OpenDocument(app, *path);
     return true;
+}
+
+void OpenDocument(Application& app, TextView path) {
+    model::Form3& form3 = app.windows.form3;
+    app.state.BaseFolder = text::FolderPart(path);
+    DisableLinkedFileButtons(form3);
+    document::ReadShowDocument(app, path);
+    form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
 }
 
 void SaveDocument(Application& app) {

@@ -11,6 +11,8 @@ void NewDocument(Application& app);
 /// Asks for a show document and reads it. False on cancel: then nothing has changed. True tells
 /// that one was chosen; a refused one leaves ShowAbort at 1 and perhaps an empty list.
 bool OpenDocument(Application& app);
+/// The same for a document that was chosen already.
+void OpenDocument(Application& app, TextView path);
 
 /// Ask for a path and write the document; refused with a message while the list is empty.
 void SaveDocument(Application& app);

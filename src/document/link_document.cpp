@@ -39,10 +39,10 @@ void TakeIdentity(Application& app, TextView path) {
 
 }  // namespace
 
-void ReadLinkDocument(Application& app, TextView path) {
+bool ReadLinkDocument(Application& app, TextView path) {
     auto content = OpenDocument(app, path);
     if (!content) {
-        return;
+        return false;
     }
     auto& pointer = app.windows.form1.MousePointer;
     pointer = model::kPointerBusy;
@@ -53,10 +53,11 @@ void ReadLinkDocument(Application& app, TextView path) {
         RefuseDocument(app, path);
         pointer = model::kPointerNormal;
         EndIfLoadingFromStart(app);
-        return;
+        return false;
     }
     TakeIdentity(app, path);
     pointer = model::kPointerNormal;
+    return true;
 }
 
 void WriteLinkDocument(Application& app, TextView requestedPath) {

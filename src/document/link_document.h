@@ -6,9 +6,10 @@
 namespace document {
 
 /// Reads the document into Form9's list; the caller sets BaseFolder first. Sets LinkDocumentPath,
-/// LinkDocumentName and the window's caption. Failures as with show documents: the platform's
-/// words, or the message of a refused file (ProgramEnd while LoadingFromStart is 1).
-void ReadLinkDocument(Application& app, TextView path);
+/// LinkDocumentName and the window's caption. False after a failure, which is told as with show
+/// documents: the platform's words, or the message of a refused file (ProgramEnd while
+/// LoadingFromStart is 1).
+bool ReadLinkDocument(Application& app, TextView path);
 
 /// Writes Form9's list, whole or not at all; names without folders when DistributionSaveFlag is 1.
 /// Adds ".kvl" to a path without extension. Sets path, name and caption as reading does. A failure

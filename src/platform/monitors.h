@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/canvas.h"
+#include "platform/imaging.h"
 
 namespace platform {
 
@@ -19,6 +20,9 @@ public:
     virtual std::vector<Rect> Enumerate() = 0;
     /// Index of the monitor that the main window is on; 0 when unknown.
     virtual int OfMainWindow() = 0;
+    /// Largest size of a window on the primary monitor, without the desktop's panels and the
+    /// window's frame, in the units of windows: pixels before the desktop scales them.
+    virtual Size Room() = 0;
     /// Asks the desktop to neither blank nor lock the monitors until asked with false. Returns at
     /// once; a desktop that cannot do it is nobody's business.
     virtual void KeepAwake(bool on) = 0;

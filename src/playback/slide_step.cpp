@@ -102,6 +102,7 @@ Next ShowVideo(Application& app) {
     state.CurrentName = text::BareName(path);
     windows.slidescreen2.Caption = state.CurrentName;
     windows.form1.Caption = state.CurrentName;
+    windows.form1.ShownSlide = state.SlideIndex;
     StartSoundBesideVideo(app);
     picture::PlayVideo(app, path);
     state.LastWasVideo = 1;
@@ -189,6 +190,7 @@ Next ShowPicture(Application& app) {
     state.ResetScreenOnce = 0;
     app.windows.SetPointer(model::kPointerNormal);
     state.MacroEndShow = 0;
+    app.windows.form1.ShownSlide = state.SlideIndex;
     TraceSlide(app);
     CopyCanvasForMacros(app);
     if (state.LinkedSoundPosition == 1) {

@@ -208,6 +208,7 @@ void ClearRun(Application& app) {
     state.CdProgramPosition = 0;
     state.ShowRunning = 0;
     state.SlideIndex = 0;
+    app.windows.form1.ShownSlide = 0;
     app.windows.form1.Timer1.Enabled = false;
     picture::ClearPreview(app);
 }

@@ -362,6 +362,32 @@ TEST_F(Views, ShotShowsTheCanvasAsItIsNow) {
     EXPECT_FALSE(desktop.Shot(windows.form4, file)) << "a window without a form";
 }
 
+TEST_F(Views, NewColorsOfTheDesktopReachEveryWidget) {
+    windows.form1.SlideCount.Caption = u"1 / 2";
+    windows.form1.Visible = true;
+    windows.slidescreen2.Visible = true;
+    QPalette dark;
+    dark.setColor(QPalette::Window, Qt::black);
+    dark.setColor(QPalette::WindowText, Qt::green);
+    dark.setColor(QPalette::ButtonText, Qt::green);
+    const std::vector<model::Control*> controls{&windows.form1.SlideCount, &windows.form1.Command6,
+                                                &windows.slidescreen2.Command3};
+    const auto ink = [&](model::Control& control) {
+        const QWidget* widget = WidgetOf(control);
+        return widget->palette().color(widget->foregroundRole());
+    };
+    QApplication::setPalette(dark);
+    desktop.Loop().PumpEvents();
+    for (model::Control* control : controls) {
+        EXPECT_EQ(ink(*control), QColor(Qt::green)) << control->Name();
+    }
+    QApplication::setPalette(QPalette());
+    desktop.Loop().PumpEvents();
+    for (model::Control* control : controls) {
+        EXPECT_LT(ink(*control).lightness(), 80) << control->Name();
+    }
+}
+
 TEST_F(Views, MainWindowCanBeMadeSmallerThanItsPicture) {
     windows.form1.Picture1.SetSize(12000, 6750);
     windows.form1.Visible = true;

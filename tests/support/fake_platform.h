@@ -72,6 +72,7 @@ public:
     int ofMainWindow = 0;
     std::vector<platform::Rect> Enumerate() override { return monitors; }
     int OfMainWindow() override { return ofMainWindow; }
+    platform::Size Room() override { return {monitors[0].width, monitors[0].height}; }
     std::vector<bool> awake;  // every KeepAwake, in order
     void KeepAwake(bool on) override { awake.push_back(on); }
 };

@@ -24,7 +24,9 @@ StartDisplay() {
 
 StartProgram() {
     rm -rf "$PARAPICO_SCRATCH/home"
-    mkdir -p "$PARAPICO_SCRATCH"
+    mkdir -p "$PARAPICO_SCRATCH/home"
+    # The size that the clicks' places belong to, whatever the monitor has room for.
+    printf 'window1\r\n 840 \r\n 586 \r\n 0 \r\n' >"$PARAPICO_SCRATCH/home/window.dat"
     PARAPICO_HOME="$PARAPICO_SCRATCH/home" "$PARAPICO" "$@" >"$PARAPICO_SCRATCH/output" 2>&1 &
     program=$!
     trap 'kill "$program" ${server:-} 2>/dev/null || true' EXIT

@@ -73,6 +73,7 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
                      pixels.height, pixels.width * static_cast<qsizetype>(sizeof(platform::Pixel)),
                      QImage::Format_RGB32);
         image.setDevicePixelRatio(scale);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);  // on a scaled screen
         // The painter is clipped to what must be painted.
         painter.drawImage(QPoint(0, 0), image);
     }

@@ -12,12 +12,15 @@
 #include <cstdlib>
 
 #include "adapters/qt/convert.h"
+#include "adapters/qt/color_scheme.h"
 #include "adapters/qt/form_loader.h"
 #include "adapters/qt/gate.h"
+#include "adapters/qt/media_player.h"
 #include "adapters/qt/qt_dialogs.h"
 #include "adapters/qt/qt_loop.h"
 #include "adapters/qt/qt_monitors.h"
 #include "adapters/qt/qt_text_renderer.h"
+#include "adapters/qt/session_bus.h"
 #include "adapters/qt/window_view.h"
 
 namespace qt_adapter {
@@ -128,6 +131,10 @@ struct Desktop::Parts {
     QtTextRenderer textRenderer;
     std::unique_ptr<FormLoader> loader;
     std::vector<std::unique_ptr<WindowView>> views;
+    // Only on a real desktop.
+    std::unique_ptr<SessionBus> bus;
+    std::unique_ptr<ColorScheme> colors;
+    std::unique_ptr<MediaPlayer> player;
     QObject watcher;  // goes first: its connections end with it
 };
 
@@ -149,6 +156,10 @@ Desktop::Desktop(int& argc, char** argv, const Options& options)
     ChooseFont();
     if (options.screens.empty()) {
         parts_->WatchScreens();
+    }
+    if (!options.offscreen) {
+        parts_->bus = std::make_unique<SessionBus>();
+        parts_->colors = std::make_unique<ColorScheme>(*parts_->bus);
     }
 }
 
@@ -183,10 +194,14 @@ void Desktop::MakeViews(model::Windows& windows) {
             window->HasView = true;
         }
     }
+    if (parts_->bus) {
+        parts_->player = std::make_unique<MediaPlayer>(windows, parts_->gate, *parts_->bus);
+    }
 }
 
 void Desktop::UnmakeViews() {
     const Gate::Mute mute(parts_->gate);
+    parts_->player.reset();
     // Backwards: windows that stand over others go before them.
     while (!parts_->views.empty()) {
         parts_->views.back()->Window().HasView = false;

@@ -12,6 +12,8 @@ namespace qt_adapter {
 
 namespace {
 
+constexpr int kTitleBarHeight = 36;  // pixels; no window tells before it is shown
+
 /// Primary first, the others as the system counts them.
 QList<QScreen*> OrderedScreens() {
     QList<QScreen*> screens = QGuiApplication::screens();
@@ -87,6 +89,16 @@ int QtMonitors::OfMainWindow() {
         return 0;
     }
     return static_cast<int>(std::max<qsizetype>(0, OrderedScreens().indexOf(window->screen())));
+}
+
+platform::Size QtMonitors::Room() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screens_.empty() || !screen) {
+        const platform::Rect area = Enumerate().front();
+        return {area.width, area.height};
+    }
+    const QSize free = screen->availableSize();
+    return {free.width(), free.height() - kTitleBarHeight};
 }
 
 void QtMonitors::KeepAwake(bool on) {

@@ -32,6 +32,7 @@ public:
     ~QtMonitors() override;
     std::vector<platform::Rect> Enumerate() override;
     int OfMainWindow() override;
+    platform::Size Room() override;
     /// Nothing happens when other monitors than the real ones are reported.
     void KeepAwake(bool on) override;
 

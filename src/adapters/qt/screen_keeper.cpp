@@ -3,9 +3,10 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QFileInfo>
 #include <QVariantMap>
 #include <optional>
+
+#include "adapters/qt/session_bus.h"
 
 namespace qt_adapter {
 
@@ -14,13 +15,6 @@ namespace {
 constexpr int kReplyTimeoutMs = 2000;
 constexpr unsigned long kLeaveTimeoutMs = 500;
 constexpr uint kPortalInhibitIdle = 8;
-
-/// Without one the bus library would start a bus of its own.
-bool HasSessionBus() {
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-           (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR") &&
-            QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"));
-}
 
 QDBusMessage ScreenSaverCall(const QString& method) {
     QDBusMessage call = QDBusMessage::createMethodCall("org.freedesktop.ScreenSaver",

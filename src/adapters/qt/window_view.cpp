@@ -341,7 +341,14 @@ void WindowView::FollowPlace() {
     const int y = ToPixels(window_.Top);
     QPoint place = FromPhysical(x, y);
     const QScreen* screen = ScreenAt(x, y);
-    if (screen && root_->property("over").isValid()) {
+    if (screen && screen->devicePixelRatio() != 1.0 && !root_->property("over").isValid()) {
+        // The program reckons with the monitor's pixels: where it put the middle, it stays.
+        const QPoint half(ToPixels(window_.Width) / 2, ToPixels(window_.Height) / 2);
+        const QRect free = screen->availableGeometry();
+        place = FromPhysical(x + half.x(), y + half.y()) - half;
+        place.setX(std::max(free.x(), place.x()));
+        place.setY(std::max(free.y(), place.y()));
+    } else if (screen && root_->property("over").isValid()) {
         // Sizes are counted in other units than the monitor's pixels on a scaled screen.
         const QRect area = screen->geometry();
         place.setX(std::min(place.x(), area.x() + area.width() - root_->width()));
@@ -433,6 +440,11 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
             }
             return true;
         }
+        case QEvent::ApplicationPaletteChange:
+            // Later: the toolkit is still telling its widgets.
+            QMetaObject::invokeMethod(
+                this, [this] { TakeNewColors(); }, Qt::QueuedConnection);
+            return false;
         case QEvent::DragEnter:
             if (window_.FilesDropped && HasFiles(*static_cast<QDropEvent*>(event))) {
                 static_cast<QDropEvent*>(event)->acceptProposedAction();
@@ -455,6 +467,19 @@ void WindowView::Resized() {
             window_.ResizeTo(size.width() * platform::kTwipsPerPixel,
                              size.height() * platform::kTwipsPerPixel);
         });
+    }
+}
+
+/// Widgets with a style sheet keep the colours they were made with, until the sheet is set again.
+void WindowView::TakeNewColors() {
+    QList<QWidget*> widgets = root_->findChildren<QWidget*>();
+    widgets += root_.data();
+    for (QWidget* widget : widgets) {
+        const QString sheet = widget->styleSheet();
+        if (!sheet.isEmpty()) {
+            widget->setStyleSheet(QString());
+            widget->setStyleSheet(sheet);
+        }
     }
 }
 

@@ -69,6 +69,7 @@ private:
     void FollowCaption();
 
     void Resized();
+    void TakeNewColors();
     void StateChangedByPerson();
     void Dropped(const QDropEvent& event);
 

@@ -18,6 +18,7 @@ public:
     void Follow(const model::Window* mainWindow) { mainWindow_ = mainWindow; }
 
     std::vector<platform::Rect> Enumerate() override { return monitors_; }
+    platform::Size Room() override { return {monitors_.front().width, monitors_.front().height}; }
     int OfMainWindow() override;
     void KeepAwake(bool) override {}
 

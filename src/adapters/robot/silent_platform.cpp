@@ -28,6 +28,7 @@ class OneMonitor : public platform::Monitors {
 public:
     std::vector<platform::Rect> Enumerate() override { return {{0, 0, 1920, 1080}}; }
     int OfMainWindow() override { return 0; }
+    platform::Size Room() override { return {1920, 1080}; }
     void KeepAwake(bool) override {}
 };
 
