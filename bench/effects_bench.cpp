@@ -61,7 +61,8 @@ int main(int argc, char** argv) {
     robot::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     Application app({desktop.Loop(), rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
-                     desktop.TextRenderer(), rest.sound, rest.system, trace, rest.codePage});
+                     desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,
+                     rest.codePage});
     model::SetStartDefaults(app.state);
     app.state.EffectSpeedFactor = 2;
     app.state.FullScreenActive = 1;

@@ -14,6 +14,7 @@
 #include "adapters/qt/desktop.h"
 #include "adapters/robot/devices.h"
 #include "adapters/robot/inspect.h"
+#include "adapters/robot/no_video.h"
 #include "adapters/robot/options.h"
 #include "adapters/robot/robot.h"
 #include "adapters/robot/script.h"
@@ -114,10 +115,11 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     Surroundings around{std::string()};
     robot::TracedDialogs dialogs(desktop.Dialogs(), *trace);
     robot::RobotSound sound(*trace);  // silent: devices are not built yet
+    robot::NoVideo video;
     robot::WindowTracer windows(*trace);
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
-                             around.imaging, desktop.TextRenderer(), sound, around.system, *trace,
-                             around.codePage});
+                             around.imaging, desktop.TextRenderer(), sound, video, around.system,
+                             *trace, around.codePage});
     windows.Attach(application.windows);
     const Views views(desktop, application);
     return RunUntilEnd(application, {CommandText(document), true});
@@ -142,7 +144,7 @@ int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
         Surroundings around(robot.AppFolder());
         Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
                                  around.imaging, desktop.TextRenderer(), robot.Sound(),
-                                 around.system, *trace, around.codePage});
+                                 robot.Video(), around.system, *trace, around.codePage});
         const Views views(desktop, application);
         robot.Attach(application, [&](model::Window& window, const std::string& file) {
             return desktop.Shot(window, file);

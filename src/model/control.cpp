@@ -194,6 +194,9 @@ int PictureBox::ScaleHeight() const {
     return autoSize_ ? (picture_ ? picture_->height : 0) : canvas.Height();
 }
 
+Player::Player(Window* window, std::string name)
+    : VisibleControl(window, ControlKind::Player, std::move(name)) {}
+
 Timer::Timer(Window* window, std::string name, int interval, bool enabled)
     : Control(window, ControlKind::Timer, std::move(name)),
       Interval(*this, "Interval", interval),

@@ -53,6 +53,7 @@ enum class ControlKind {
     Calendar,
     ScrollBar,
     Frame,
+    Player,
     Imaging
 };
 
@@ -204,6 +205,16 @@ public:
 private:
     bool autoSize_;
     platform::BitmapPtr picture_;
+};
+
+/// Shows what the program's video player plays (platform::Video).
+class Player : public VisibleControl {
+public:
+    Player(Window* window, std::string name);
+    Property<Text> uiMode{*this, "uiMode"};  // "none": without buttons of its own
+    Property<Text> URL{*this, "URL"};        // full path of the file that is or was open
+    Event<> Click;
+    Event<int> KeyDown;
 };
 
 /// Ticks while Enabled and Interval > 0; run by the event loop.

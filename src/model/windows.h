@@ -12,6 +12,7 @@
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_windows.h"
+#include "model/windows/video_window.h"
 
 namespace model {
 

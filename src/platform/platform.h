@@ -10,6 +10,7 @@
 #include "platform/sound.h"
 #include "platform/system.h"
 #include "platform/trace.h"
+#include "platform/video.h"
 #include "text/code_page.h"
 
 namespace platform {
@@ -22,6 +23,7 @@ struct Platform {
     Imaging& imaging;
     TextRenderer& textRenderer;
     Sound& sound;
+    Video& video;
     System& system;
     Trace& trace;
     const text::CodePage& codePage;

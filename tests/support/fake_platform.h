@@ -214,6 +214,59 @@ public:
     }
 };
 
+/// A player on the loop's clock. `log` tells what was asked: "open PATH", "play", "loop 1",
+/// "close".
+class FakeVideo : public platform::Video {
+public:
+    explicit FakeVideo(FakeLoop& loop) : loop_(loop) {}
+    std::vector<std::string> log;
+    Text path;
+    double milliseconds = 2000;  // of every file; 0: no file can be played
+    double loadingMs = 0;        // from Play to the first picture
+    bool looping = false;
+    /// Set: what Status answers, whatever was played.
+    std::optional<platform::VideoState> state;
+
+    void SetUrl(TextView url) override {
+        path = url;
+        played_ = false;
+        log.push_back("open " + text::ToUtf8(url));
+    }
+    void Play() override {
+        played_ = true;
+        started_ = loop_.Milliseconds();
+        log.push_back("play");
+    }
+    void SetLoop(bool on) override {
+        looping = on;
+        log.push_back(on ? "loop 1" : "loop 0");
+    }
+    void Close() override {
+        path.clear();
+        log.push_back("close");
+    }
+    platform::VideoState Status() override {
+        using platform::VideoState;
+        if (state || path.empty()) {
+            return state.value_or(VideoState::Nothing);
+        }
+        const double played = loop_.Milliseconds() - started_ - loadingMs;
+        if (milliseconds == 0) {
+            return VideoState::Ready;
+        }
+        return !played_ || played < 0               ? VideoState::Loading
+               : played >= milliseconds && !looping ? VideoState::Ready
+                                                    : VideoState::Playing;
+    }
+    platform::Size NaturalSize() override { return {}; }
+    platform::VideoFrame Frame() override { return {}; }
+
+private:
+    FakeLoop& loop_;
+    bool played_ = false;
+    double started_ = 0;
+};
+
 class FakeSystem : public platform::System {
 public:
     Text appFolder = u"C:\\app\\";
@@ -281,11 +334,12 @@ struct FakePlatform {
     FakeImaging imaging{files};
     FakeTextRenderer textRenderer;
     FakeSound sound;
+    FakeVideo video{loop};
     FakeSystem system;
     FakeTrace trace;
     posix_adapter::IconvCodePage codePage;
     Application app{platform::Platform{loop, files, dialogs, monitors, imaging, textRenderer, sound,
-                                       system, trace, codePage}};
+                                       video, system, trace, codePage}};
 
     FakePlatform() {
         model::ZeroReset(app.state);

@@ -41,6 +41,7 @@ Robot::Robot(const RobotOptions& options, platform::Trace& trace, std::ostream& 
       dialogs_(trace),
       monitors_(options.screens),
       sound_(trace),
+      video_(trace, loop_),
       windows_(trace),
       user_(ReadScript(options.script), options.script,
             {loop_, dialogs_, windows_, trace, out, err}),
@@ -61,6 +62,7 @@ Robot::~Robot() {
 void Robot::Attach(model::Application& application, ShotFunction shot) {
     user_.Attach(application, std::move(shot));
     windows_.Attach(application.windows);
+    video_.Follow(application.platform.files);
     monitors_.Follow(&application.windows.form1);
     loop_.Follow(&user_);
 }

@@ -8,6 +8,7 @@
 #include "adapters/robot/devices.h"
 #include "adapters/robot/options.h"
 #include "adapters/robot/robot_dialogs.h"
+#include "adapters/robot/robot_video.h"
 #include "adapters/robot/scripted_user.h"
 #include "adapters/robot/virtual_loop.h"
 #include "adapters/robot/window_tracer.h"
@@ -31,6 +32,7 @@ public:
     RobotDialogs& Dialogs() { return dialogs_; }
     RobotMonitors& Monitors() { return monitors_; }
     RobotSound& Sound() { return sound_; }
+    RobotVideo& Video() { return video_; }
 
     /// The program folder: the one asked for, or a temporary one that exists as long as the robot.
     const std::string& AppFolder() const { return appFolder_; }
@@ -47,6 +49,7 @@ private:
     RobotDialogs dialogs_;
     RobotMonitors monitors_;
     RobotSound sound_;
+    RobotVideo video_;
     WindowTracer windows_;
     ScriptedUser user_;
     std::string appFolder_;

@@ -65,6 +65,8 @@ void Press(model::Control& control) {
         list->Click();
     } else if (auto* picture = dynamic_cast<model::PictureBox*>(&control)) {
         picture->Click();
+    } else if (auto* player = dynamic_cast<model::Player*>(&control)) {
+        player->Click();
     } else if (auto* window = dynamic_cast<model::Window*>(&control)) {
         window->Click();
     }
@@ -284,6 +286,8 @@ void ScriptedUser::Key(const Action& action, model::Control& control) {
         list->KeyDown(code);
     } else if (auto* picture = dynamic_cast<model::PictureBox*>(&control)) {
         picture->KeyDown(code);
+    } else if (auto* player = dynamic_cast<model::Player*>(&control)) {
+        player->KeyDown(code);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "adapters/robot/silent_platform.h"
 
+#include "adapters/robot/no_video.h"
+
 namespace robot {
 
 namespace {
@@ -104,6 +106,7 @@ struct SilentPlatform::Devices {
     BlindImaging imaging;
     NoText textRenderer;
     NoSound sound;
+    NoVideo video;
     NoSystem system;
     NoTrace trace;
 };
@@ -117,8 +120,9 @@ platform::Platform SilentPlatform::Get() {
     return {devices_->loop,    files,
             dialogs,           devices_->monitors,
             devices_->imaging, devices_->textRenderer,
-            devices_->sound,   devices_->system,
-            devices_->trace,   codePage};
+            devices_->sound,   devices_->video,
+            devices_->system,  devices_->trace,
+            codePage};
 }
 
 }  // namespace robot

@@ -55,8 +55,5 @@ struct Form22 : Window {
 struct Form23 : Window {  // cut-out generator
     Form23() : Window("Form23") {}
 };
-struct Form24 : Window {  // video
-    Form24() : Window("Form24") {}
-};
 
 }  // namespace model

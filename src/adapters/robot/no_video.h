@@ -1,0 +1,24 @@
+// A player that can play no file.
+#pragma once
+
+#include "platform/video.h"
+
+namespace robot {
+
+class NoVideo : public platform::Video {
+public:
+    void SetUrl(TextView path) override { open_ = !path.empty(); }
+    void Play() override {}
+    void SetLoop(bool) override {}
+    void Close() override { open_ = false; }
+    platform::VideoState Status() override {
+        return open_ ? platform::VideoState::Ready : platform::VideoState::Nothing;
+    }
+    platform::Size NaturalSize() override { return {}; }
+    platform::VideoFrame Frame() override { return {}; }
+
+private:
+    bool open_ = false;
+};
+
+}  // namespace robot

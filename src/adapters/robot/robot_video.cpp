@@ -1,0 +1,62 @@
+#include "adapters/robot/robot_video.h"
+
+namespace robot {
+
+namespace {
+
+/// Of a video that does not tell its length.
+constexpr double kUnknownLengthMs = 2000;
+
+}  // namespace
+
+void RobotVideo::SetUrl(TextView path) {
+    if (path.empty()) {
+        Close();
+        return;
+    }
+    path_ = path;
+    played_ = false;
+    milliseconds_ = files_ && files_->Readable(path) == 1 ? kUnknownLengthMs : 0;
+    trace_.Event("video", {{"action", Text(u"open")}, {"file", path_}});
+}
+
+void RobotVideo::Play() {
+    if (path_.empty()) {
+        return;
+    }
+    played_ = true;
+    started_ = loop_.Milliseconds();
+    trace_.Event("video",
+                 {{"action", Text(u"play")}, {"file", path_}, {"milliseconds", milliseconds_}});
+}
+
+void RobotVideo::SetLoop(bool on) {
+    if (on != loopOn_) {
+        loopOn_ = on;
+        trace_.Event("video", {{"action", Text(u"loop")}, {"on", on}});
+    }
+}
+
+void RobotVideo::Close() {
+    if (!path_.empty()) {
+        trace_.Event("video", {{"action", Text(u"close")}, {"file", path_}});
+    }
+    path_.clear();
+    played_ = false;
+}
+
+platform::VideoState RobotVideo::Status() {
+    if (path_.empty()) {
+        return platform::VideoState::Nothing;
+    }
+    if (milliseconds_ == 0) {
+        return platform::VideoState::Ready;
+    }
+    if (!played_) {
+        return platform::VideoState::Loading;
+    }
+    const bool over = loop_.Milliseconds() - started_ >= milliseconds_;
+    return over && !loopOn_ ? platform::VideoState::Ready : platform::VideoState::Playing;
+}
+
+}  // namespace robot

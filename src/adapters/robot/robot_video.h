@@ -1,0 +1,39 @@
+// A player whose files take their time on the virtual clock and show no picture.
+#pragma once
+
+#include "platform/event_loop.h"
+#include "platform/files.h"
+#include "platform/trace.h"
+#include "platform/video.h"
+
+namespace robot {
+
+/// Traces event "video" with its action ("open", "play", "loop", "close"), the file, and for "play"
+/// the file's milliseconds; a file that cannot be played has none.
+class RobotVideo : public platform::Video {
+public:
+    RobotVideo(platform::Trace& trace, platform::EventLoop& loop) : trace_(trace), loop_(loop) {}
+
+    /// Where files are found; without it none can be played.
+    void Follow(platform::Files& files) { files_ = &files; }
+
+    void SetUrl(TextView path) override;
+    void Play() override;
+    void SetLoop(bool on) override;
+    void Close() override;
+    platform::VideoState Status() override;
+    platform::Size NaturalSize() override { return {}; }
+    platform::VideoFrame Frame() override { return {}; }
+
+private:
+    platform::Trace& trace_;
+    platform::EventLoop& loop_;
+    platform::Files* files_ = nullptr;
+    Text path_;
+    bool loopOn_ = false;
+    bool played_ = false;
+    double started_ = 0;       // ms of the loop
+    double milliseconds_ = 0;  // 0: the file cannot be played
+};
+
+}  // namespace robot

@@ -1,0 +1,53 @@
+// The one door to moving pictures: one player for the whole program.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "platform/imaging.h"
+#include "text/text.h"
+
+namespace platform {
+
+enum class VideoState {
+    Nothing,  // no file
+    Loading,  // opened, or Play was called, and nothing shows yet
+    Ready,    // did not or cannot play, or has played to its end and was rewound
+    Playing,
+    Paused,
+    Stopped,  // ended
+};
+
+/// 32-bit rows, 0xFFRRGGBB. `pixels` is null where there is no picture; it lives as long as
+/// `owner`.
+struct VideoFrame {
+    const uint8_t* pixels = nullptr;
+    int width = 0, height = 0;
+    int stride = 0;  // bytes from one row to the next
+    std::shared_ptr<void> owner;
+};
+
+class Video {
+public:
+    virtual ~Video() = default;
+    /// Opens the file and closes the one before, without playing it. Empty: closes only. A file
+    /// that cannot be had is told by Status alone.
+    virtual void SetUrl(TextView path) = 0;
+    /// From the beginning, or on from a pause. Nothing happens without a file.
+    virtual void Play() = 0;
+    /// On: from the end goes on at the beginning. Stays until it is set again.
+    virtual void SetLoop(bool on) = 0;
+    /// Ends what plays; no file is open afterwards.
+    virtual void Close() = 0;
+    /// Never blocks.
+    virtual VideoState Status() = 0;
+    /// Pixels of the picture; empty until they are known.
+    virtual Size NaturalSize() = 0;
+    /// The newest picture.
+    virtual VideoFrame Frame() = 0;
+    /// Given by the view: called on the user-interface thread when a new picture or state is there.
+    std::function<void()> onFrame;
+};
+
+}  // namespace platform
