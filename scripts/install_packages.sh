@@ -5,10 +5,14 @@ set -euo pipefail
 
 run_packages=(
     # To build.
-    g++ cmake ninja-build ccache qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev
+    g++ cmake ninja-build ccache qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev pkg-config
+    libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libsndfile1-dev libcdio-dev
     # To run: picture kinds, the window systems, Qt's own dialogs in Japanese, fonts.
     qt6-image-formats-plugins libqt6svg6 qt6-qpa-plugins libxcb-cursor0 qt6-wayland
     qt6-translations-l10n fonts-ipafont-gothic fonts-ipafont-mincho
+    # To run: sound and video of all kinds, MIDI instruments.
+    gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-bad
+    gstreamer1.0-plugins-ugly gstreamer1.0-libav gstreamer1.0-alsa timgm6mb-soundfont libsndfile1
     # The scripts.
     python3
 )
@@ -17,7 +21,7 @@ test_packages=(
     clang clang-tidy clang-format libclang-rt-14-dev llvm
     xvfb xauth xdotool imagemagick dbus-daemon
     # Benchmarks compare with these.
-    pkg-config libbenchmark-dev libturbojpeg0-dev libjpeg-dev
+    libbenchmark-dev libturbojpeg0-dev libjpeg-dev gstreamer1.0-plugins-base-apps
 )
 
 case ${1:-run} in

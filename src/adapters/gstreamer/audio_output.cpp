@@ -82,8 +82,8 @@ GstElement* AudioOutput::MakeSink(bool silent) {
     }
     if (!state_->searched) {
         // A server that hangs is not waited for a second time.
-        const bool answered = state_->changed.wait_for(lock, kFirstSearchLimit,
-                                                       [this] { return state_->searched; });
+        const bool answered =
+            state_->changed.wait_for(lock, kFirstSearchLimit, [this] { return state_->searched; });
         if (!answered) {
             state_->searched = true;
             state_->lastSearch = Clock::now();

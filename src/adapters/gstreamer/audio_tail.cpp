@@ -98,12 +98,11 @@ GstPadProbeReturn Probe(GstPad*, GstPadProbeInfo* info, gpointer data) {
 
 void WatchPad(GstElement& element, const std::shared_ptr<TailState>& state) {
     const PadPtr pad(gst_element_get_static_pad(&element, "src"));
-    gst_pad_add_probe(
-        pad.get(),
-        static_cast<GstPadProbeType>(GST_PAD_PROBE_TYPE_BUFFER |
-                                     GST_PAD_PROBE_TYPE_EVENT_DOWNSTREAM),
-        Probe, new std::shared_ptr<TailState>(state),
-        [](gpointer data) { delete static_cast<std::shared_ptr<TailState>*>(data); });
+    gst_pad_add_probe(pad.get(),
+                      static_cast<GstPadProbeType>(GST_PAD_PROBE_TYPE_BUFFER |
+                                                   GST_PAD_PROBE_TYPE_EVENT_DOWNSTREAM),
+                      Probe, new std::shared_ptr<TailState>(state),
+                      [](gpointer data) { delete static_cast<std::shared_ptr<TailState>*>(data); });
 }
 
 }  // namespace
@@ -118,6 +117,9 @@ GstElement* MakeAudioTail(AudioOutput& output, bool silent,
         gst_element_factory_make("audioconvert", nullptr),  // for sinks that take no floats
         output.MakeSink(silent),
     };
+    if (parts[4]) {
+        gst_object_set_name(GST_OBJECT(parts[4]), kSinkName.data());  // while it has no parent
+    }
     for (GstElement* part : parts) {
         if (part) {
             gst_bin_add(GST_BIN(bin), part);
@@ -128,10 +130,9 @@ GstElement* MakeAudioTail(AudioOutput& output, bool silent,
         return nullptr;
     }
     gst_element_link_many(parts[0], parts[1], parts[2], parts[3], parts[4], nullptr);
-    const CapsPtr caps(gst_caps_from_string("audio/x-raw,format=" GST_AUDIO_NE(
-        F32) ",layout=interleaved,channels=[1,2]"));
+    const CapsPtr caps(gst_caps_from_string(
+        "audio/x-raw,format=" GST_AUDIO_NE(F32) ",layout=interleaved,channels=[1,2]"));
     g_object_set(parts[2], "caps", caps.get(), nullptr);
-    gst_object_set_name(GST_OBJECT(parts[4]), kSinkName.data());
     gst_segment_init(&state->segment, GST_FORMAT_TIME);
     WatchPad(*parts[2], state);
     const PadPtr entry(gst_element_get_static_pad(parts[0], "sink"));

@@ -15,7 +15,8 @@ namespace {
 constexpr int kDiscLimitMs = 15000;  // a drive that spins up
 constexpr int kPumpMs = 10;
 constexpr int kSectorsAtOnce = 16;
-constexpr int kUnreadableInARow = 5;  // chunks, each replaced by silence, until the disc is given up
+constexpr int kUnreadableInARow =
+    5;  // chunks, each replaced by silence, until the disc is given up
 constexpr int kFullVolume = 1000;
 
 struct Span {
@@ -255,9 +256,8 @@ void CdAudio::Play(TextView range) {
     media.wantsPosition = true;
     media.open = [shared = shared_, spans]() -> std::unique_ptr<PcmSource> {
         const std::lock_guard lock(shared->mutex);
-        return shared->disc && !spans.empty()
-                   ? std::make_unique<DiscSource>(shared->disc, spans)
-                   : nullptr;
+        return shared->disc && !spans.empty() ? std::make_unique<DiscSource>(shared->disc, spans)
+                                              : nullptr;
     };
     startSector_ = spans.empty() ? start : spans.front().sector;
     player_ = std::make_unique<Player>(std::move(media), output_);

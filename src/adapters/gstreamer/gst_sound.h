@@ -1,5 +1,6 @@
 // Sound on GStreamer: each alias is a piece of its own.
-//   open "FILE" type waveaudio|sequencer|MPEGVideo alias A    a missing file opens nothing, nor does
+//   open "FILE" type waveaudio|sequencer|MPEGVideo alias A    a missing file opens nothing, nor
+//   does
 //                                                              an alias that is open
 //   open cdaudio
 //   play A from N       the piece from its beginning; cdaudio: from N [to M], tracks
@@ -28,9 +29,8 @@ namespace gst_adapter {
 class GstSound : public platform::Sound {
 public:
     /// `loop` is pumped while a synchronous sound plays. `output` may be shared with the video.
-    GstSound(platform::Files& files, platform::EventLoop& loop,
-             std::shared_ptr<AudioOutput> output, OpenDisc openDisc = {},
-             std::string cdDevice = {});
+    GstSound(platform::Files& files, platform::EventLoop& loop, std::shared_ptr<AudioOutput> output,
+             OpenDisc openDisc = {}, std::string cdDevice = {});
     /// Ends every sound; waits a moment for that, no longer.
     ~GstSound() override;
 

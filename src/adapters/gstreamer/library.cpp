@@ -12,10 +12,10 @@ namespace gst_adapter {
 namespace {
 
 constexpr const char* kWarmed[] = {
-    "appsrc",    "filesrc",      "decodebin", "typefind",      "audioconvert", "audioresample",
+    "appsrc",    "filesrc",      "decodebin", "typefind",       "audioconvert", "audioresample",
     "fakesink",  "capsfilter",   "appsink",   "mpegaudioparse", "avdec_mp3",    "mpg123audiodec",
-    "midiparse", "fluiddec",     "qtdemux",   "h264parse",     "avdec_h264",   "avdec_aac",
-    "queue",     "videoconvert", "videoflip", "multiqueue",    "id3demux",
+    "midiparse", "fluiddec",     "qtdemux",   "h264parse",      "avdec_h264",   "avdec_aac",
+    "queue",     "videoconvert", "videoflip", "multiqueue",     "id3demux",
 };
 
 constexpr const char* kSoundFonts[] = {

@@ -16,6 +16,8 @@ namespace {
 
 constexpr size_t kChunkFrames = 1024;
 constexpr guint64 kQueuedSeconds = 1;
+constexpr int kStopAttempts = 20;
+constexpr gulong kStopPauseUs = 5000;
 constexpr double kMidiGain = 0.6;  // the instrument's own default is hardly heard
 
 template <class T>
@@ -102,9 +104,9 @@ GstBusSyncReply TakeMessage(GstBus*, GstMessage* message, gpointer data) {
     return GST_BUS_DROP;
 }
 
-bool IsPlainFile(const std::string& nativePath) {
+bool IsFileWithContent(const std::string& nativePath) {
     struct stat status {};
-    return stat(nativePath.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    return stat(nativePath.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
 }
 
 /// Null when the library lacks it.
@@ -117,7 +119,7 @@ GstElement* Add(GstElement& pipeline, const char* factory) {
 }
 
 GstElement* AddFile(GstElement& pipeline, const std::string& nativePath) {
-    GstElement* file = IsPlainFile(nativePath) ? Add(pipeline, "filesrc") : nullptr;
+    GstElement* file = IsFileWithContent(nativePath) ? Add(pipeline, "filesrc") : nullptr;
     if (file) {
         g_object_set(file, "location", nativePath.c_str(), nullptr);
     }
@@ -138,8 +140,7 @@ void SetUpInstrument(GstElement* element) {
 enum AutoplugAnswer : gint { kAutoplugTry = 0, kAutoplugSkip = 2 };
 
 gint ChooseDecoder(GstElement*, GstPad*, GstCaps*, GstElementFactory* factory, gpointer) {
-    const gchar* kind =
-        gst_element_factory_get_metadata(factory, GST_ELEMENT_METADATA_KLASS);
+    const gchar* kind = gst_element_factory_get_metadata(factory, GST_ELEMENT_METADATA_KLASS);
     const std::string_view words = kind ? kind : "";
     const bool leavesTheFile = words.find("Adaptive") != std::string_view::npos ||
                                words.find("Network") != std::string_view::npos ||
@@ -179,7 +180,13 @@ void DropPipeline(ElementPtr& pipeline) {
     if (!pipeline) {
         return;
     }
-    gst_element_set_state(pipeline.get(), GST_STATE_NULL);
+    // A decoder that is still looking at its file may refuse at first.
+    for (int attempt = 0; attempt < kStopAttempts; ++attempt) {
+        if (gst_element_set_state(pipeline.get(), GST_STATE_NULL) != GST_STATE_CHANGE_FAILURE) {
+            break;
+        }
+        g_usleep(kStopPauseUs);
+    }
     const BusPtr bus(gst_element_get_bus(pipeline.get()));
     gst_bus_set_sync_handler(bus.get(), nullptr, nullptr, nullptr);
     pipeline.reset();
@@ -191,12 +198,12 @@ bool AddPcmSource(GstElement& pipeline, GstElement& to, std::unique_ptr<PcmSourc
     if (!element) {
         return false;
     }
-    const CapsPtr caps(gst_caps_new_simple(
-        "audio/x-raw", "format", G_TYPE_STRING, GST_AUDIO_NE(F32), "layout", G_TYPE_STRING,
-        "interleaved", "rate", G_TYPE_INT, source->rate, "channels", G_TYPE_INT, source->channels,
-        nullptr));
-    const guint64 bytesASecond = sizeof(float) * static_cast<guint64>(source->rate) *
-                                 static_cast<guint64>(source->channels);
+    const CapsPtr caps(gst_caps_new_simple("audio/x-raw", "format", G_TYPE_STRING,
+                                           GST_AUDIO_NE(F32), "layout", G_TYPE_STRING,
+                                           "interleaved", "rate", G_TYPE_INT, source->rate,
+                                           "channels", G_TYPE_INT, source->channels, nullptr));
+    const guint64 bytesASecond =
+        sizeof(float) * static_cast<guint64>(source->rate) * static_cast<guint64>(source->channels);
     g_object_set(element, "caps", caps.get(), "format", GST_FORMAT_TIME, "max-bytes",
                  bytesASecond * kQueuedSeconds, nullptr);
     auto feed = std::make_shared<Feed>();
@@ -229,12 +236,11 @@ bool AddDecoder(GstElement& pipeline, const std::string& nativePath, OnStream on
         return false;
     }
     g_signal_connect(decoder, "autoplug-select", G_CALLBACK(ChooseDecoder), nullptr);
-    g_signal_connect(
-        decoder, "deep-element-added",
-        G_CALLBACK(+[](GstBin*, GstBin*, GstElement* element, gpointer) {
-            SetUpInstrument(element);
-        }),
-        nullptr);
+    g_signal_connect(decoder, "deep-element-added",
+                     G_CALLBACK(+[](GstBin*, GstBin*, GstElement* element, gpointer) {
+                         SetUpInstrument(element);
+                     }),
+                     nullptr);
     g_signal_connect_data(
         decoder, "pad-added", G_CALLBACK(LinkStream), new OnStream(std::move(onStream)),
         [](gpointer data, GClosure*) { Delete<OnStream>(data); }, GConnectFlags{});

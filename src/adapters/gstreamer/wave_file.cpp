@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 #include "adapters/gstreamer/pcm_source.h"
@@ -17,6 +18,17 @@ namespace {
 constexpr int kLowestRate = 100;
 constexpr int kHighestRate = 768000;
 constexpr int kMostChannels = 64;
+
+/// MPEG audio under whatever name is left to the decoder: read from here it ends early.
+bool IsTrusted(const SF_INFO& info) {
+    constexpr int kMpegCodings[] = {SF_FORMAT_MPEG_LAYER_I, SF_FORMAT_MPEG_LAYER_II,
+                                    SF_FORMAT_MPEG_LAYER_III};
+    const int coding = info.format & SF_FORMAT_SUBMASK;
+    return std::find(std::begin(kMpegCodings), std::end(kMpegCodings), coding) ==
+               std::end(kMpegCodings) &&
+           info.samplerate >= kLowestRate && info.samplerate <= kHighestRate &&
+           info.channels >= 1 && info.channels <= kMostChannels;
+}
 
 class WaveFile : public PcmSource {
 public:
@@ -82,8 +94,7 @@ std::unique_ptr<PcmSource> OpenWaveFile(const std::string& nativePath) {
     if (!file) {
         return nullptr;
     }
-    if (info.samplerate < kLowestRate || info.samplerate > kHighestRate || info.channels < 1 ||
-        info.channels > kMostChannels) {
+    if (!IsTrusted(info)) {
         sf_close(file);
         return nullptr;
     }
