@@ -8,7 +8,9 @@
 
 #include "adapters/posix/iconv_code_page.h"
 #include "adapters/robot/devices.h"
+#include "adapters/robot/no_video.h"
 #include "adapters/robot/robot_dialogs.h"
+#include "adapters/robot/robot_sound.h"
 #include "adapters/robot/virtual_loop.h"
 #include "app/timers.h"
 #include "playback/transport.h"
@@ -80,6 +82,7 @@ class NoSystem : public platform::System {
 public:
     Text AppFolder() override { return u"/app/"; }
     bool PreviousInstance() override { return false; }
+    bool Shell(TextView, TextView) override { return false; }
 };
 
 /// Counts the slides that came up.
@@ -115,11 +118,12 @@ int main() {
     robot::RobotMonitors monitors({});
     PlainImaging imaging;
     NoText text;
-    robot::RobotSound sound(trace);
+    robot::RobotSound sound(trace, loop);
+    robot::NoVideo video;
     NoSystem system;
     posix_adapter::IconvCodePage codePage;
     Application app(
-        {loop, files, dialogs, monitors, imaging, text, sound, system, trace, codePage});
+        {loop, files, dialogs, monitors, imaging, text, sound, video, system, trace, codePage});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);

@@ -12,13 +12,14 @@
 #include "adapters/posix/posix_system.h"
 #include "adapters/posix/start_paths.h"
 #include "adapters/qt/desktop.h"
-#include "adapters/robot/devices.h"
 #include "adapters/robot/inspect.h"
 #include "adapters/robot/no_video.h"
 #include "adapters/robot/options.h"
 #include "adapters/robot/robot.h"
+#include "adapters/robot/robot_sound.h"
 #include "adapters/robot/script.h"
 #include "adapters/robot/traced_dialogs.h"
+#include "adapters/robot/traced_system.h"
 #include "adapters/robot/window_tracer.h"
 #include "app/start_up.h"
 
@@ -72,7 +73,9 @@ struct Surroundings {
         : programFolder(posix_adapter::ProgramFolder(appFolder)),
           files(programFolder),
           imaging(files),
-          system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)) {}
+          system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)) {
+        system.FindWith(files);
+    }
 
     std::string programFolder;
     posix_adapter::IconvCodePage codePage;
@@ -114,12 +117,14 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     }
     Surroundings around{std::string()};
     robot::TracedDialogs dialogs(desktop.Dialogs(), *trace);
-    robot::RobotSound sound(*trace);  // silent: devices are not built yet
+    robot::RobotSound sound(*trace, desktop.Loop());  // opens nothing: devices are not built yet
     robot::NoVideo video;
+    around.system.ask = [&desktop](TextView command) { return desktop.AskProgram(command); };
+    robot::TracedSystem system(around.system, *trace, true);
     robot::WindowTracer windows(*trace);
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
-                             around.imaging, desktop.TextRenderer(), sound, video, around.system,
-                             *trace, around.codePage});
+                             around.imaging, desktop.TextRenderer(), sound, video, system, *trace,
+                             around.codePage});
     windows.Attach(application.windows);
     const Views views(desktop, application);
     return RunUntilEnd(application, {CommandText(document), true});
@@ -142,9 +147,10 @@ int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
         clock->loop = &robot.Loop();
         qt_adapter::Desktop desktop(argc, argv, {.offscreen = true, .screens = options->screens});
         Surroundings around(robot.AppFolder());
+        robot::TracedSystem system(around.system, *trace, false);
         Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
                                  around.imaging, desktop.TextRenderer(), robot.Sound(),
-                                 robot.Video(), around.system, *trace, around.codePage});
+                                 robot.Video(), system, *trace, around.codePage});
         const Views views(desktop, application);
         robot.Attach(application, [&](model::Window& window, const std::string& file) {
             return desktop.Shot(window, file);

@@ -11,6 +11,7 @@
 #include "document/state_files.h"
 #include "macro/macro.h"
 #include "picture/screen.h"
+#include "picture/video_window.h"
 #include "playback/control_box.h"
 #include "playback/full_screen.h"
 #include "playback/transport.h"
@@ -203,6 +204,7 @@ void RunProgram(Application& application, const StartOptions& options) {
     playback::AttachTransport(application);
     playback::AttachFullScreen(application);
     playback::AttachControlBox(application);
+    picture::AttachVideoWindow(application);
     AttachMainMenus(application);
     form1.OnLoad = [&] { Form1_Load(application); };
     form1.OnResize = [&] { Form1_Resize(application); };

@@ -257,6 +257,13 @@ void Window::Show() {
     }
 }
 
+void Window::ShowModal(platform::EventLoop& loop) {
+    Modal = true;
+    Show();
+    loop.RunUntil([this] { return !Visible; });
+    Modal = false;
+}
+
 void Window::Hide() {
     Visible = false;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/control.h"
+#include "platform/event_loop.h"
 
 namespace model {
 
@@ -22,6 +23,7 @@ public:
     Property<int> CursorCount{*this, "CursorCount"};  // below 0 no pointer is seen over the window
     Property<int> BackColor{*this, "BackColor"};
     Property<bool> Loaded{*this, "Loaded", false};
+    Property<bool> Modal{*this, "Modal", false};  // while it is shown no other window takes input
 
     Event<> OnLoad;
     Event<> OnActivate;
@@ -37,6 +39,9 @@ public:
     /// Loads and becomes visible; unless it was visible already fires OnResize (the first time
     /// after a load) and OnActivate.
     void Show();
+    /// Shows the window as a modal one and returns when it is hidden or unloaded; handlers run
+    /// meanwhile. A handler of the showing may end it at once. May throw ProgramEnd.
+    void ShowModal(platform::EventLoop& loop);
     void Hide();
     /// Asks OnQueryUnload, fires OnUnload, hides. False when a handler refused. Does nothing for
     /// a window that is not loaded or is unloading.

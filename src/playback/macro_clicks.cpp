@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "picture/video_window.h"
 #include "playback/control_box.h"
 
 namespace playback {
@@ -23,11 +24,18 @@ void ChooseMenu(Application& app, size_t entry) {
     JumpBy(app, app.state.MenuJump[entry]);
 }
 
-/// Programs and videos cannot be started from here yet: such a click only jumps.
 void ClickObject(Application& app, size_t object) {
-    const Text& action = app.state.CutoutAction[object];
-    if (text::KindOf(action) == u"WAV") {
+    const Text action = app.state.CutoutAction[object];
+    const Text kind = text::KindOf(action);
+    if (kind == u"WAV") {
         app.platform.sound.SndPlaySound(action, kAsynchronousWithoutDefault);
+    } else if (kind == u"EXE") {
+        app.platform.system.Shell(text::Trim(action), app.state.DocumentPath);
+    } else if (text::IsVideoKind(action)) {
+        picture::ShowVideo(app, action);
+        if (app.state.FullScreenActive == 1) {
+            app.windows.slidescreen.P2.SetFocus();
+        }
     }
     if (app.state.CutoutJump[object] != 0) {
         JumpBy(app, app.state.CutoutJump[object]);

@@ -103,7 +103,6 @@ Next ShowVideo(Application& app) {
     windows.slidescreen2.Caption = state.CurrentName;
     windows.form1.Caption = state.CurrentName;
     StartSoundBesideVideo(app);
-    state.VideoStoppedByUser = 0;
     picture::PlayVideo(app, path);
     state.LastWasVideo = 1;
     if (state.VideoStoppedByUser == 1 && state.MacroWaitClick != 1) {

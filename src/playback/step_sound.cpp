@@ -90,8 +90,13 @@ void StartMainChannel(Application& app) {
         const bool takesDefault = state.SoundMode == 1 || state.SoundMode == 2;
         path = takesDefault ? DefaultSound(state) : Text();
         if (path.empty() || !app.platform.files.Exists(path)) {
+            // What plays goes on; a later picture with the same sound starts it again.
+            state.LastSoundFile.clear();
             return;
         }
+    }
+    if (state.SoundMode != 0 && path == state.LastSoundFile) {
+        return;  // stopping it would forget that it was played
     }
     sound::StopSound(app);
     const bool media = state.SoundMode == 5 || state.SoundMode == 9;
@@ -105,20 +110,6 @@ bool RunsForward(const Application& app) {
     return !app.windows.form1.Command1.Enabled;
 }
 
-bool PlaysPerPicture(const model::ShowState& state) {
-    switch (state.SoundMode) {
-        case 0:
-        case 1:
-        case 5:
-        case 9:
-            return true;
-        case 2:
-            return state.CdPlusLinkedWav == 0;
-        default:
-            return false;
-    }
-}
-
 bool PlaysSecondChannel(const model::ShowState& state) {
     return (state.SoundMode == 4 && state.MidiLinkedWavFlag == 1) ||
            (state.SoundMode == 8 && state.Mp3LinkedWavFlag == 1) ||
@@ -128,12 +119,13 @@ bool PlaysSecondChannel(const model::ShowState& state) {
 bool WaitForLinkedSound(Application& app) {
     model::ShowState& state = app.state;
     const bool modeWaits =
-        PlaysPerPicture(state) || state.SoundMode == 6 || PlaysSecondChannel(state);
+        sound::PlaysPerPicture(state) || state.SoundMode == 6 || PlaysSecondChannel(state);
     if (state.SoundPlaying != 1 || state.SoundSyncFlag != 0 || state.SkipSyncWaitOnce != 0 ||
         !RunsForward(app) || !modeWaits) {
         return true;
     }
     const WaitMark mark(state);
+    // Kept: linked MIDI and MP3 have aliases that nobody asks here, so they are not waited for.
     for (bool playing = true; playing;) {
         playing =
             Reports(app, PlaysSecondChannel(state) ? u"status wav_ren mode" : u"status wav mode",
@@ -233,11 +225,11 @@ void RestartBackgroundSound(Application& app) {
                 sound::StartSound(app);
                 state.RestartSoundFlag = 0;
                 state.RestartSoundMacro = 0;
+                return;  // one try a picture: a list of missing files is not run through at once
             }
         }
     }
     if (mode == 6 && state.SoundListNext == 1) {
-        state.SoundListNext = 0;
         sound::StopSound(app);
         sound::StartSound(app);
     }
@@ -247,7 +239,7 @@ void StartLinkedSounds(Application& app) {
     if (PlaysSecondChannel(app.state)) {
         StartSecondChannel(app);
     }
-    if (PlaysPerPicture(app.state)) {
+    if (sound::PlaysPerPicture(app.state)) {
         StartMainChannel(app);
     }
 }
@@ -255,7 +247,7 @@ void StartLinkedSounds(Application& app) {
 void StartShowSound(Application& app) {
     model::ShowState& state = app.state;
     sound::StartCd(app);
-    if (state.MacroEndShow == 1 && PlaysPerPicture(state)) {
+    if (state.MacroEndShow == 1 && sound::PlaysPerPicture(state)) {
         return;
     }
     state.SkipSyncWaitOnce = 1;

@@ -8,10 +8,6 @@ namespace playback {
 /// START is disabled: the show runs forward and neither pause nor stop came in.
 bool RunsForward(const Application& app);
 
-/// The mode in force brings a sound of its own with every picture (0, 1, 5, 9, or 2 with linked
-/// WAV).
-bool PlaysPerPicture(const model::ShowState& state);
-
 /// A linked WAV plays on top of the background piece (modes 4, 6, 8 with their flags).
 bool PlaysSecondChannel(const model::ShowState& state);
 

@@ -1,12 +1,235 @@
 #include "sound/sound.h"
 
+#include <algorithm>
+
+#include "document/settings_to_controls.h"
+#include "text/numbers.h"
+
 namespace sound {
 
-void StartSound(Application&) {}
+namespace {
+
+constexpr int kFullVolume = 1000;
+constexpr int kHighestMode = 9;
+constexpr int kCancelSound = 0;
+
+/// How a file of that kind is opened: the aliases are those that the rest of the program asks.
+struct Kind {
+    const char16_t* extension;
+    const char16_t* type;
+    const char16_t* alias;
+    bool samples;  // its time format is samples
+    bool volume;   // plays at the volume that macros set
+};
+
+constexpr Kind kKinds[] = {
+    {u"WAV", u"waveaudio", u"wav", true, false},
+    {u"MID", u"sequencer", u"mid", false, false},
+    {u"MP3", u"MPEGVideo", u"mp3", false, true},
+};
+
+/// What is said of a background file that cannot be read.
+struct Complaint {
+    int16_t mode;
+    const char16_t* advice;
+    const char16_t* title;
+};
+
+constexpr Complaint kComplaints[] = {
+    {3, u"ＷＡＶ再生を確認して下さい。", u"ＷＡＶファイル読込エラー"},
+    {4, u"ＭＩＤＩ再生を確認して下さい。", u"ＭＩＤＩファイル読込エラー"},
+    {6, u"WAV.MIDリストを確認して下さい。", u"WAV.MIDリストファイル読込エラー"},
+    {8, u"ＭＰ３再生を確認して下さい。", u"ＭＰ３ファイル読込エラー"},
+};
+
+bool ModePlays(const model::ShowState& state) {
+    const int16_t mode = state.SoundMode;
+    return PlaysPerPicture(state) || mode == 3 || mode == 4 || mode == 6 || mode == 8;
+}
+
+/// The list goes round for ever.
+Text NextOfList(Application& app) {
+    model::ShowState& state = app.state;
+    const model::Form10& form10 = app.windows.form10;
+    if (form10.Check6.Value == 1 && state.SoundListStarted == 0) {
+        state.SoundListPos = static_cast<int16_t>(std::max<int>(0, form10.List1.ListIndex));
+        state.SoundListStarted = 1;
+    }
+    if (state.SoundListPos >= state.SoundListCount) {
+        state.SoundListPos = 0;
+    }
+    state.SoundListPos = static_cast<int16_t>(state.SoundListPos + 1);
+    return state.SoundList(state.SoundListPos);
+}
+
+Text FileOfMode(Application& app) {
+    model::ShowState& state = app.state;
+    const int16_t mode = state.SoundMode;
+    const bool video = text::IsVideoKind(state.SlideList(state.SlideIndex));
+    if (video && (mode == 1 || mode == 6 || mode == 8)) {
+        return state.LinkedWavPath;
+    }
+    switch (mode) {
+        case 0:
+            return state.AppFolder + u"vue1.wav";
+        case 1:
+        case 2:
+            return video ? Text() : state.LinkedWavPath;
+        case 3:
+            return state.WavFile;
+        case 4:
+            return state.MidiFile;
+        case 5:
+        case 9:
+            return state.LinkedMediaPath;
+        case 6:
+            return NextOfList(app);
+        case 8:
+            return state.Mp3File;
+        default:
+            return {};
+    }
+}
+
+/// A second try is all that a file gets which somebody else holds.
+bool CanBeRead(Application& app, const Text& path) {
+    return app.platform.files.Readable(path) == 1 || app.platform.files.Readable(path) == 1;
+}
+
+void Complain(Application& app, const Text& path) {
+    app.state.SoundPlaying = 0;
+    for (const Complaint& one : kComplaints) {
+        if (one.mode == app.state.SoundMode) {
+            app.platform.dialogs.Message(path + u"\r\nファイルが読み込めません。\r\n" + one.advice,
+                                         platform::kExclamation, one.title);
+        }
+    }
+    if (app.state.SoundMode == 6) {
+        app.state.SoundListNext = 1;
+    }
+}
+
+/// A file of another kind opens nothing. `alias` empty: the kind's own.
+void Open(Application& app, const Text& path, const Text& alias) {
+    const Text extension = text::KindOf(path);
+    const auto* kind = std::find_if(std::begin(kKinds), std::end(kKinds),
+                                    [&](const Kind& one) { return extension == one.extension; });
+    if (kind == std::end(kKinds)) {
+        return;
+    }
+    const Text name = alias.empty() ? Text(kind->alias) : alias;
+    platform::Sound& device = app.platform.sound;
+    device.MciSendString(u"open \"" + path + u"\" type " + kind->type + u" alias " + name);
+    if (kind->samples) {
+        device.MciSendString(u"set " + name + u" time format samples");
+    }
+    device.MciSendString(u"play " + name + u" from 1");
+    if (kind->volume) {
+        app.state.ListMp3Playing = 1;
+        device.MciSendString(u"setaudio " + name + u" volume to" +
+                             text::Str(kFullVolume - app.state.Mp3VolumeOffset));
+    }
+    app.state.SoundOpen = 1;
+}
+
+void ClearTelop(Application& app) {
+    model::Form1& form1 = app.windows.form1;
+    model::Slidescreen& screen = app.windows.slidescreen;
+    for (model::Label* label : {&form1.Label1, &screen.Label1}) {
+        label->Caption = Text();
+        label->Visible = false;
+    }
+    form1.Timer4.Enabled = false;
+    screen.Timer1.Enabled = false;
+    app.state.TelopRunning = 0;  // or the next show would wait for a text that stands still
+}
+
+}  // namespace
+
+bool PlaysPerPicture(const model::ShowState& state) {
+    switch (state.SoundMode) {
+        case 0:
+        case 1:
+        case 5:
+        case 9:
+            return true;
+        case 2:
+            return state.CdPlusLinkedWav == 0;
+        default:
+            return false;
+    }
+}
+
+void StartSound(Application& app) {
+    model::ShowState& state = app.state;
+    state.SoundPaused = 0;
+    const bool preview = state.SoundPreviewFlag == 1;
+    if (!preview && !ModePlays(state)) {
+        return;
+    }
+    state.SoundListNext = 0;
+    const Text path = preview ? state.SoundPreviewFile : FileOfMode(app);
+    state.SoundPreviewFlag = 0;
+    state.LinkedWavPath.clear();
+    state.LinkedMediaPath.clear();
+    const bool fromList = state.SoundMode == 6 && !preview;
+    if (path.empty() || !app.platform.files.Exists(path)) {
+        // The list goes on with the next picture.
+        state.SoundListNext = fromList && !path.empty() ? 1 : 0;
+        return;
+    }
+    if (!CanBeRead(app, path)) {
+        Complain(app, path);
+        return;
+    }
+    if (!preview && PlaysPerPicture(state) && state.SoundMode != 0) {
+        if (path == state.LastSoundFile) {
+            return;
+        }
+        state.LastSoundFile = path;
+    }
+    state.SoundPlaying = 1;
+    // Whoever previews asks "wav", whatever the mode.
+    Open(app, path, preview || state.SoundMode == 6 ? Text(u"wav") : Text());
+}
 
 void StopSound(Application& app) {
-    if (app.state.SlideIndex == 0) {
+    model::ShowState& state = app.state;
+    if (state.SlideIndex == 0 && state.FullScreenActive != 1) {
         RestoreCaption(app);
+        ClearTelop(app);
+    }
+    app.platform.sound.SndPlaySound(std::nullopt, kCancelSound);
+    if (state.SoundOpen == 1) {
+        for (const char16_t* alias : {u"wav_ren", u"wav", u"mid", u"mp3"}) {
+            app.platform.sound.MciSendString(Text(u"stop ") + alias);
+            app.platform.sound.MciSendString(Text(u"close ") + alias);
+        }
+        state.ListMp3Playing = 0;
+        state.SoundPlaying = 0;
+        state.SoundPaused = 0;
+        state.LastSoundFile.clear();
+        state.SoundOpen = 0;
+    }
+    app.windows.form24.Unload();
+}
+
+void SetSoundMode(Application& app, int mode) {
+    model::ShowState& state = app.state;
+    if (mode == state.SoundMode || mode < 0 || mode > kHighestMode) {
+        return;
+    }
+    StopCd(app);
+    StopSound(app);
+    state.SoundMode = static_cast<int16_t>(mode);
+    app.windows.form1.mnuKOU.Check(mode);
+    document::FollowMenuVisibility(app);
+    if (mode == 2 &&
+        !app.platform.sound.MciSendString(u"status cdaudio mode").starts_with(u"playing")) {
+        StartCd(app);
+    }
+    if (state.MacroEndShow != 1 && !PlaysPerPicture(state)) {
+        StartSound(app);
     }
 }
 
@@ -17,6 +240,16 @@ void RestoreCaption(Application& app) {
 }
 
 void StartCd(Application&) {}
-void StopCd(Application&) {}
+
+void StopCd(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.SoundMode == 2) {
+        app.platform.sound.MciSendString(u"stop cdaudio");
+        app.platform.sound.MciSendString(u"close cdaudio");
+    }
+    state.CdPaused = 0;
+    state.CdPlaying = 0;
+    state.CdStopPending = 0;
+}
 
 }  // namespace sound

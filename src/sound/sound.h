@@ -1,19 +1,35 @@
-// The ways to audio. All are safe when nothing is open.
+// The ways to audio. All are safe when nothing is open: what a command answers to an error is never
+// looked at.
 #pragma once
 
 #include "model/application.h"
 
 namespace sound {
 
-/// Starts the piece of the sound mode in force. Not built yet: does nothing.
+/// The mode in force brings a sound of its own with every picture (0, 1, 5, 9, or 2 with linked
+/// WAV).
+bool PlaysPerPicture(const model::ShowState& state);
+
+/// Starts the piece of the sound mode in force: a pending preview (SoundPreviewFlag, which it
+/// uses up), what the slide step put into LinkedWavPath or LinkedMediaPath (which it empties), a
+/// background file, or the next entry of the sound list. Nothing happens without a file. A file
+/// that cannot be read is told in the background modes, and SoundPlaying becomes 0.
 void StartSound(Application& app);
-/// Stops everything but the CD; without a current slide the caption goes back to the document.
-/// Built so far: the caption.
+
+/// Stops everything but the CD, and unloads the video window. Without a current slide the caption
+/// goes back to the document and the scrolling text goes.
 void StopSound(Application& app);
+
+/// Changes SoundMode (0 to 9) as a macro does, with the menus that show it, and starts the CD or
+/// background piece of the new mode. Nothing happens for the mode in force and beyond the range.
+void SetSoundMode(Application& app, int mode);
+
 /// Caption of the main window: the document's, or the program's without a document.
 void RestoreCaption(Application& app);
-/// Starts, stops the audio CD in mode 2. Not built yet: do nothing.
+
+/// Starts the audio CD in mode 2. Not built yet: does nothing.
 void StartCd(Application& app);
+/// Stops the audio CD in mode 2; clears its flags in every mode.
 void StopCd(Application& app);
 
 }  // namespace sound

@@ -7,6 +7,7 @@
 
 #include "app/timers.h"
 #include "picture/screen.h"
+#include "picture/video_window.h"
 #include "playback/control_box.h"
 #include "playback/full_screen.h"
 #include "playback/slide_step.h"
@@ -32,6 +33,7 @@ public:
         playback::AttachTransport(app);
         playback::AttachFullScreen(app);
         playback::AttachControlBox(app);
+        picture::AttachVideoWindow(app);
         form1.Timer1.Enabled = false;
         for (int i = 1; i <= slides; ++i) {
             AddPicture();

@@ -143,21 +143,6 @@ TEST(RobotMonitors, MainWindowIsWhereItsCentreLies) {
     EXPECT_EQ(monitors.OfMainWindow(), 0);
 }
 
-TEST(RobotSound, HasNothingOpenAndTracesWhatItIsTold) {
-    fakes::FakeTrace trace;
-    RobotSound sound(trace);
-    EXPECT_EQ(sound.MciSendString(u"status wav mode"), u"");
-    sound.SndPlaySound(u"a.wav", 1);
-    sound.SndPlaySound(std::nullopt, 0);
-    ASSERT_EQ(trace.lines.size(), 3u);
-    EXPECT_EQ(trace.lines[0].event, "mci");
-    EXPECT_EQ(trace.lines[0].String("command"), u"status wav mode");
-    EXPECT_EQ(trace.lines[1].event, "sndPlaySound");
-    EXPECT_EQ(trace.lines[1].String("file"), u"a.wav");
-    EXPECT_EQ(trace.lines[1].Number("flags"), 1);
-    EXPECT_EQ(FieldOf(trace.lines[2], "file"), decltype(platform::TraceField::value)(nullptr));
-}
-
 TEST(WindowTracer, TellsShownHiddenAndUnloaded) {
     fakes::FakePlatform around;
     WindowTracer tracer(around.trace);
@@ -178,6 +163,26 @@ TEST(WindowTracer, TellsShownHiddenAndUnloaded) {
     }
     EXPECT_EQ(told, (std::vector<Text>{u"Form3 shown", u"Form3 hidden", u"Form3 shown",
                                        u"Form3 unloaded", u"Form9 unloaded"}));
+}
+
+TEST(WindowTracer, KnowsTheModalWindowOnTop) {
+    fakes::FakePlatform around;
+    WindowTracer tracer(around.trace);
+    model::Windows& windows = around.app.windows;
+    tracer.Attach(windows);
+    windows.form1.Show();
+    model::Window* seen = nullptr;
+    around.loop.At(10, [&] {
+        seen = tracer.ModalWindow();
+        windows.form3.Show();  // not modal: the modal one stays the one that takes input
+        EXPECT_EQ(tracer.ModalWindow(), &windows.form24);
+        windows.form24.Unload();
+    });
+    windows.form24.ShowModal(around.loop);
+    EXPECT_EQ(seen, &windows.form24);
+    EXPECT_EQ(tracer.ModalWindow(), nullptr);
+    EXPECT_EQ(around.loop.Milliseconds(), 10);
+    EXPECT_FALSE(windows.form24.Modal());
 }
 
 }  // namespace

@@ -273,6 +273,11 @@ public:
     bool previousInstance = false;
     Text AppFolder() override { return appFolder; }
     bool PreviousInstance() override { return previousInstance; }
+    std::vector<std::pair<Text, Text>> started;  // command line, document
+    bool Shell(TextView commandLine, TextView document) override {
+        started.emplace_back(commandLine, document);
+        return true;
+    }
 };
 
 class FakeTrace : public platform::Trace {

@@ -166,4 +166,23 @@ bool PosixSystem::PreviousInstance() {
     return held;
 }
 
+bool PosixSystem::Shell(TextView commandLine, TextView document) {
+    AppFolder();
+    if (!permission_.Allows(commandLine, document, ask)) {
+        return false;
+    }
+    const auto found = [this](const std::string& name) -> std::optional<std::string> {
+        return files_ ? files_->Find(text::FromUtf8(name)) : std::nullopt;
+    };
+    const std::string whole = text::ToUtf8(commandLine);
+    const auto program = found(whole);
+    std::vector<std::string> words =
+        program ? std::vector<std::string>{*program} : SplitCommandLine(whole);
+    if (words.empty()) {
+        return false;
+    }
+    words.front() = found(words.front()).value_or(words.front());
+    return StartProgram(words);
+}
+
 }  // namespace posix_adapter

@@ -1,10 +1,14 @@
 // The program's folder, and the other instance of the program.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "adapters/posix/descriptor.h"
+#include "adapters/posix/program_start.h"
+#include "platform/files.h"
+#include "platform/program_answer.h"
 #include "platform/system.h"
 
 namespace posix_adapter {
@@ -29,12 +33,20 @@ public:
     /// folder: one instance for each program folder. Never waits; the lock ends with the process.
     bool PreviousInstance() override;
 
+    /// Asks as the permission of program_start.h says; without `ask` nothing is started.
+    bool Shell(TextView commandLine, TextView document) override;
+    std::function<platform::ProgramAnswer(TextView commandLine)> ask;
+    /// Where programs are found that are given with a drive letter; it outlives the system.
+    void FindWith(platform::Files& files) { files_ = &files; }
+
 private:
     std::string programFolder_;
     std::string assetsFolder_;
     bool prepared_ = false;
     std::optional<bool> previousInstance_;
     Descriptor lock_;
+    platform::Files* files_ = nullptr;
+    ProgramPermission permission_{programFolder_};
 };
 
 }  // namespace posix_adapter

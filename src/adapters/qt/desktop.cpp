@@ -162,6 +162,9 @@ platform::Dialogs& Desktop::Dialogs() {
 platform::Monitors& Desktop::Monitors() {
     return parts_->monitors;
 }
+platform::ProgramAnswer Desktop::AskProgram(TextView commandLine) {
+    return parts_->dialogs.AskProgram(commandLine);
+}
 platform::TextRenderer& Desktop::TextRenderer() {
     return parts_->textRenderer;
 }

@@ -10,6 +10,7 @@
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
 #include "platform/monitors.h"
+#include "platform/program_answer.h"
 
 class QWidget;
 
@@ -34,6 +35,8 @@ public:
     platform::EventLoop& Loop();
     platform::Dialogs& Dialogs();
     platform::Monitors& Monitors();
+    /// Asks whether the show may start a program.
+    platform::ProgramAnswer AskProgram(TextView commandLine);
     /// Works without any window.
     platform::TextRenderer& TextRenderer();
 

@@ -107,6 +107,25 @@ platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
     return gate_.Exec(box) == QMessageBox::Yes ? platform::Answer::Yes : platform::Answer::No;
 }
 
+platform::ProgramAnswer QtDialogs::AskProgram(TextView commandLine) {
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("パラピコ"),
+                    QStringLiteral("このスライドショーはプログラムを起動しようとしています。"),
+                    QMessageBox::NoButton, BoxParent());
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(ToQt(commandLine));
+    box.setCursor(Qt::ArrowCursor);
+    QPushButton* yes = box.addButton(QStringLiteral("はい(&Y)"), QMessageBox::AcceptRole);
+    QPushButton* no = box.addButton(QStringLiteral("いいえ(&N)"), QMessageBox::RejectRole);
+    QPushButton* always =
+        box.addButton(QStringLiteral("この文書では常に許可(&A)"), QMessageBox::AcceptRole);
+    box.setDefaultButton(no);
+    box.setEscapeButton(no);
+    gate_.Exec(box);
+    return box.clickedButton() == always ? platform::ProgramAnswer::Always
+           : box.clickedButton() == yes  ? platform::ProgramAnswer::Yes
+                                         : platform::ProgramAnswer::No;
+}
+
 std::optional<Text> QtDialogs::Input(TextView prompt, TextView title, TextView initial) {
     QInputDialog box(BoxParent());
     box.setCursor(Qt::ArrowCursor);

@@ -6,6 +6,7 @@
 
 #include "adapters/qt/gate.h"
 #include "platform/dialogs.h"
+#include "platform/program_answer.h"
 
 namespace qt_adapter {
 
@@ -22,6 +23,8 @@ public:
     platform::Answer Message(TextView text, int flags, TextView title) override;
     std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override;
     std::optional<Text> ChooseFile(const FileRequest& request) override;
+    /// Whether the show may start a program; closing the box by its frame means no.
+    platform::ProgramAnswer AskProgram(TextView commandLine);
 
 private:
     Gate& gate_;

@@ -288,6 +288,7 @@ void WindowView::FollowVisible() {
         return;
     }
     ApplyConditions();
+    root_->setWindowModality(window_.Modal ? Qt::ApplicationModal : Qt::NonModal);
     if (fullScreen_) {
         ShowFullScreen();
         return;

@@ -4,8 +4,6 @@ namespace robot {
 
 namespace {
 
-using TraceValue = decltype(platform::TraceField::value);
-
 constexpr platform::Rect kDefaultScreen{0, 0, 1920, 1080};
 
 }  // namespace
@@ -35,16 +33,6 @@ int RobotMonitors::OfMainWindow() {
         }
     }
     return 0;
-}
-
-Text RobotSound::MciSendString(TextView command) {
-    trace_.Event("mci", {{"command", Text(command)}, {"result", Text()}});
-    return {};
-}
-
-void RobotSound::SndPlaySound(const std::optional<Text>& file, int flags) {
-    trace_.Event("sndPlaySound", {{"file", file ? TraceValue(*file) : TraceValue(nullptr)},
-                                  {"flags", static_cast<double>(flags)}});
 }
 
 }  // namespace robot

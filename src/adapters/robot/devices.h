@@ -1,12 +1,10 @@
-// The robot's monitors and sound device.
+// The robot's monitors.
 #pragma once
 
 #include <vector>
 
 #include "model/window.h"
 #include "platform/monitors.h"
-#include "platform/sound.h"
-#include "platform/trace.h"
 
 namespace robot {
 
@@ -26,18 +24,6 @@ public:
 private:
     std::vector<platform::Rect> monitors_;
     const model::Window* mainWindow_ = nullptr;
-};
-
-/// A device on which nothing is ever open: each command is traced (mci, sndPlaySound) and
-/// answered with the empty text.
-class RobotSound : public platform::Sound {
-public:
-    explicit RobotSound(platform::Trace& trace) : trace_(trace) {}
-    Text MciSendString(TextView command) override;
-    void SndPlaySound(const std::optional<Text>& file, int flags) override;
-
-private:
-    platform::Trace& trace_;
 };
 
 }  // namespace robot

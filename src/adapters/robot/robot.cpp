@@ -40,7 +40,7 @@ Robot::Robot(const RobotOptions& options, platform::Trace& trace, std::ostream& 
     : loop_(options.now, options.seed),
       dialogs_(trace),
       monitors_(options.screens),
-      sound_(trace),
+      sound_(trace, loop_),
       video_(trace, loop_),
       windows_(trace),
       user_(ReadScript(options.script), options.script,
@@ -62,6 +62,7 @@ Robot::~Robot() {
 void Robot::Attach(model::Application& application, ShotFunction shot) {
     user_.Attach(application, std::move(shot));
     windows_.Attach(application.windows);
+    sound_.Follow(application.platform.files);
     video_.Follow(application.platform.files);
     monitors_.Follow(&application.windows.form1);
     loop_.Follow(&user_);

@@ -8,6 +8,7 @@
 #include "adapters/robot/devices.h"
 #include "adapters/robot/options.h"
 #include "adapters/robot/robot_dialogs.h"
+#include "adapters/robot/robot_sound.h"
 #include "adapters/robot/robot_video.h"
 #include "adapters/robot/scripted_user.h"
 #include "adapters/robot/virtual_loop.h"

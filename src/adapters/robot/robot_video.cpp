@@ -1,5 +1,7 @@
 #include "adapters/robot/robot_video.h"
 
+#include "adapters/robot/media_length.h"
+
 namespace robot {
 
 namespace {
@@ -16,7 +18,11 @@ void RobotVideo::SetUrl(TextView path) {
     }
     path_ = path;
     played_ = false;
-    milliseconds_ = files_ && files_->Readable(path) == 1 ? kUnknownLengthMs : 0;
+    milliseconds_ = 0;
+    if (files_ && LooksLikeVideo(*files_, path)) {
+        const std::optional<MediaLength> length = LengthOfMediaFile(*files_, path);
+        milliseconds_ = length ? length->milliseconds : kUnknownLengthMs;
+    }
     trace_.Event("video", {{"action", Text(u"open")}, {"file", path_}});
 }
 

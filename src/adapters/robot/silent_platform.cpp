@@ -74,6 +74,7 @@ public:
     explicit NoSystem(std::string folder) : folder_(std::move(folder)) {}
     Text AppFolder() override { return text::FromUtf8(folder_); }
     bool PreviousInstance() override { return false; }
+    bool Shell(TextView, TextView) override { return false; }
 
 private:
     std::string folder_;
