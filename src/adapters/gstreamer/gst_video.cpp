@@ -19,8 +19,7 @@ using platform::VideoState;
 namespace {
 
 // A header that asks for more is taken for damage.
-constexpr const char* kPictureCaps =
-    "video/x-raw,format=BGRx,width=[1,8192],height=[1,8192]";
+constexpr const char* kPictureCaps = "video/x-raw,format=BGRx,width=[1,8192],height=[1,8192]";
 constexpr GstClockTime kPrerollLimit = 5 * GST_SECOND;
 
 /// The newest picture on its way from the stream to the window.
@@ -126,6 +125,7 @@ struct GstVideo::Core : std::enable_shared_from_this<GstVideo::Core> {
     bool silent = false;
     std::atomic<bool> shown{false};  // since the last beginning
     bool everShown = false;
+    StartWatch watch;
 
     Worker worker;  // last: its thread may be the one that destroys the rest
 
@@ -227,6 +227,7 @@ void GstVideo::Core::Build(double from) {
 
 void GstVideo::Core::Drop() {
     ++build;
+    worker.Poll(0, nullptr);
     DropPipeline(pipeline);
 }
 
@@ -238,6 +239,13 @@ void GstVideo::Core::Start() {
         Build(0);
     }
     started = true;
+    watch = {};
+    worker.Poll(StartWatch::kPollMs, [self = weak_from_this()] {
+        const auto core = self.lock();
+        if (core && core->pipeline && core->watch.Hopeless(*core->pipeline)) {
+            core->Finish();
+        }
+    });
     gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
 }
 
@@ -290,6 +298,7 @@ void GstVideo::Core::Take(StreamEvent event, int ofBuild) {
     }
     switch (event) {
         case StreamEvent::Playing:
+            worker.Poll(0, nullptr);
             SetState(VideoState::Playing);
             break;
         case StreamEvent::End:
@@ -392,9 +401,9 @@ platform::Size GstVideo::NaturalSize() {
     }
     const int across = GST_VIDEO_INFO_PAR_N(&format);
     const int down = GST_VIDEO_INFO_PAR_D(&format);
-    const auto width = static_cast<int>(gst_util_uint64_scale_int_round(
-        static_cast<guint64>(GST_VIDEO_INFO_WIDTH(&format)), across > 0 ? across : 1,
-        down > 0 ? down : 1));
+    const auto width = static_cast<int>(
+        gst_util_uint64_scale_int_round(static_cast<guint64>(GST_VIDEO_INFO_WIDTH(&format)),
+                                        across > 0 ? across : 1, down > 0 ? down : 1));
     return {width, GST_VIDEO_INFO_HEIGHT(&format)};
 }
 
@@ -405,9 +414,8 @@ platform::VideoFrame GstVideo::Frame() {
     auto mapped = std::make_shared<MappedFrame>();
     const std::lock_guard lock(core_->mailbox->mutex);
     mapped->buffer = core_->mailbox->buffer;
-    if (!mapped->buffer ||
-        !gst_video_frame_map(&mapped->frame, &core_->mailbox->format, mapped->buffer.get(),
-                             GST_MAP_READ)) {
+    if (!mapped->buffer || !gst_video_frame_map(&mapped->frame, &core_->mailbox->format,
+                                                mapped->buffer.get(), GST_MAP_READ)) {
         return {};
     }
     mapped->mapped = true;

@@ -16,6 +16,8 @@ namespace {
 
 constexpr size_t kChunkFrames = 1024;
 constexpr guint64 kQueuedSeconds = 1;
+constexpr int kMostStartPolls = 100;  // 20 seconds
+constexpr int kMostIdlePolls = 3;
 constexpr int kStopAttempts = 20;
 constexpr gulong kStopPauseUs = 5000;
 constexpr double kMidiGain = 0.6;  // the instrument's own default is hardly heard
@@ -167,6 +169,32 @@ void LinkStream(GstElement*, GstPad* pad, gpointer data) {
 
 }  // namespace
 
+namespace {
+
+/// True while a thread of the stream has work, or may have.
+bool AnyThreadRuns(GstElement& pipeline) {
+    bool runs = false;
+    GstIterator* elements = gst_bin_iterate_recurse(GST_BIN(&pipeline));
+    const auto look = [](const GValue* item, gpointer found) {
+        gst_element_foreach_pad(
+            GST_ELEMENT(g_value_get_object(item)),
+            [](GstElement*, GstPad* pad, gpointer result) -> gboolean {
+                if (gst_pad_get_task_state(pad) == GST_TASK_STARTED) {
+                    *static_cast<bool*>(result) = true;
+                }
+                return TRUE;
+            },
+            found);
+    };
+    while (gst_iterator_foreach(elements, look, &runs) == GST_ITERATOR_RESYNC) {
+        gst_iterator_resync(elements);
+    }
+    gst_iterator_free(elements);
+    return runs;
+}
+
+}  // namespace
+
 ElementPtr MakePipeline(std::function<void(StreamEvent)> onEvent) {
     ElementPtr pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new(nullptr))));
     const BusPtr bus(gst_element_get_bus(pipeline.get()));
@@ -190,6 +218,11 @@ void DropPipeline(ElementPtr& pipeline) {
     const BusPtr bus(gst_element_get_bus(pipeline.get()));
     gst_bus_set_sync_handler(bus.get(), nullptr, nullptr, nullptr);
     pipeline.reset();
+}
+
+bool StartWatch::Hopeless(GstElement& pipeline) {
+    idlePolls = AnyThreadRuns(pipeline) ? 0 : idlePolls + 1;
+    return ++polls > kMostStartPolls || idlePolls > kMostIdlePolls;
 }
 
 bool AddPcmSource(GstElement& pipeline, GstElement& to, std::unique_ptr<PcmSource> source,

@@ -35,4 +35,14 @@ bool AddMidiSource(GstElement& pipeline, GstElement& to, const std::string& nati
 bool AddDecoder(GstElement& pipeline, const std::string& nativePath,
                 std::function<PadPtr(const std::string& kind)> onStream);
 
+/// Finds out that a pipeline will never begin to play: the decoder swallows an error that comes
+/// while it is still looking at the file, and nothing happens any more.
+struct StartWatch {
+    static constexpr int kPollMs = 200;
+    int polls = 0;
+    int idlePolls = 0;
+    /// To be asked every kPollMs until the pipeline plays.
+    bool Hopeless(GstElement& pipeline);
+};
+
 }  // namespace gst_adapter

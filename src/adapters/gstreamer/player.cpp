@@ -43,6 +43,8 @@ struct Player::Core : std::enable_shared_from_this<Player::Core> {
     double offset = 0;  // seconds of the piece ahead of this pipeline's time 0
     gint64 lastPosition = -1;
     int stalled = 0;
+    bool running = false;  // this pipeline has come to play
+    StartWatch watch;
 
     Worker worker;  // last: its thread may be the one that destroys the rest
 
@@ -104,6 +106,8 @@ void Player::Core::Build(double from) {
     }
     offset = 0;
     started = false;
+    running = false;
+    watch = {};
     GstElement* entry = MakeAudioTail(*output, silent, tail);
     if (entry) {
         gst_bin_add(GST_BIN(pipeline.get()), entry);
@@ -176,6 +180,8 @@ void Player::Core::Take(StreamEvent event, int ofBuild) {
             gst_element_set_state(pipeline.get(), started ? GST_STATE_PLAYING : GST_STATE_PAUSED);
             break;
         case StreamEvent::Playing:
+            running = true;
+            SetPolling();
             break;
     }
 }
@@ -205,6 +211,7 @@ void Player::Core::SetPolling() {
         return;
     }
     const int interval = tail->endTime >= 0    ? kEndPollMs
+                         : !running            ? StartWatch::kPollMs
                          : media.wantsPosition ? kPositionPollMs
                                                : 0;
     worker.Poll(interval, [self = weak_from_this()] {
@@ -215,6 +222,10 @@ void Player::Core::SetPolling() {
 }
 
 void Player::Core::PollNow() {
+    if (pipeline && !running && tail->endTime < 0 && watch.Hopeless(*pipeline)) {
+        Take(StreamEvent::Error, build);
+        return;
+    }
     gint64 heard = -1;
     if (!pipeline || !gst_element_query_position(pipeline.get(), GST_FORMAT_TIME, &heard)) {
         heard = -1;

@@ -11,8 +11,8 @@
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
 #include "platform/monitors.h"
-#include "platform/video.h"
 #include "platform/program_answer.h"
+#include "platform/video.h"
 
 class QWidget;
 

@@ -8,8 +8,7 @@
 
 namespace qt_adapter {
 
-VideoWidget::VideoWidget(platform::Video* video, QWidget* parent)
-    : QWidget(parent), video_(video) {
+VideoWidget::VideoWidget(platform::Video* video, QWidget* parent) : QWidget(parent), video_(video) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     if (video_) {
@@ -44,8 +43,7 @@ void VideoWidget::paintEvent(QPaintEvent*) {
         painter.fillRect(bar, Qt::black);
     }
     // The fourth byte of a pixel says nothing.
-    const QImage image(frame.pixels, frame.width, frame.height, frame.stride,
-                       QImage::Format_RGB32);
+    const QImage image(frame.pixels, frame.width, frame.height, frame.stride, QImage::Format_RGB32);
     painter.drawImage(place, image);
 }
 

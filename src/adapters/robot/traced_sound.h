@@ -19,8 +19,7 @@ public:
 
     void SndPlaySound(const std::optional<Text>& file, int flags) override {
         if (file) {
-            trace_.Event("sndPlaySound",
-                         {{"file", *file}, {"flags", static_cast<double>(flags)}});
+            trace_.Event("sndPlaySound", {{"file", *file}, {"flags", static_cast<double>(flags)}});
         } else {
             trace_.Event("sndPlaySound",
                          {{"file", nullptr}, {"flags", static_cast<double>(flags)}});
