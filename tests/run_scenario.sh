@@ -4,10 +4,15 @@
 # It runs in a fresh copy of the data, so that a scenario may change and delete files. Comments of
 # the script say what else is wanted:
 #   # args: --seed 3 --now "2026-01-01 23:59:50" show.kvs    more arguments
+#   # app: b.wav vue1.wav                                  a file for the program folder, and its name
 #   # exit: 1                                                the exit status, otherwise 0
 #   # trace: "t":3000,"event":"slide"                        a line of the trace holds this text
 #   # no trace: "event":"message"                            no line of the trace holds it
 #   # slides: 0 a.png 3000 b.png                             all slides shown, each with its time
+#   # sound: 4000 stop wav | close wav                       all commands to the sound device, those of
+#                                                            one moment on one line, files without
+#                                                            folders; repeated questions once, a fade's
+#                                                            volumes not at all
 set -euo pipefail
 program=$1 script=$2 data=$3 scratch=$4
 
@@ -18,6 +23,9 @@ cd "$scratch/data"
 
 wanted() { sed -n "s/^# $1: //p" "$script"; }
 
+while read -r from to; do
+    cp "$from" "$scratch/app/$to"
+done < <(wanted app)
 arguments=()
 line=$(wanted args | head -n 1)
 if [[ -n $line ]]; then
@@ -47,5 +55,20 @@ if grep -q '^# slides:' "$script"; then
         "$trace" | paste -sd ' ')
     expected=$(wanted slides | paste -sd ' ')
     [[ $shown == "$expected" ]] || complain "shown: $shown"$'\n'"  expected: $expected"
+fi
+if grep -q '^# sound:' "$script"; then
+    heard=$(sed -nE '
+        s/^\{"t":([0-9.]+),"event":"mci","command":"(.*)","result":.*/\1 \2/p
+        s/^\{"t":([0-9.]+),"event":"sndPlaySound","file":null,.*/\1 cancel/p
+        s/^\{"t":([0-9.]+),"event":"sndPlaySound","file":"([^"]*)","flags":([0-9]+).*/\1 sound \2 \3/p
+        ' "$trace" | sed -E 's/\\"/"/g; s|"[^"]*/|"|' | awk '
+        { time = $1; sub(/^[^ ]+ /, ""); }
+        /^setaudio/ && !/ 1000$/ { next }
+        $0 == last && /^status/ { next }
+        { last = $0; if (time == now) line = line " | " $0
+          else { if (line != "") print line; line = time " " $0; now = time } }
+        END { if (line != "") print line }')
+    expected=$(wanted sound)
+    [[ $heard == "$expected" ]] || complain "heard: $heard"$'\n'"  expected: $expected"
 fi
 exit $failed

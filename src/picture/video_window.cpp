@@ -1,5 +1,7 @@
 #include "picture/video_window.h"
 
+#include <algorithm>
+
 #include "picture/screen.h"
 
 namespace picture {
@@ -15,6 +17,8 @@ void Centre(Application& app) {
     FillMonitorTable(app);
     const platform::Rect monitor = MonitorTwips(app, MonitorOfMainWindow(app));
     model::Form24& form24 = app.windows.form24;
+    form24.Width = std::min(form24.Width(), monitor.width);
+    form24.Height = std::min(form24.Height(), monitor.height);
     form24.Left = monitor.x + (monitor.width - form24.Width) / 2;
     form24.Top = monitor.y + (monitor.height - form24.Height) / 2;
 }

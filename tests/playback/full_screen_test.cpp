@@ -209,9 +209,11 @@ TEST(FullScreenStart, AnEmptyListShowsNothing) {
 TEST(FullScreenStart, PauseDuringTheFirstStepHoldsTheShow) {
     Show show;
     show.state.ControlBoxFlag = 0;
-    show.state.TelopRunning = 1;
+    // START has ended what scrolled before; the question comes behind that.
+    show.state.FullStartConfirm = 0;
+    show.dialogs.whileOpen = [&](const auto&) { show.state.TelopRunning = 1; };
     show.loop.At(500, [&] { show.windows.slidescreen2.Command3.Click(); });
-    StartInScreen(show);
+    show.form1.Command4.Click();
     EXPECT_TRUE(show.Shown().empty());
     EXPECT_EQ(show.state.ShowRunning, 0);
     EXPECT_FALSE(show.form1.Timer1.Enabled);

@@ -15,6 +15,7 @@ protected:
         show.form1.Command4.Click();
         show.screen.P2.SetFocus = [this] { ++focused; };
         show.windows.slidescreen2.Hide();
+        show.sound.played.clear();
         show.state.UserInputSeen = 0;
         show.state.SlideIndex = 2;
         show.state.MacroButtonsShown = 1;
@@ -83,6 +84,34 @@ TEST_F(MacroClicks, AnUnwantedBoxStaysDown) {
     show.state.ControlBoxFlag = 1;
     show.screen.menu1.Click();
     EXPECT_FALSE(show.windows.slidescreen2.Visible);
+}
+
+TEST_F(MacroClicks, AnObjectStartsItsProgramForTheDocument) {
+    show.state.DocumentPath = u"C:\\show\\a.kvs";
+    show.state.CutoutAction[5] = u"  C:\\My Tools\\t.exe ";
+    show.state.CutoutAction[6] = u" C:\\t.Exe";
+    show.screen.Picture1(5).Click();
+    EXPECT_TRUE(show.system.started.empty()) << "the blank behind it hides the kind";
+    show.screen.Picture1(6).Click();
+    ASSERT_EQ(show.system.started.size(), 1u);
+    EXPECT_EQ(show.system.started[0].first, u"C:\\t.Exe");
+    EXPECT_EQ(show.system.started[0].second, u"C:\\show\\a.kvs");
+    EXPECT_EQ(show.state.SlideIndex, 2);
+}
+
+TEST_F(MacroClicks, AnObjectPlaysItsVideoBesideTheShow) {
+    show.state.CutoutAction[5] = u"C:\\v\\film.wmv";
+    show.state.CutoutJump[5] = 2;
+    show.screen.Picture1(5).Click();
+    EXPECT_TRUE(show.windows.form24.Visible);
+    EXPECT_FALSE(show.windows.form24.Modal);
+    EXPECT_EQ(show.video.path, u"C:\\v\\film.wmv");
+    EXPECT_EQ(show.windows.form24.WindowsMediaPlayer1.uiMode(), u"none");
+    EXPECT_EQ(focused, 2) << "the canvas takes the focus again";
+    ExpectJumpTo(3);
+    show.loop.Run(2000);
+    EXPECT_FALSE(show.windows.form24.Visible);
+    EXPECT_TRUE(show.screen.Visible);
 }
 
 TEST(WindowMacroClicks, ObjectsOfTheMainWindowDoTheSame) {

@@ -291,5 +291,52 @@ TEST(StepVideo, LeavesTheCdPlaying) {
     EXPECT_TRUE(show.CommandsWith(u"cdaudio").empty());
 }
 
+TEST(StepVideo, PlaysForItsLengthAndTheNextSlideFollows) {
+    Show show(1);
+    show.AddSlide(u"C:\\pic\\a.mp4");
+    show.files.Put(u"C:\\pic\\a.mp4", "film");
+    show.AddPicture();
+    show.video.milliseconds = 4000;
+    show.Start();
+    show.loop.Run(7099);
+    EXPECT_EQ(show.Shown(), Numbers{1});
+    show.loop.Run(1);  // 3 s, the video's 4 s, the short tick of 100 ms
+    EXPECT_EQ(show.Shown(), (Numbers{1, 3}));
+    EXPECT_TRUE(show.dialogs.messages.empty());
+}
+
+TEST(StepVideo, EnterOnThePlayerEndsTheShow) {
+    for (const bool full : {false, true}) {
+        Show show(1);
+        show.state.FullStartConfirm = 1;
+        show.AddSlide(u"C:\\pic\\a.mp4");
+        show.files.Put(u"C:\\pic\\a.mp4", "film");
+        show.AddPicture();
+        full ? show.form1.Command4.Click() : show.Start();
+        show.loop.At(4000, [&] { show.windows.form24.WindowsMediaPlayer1.KeyDown(13); });
+        show.loop.Run(20000);
+        EXPECT_EQ(show.Shown(), Numbers{1}) << full;
+        EXPECT_EQ(show.state.ShowRunning, 0) << full;
+        EXPECT_EQ(show.state.SlideIndex, 0) << full;
+        EXPECT_EQ(show.state.ShowAbort, 0) << full;
+        EXPECT_EQ(show.state.ExitToMainOnClose, 0) << full;
+        EXPECT_FALSE(show.screen.Visible) << full;
+        EXPECT_TRUE(show.form1.Visible) << full;
+        EXPECT_TRUE(show.form1.mnuOPEN.Visible) << full;
+        EXPECT_TRUE(show.form1.Command1.Enabled) << full;
+    }
+}
+
+TEST(StepVideo, AMacroThatWaitsKeepsTheShowBehindAStoppedVideo) {
+    Show show(0);
+    show.AddSlide(u"C:\\pic\\a.mp4");
+    show.files.Put(u"C:\\pic\\a.mp4", "film");
+    show.state.MacroWaitClick = 1;
+    show.video.milliseconds = 0;
+    show.Step(1);
+    EXPECT_EQ(show.state.VideoStoppedByUser, 1);
+    EXPECT_EQ(show.state.ShowAbort, 0);
+}
+
 }  // namespace
 }  // namespace playback_tests

@@ -37,6 +37,7 @@ TEST(StepFade, GoesFromFullVolumeBelowZeroInStepsOf100Ms) {
     Texts expected = Volumes(u"setaudio mp3 volume to", 980);
     expected.push_back(u"setaudio mp3 volume to -20");
     ASSERT_EQ(expected.size(), 51u);
+    expected.push_back(u"setaudio mp3 volume to 1000");  // of the piece that comes
     EXPECT_EQ(show.CommandsFrom(u"setaudio"), expected);
     EXPECT_EQ(show.CommandsFrom(u"status mp3 mode").size(), 1u);
     EXPECT_EQ(show.loop.sleeps, Numbers(51, 100));
@@ -48,10 +49,11 @@ TEST(StepFade, BeginsAtTheVolumeThatTheMacroLeft) {
     show.state.Mp3VolumeOffset = 300;
     show.Step(2);
     const Texts sent = show.CommandsFrom(u"setaudio");
-    ASSERT_EQ(sent.size(), 36u);  // 680 to 0, and −20
+    ASSERT_EQ(sent.size(), 37u);  // 680 to 0, −20, and the piece that comes
     EXPECT_EQ(sent.front(), u"setaudio mp3 volume to 680");
     EXPECT_EQ(sent[34], u"setaudio mp3 volume to 0");
-    EXPECT_EQ(sent.back(), u"setaudio mp3 volume to -20");
+    EXPECT_EQ(sent[35], u"setaudio mp3 volume to -20");
+    EXPECT_EQ(sent.back(), u"setaudio mp3 volume to 700");
 }
 
 TEST(StepFade, NotWithoutALinkedMp3OrASoundThatPlays) {
@@ -71,7 +73,7 @@ TEST(StepFade, NotWithoutALinkedMp3OrASoundThatPlays) {
         FadeShow show;
         setting.set(show);
         show.Step(2);
-        EXPECT_TRUE(show.CommandsFrom(u"setaudio").empty()) << setting.what;
+        EXPECT_TRUE(show.loop.sleeps.empty()) << setting.what;
         EXPECT_EQ(show.CommandsFrom(u"status mp3 mode").size(), setting.asked) << setting.what;
         EXPECT_EQ(show.Shown(), Numbers{2}) << setting.what;
     }
@@ -103,8 +105,11 @@ TEST(StepFade, ASoundThatWasClosedEndsItAndThePictureComes) {
     FadeShow show;
     show.loop.At(250, [&] { show.state.SoundOpen = 0; });
     show.Step(2);
-    // Sent at 0, 100 and 200; the pump at 300 sees the end.
-    EXPECT_EQ(show.CommandsFrom(u"setaudio").size(), 3u);
+    // Sent at 0, 100 and 200; the pump at 300 sees the end. Then the next piece begins.
+    const Texts sent = show.CommandsFrom(u"setaudio");
+    ASSERT_EQ(sent.size(), 4u);
+    EXPECT_EQ(sent[2], u"setaudio mp3 volume to 940");
+    EXPECT_EQ(sent[3], u"setaudio mp3 volume to 1000");
     EXPECT_EQ(show.Shown(), Numbers{2});
     EXPECT_EQ(show.state.StepBusy, 0);
 }
@@ -254,8 +259,54 @@ TEST(StepBackground, TheNextListSoundIsTakenUp) {
     Show show;
     show.state.SoundMode = 6;
     show.state.SoundListNext = 1;
+    show.state.SoundListCount = 1;
+    show.state.SoundList.Set(1, u"C:\\s\\a.wav");
+    show.files.Put(u"C:\\s\\a.wav", "sound");
     show.Step(2);
     EXPECT_EQ(show.state.SoundListNext, 0);
+    EXPECT_EQ(show.CommandsFrom(u"open").size(), 1u);
+}
+
+TEST(StepBackground, APieceThatEndedBeginsAgainAtThePicture) {
+    for (const Text answer : {u"stopped", u"Xtopped", u"playing", u""}) {
+        Show show;
+        show.state.SoundMode = 3;
+        show.state.WavFile = u"C:\\s\\a.wav";
+        show.files.Put(show.state.WavFile, "sound");
+        show.sound.answer = [&](TextView command) -> Text {
+            return command.starts_with(u"status") ? answer : Text();
+        };
+        show.state.SoundOpen = 1;
+        show.state.SoundPlaying = 1;
+        show.Step(2);
+        // The first letter is not compared.
+        const bool again = answer.size() == 7 && answer != u"playing";
+        EXPECT_EQ(show.CommandsFrom(u"open").size(), again ? 1u : 0u) << text::ToUtf8(answer);
+        EXPECT_EQ(show.CommandsFrom(u"close").size(), again ? 4u : 0u) << text::ToUtf8(answer);
+        EXPECT_EQ(show.state.SoundPlaying, 1);
+    }
+}
+
+TEST(StepBackground, AMissingListEntryCostsOnePicture) {
+    Show show;
+    show.state.SoundMode = 6;
+    show.state.SoundListCount = 3;
+    for (const int entry : {1, 2}) {
+        show.state.SoundList.Set(entry, u"C:\\s\\gone.wav");
+    }
+    show.state.SoundList.Set(3, u"C:\\s\\a.wav");
+    show.files.Put(u"C:\\s\\a.wav", "sound");
+    show.state.RestartSoundFlag = 1;
+    show.Step(1);
+    EXPECT_EQ(show.state.SoundListPos, 1);
+    show.state.StepBusy = 0;
+    show.Step(2);
+    EXPECT_EQ(show.state.SoundListPos, 2);
+    EXPECT_TRUE(show.CommandsFrom(u"open").empty());
+    show.Step(3);
+    EXPECT_EQ(show.state.SoundListPos, 3);
+    EXPECT_EQ(show.CommandsFrom(u"open").size(), 1u);
+    EXPECT_TRUE(show.dialogs.messages.empty());
 }
 
 Texts SecondChannel(const Text& path) {
@@ -393,6 +444,67 @@ TEST(StepMainChannel, SoundsOfTheLinkedFolder) {
     show.Step(2);
     EXPECT_TRUE(show.SoundAskedFor(u"D:\\snd\\2.wav"));
     EXPECT_FALSE(show.SoundAskedFor(u"C:\\pic\\2.wav"));
+}
+
+/// Opens, plays and stops of the alias "wav".
+size_t Opened(const Show& show) {
+    return show.CommandsFrom(u"open").size();
+}
+
+TEST(StepMainChannel, TwoPicturesWithTheSameSoundPlayItOnce) {
+    Show show(2);
+    show.AddSlide(Show::PathOf(2));
+    show.state.SoundMode = 1;
+    show.files.Put(u"C:\\pic\\2.wav", "sound");
+    show.Step(2);
+    EXPECT_EQ(Opened(show), 1u);
+    show.sound.commands.clear();
+    show.Step(3);
+    EXPECT_TRUE(show.sound.commands.empty()) << "it is not even stopped";
+    EXPECT_EQ(show.state.SoundPlaying, 1);
+}
+
+TEST(StepMainChannel, BehindAPictureWithoutOneTheSameSoundPlaysAgain) {
+    Show show(2);
+    show.state.SoundMode = 1;
+    show.files.Put(u"C:\\pic\\2.wav", "sound");
+    show.Step(2);
+    show.sound.commands.clear();
+    show.Step(1);
+    EXPECT_TRUE(show.sound.commands.empty()) << "what plays goes on";
+    show.Step(2);
+    EXPECT_EQ(Opened(show), 1u);
+}
+
+TEST(StepMainChannel, TheCommonSoundPlaysWithEveryPicture) {
+    Show show;
+    show.state.SoundMode = 0;
+    show.files.Put(u"C:\\app\\vue1.wav", "sound");
+    for (int slide = 1; slide <= 3; ++slide) {
+        show.Step(slide);
+    }
+    EXPECT_EQ(Opened(show), 3u);
+    EXPECT_EQ(show.CommandsFrom(u"close wav_ren").size(), 2u) << "each ends the one before";
+}
+
+TEST(StepMainChannel, WithoutTheCommonSoundSilence) {
+    Show show;
+    show.state.SoundMode = 0;
+    show.Step(1);
+    EXPECT_TRUE(show.sound.commands.empty());
+    EXPECT_TRUE(show.dialogs.messages.empty());
+}
+
+TEST(StepMainChannel, WithoutAnMp3ThePieceRunsOn) {
+    Show show;
+    show.state.SoundMode = 9;
+    show.files.Put(u"C:\\pic\\1.mp3", "sound");
+    show.Step(1);
+    EXPECT_EQ(show.state.ListMp3Playing, 1);
+    show.sound.commands.clear();
+    show.Step(2);
+    EXPECT_TRUE(show.sound.commands.empty());
+    EXPECT_EQ(show.state.SoundOpen, 1);
 }
 
 }  // namespace

@@ -182,6 +182,33 @@ TEST_F(Loops, BoxesAnswerWhatWasPressed) {
     EXPECT_EQ(press(QMessageBox::NoButton), platform::Answer::No) << "closed by its frame";
 }
 
+TEST_F(Loops, ProgramsAreAskedAboutInThreeWays) {
+    const auto press = [&](int button) {
+        loop.SetTimer(&keys[0], 1, [this, button] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                loop.CancelTimer(&keys[0]);
+                EXPECT_EQ(box->text(), QStringLiteral("このスライドショーはプログラムを"
+                                                      "起動しようとしています。\n\n"
+                                                      "<b>C:\\t.exe</b>"));
+                EXPECT_EQ(box->textFormat(), Qt::PlainText);
+                static const char* const words[] = {"はい", "いいえ", "この文書では常に許可"};
+                for (QAbstractButton* each : box->buttons()) {
+                    if (button >= 0 && each->text().startsWith(QString::fromUtf8(words[button]))) {
+                        each->click();
+                        return;
+                    }
+                }
+                box->close();
+            }
+        });
+        return desktop.AskProgram(u"<b>C:\\t.exe</b>");
+    };
+    EXPECT_EQ(press(0), platform::ProgramAnswer::Yes);
+    EXPECT_EQ(press(1), platform::ProgramAnswer::No);
+    EXPECT_EQ(press(2), platform::ProgramAnswer::Always);
+    EXPECT_EQ(press(-1), platform::ProgramAnswer::No) << "closed by its frame";
+}
+
 TEST_F(Loops, InputGivesTheLineOrNothing) {
     const auto finish = [&](bool accept) {
         loop.SetTimer(&keys[0], 1, [this, accept] {

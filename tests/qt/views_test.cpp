@@ -385,4 +385,21 @@ TEST_F(Views, ModelOutlivesItsViews) {
     EXPECT_EQ(desktop.WidgetOf(windows.form1)->windowTitle(), QStringLiteral("名残"));
 }
 
+TEST_F(Views, AModalWindowKeepsTheOthersFromInputWhileItIsShown) {
+    windows.slidescreen2.Show();
+    QWidget* widget = desktop.WidgetOf(windows.form1);
+    bool blocked = false;
+    int key = 0;
+    desktop.Loop().SetTimer(&key, 1, [&] {
+        blocked = widget->isModal() && QApplication::activeModalWidget() == widget;
+        windows.form1.Hide();
+    });
+    windows.form1.ShowModal(desktop.Loop());
+    desktop.Loop().CancelTimer(&key);
+    EXPECT_TRUE(blocked);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    windows.form1.Show();
+    EXPECT_FALSE(widget->isModal());
+}
+
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "adapters/robot/robot_dialogs.h"
+#include "adapters/robot/traced_system.h"
 #include "adapters/robot/window_tracer.h"
 #include "support/fake_platform.h"
 
@@ -183,6 +184,19 @@ TEST(WindowTracer, KnowsTheModalWindowOnTop) {
     EXPECT_EQ(tracer.ModalWindow(), nullptr);
     EXPECT_EQ(around.loop.Milliseconds(), 10);
     EXPECT_FALSE(windows.form24.Modal());
+}
+
+TEST(TracedSystem, TellsProgramsAndStartsThemWhereItMay) {
+    for (const bool starts : {false, true}) {
+        fakes::FakePlatform around;
+        TracedSystem system(around.system, around.trace, starts);
+        EXPECT_TRUE(system.Shell(u"a.exe b", u"C:\\x.kvs"));
+        const auto told = around.trace.Of("shell");
+        ASSERT_EQ(told.size(), 1u);
+        EXPECT_EQ(told[0].String("command"), u"a.exe b");
+        EXPECT_EQ(around.system.started.size(), starts ? 1u : 0u);
+        EXPECT_EQ(system.AppFolder(), around.system.appFolder);
+    }
 }
 
 }  // namespace

@@ -22,6 +22,23 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   cut.kvs       five.kvs without its end
   refused.kvs   a tag that is none
   all.kvl       one.kvs, then repeat.kvs
+
+Sounds: a.wav 5000 ms, b.wav 1000 ms, back.wav 4000 ms, a.mid 2000 ms, a.mp3 and c.mp3 of 20062 ms,
+no_sound.wav (text). Films: film.mp4 2500 ms, bad.mp4 (text); gone.mp4 is missing.
+Documents with sound (all without repetition):
+  common.kvs    a b c, common sound (vue1.wav)
+  linked.kvs    a b c, linked WAV, waits for its end
+  same.kvs      a a c, linked WAV, does not wait
+  back_wav.kvs  a b c d, back.wav behind them
+  midi.kvs      a b, linked MIDI
+  mp3.kvs       a b c, linked MP3
+  list.kvs      a b c d e, sound list b.wav, gone.wav, a.mid
+  over.kvs      a b, MP3 c.mp3 with linked WAV on top
+  garbled.kvs   a b, no_sound.wav behind them
+  film.kvs      a film.mp4 b
+  no_film.kvs   a gone.mp4 b
+  bad_film.kvs  a bad.mp4 b
+  fade.kvs      a film.mp4 b, sound list c.mp3
 """
 
 import pathlib
@@ -43,21 +60,54 @@ def png(width, height, rgb):
             + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
 
 
+def wav(milliseconds):
+    """8000 samples a second, 8 bits, one channel."""
+    samples = b"\x80" * (milliseconds * 8)
+    body = (b"WAVEfmt " + struct.pack("<IHHIIHH", 16, 1, 1, 8000, 8000, 1, 8)
+            + b"data" + struct.pack("<I", len(samples)) + samples)
+    return b"RIFF" + struct.pack("<I", len(body)) + body
+
+
+def midi(quarters):
+    """Notes of half a second each, 96 ticks a quarter."""
+    events = b"".join(b"\0\x90\x40\x40\x60\x80\x40\x40" for _ in range(quarters))
+    events += b"\0\xff\x2f\0"
+    return (b"MThd" + struct.pack(">IHHH", 6, 0, 1, 96)
+            + b"MTrk" + struct.pack(">I", len(events)) + events)
+
+
+def mp3(frames):
+    """Silent frames of 128 kbit/s, 1152 samples at 44100 Hz each."""
+    return (b"\xff\xfb\x90\x00" + bytes(413)) * frames
+
+
+def mp4(milliseconds):
+    """A film without a picture that says how long it is."""
+    def box(kind, body):
+        return struct.pack(">I", len(body) + 8) + kind + body
+
+    header = bytes(12) + struct.pack(">II", 1000, milliseconds) + bytes(80)
+    return box(b"ftyp", b"isom" + struct.pack(">I", 512)) + box(b"moov", box(b"mvhd", header))
+
+
 def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1,
-                  effects=(11, 12)):
+                  effects=(11, 12), sound=7, wav_file="", midi_file="", mp3_file="", sync=0,
+                  sounds=(), over_mp3=0):
     """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
     def number(value):
         return (f" {value}" if value >= 0 else str(value)) + " "
 
     rows = rows or [BLANK_ROW] * len(slides)
-    before = ["21vue3167893", "show.kvs", number(interval), number(repeat), number(7), "*.wav", "",
+    before = ["21vue3167893", "show.kvs", number(interval), number(repeat),
+              number(7 if sound == 8 else sound), "*.wav", wav_file,
               number(effects[0]), number(-30), number(effects[1]), number(-30), number(10), number(10), number(1),
-              "1", number(20), number(20), number(0), "", number(0), number(0), number(random),
+              "1", number(20), number(20), number(0), midi_file, number(sync), number(0), number(random),
               number(0), number(0), "", number(len(slides))]
     # Overlay 0 0, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
     # mode, always full screen (0 is on), speed, load mode, two linked WAV options.
-    after = ["480", *map(number, (0, 0, 0, 0, 1, 0, 0, 0, 0, 0)), "",
-             *map(number, (0, always_full, 0, 0, 0, 0))]
+    after = ["480", *map(number, (0, 0, 0, 0, 1, 0, 0, 0, 1 if sounds else 0)),
+             *([number(len(sounds)), *sounds] if sounds else []), number(0), mp3_file,
+             *map(number, (1 if sound == 8 else 0, always_full, 0, 0, over_mp3, 0))]
     return before + list(slides) + after + ["-" + row for row in rows]
 
 
@@ -108,6 +158,29 @@ def main():
         ["vue2", "show.kvs", " 3000 ", " 1 ", " 7 ", "*.wav", " 2 ", "a.png", "b.png"])
     files["cut.kvs"] = files["five.kvs"][:files["five.kvs"].index(b"c.png") + 3]
     files["refused.kvs"] = b"vue\r\n" + files["five.kvs"]
+
+    files["a.wav"], files["b.wav"], files["back.wav"] = wav(5000), wav(1000), wav(4000)
+    files["a.mid"] = midi(4)
+    files["a.mp3"] = files["c.mp3"] = mp3(768)
+    files["no_sound.wav"] = files["bad.mp4"] = files["text.jpg"]
+    files["film.mp4"] = mp4(2500)
+    shows = {
+        "common": (five[:3], {"sound": 0}),
+        "linked": (five[:3], {"sound": 1}),
+        "same": (["a.png", "a.png", "c.png"], {"sound": 1, "sync": 1}),
+        "back_wav": (five[:4], {"sound": 3, "wav_file": "back.wav"}),
+        "midi": (five[:2], {"sound": 5}),
+        "mp3": (five[:3], {"sound": 9}),
+        "list": (five, {"sound": 6, "sync": 1, "sounds": ["b.wav", "gone.wav", "a.mid"]}),
+        "over": (five[:2], {"sound": 8, "mp3_file": "c.mp3", "over_mp3": 1}),
+        "garbled": (five[:2], {"sound": 3, "wav_file": "no_sound.wav"}),
+        "film": (["a.png", "film.mp4", "b.png"], {}),
+        "no_film": (["a.png", "gone.mp4", "b.png"], {}),
+        "bad_film": (["a.png", "bad.mp4", "b.png"], {}),
+        "fade": (["a.png", "film.mp4", "b.png"], {"sound": 6, "sync": 1, "sounds": ["c.mp3"]}),
+    }
+    for name, (slides, settings) in shows.items():
+        files[name + ".kvs"] = document(lines_of_show(slides, **settings))
 
     for name, content in files.items():
         (folder / name).write_bytes(content)

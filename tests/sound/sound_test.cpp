@@ -343,7 +343,8 @@ TEST(StopSound, PutsCaptionAndScrollingTextBackWithoutASlide) {
         player.state.FullScreenActive = setting.fullScreen;
         player.state.DocumentPath = u"C:\\a.kvs";
         player.state.TelopRunning = 1;
-        player.form1.Timer4.Enabled = screen.Timer1.Enabled = true;
+        player.form1.Timer4.Enabled = true;
+        screen.Timer1.Enabled = true;
         for (model::Label* label : {&player.form1.Label1, &screen.Label1}) {
             label->Caption = Text(u"telop");
             label->Visible = true;

@@ -109,10 +109,10 @@ platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
 
 platform::ProgramAnswer QtDialogs::AskProgram(TextView commandLine) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("パラピコ"),
-                    QStringLiteral("このスライドショーはプログラムを起動しようとしています。"),
+                    QStringLiteral("このスライドショーはプログラムを起動しようとしています。\n\n") +
+                        ToQt(commandLine),
                     QMessageBox::NoButton, BoxParent());
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(ToQt(commandLine));
     box.setCursor(Qt::ArrowCursor);
     QPushButton* yes = box.addButton(QStringLiteral("はい(&Y)"), QMessageBox::AcceptRole);
     QPushButton* no = box.addButton(QStringLiteral("いいえ(&N)"), QMessageBox::RejectRole);

@@ -1,0 +1,24 @@
+# A video slide plays its 2500 ms in a window in the middle of the screen; 100 ms later comes the
+# next slide. Other windows take no input meanwhile.
+# slides: 1000 a.png 6600 b.png
+# trace: "t":4000,"event":"window","name":"Form24","state":"shown"
+# trace: "t":4000,"event":"video","action":"play"
+# trace: "t":6500,"event":"window","name":"Form24","state":"unloaded"
+# no trace: "event":"message"
+choose film.kvs
+menu mnuOPEN
+@1000 click Form1.Command1
+@5000 expect Form24.Visible true
+expect Form24.Modal true
+# (1920 * 15 - 14400) / 2 and (1080 * 15 - 8100) / 2
+expect Form24.Left 7200
+expect Form24.Top 4050
+expect VideoStarted 1
+expect StepBusy 1
+expect Form1.Caption film.mp4
+click Form1.Command3
+expect ShowRunning 1
+@6599 expect Form24.Visible false
+expect LastWasVideo 1
+@6700 expect LastWasVideo 0
+@9601 expect ShowRunning 0
