@@ -22,6 +22,7 @@ test_packages=(
     xvfb xauth xdotool imagemagick dbus-daemon
     # Benchmarks compare with these.
     libbenchmark-dev libturbojpeg0-dev libjpeg-dev gstreamer1.0-plugins-base-apps
+    gstreamer1.0-tools
 )
 
 case ${1:-run} in
