@@ -25,8 +25,8 @@ def make(folder):
     tone = f"audiotestsrc num-buffers={SECONDS * 44} samplesperbuffer=1000 ! audio/x-raw,rate=44100"
     launch(tone, "! wavenc ! filesink location=" + str(folder / "a.wav"))
     launch(tone, "! lamemp3enc ! filesink location=" + str(folder / "a.mp3"))
-    launch(f"videotestsrc pattern=smpte75 num-buffers={SECONDS * 30} ! ",
-           "video/x-raw,width=1920,height=1080,framerate=30/1 ! timeoverlay ! "
+    launch(f"videotestsrc pattern=ball num-buffers={SECONDS * 30} ! ",
+           "video/x-raw,width=1920,height=1080,framerate=30/1 ! "
            "x264enc speed-preset=ultrafast ! "
            "mp4mux name=m ! filesink location=" + str(folder / "a.mp4"))
 
