@@ -13,9 +13,10 @@ FLOORS = {
     "text": 1, "platform": 2, "model": 3, "document": 4, "picture": 5, "sound": 5,
     "macro": 6, "playback": 7, "authoring": 8, "app": 9,
 }
-ADAPTERS = {"qt", "gstreamer", "imaging", "posix", "robot"}
+ADAPTERS = {"qt", "gstreamer", "cdio", "imaging", "posix", "robot"}
 # The robot plays a person: it needs the windows on the screen and the trace's JSON.
-ADAPTER_NEIGHBOURS = {"robot": {"qt", "posix"}, "qt": {"posix"}}
+# The disc reader feeds the sound.
+ADAPTER_NEIGHBOURS = {"robot": {"qt", "posix"}, "qt": {"posix"}, "cdio": {"gstreamer"}}
 # Standard headers whose whole purpose is forbidden in the logic.
 FORBIDDEN_HEADERS = {
     "thread": "one thread runs the logic", "mutex": "one thread runs the logic",

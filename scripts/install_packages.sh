@@ -5,10 +5,14 @@ set -euo pipefail
 
 run_packages=(
     # To build.
-    g++ cmake ninja-build ccache qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev
+    g++ cmake ninja-build ccache qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev pkg-config
+    libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libsndfile1-dev libcdio-dev
     # To run: picture kinds, the window systems, Qt's own dialogs in Japanese, fonts.
     qt6-image-formats-plugins libqt6svg6 qt6-qpa-plugins libxcb-cursor0 qt6-wayland
     qt6-translations-l10n fonts-ipafont-gothic fonts-ipafont-mincho
+    # To run: sound and video of all kinds, MIDI instruments.
+    gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-bad
+    gstreamer1.0-plugins-ugly gstreamer1.0-libav gstreamer1.0-alsa timgm6mb-soundfont libsndfile1
     # The scripts.
     python3
 )
@@ -19,7 +23,8 @@ test_packages=(
     # To check what is installed, and the package.
     desktop-file-utils appstream shared-mime-info libglib2.0-bin man-db groff-base lintian
     # Benchmarks compare with these.
-    pkg-config libbenchmark-dev libturbojpeg0-dev libjpeg-dev
+    libbenchmark-dev libturbojpeg0-dev libjpeg-dev gstreamer1.0-plugins-base-apps
+    gstreamer1.0-tools
 )
 
 case ${1:-run} in

@@ -5,24 +5,30 @@
 #include <string>
 #include <vector>
 
+#include "adapters/gstreamer/gst_sound.h"
+#include "adapters/gstreamer/gst_video.h"
 #include "adapters/imaging/qt_imaging.h"
 #include "adapters/posix/iconv_code_page.h"
 #include "adapters/posix/json_trace.h"
 #include "adapters/posix/posix_files.h"
 #include "adapters/posix/posix_system.h"
+#include "adapters/posix/settings_file.h"
 #include "adapters/posix/start_paths.h"
 #include "adapters/qt/desktop.h"
 #include "adapters/robot/check_command.h"
 #include "adapters/robot/inspect.h"
-#include "adapters/robot/no_video.h"
 #include "adapters/robot/options.h"
 #include "adapters/robot/robot.h"
 #include "adapters/robot/robot_sound.h"
 #include "adapters/robot/script.h"
 #include "adapters/robot/traced_dialogs.h"
+#include "adapters/robot/traced_sound.h"
 #include "adapters/robot/traced_system.h"
 #include "adapters/robot/window_tracer.h"
 #include "app/start_up.h"
+#ifdef PARAPICO_HAS_CD
+#include "adapters/cdio/cdio_disc.h"
+#endif
 
 namespace {
 
@@ -91,7 +97,7 @@ struct Surroundings {
 class Views {
 public:
     Views(qt_adapter::Desktop& desktop, Application& application) : desktop_(desktop) {
-        desktop_.MakeViews(application.windows);
+        desktop_.MakeViews(application.windows, &application.platform.video);
     }
     ~Views() { desktop_.UnmakeViews(); }
     Views(const Views&) = delete;
@@ -109,6 +115,15 @@ int RunUntilEnd(Application& application, const app::StartOptions& options) {
     }
 }
 
+/// Nothing in a program that was built without the reader of discs.
+gst_adapter::OpenDisc DiscReader() {
+#ifdef PARAPICO_HAS_CD
+    return cdio_adapter::OpenDisc;
+#else
+    return {};
+#endif
+}
+
 int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::string& document) {
     qt_adapter::Desktop desktop(argc, argv, {});
     auto clock = std::make_shared<LateClock>();
@@ -119,8 +134,13 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     }
     Surroundings around{std::string()};
     robot::TracedDialogs dialogs(desktop.Dialogs(), *trace);
-    robot::RobotSound sound(*trace, desktop.Loop());  // opens nothing: devices are not built yet
-    robot::NoVideo video;
+    const auto output = std::make_shared<gst_adapter::AudioOutput>();
+    gst_adapter::GstSound device(around.files, desktop.Loop(), output, DiscReader(),
+                                 posix_adapter::UserSetting(around.programFolder, "cd"));
+    robot::TracedSound sound(device, *trace);
+    gst_adapter::GstVideo video(around.files, output, [&desktop](std::function<void()> call) {
+        desktop.Post(std::move(call));
+    });
     around.system.ask = [&desktop](TextView command) { return desktop.AskProgram(command); };
     robot::TracedSystem system(around.system, *trace, true);
     robot::WindowTracer windows(*trace);

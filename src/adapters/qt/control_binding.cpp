@@ -15,6 +15,7 @@
 #include "adapters/qt/convert.h"
 #include "adapters/qt/list_binding.h"
 #include "adapters/qt/stage_widget.h"
+#include "adapters/qt/video_widget.h"
 #include "platform/monitors.h"
 
 namespace qt_adapter {
@@ -184,6 +185,18 @@ private:
     Edit& face_;
 };
 
+class PlayerBinding : public ControlBinding {
+public:
+    PlayerBinding(model::Player& player, VideoWidget& widget, Gate& gate)
+        : ControlBinding(player, widget, gate, nullptr) {
+        widget.Attach(player, gate);
+        Sync();
+    }
+
+protected:
+    void SyncOwn() override {}
+};
+
 class PictureBinding : public ControlBinding {
 public:
     PictureBinding(model::PictureBox& box, CanvasWidget& widget, Gate& gate,
@@ -337,6 +350,12 @@ std::unique_ptr<ControlBinding> MakeBinding(model::VisibleControl& control, QWid
             if (auto* canvas = qobject_cast<CanvasWidget*>(&widget)) {
                 return std::make_unique<PictureBinding>(static_cast<model::PictureBox&>(control),
                                                         *canvas, gate, host, physical);
+            }
+            break;
+        case ControlKind::Player:
+            if (auto* screen = qobject_cast<VideoWidget*>(&widget)) {
+                return std::make_unique<PlayerBinding>(static_cast<model::Player&>(control),
+                                                       *screen, gate);
             }
             break;
         default:

@@ -183,9 +183,13 @@ platform::TextRenderer& Desktop::TextRenderer() {
     return parts_->textRenderer;
 }
 
-void Desktop::MakeViews(model::Windows& windows) {
+void Desktop::Post(std::function<void()> call) {
+    QMetaObject::invokeMethod(&parts_->watcher, std::move(call), Qt::QueuedConnection);
+}
+
+void Desktop::MakeViews(model::Windows& windows, platform::Video* video) {
     UnmakeViews();
-    parts_->loader = std::make_unique<FormLoader>();
+    parts_->loader = std::make_unique<FormLoader>(video);
     for (model::Window* window : windows.All()) {
         if (FormLoader::HasForm(window->Name())) {
             parts_->views.push_back(std::make_unique<WindowView>(

@@ -2,6 +2,7 @@
 // person sees.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "platform/event_loop.h"
 #include "platform/monitors.h"
 #include "platform/program_answer.h"
+#include "platform/video.h"
 
 class QWidget;
 
@@ -33,6 +35,9 @@ public:
     ~Desktop();
 
     platform::EventLoop& Loop();
+    /// Runs the call on this thread, from the event loop, some time later. Any thread; not any
+    /// more once the desktop is gone.
+    void Post(std::function<void()> call);
     platform::Dialogs& Dialogs();
     platform::Monitors& Monitors();
     /// Asks whether the show may start a program.
@@ -43,7 +48,8 @@ public:
     /// From now on every window that has a form is shown as its model says, and what a person does
     /// with it reaches the model. `windows` must outlive the views. Windows without a form are
     /// passed over.
-    void MakeViews(model::Windows& windows);
+    /// `video`: what players show; it must outlive the views too. Null: players stay black.
+    void MakeViews(model::Windows& windows, platform::Video* video = nullptr);
     /// Takes the windows off the screen; the model is neither told nor changed. Call it before the
     /// model goes. Nothing happens without views.
     void UnmakeViews();

@@ -4,6 +4,7 @@
 
 #include "adapters/qt/canvas_widget.h"
 #include "adapters/qt/stage_widget.h"
+#include "adapters/qt/video_widget.h"
 
 namespace qt_adapter {
 
@@ -20,7 +21,7 @@ QString WidgetName(const std::string& controlName) {
     return name.replace('(', '_').remove(')');
 }
 
-FormLoader::FormLoader() {
+FormLoader::FormLoader(platform::Video* video) : video_(video) {
     // Widgets of installed designer plug-ins are no part of this program's forms.
     clearPluginPaths();
 }
@@ -40,6 +41,8 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
         widget = new CanvasWidget(parent);
     } else if (className == "StageWidget") {
         widget = new StageWidget(parent);
+    } else if (className == "VideoWidget") {
+        widget = new VideoWidget(video_, parent);
     } else {
         return QUiLoader::createWidget(className, parent, name);
     }

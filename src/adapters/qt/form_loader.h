@@ -5,6 +5,8 @@
 #include <QUiLoader>
 #include <string>
 
+#include "platform/video.h"
+
 namespace qt_adapter {
 
 /// Object name of a control: "Picture2_3" for "Picture2(3)".
@@ -12,13 +14,17 @@ QString WidgetName(const std::string& controlName);
 
 class FormLoader : public QUiLoader {
 public:
-    FormLoader();
+    /// `video`: what the players of forms show; null: nothing.
+    explicit FormLoader(platform::Video* video);
     static bool HasForm(const std::string& windowName);
     /// The form's widgets without a parent; null when the form is missing or broken.
     QWidget* Make(const std::string& windowName);
 
 protected:
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override;
+
+private:
+    platform::Video* video_;
 };
 
 }  // namespace qt_adapter

@@ -1,0 +1,315 @@
+#include "adapters/gstreamer/cd_audio.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+#include "adapters/gstreamer/worker.h"
+
+namespace gst_adapter {
+
+namespace {
+
+constexpr int kDiscLimitMs = 15000;  // a drive that spins up
+constexpr int kPumpMs = 10;
+constexpr int kSectorsAtOnce = 16;
+constexpr int kUnreadableInARow =
+    5;  // chunks, each replaced by silence, until the disc is given up
+constexpr int kFullVolume = 1000;
+
+struct Span {
+    int sector = 0;
+    int sectors = 0;
+};
+
+/// Sectors of a disc, one span behind the other.
+class DiscSource : public PcmSource {
+public:
+    DiscSource(std::shared_ptr<Disc> disc, std::vector<Span> spans)
+        : disc_(std::move(disc)), spans_(std::move(spans)) {
+        rate = kDiscRate;
+        channels = 2;
+    }
+
+    size_t Read(float* frames, size_t count) override {
+        if (used_ == samples_.size() && !Fill()) {
+            return 0;
+        }
+        const size_t taken = std::min(count * 2, samples_.size() - used_);
+        for (size_t i = 0; i < taken; ++i) {
+            frames[i] = static_cast<float>(samples_[used_ + i]) / 32768.0f;
+        }
+        used_ += taken;
+        return taken / 2;
+    }
+
+    bool Seek(int64_t frame) override {
+        used_ = 0;
+        samples_.clear();
+        span_ = 0;
+        done_ = 0;
+        int64_t sector = frame / kFramesPerSector;
+        while (span_ < spans_.size() && sector >= spans_[span_].sectors) {
+            sector -= spans_[span_++].sectors;
+        }
+        done_ = static_cast<int>(sector);
+        return span_ < spans_.size();
+    }
+
+private:
+    bool Fill() {
+        if (span_ < spans_.size() && done_ >= spans_[span_].sectors) {
+            ++span_;
+            done_ = 0;
+        }
+        if (span_ >= spans_.size() || unreadable_ >= kUnreadableInARow) {
+            return false;
+        }
+        const int count = std::min(kSectorsAtOnce, spans_[span_].sectors - done_);
+        samples_.assign(static_cast<size_t>(count) * kFramesPerSector * 2, 0);
+        if (disc_->Read(spans_[span_].sector + done_, count, samples_.data())) {
+            unreadable_ = 0;
+        } else {
+            std::fill(samples_.begin(), samples_.end(), int16_t{0});
+            ++unreadable_;
+        }
+        done_ += count;
+        used_ = 0;
+        return !samples_.empty();
+    }
+
+    std::shared_ptr<Disc> disc_;
+    std::vector<Span> spans_;
+    size_t span_ = 0;
+    int done_ = 0;  // sectors of the span that were read
+    int unreadable_ = 0;
+    std::vector<int16_t> samples_;
+    size_t used_ = 0;
+};
+
+}  // namespace
+
+struct CdAudio::Shared {
+    std::mutex mutex;
+    bool known = false;  // the drive has answered
+    std::vector<DiscTrack> tracks;
+    std::shared_ptr<Disc> disc;
+    Worker worker;
+};
+
+CdAudio::CdAudio(OpenDisc openDisc, std::string device, std::shared_ptr<AudioOutput> output,
+                 platform::EventLoop& loop)
+    : openDisc_(std::move(openDisc)),
+      device_(std::move(device)),
+      output_(std::move(output)),
+      loop_(loop) {}
+
+Text CdAudio::Send(const Command& command) {
+    if (command.verb == u"open") {
+        Open();
+    } else if (!shared_) {
+        return {};
+    } else if (command.verb == u"status") {
+        return Status(command.rest);
+    } else if (command.verb == u"set") {
+        byTracks_ = command.rest == u"time format tmsf";
+    } else if (command.verb == u"setaudio" && command.rest.starts_with(u"volume to ")) {
+        const int volume = WholeNumber(TextView(command.rest).substr(10), -1);
+        if (volume >= 0 && volume <= kFullVolume) {
+            volume_ = static_cast<double>(volume) / kFullVolume;
+            if (player_) {
+                player_->SetVolume(volume_);
+            }
+        }
+    } else if (command.verb == u"play" && command.rest.starts_with(u"from ")) {
+        Play(TextView(command.rest).substr(5));
+    } else if (command.verb == u"stop") {
+        startSector_ = Sector();
+        player_.reset();
+    } else if (command.verb == u"close") {
+        Close();
+    }
+    return {};
+}
+
+void CdAudio::Open() {
+    if (shared_) {
+        const std::lock_guard lock(shared_->mutex);
+        if (!shared_->known || (shared_->disc && !shared_->tracks.empty())) {
+            return;
+        }
+    }
+    // Also where it is open without a disc: one may have been put in.
+    Close();
+    shared_ = std::make_shared<Shared>();
+    byTracks_ = false;
+    volume_ = 1;
+    const bool asked = shared_->worker.Post([shared = shared_, open = openDisc_, name = device_] {
+        std::shared_ptr<Disc> disc = open ? open(name) : nullptr;
+        const std::lock_guard lock(shared->mutex);
+        shared->disc = std::move(disc);
+        if (shared->disc) {
+            shared->tracks = shared->disc->tracks;
+        }
+        shared->known = true;
+    });
+    if (!asked) {
+        shared_->known = true;
+    }
+}
+
+void CdAudio::Close() {
+    player_.reset();
+    startSector_ = 0;
+    if (shared_) {
+        // The disc is let go on the worker, as a drive may take its time for that as well.
+        shared_->worker.Post([shared = shared_] {
+            std::shared_ptr<Disc> disc;
+            const std::lock_guard lock(shared->mutex);
+            disc.swap(shared->disc);
+        });
+        shared_.reset();
+    }
+}
+
+/// True with a disc. Handlers run while the drive is waited for, and may close the device.
+bool CdAudio::WaitForDisc() {
+    const double limit = loop_.Milliseconds() + kDiscLimitMs;
+    for (;;) {
+        const std::shared_ptr<Shared> shared = shared_;
+        if (!shared) {
+            return false;
+        }
+        {
+            const std::lock_guard lock(shared->mutex);
+            if (shared->known) {
+                return !shared->tracks.empty();
+            }
+        }
+        if (loop_.Milliseconds() >= limit) {
+            return false;
+        }
+        loop_.Sleep(kPumpMs);
+        loop_.PumpEvents();
+    }
+}
+
+int CdAudio::TrackAt(int sector) const {
+    int track = 0;
+    for (const DiscTrack& each : shared_->tracks) {
+        track += each.firstSector <= sector ? 1 : 0;
+    }
+    return std::max(track, 1);
+}
+
+/// "tt[:mm[:ss[:ff]]]" counted within the track, or "mm[:ss[:ff]]" on the disc; -1 where it is
+/// none or lies outside of the disc.
+int CdAudio::SectorOf(TextView position) const {
+    int parts[4] = {0, 0, 0, 0};
+    const int first = byTracks_ ? 0 : 1;
+    Text rest = text::Trim(position);
+    for (int part = first; part < 4; ++part) {
+        const size_t colon = rest.find(u':');
+        parts[part] = WholeNumber(rest.substr(0, colon), -1);
+        if (parts[part] < 0 || parts[part] > 99) {
+            return -1;
+        }
+        if (colon == Text::npos) {
+            break;
+        }
+        rest = rest.substr(colon + 1);
+    }
+    const int offset = (parts[1] * 60 + parts[2]) * kSectorsPerSecond + parts[3];
+    if (!byTracks_) {
+        return offset;
+    }
+    const auto tracks = static_cast<int>(shared_->tracks.size());
+    if (parts[0] < 1 || parts[0] > tracks) {
+        return -1;
+    }
+    return shared_->tracks[static_cast<size_t>(parts[0] - 1)].firstSector + offset;
+}
+
+void CdAudio::Play(TextView range) {
+    if (!WaitForDisc()) {
+        return;
+    }
+    const size_t to = range.find(u" to ");
+    const int start = SectorOf(range.substr(0, to));
+    const DiscTrack& last = shared_->tracks.back();
+    const int discEnd = last.firstSector + last.sectors;
+    const int end = to == TextView::npos ? discEnd : SectorOf(range.substr(to + 4));
+    if (start < 0 || end < start || start >= discEnd) {
+        return;
+    }
+    std::vector<Span> spans;
+    for (const DiscTrack& track : shared_->tracks) {
+        const int from = std::max(start, track.firstSector);
+        const int until = std::min(end, track.firstSector + track.sectors);
+        if (track.audio && from < until) {  // data would be noise
+            spans.push_back({from, until - from});
+        }
+    }
+    Media media;
+    media.wantsPosition = true;
+    media.open = [shared = shared_, spans]() -> std::unique_ptr<PcmSource> {
+        const std::lock_guard lock(shared->mutex);
+        return shared->disc && !spans.empty() ? std::make_unique<DiscSource>(shared->disc, spans)
+                                              : nullptr;
+    };
+    startSector_ = spans.empty() ? start : spans.front().sector;
+    player_ = std::make_unique<Player>(std::move(media), output_);
+    player_->SetVolume(volume_);
+    player_->Play();
+}
+
+int CdAudio::Sector() const {
+    const double seconds = player_ ? player_->Position() : 0;
+    return startSector_ + static_cast<int>(seconds * kSectorsPerSecond);
+}
+
+Text CdAudio::PositionText() const {
+    int sector = Sector();
+    const int track = TrackAt(sector);
+    char words[32];
+    if (byTracks_) {
+        sector -= shared_->tracks[static_cast<size_t>(track - 1)].firstSector;
+    }
+    sector = std::max(sector, 0);
+    const int minutes = sector / kSectorsPerSecond / 60;
+    const int seconds = sector / kSectorsPerSecond % 60;
+    const int frames = sector % kSectorsPerSecond;
+    if (byTracks_) {
+        std::snprintf(words, sizeof words, "%02d:%02d:%02d:%02d", track, minutes, seconds, frames);
+    } else {
+        std::snprintf(words, sizeof words, "%02d:%02d:%02d", minutes, seconds, frames);
+    }
+    return text::FromUtf8(words);
+}
+
+Text CdAudio::Status(TextView what) {
+    const bool disc = WaitForDisc();
+    if (!shared_) {
+        return {};
+    }
+    if (what == u"ready") {
+        return disc ? u"true" : u"false";
+    }
+    if (what == u"mode") {
+        return !disc ? u"not ready" : player_ && player_->Playing() ? u"playing" : u"stopped";
+    }
+    if (!disc) {
+        return {};
+    }
+    if (what == u"number of tracks") {
+        return text::FromUtf8(std::to_string(shared_->tracks.size()));
+    }
+    if (what == u"current track") {
+        return text::FromUtf8(std::to_string(TrackAt(Sector())));
+    }
+    return what == u"position" ? PositionText() : Text();
+}
+
+}  // namespace gst_adapter

@@ -1,0 +1,27 @@
+// The command strings, taken apart.
+#pragma once
+
+#include <string>
+
+#include "text/text.h"
+
+namespace gst_adapter {
+
+struct Command {
+    Text verb;    // open, set, setaudio, play, status, stop, close
+    Text device;  // the alias; of an opening, the alias that it gives
+    Text rest;    // what follows the alias, without blanks around it
+    // Of "open" with a file:
+    Text file;  // without its quotes
+    Text type;  // waveaudio, sequencer, MPEGVideo
+};
+
+/// Words are compared as they stand, capitals included. An opening that is not of the known form,
+/// or is without a closing quote, gives an empty verb.
+Command ParseCommand(TextView command);
+
+/// A whole number that is all of `value` but blanks ahead of it; `otherwise` where it is none or
+/// does not fit.
+int WholeNumber(TextView value, int otherwise);
+
+}  // namespace gst_adapter

@@ -1,0 +1,127 @@
+#include "adapters/gstreamer/gst_sound.h"
+
+#include <malloc.h>
+
+#include <utility>
+
+#include "adapters/gstreamer/library.h"
+#include "adapters/gstreamer/worker.h"
+
+namespace gst_adapter {
+
+namespace {
+
+constexpr int kFullVolume = 1000;
+constexpr int kAsynchronous = 1;
+constexpr int kLooped = 8;
+constexpr int kPumpMs = 10;
+constexpr int kWarmUpAfterMs = 300;  // the main window comes first
+constexpr int kFarewellMs = 300;
+constexpr int kMemoryArenas = 2;  // more of them double the memory of the many short threads
+
+struct TypeRow {
+    TextView type;
+    Media::Kind kind;
+};
+constexpr TypeRow kTypes[] = {
+    {u"waveaudio", Media::Kind::Wave},
+    {u"sequencer", Media::Kind::Midi},
+    {u"MPEGVideo", Media::Kind::Any},
+};
+
+}  // namespace
+
+GstSound::GstSound(platform::Files& files, platform::EventLoop& loop,
+                   std::shared_ptr<AudioOutput> output, OpenDisc openDisc, std::string cdDevice)
+    : files_(files),
+      loop_(loop),
+      output_(std::move(output)),
+      cd_(std::move(openDisc), std::move(cdDevice), output_, loop) {
+    mallopt(M_ARENA_MAX, kMemoryArenas);
+    loop_.SetTimer(this, kWarmUpAfterMs, [this] {
+        loop_.CancelTimer(this);
+        WarmUp();
+    });
+}
+
+GstSound::~GstSound() {
+    loop_.CancelTimer(this);
+    players_.clear();
+    effect_.reset();
+    cd_.Send({u"close", u"cdaudio", {}, {}, {}});
+    WaitForThreads(kFarewellMs);
+}
+
+Text GstSound::MciSendString(TextView text) {
+    const Command command = ParseCommand(text);
+    if (command.device == u"cdaudio" && command.file.empty()) {
+        return cd_.Send(command);
+    }
+    if (command.verb == u"open") {
+        Open(command);
+        return {};
+    }
+    const auto found = players_.find(command.device);
+    if (found == players_.end()) {
+        return {};
+    }
+    if (command.verb == u"close") {
+        players_.erase(found);
+        return {};
+    }
+    return Send(*found->second, command);
+}
+
+void GstSound::Open(const Command& command) {
+    for (const TypeRow& row : kTypes) {
+        if (command.type != row.type || command.device.empty() ||
+            players_.contains(command.device)) {
+            continue;
+        }
+        if (const auto path = files_.Find(command.file)) {
+            Media media;
+            media.kind = row.kind;
+            media.nativePath = *path;
+            players_[command.device] = std::make_unique<Player>(std::move(media), output_);
+        }
+    }
+}
+
+Text GstSound::Send(Player& player, const Command& command) {
+    if (command.verb == u"play" && command.rest.starts_with(u"from ")) {
+        // The only place that is ever asked for is 1, the first sample or millisecond.
+        player.Play();
+    } else if (command.verb == u"stop") {
+        player.Stop();
+    } else if (command.verb == u"setaudio" && command.rest.starts_with(u"volume to ")) {
+        const int volume = WholeNumber(TextView(command.rest).substr(10), -1);
+        if (volume >= 0 && volume <= kFullVolume) {
+            player.SetVolume(static_cast<double>(volume) / kFullVolume);
+        }
+    } else if (command.verb == u"status" && command.rest == u"mode") {
+        return player.Playing() ? u"playing" : u"stopped";
+    }
+    return {};
+}
+
+void GstSound::SndPlaySound(const std::optional<Text>& file, int flags) {
+    const int number = ++effects_;
+    effect_.reset();
+    const auto path = file ? files_.Find(*file) : std::nullopt;
+    if (!path) {
+        return;
+    }
+    Media media;
+    media.kind = Media::Kind::Wave;
+    media.nativePath = *path;
+    const bool asynchronous = (flags & kAsynchronous) != 0;
+    media.loop = asynchronous && (flags & kLooped) != 0;
+    effect_ = std::make_unique<Player>(std::move(media), output_);
+    effect_->Play();
+    while (!asynchronous && number == effects_ && effect_ && effect_->Playing()) {
+        loop_.Sleep(kPumpMs);
+        loop_.PumpEvents();
+    }
+}
+
+}  // namespace gst_adapter

@@ -1,0 +1,36 @@
+// Shows the newest picture of the program's video player, fitted with its shape kept, on black.
+#pragma once
+
+#include <QWidget>
+
+#include "adapters/qt/gate.h"
+#include "model/control.h"
+#include "platform/video.h"
+
+namespace qt_adapter {
+
+class VideoWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `video` null: black.
+    explicit VideoWidget(platform::Video* video, QWidget* parent = nullptr);
+    ~VideoWidget() override;
+
+    /// From now on clicks and keys go to the control; keys that it does not want go on to the
+    /// window.
+    void Attach(model::Player& player, Gate& gate);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    platform::Video* video_;
+    model::Player* player_ = nullptr;
+    Gate* gate_ = nullptr;
+};
+
+}  // namespace qt_adapter

@@ -1,0 +1,131 @@
+// The sink "testsink": keeps its samples, and fails or dawdles when told to. It passes no time: a
+// stream runs through it as fast as it is read.
+#include <gst/audio/audio.h>
+#include <gst/base/gstbasesink.h>
+
+#include <chrono>
+#include <mutex>
+#include <thread>
+
+#include "adapters/gstreamer/library.h"
+#include "gstreamer/gstreamer_support.h"
+
+namespace gst_tests {
+
+namespace {
+
+std::mutex mutex;
+TestSink seen;
+
+struct SinkElement {
+    GstBaseSink parent;
+    int buffers;
+};
+struct SinkClass {
+    GstBaseSinkClass parent;
+};
+
+GstElementClass* parentClass = nullptr;
+
+int Pace() {
+    const std::lock_guard lock(mutex);
+    return seen.bufferTakesMs;
+}
+
+GstFlowReturn Render(GstBaseSink* base, GstBuffer* buffer) {
+    auto* self = reinterpret_cast<SinkElement*>(base);
+    std::this_thread::sleep_for(std::chrono::milliseconds(Pace()));
+    const std::lock_guard lock(mutex);
+    if (seen.breakAfterBuffers >= 0 && ++self->buffers > seen.breakAfterBuffers) {
+        GST_ELEMENT_ERROR(base, RESOURCE, WRITE, ("the device is gone"), (nullptr));
+        return GST_FLOW_ERROR;
+    }
+    GstMapInfo map;
+    if (gst_buffer_map(buffer, &map, GST_MAP_READ)) {
+        const auto* samples = reinterpret_cast<const float*>(map.data);
+        seen.samples.insert(seen.samples.end(), samples, samples + map.size / sizeof(float));
+        gst_buffer_unmap(buffer, &map);
+    }
+    return GST_FLOW_OK;
+}
+
+gboolean SetCaps(GstBaseSink*, GstCaps* caps) {
+    GstAudioInfo format;
+    if (gst_audio_info_from_caps(&format, caps)) {
+        const std::lock_guard lock(mutex);
+        seen.channels = format.channels;
+        seen.rate = format.rate;
+    }
+    return TRUE;
+}
+
+GstStateChangeReturn ChangeState(GstElement* element, GstStateChange change) {
+    if (change == GST_STATE_CHANGE_NULL_TO_READY) {
+        int wait = 0;
+        {
+            const std::lock_guard lock(mutex);
+            ++seen.opened;
+            wait = seen.stateChangeTakesMs;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(wait));
+    }
+    return parentClass->change_state(element, change);
+}
+
+void InitClass(gpointer data, gpointer) {
+    auto* element = static_cast<GstElementClass*>(data);
+    parentClass = static_cast<GstElementClass*>(g_type_class_peek_parent(data));
+    gst_element_class_set_static_metadata(element, "test sink", "Sink/Audio", "keeps samples",
+                                          "the tests");
+    GstCaps* caps = gst_caps_from_string("audio/x-raw,format=" GST_AUDIO_NE(F32));
+    gst_element_class_add_pad_template(
+        element, gst_pad_template_new("sink", GST_PAD_SINK, GST_PAD_ALWAYS, caps));
+    gst_caps_unref(caps);
+    element->change_state = ChangeState;
+    GST_BASE_SINK_CLASS(data)->render = Render;
+    GST_BASE_SINK_CLASS(data)->set_caps = SetCaps;
+}
+
+void Register() {
+    static std::once_flag once;
+    std::call_once(once, [] {
+        gst_adapter::EnsureLibrary();
+        static const GTypeInfo kInfo = {sizeof(SinkClass),
+                                        nullptr,
+                                        nullptr,
+                                        InitClass,
+                                        nullptr,
+                                        nullptr,
+                                        sizeof(SinkElement),
+                                        0,
+                                        [](GTypeInstance* self, gpointer) {
+                                            gst_base_sink_set_sync(GST_BASE_SINK(self), FALSE);
+                                        },
+                                        nullptr};
+        const GType type =
+            g_type_register_static(GST_TYPE_BASE_SINK, "ParapicoTestSink", &kInfo, GTypeFlags{});
+        gst_element_register(nullptr, "testsink", GST_RANK_NONE, type);
+    });
+}
+
+}  // namespace
+
+void ResetTestSink() {
+    Register();
+    const std::lock_guard lock(mutex);
+    seen = TestSink{};
+}
+
+TestSink SeenByTestSink() {
+    const std::lock_guard lock(mutex);
+    return seen;
+}
+
+void SetTestSink(int breakAfterBuffers, int stateChangeTakesMs, int bufferTakesMs) {
+    const std::lock_guard lock(mutex);
+    seen.breakAfterBuffers = breakAfterBuffers;
+    seen.stateChangeTakesMs = stateChangeTakesMs;
+    seen.bufferTakesMs = bufferTakesMs;
+}
+
+}  // namespace gst_tests

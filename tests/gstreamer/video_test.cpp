@@ -1,0 +1,222 @@
+// Video through the real player, in real time, on files made here.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QMetaObject>
+#include <cstring>
+#include <set>
+
+#include "adapters/gstreamer/gst_video.h"
+#include "adapters/gstreamer/worker.h"
+#include "gstreamer/gstreamer_support.h"
+
+namespace {
+
+using namespace gst_tests;
+using platform::VideoState;
+
+struct Cinema {
+    explicit Cinema(std::vector<std::string> sinks = {})
+        : files(folder.Path()),
+          output(std::make_shared<gst_adapter::AudioOutput>(std::move(sinks))),
+          video(std::make_unique<gst_adapter::GstVideo>(
+              files, output, [](std::function<void()> call) {
+                  QMetaObject::invokeMethod(qApp, std::move(call), Qt::QueuedConnection);
+              })) {}
+
+    /// A clip of `frames` at 30 a second with sound; false when it cannot be made.
+    bool Make(const std::string& name, int frames,
+              const std::string& codec = "x264enc tune=zerolatency",
+              const std::string& muxer = "mp4mux",
+              const std::string& size = "width=160,height=120") {
+        return RunPipeline(
+            "videotestsrc pattern=ball num-buffers=" + std::to_string(frames) +
+            " ! video/x-raw,framerate=30/1," + size + " ! " + codec + " ! " + muxer +
+            " name=m ! filesink location=" + folder.Path(name) +
+            " audiotestsrc num-buffers=" + std::to_string(frames * 44100 / 30 / 1000) +
+            " samplesperbuffer=1000 ! audio/x-raw,rate=44100,channels=1 ! lamemp3enc "
+            "! mpegaudioparse ! m.");
+    }
+    void Open(const std::string& name) { video->SetUrl(folder.TextPath(name)); }
+    bool Becomes(VideoState state) {
+        return Eventually([&] { return video->Status() == state; });
+    }
+    /// The picture's bytes, without their address.
+    std::string Picture() {
+        const platform::VideoFrame frame = video->Frame();
+        std::string bytes;
+        for (int row = 0; frame.pixels && row < frame.height; ++row) {
+            bytes.append(reinterpret_cast<const char*>(frame.pixels) + row * frame.stride,
+                         static_cast<size_t>(frame.width) * 4);
+        }
+        return bytes;
+    }
+
+    TemporaryFolder folder;
+    posix_adapter::PosixFiles files;
+    std::shared_ptr<gst_adapter::AudioOutput> output;
+    std::unique_ptr<gst_adapter::GstVideo> video;
+};
+
+TEST(GstVideo, PlaysToItsEndWithChangingPictures) {
+    const char* const makes[][3] = {{"a.mp4", "x264enc tune=zerolatency", "mp4mux"},
+                                    {"a.avi", "avenc_mpeg4", "avimux"},
+                                    {"a.mov", "jpegenc", "qtmux"}};
+    for (const auto& [name, codec, muxer] : makes) {
+        Cinema cinema;
+        ASSERT_TRUE(cinema.Make(name, 30, codec, muxer)) << name;
+        std::set<std::string> pictures;
+        int calls = 0;
+        cinema.video->onFrame = [&] {
+            ++calls;
+            pictures.insert(cinema.Picture());
+        };
+        EXPECT_EQ(cinema.video->Status(), VideoState::Nothing);
+        cinema.Open(name);
+        EXPECT_EQ(cinema.video->Status(), VideoState::Loading);
+        RealLoop loop;
+        const double start = loop.Milliseconds();
+        cinema.video->Play();
+        ASSERT_TRUE(cinema.Becomes(VideoState::Playing)) << name;
+        EXPECT_TRUE(Eventually([&] { return cinema.video->NaturalSize().width == 160; }));
+        EXPECT_EQ(cinema.video->NaturalSize().height, 120);
+        ASSERT_TRUE(cinema.Becomes(VideoState::Stopped)) << name;
+        EXPECT_GE(loop.Milliseconds() - start, 900) << name;
+        EXPECT_GT(calls, 5) << name;
+        EXPECT_GT(pictures.size(), 5u) << name;
+        cinema.video->Close();
+        EXPECT_EQ(cinema.video->Status(), VideoState::Nothing);
+        EXPECT_EQ(cinema.video->Frame().pixels, nullptr);
+    }
+}
+
+TEST(GstVideo, ShowsTheColoursOfTheFile) {
+    Cinema cinema;
+    ASSERT_TRUE(
+        RunPipeline("videotestsrc pattern=red num-buffers=15 ! "
+                    "video/x-raw,framerate=30/1,width=64,height=64,pixel-aspect-ratio=2/1 "
+                    "! x264enc tune=zerolatency ! mp4mux ! filesink location=" +
+                    cinema.folder.Path("red.mp4")));
+    cinema.Open("red.mp4");
+    ASSERT_TRUE(Eventually([&] { return cinema.video->Frame().pixels != nullptr; }));
+    // The first picture is there before Play, and a pixel twice as wide as high counts so.
+    EXPECT_EQ(cinema.video->Status(), VideoState::Loading);
+    EXPECT_EQ(cinema.video->NaturalSize(), (platform::Size{128, 64}));
+    const platform::VideoFrame frame = cinema.video->Frame();
+    const QImage image(frame.pixels, frame.width, frame.height, frame.stride, QImage::Format_RGB32);
+    const QColor middle = image.pixelColor(32, 32);
+    EXPECT_GT(middle.red(), 240);
+    EXPECT_LT(middle.green(), 12);
+    EXPECT_LT(middle.blue(), 12);
+    // The picture outlives the player.
+    cinema.video.reset();
+    EXPECT_GT(image.pixelColor(10, 10).red(), 240);
+}
+
+TEST(GstVideo, LoopsUntilItIsToldNotTo) {
+    Cinema cinema;
+    ASSERT_TRUE(cinema.Make("a.mp4", 9));
+    cinema.video->SetLoop(true);
+    cinema.Open("a.mp4");
+    cinema.video->Play();
+    ASSERT_TRUE(cinema.Becomes(VideoState::Playing));
+    RealLoop loop;
+    const double start = loop.Milliseconds();
+    EXPECT_TRUE(Eventually([&] { return loop.Milliseconds() - start > 1500; }));
+    EXPECT_EQ(cinema.video->Status(), VideoState::Playing);
+    cinema.video->SetLoop(false);
+    EXPECT_TRUE(cinema.Becomes(VideoState::Stopped));
+    cinema.video->Play();
+    EXPECT_TRUE(cinema.Becomes(VideoState::Playing));
+}
+
+TEST(GstVideo, WhatCannotPlayIsReady) {
+    Cinema cinema;
+    ASSERT_TRUE(cinema.Make("whole.mp4", 30));
+    const std::string whole = cinema.folder.Content("whole.mp4");
+    cinema.folder.Put("half.mp4", whole.substr(0, whole.size() / 2));  // its index is at the end
+    cinema.folder.Put("empty.mp4", "");
+    cinema.folder.Put("noise.avi", std::string(5000, 'x'));
+    cinema.folder.Put("list.mp4", "#EXTM3U\n#EXTINF:10,\nhttp://127.0.0.1:9/a.ts\n");
+    for (const char* name : {"half.mp4", "empty.mp4", "noise.avi", "list.mp4", "missing.mp4"}) {
+        cinema.Open(name);
+        cinema.video->Play();
+        EXPECT_TRUE(cinema.Becomes(VideoState::Ready)) << name;
+        // Nor at a second try.
+        cinema.video->Play();
+        EXPECT_TRUE(cinema.Becomes(VideoState::Ready)) << name;
+    }
+    cinema.video->SetUrl({});
+    EXPECT_EQ(cinema.video->Status(), VideoState::Nothing);
+}
+
+TEST(GstVideo, ATruncatedVideoEndsWhereItBreaksOff) {
+    Cinema cinema;
+    ASSERT_TRUE(cinema.Make("whole.avi", 60, "avenc_mpeg4", "avimux"));
+    const std::string whole = cinema.folder.Content("whole.avi");
+    cinema.folder.Put("half.avi", whole.substr(0, whole.size() / 2));
+    cinema.Open("half.avi");
+    cinema.video->Play();
+    EXPECT_TRUE(cinema.Becomes(VideoState::Stopped));
+}
+
+TEST(GstVideo, DamageNeverHangs) {
+    Cinema cinema;
+    ASSERT_TRUE(cinema.Make("whole.mp4", 10));
+    const std::string whole = cinema.folder.Content("whole.mp4");
+    unsigned random = 1;
+    for (int round = 0; round < 25; ++round) {
+        std::string bytes = whole;
+        for (int change = 0; change < 20; ++change) {
+            random = random * 1664525u + 1013904223u;
+            bytes[(random >> 8) % bytes.size()] = static_cast<char>(random >> 3);
+        }
+        cinema.folder.Put("bad.mp4", bytes);
+        cinema.Open("bad.mp4");
+        cinema.video->Play();
+        // A changed duration may make a clip long; it is only asked to begin or to give up.
+        EXPECT_TRUE(Eventually([&] { return cinema.video->Status() != VideoState::Loading; }))
+            << round;
+    }
+}
+
+TEST(GstVideo, ASoundDeviceThatGoesAwayDoesNotStopThePictures) {
+    ResetTestSink();
+    SetTestSink(2, 0);
+    Cinema cinema({"testsink"});
+    ASSERT_TRUE(cinema.Make("a.mp4", 30));
+    cinema.Open("a.mp4");
+    cinema.video->Play();
+    ASSERT_TRUE(cinema.Becomes(VideoState::Playing));
+    RealLoop loop;
+    const double start = loop.Milliseconds();
+    ASSERT_TRUE(cinema.Becomes(VideoState::Stopped));
+    EXPECT_GE(loop.Milliseconds() - start, 500);
+}
+
+TEST(GstVideo, OpeningAndClosingLeavesNothingBehind) {
+    Cinema cinema;
+    ASSERT_TRUE(cinema.Make("a.mp4", 10));
+    const auto rounds = [&](int count) {
+        for (int round = 0; round < count; ++round) {
+            cinema.Open("a.mp4");
+            cinema.video->Play();
+            if (round % 4 == 0) {
+                EXPECT_TRUE(cinema.Becomes(VideoState::Playing));
+            }
+            cinema.video->Close();
+        }
+        EXPECT_TRUE(gst_adapter::WaitForThreads(20000));
+    };
+    rounds(40);
+    const int descriptors = OpenDescriptors();
+    const int threads = Threads();
+    const int64_t memory = ResidentKiB();
+    rounds(60);
+    EXPECT_TRUE(Eventually([&] { return OpenDescriptors() <= descriptors + 4; }));
+    EXPECT_TRUE(Eventually([&] { return Threads() <= threads + 8; }));
+    EXPECT_LT(ResidentKiB() - memory, 30000);
+}
+
+}  // namespace

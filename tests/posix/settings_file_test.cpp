@@ -1,0 +1,26 @@
+#include "adapters/posix/settings_file.h"
+
+#include <gtest/gtest.h>
+
+#include "posix/temporary_folder.h"
+
+namespace {
+
+using posix_adapter::UserSetting;
+
+TEST(SettingsFile, GivesTheValueWithoutBlanks) {
+    TemporaryFolder folder;
+    folder.Put("settings.conf", "# cd = /a\n\n  cd =  /home/me/my disc = 1.cue \r\nrec=x\ncd=/b");
+    EXPECT_EQ(UserSetting(folder.Path() + "/", "cd"), "/home/me/my disc = 1.cue");
+    EXPECT_EQ(UserSetting(folder.Path() + "/", "rec"), "x");
+}
+
+TEST(SettingsFile, IsEmptyWithoutLineOrFile) {
+    TemporaryFolder folder;
+    EXPECT_EQ(UserSetting(folder.Path() + "/", "cd"), "");
+    folder.Put("settings.conf", "cdrom=/a\ncd\n");
+    EXPECT_EQ(UserSetting(folder.Path() + "/", "cd"), "");
+    EXPECT_EQ(UserSetting(folder.Path("none/"), "cd"), "");
+}
+
+}  // namespace
