@@ -6,9 +6,11 @@
 #include "macro/buttons.h"
 #include "macro/cutouts.h"
 #include "macro/flow_words.h"
+#include "macro/grad_text.h"
 #include "macro/media_words.h"
 #include "macro/motion.h"
-#include "macro/text_drawing.h"
+#include "macro/rotated_text.h"
+#include "macro/telop.h"
 #include "macro/text_words.h"
 #include "text/numbers.h"
 
