@@ -1,8 +1,70 @@
 #include "macro/telop.h"
 
+#include <algorithm>
+
+#include "macro/arguments.h"
+#include "macro/printing.h"
+#include "text/numbers.h"
+
 namespace macro {
 
 namespace {
+
+constexpr double kUnsaidNumber = 100;  // of interval and step
+constexpr double kHighestNumber = 1000;
+constexpr int kMsPerInterval = 10;
+// Characters. Loops can append to a line without end; so much takes minutes to go by.
+constexpr size_t kLongestCaption = 16384;
+
+struct Telop {
+    int interval, step;  // hundredths of a second, pixels
+    Text text;
+};
+
+/// A text with commas needs both numbers before it: kept.
+Telop ReadTelop(const Run& run) {
+    const auto fields = CallFields(BeforeComment(run.MacroLine), 3);
+    const auto number = [&](size_t index) {
+        const bool said = index + 1 < fields.size();
+        const double value = said ? NumberField(fields, index) : kUnsaidNumber;
+        return static_cast<int>(std::clamp(text::RoundHalfEven(value), 1.0, kHighestNumber));
+    };
+    return {number(0), number(1), fields.empty() ? Text() : Printable(Unquoted(fields.back()))};
+}
+
+struct Line {
+    model::Label& label;
+    model::Timer& timer;
+    const model::PictureBox& box;
+};
+
+Line LineOnScreen(Application& app) {
+    model::Slidescreen& screen = app.windows.slidescreen;
+    return {screen.Label1, screen.Timer1, screen.P2};
+}
+
+Line LineInWindow(Application& app) {
+    model::Form1& form1 = app.windows.form1;
+    return {form1.Label1, form1.Timer4, form1.Picture1};
+}
+
+/// The label is as large as its text.
+void SetCaption(Application& app, model::Label& label, Text caption) {
+    caption.resize(std::min(caption.size(), kLongestCaption));
+    const auto extent = app.platform.textRenderer.Measure(
+        {label.FontName, label.FontSize, label.FontBold, label.FontItalic, false}, caption);
+    label.Width = extent.width;
+    label.Height = extent.height;
+    label.Caption = std::move(caption);
+}
+
+void TakeLook(model::Label& label, const platform::Canvas& canvas) {
+    label.FontName = canvas.font.name;
+    label.FontSize = canvas.font.sizePoints;
+    label.FontBold = canvas.font.bold;
+    label.FontItalic = canvas.font.italic;
+    label.ForeColor = static_cast<int>(canvas.color);
+}
 
 void EmptyCaptions(Application& app) {
     app.windows.form1.Label1.Caption = Text();
@@ -10,8 +72,8 @@ void EmptyCaptions(Application& app) {
 }
 
 /// Places are pixels of the canvas under the label.
-void Scroll(Application& app, model::Label& label, model::Timer& timer,
-            const model::PictureBox& canvas) {
+void Scroll(Application& app, const Line& line) {
+    const auto& [label, timer, box] = line;
     model::ShowState& state = app.state;
     label.Left = label.Left - state.TelopStep;
     if (label.Left + label.Width >= 0) {
@@ -23,21 +85,51 @@ void Scroll(Application& app, model::Label& label, model::Timer& timer,
         timer.Enabled = false;
         state.TelopRunning = 0;
     } else {
-        label.Caption = state.TelopText;
-        label.Left = canvas.ScaleWidth();
+        SetCaption(app, label, state.TelopText);
+        label.Left = box.ScaleWidth();
     }
 }
 
 }  // namespace
 
+Flow StartTelop(Run& run, double) {
+    Application& app = run.app;
+    model::ShowState& state = app.state;
+    const bool once = run.MacroLineUpper.starts_with(u"TELOP1");
+    const Telop telop = ReadTelop(run);
+    state.TelopText.clear();
+    if (telop.text.empty()) {
+        CancelTelop(app);
+        return Flow::GoOn;
+    }
+    const auto [label, timer, box] = InFullScreen(state) ? LineOnScreen(app) : LineInWindow(app);
+    state.TelopStep = static_cast<int16_t>(telop.step);
+    state.TelopRunning = once ? 1 : 0;
+    label.Top = box.canvas.penY;
+    if (!timer.Enabled) {
+        label.Left = box.ScaleWidth();
+        TakeLook(label, box.canvas);
+    }
+    if (once) {
+        SetCaption(app, label, label.Caption() + telop.text);
+    } else {
+        state.TelopText = telop.text;
+        if (label.Caption().empty()) {
+            SetCaption(app, label, telop.text);
+        }
+    }
+    label.Visible = true;
+    timer.Interval = telop.interval * kMsPerInterval;
+    timer.Enabled = true;
+    return Flow::GoOn;
+}
+
 void ScrollTelopInWindow(Application& app) {
-    model::Form1& form1 = app.windows.form1;
-    Scroll(app, form1.Label1, form1.Timer4, form1.Picture1);
+    Scroll(app, LineInWindow(app));
 }
 
 void ScrollTelopOnScreen(Application& app) {
-    model::Slidescreen& slidescreen = app.windows.slidescreen;
-    Scroll(app, slidescreen.Label1, slidescreen.Timer1, slidescreen.P2);
+    Scroll(app, LineOnScreen(app));
 }
 
 void CancelTelop(Application& app) {

@@ -1,9 +1,13 @@
 // The scrolling text line, on the main window and in full screen.
 #pragma once
 
-#include "model/application.h"
+#include "macro/run.h"
 
 namespace macro {
+
+/// TELOP(t,s,"text"): s pixels every t hundredths of a second on the window of the mode in force;
+/// TELOP1 once, others again and again. Without a text every line ends.
+Flow StartTelop(Run& run, double);
 
 /// One tick of the timers that scroll: Timer4 of Form1, Timer1 of Slidescreen. Moves the window's
 /// label TelopStep pixels to the left; one that has left the window ends (a text that runs once,

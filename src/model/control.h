@@ -127,10 +127,17 @@ public:
     Event<> Click;
 };
 
+/// One that stands on a canvas is placed and sized in the canvas's pixels. It has a font of its own
+/// when FontName is set.
 class Label : public VisibleControl {
 public:
     Label(Window* window, std::string name, Text caption = {});
     Property<Text> Caption;
+    Property<Text> FontName{*this, "FontName"};
+    Property<double> FontSize{*this, "FontSize"};  // points
+    Property<bool> FontBold{*this, "FontBold", false};
+    Property<bool> FontItalic{*this, "FontItalic", false};
+    Property<int> ForeColor{*this, "ForeColor"};  // 0x00BBGGRR
 };
 
 class Frame : public VisibleControl {

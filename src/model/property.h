@@ -38,7 +38,7 @@ private:
     const char* name_;
 };
 
-/// T is bool, int or Text. Assigning an equal value announces nothing.
+/// T is bool, int, double or Text. Assigning an equal value announces nothing.
 template <class T>
 class Property final : public PropertyBase {
 public:

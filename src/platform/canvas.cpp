@@ -68,6 +68,13 @@ Rect Union(const Rect& a, const Rect& b) {
                      std::max(int64_t{a.y} + a.height, int64_t{b.y} + b.height));
 }
 
+void TextRenderer::DrawEach(Canvas& canvas, int x, int y, const Font& font, Color color,
+                            TextView text, std::span<const Offset> offsets) {
+    for (const Offset& offset : offsets) {
+        Draw(canvas, x + offset.x, y + offset.y, font, color, text);
+    }
+}
+
 void Canvas::Resize(int width, int height, Color fill) {
     Bitmap fresh(std::max(width, 0), std::max(height, 0), ToPixel(fill));
     const Rect kept = Intersection(Bounds(fresh), Bounds(pixels_));

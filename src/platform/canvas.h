@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "text/text.h"
@@ -63,6 +64,20 @@ struct Font {
 
 class Canvas;
 
+struct Offset {
+    int x = 0, y = 0;
+    friend bool operator==(const Offset&, const Offset&) = default;
+};
+
+/// The form of a text that is turned about the top left of its line. Its font's size says nothing.
+struct Turn {
+    int height = 0;   // pixels of a line; 0: kUnsaidHeight
+    int width = 0;    // average pixels of a Latin letter; 0: as the font has it
+    int angle10 = 0;  // tenths of a degree, anticlockwise
+    static constexpr int kUnsaidHeight = 16;
+    friend bool operator==(const Turn&, const Turn&) = default;
+};
+
 /// Draws text onto canvases. Implemented by an adapter.
 class TextRenderer {
 public:
@@ -74,6 +89,13 @@ public:
     /// Draws with the top left of the line's box at (x, y), background left as it is.
     virtual void Draw(Canvas& canvas, int x, int y, const Font& font, Color color,
                       TextView text) = 0;
+    /// The pixels of a Draw at (x, y) moved by each offset in turn. An adapter may reach them by a
+    /// shorter way.
+    virtual void DrawEach(Canvas& canvas, int x, int y, const Font& font, Color color,
+                          TextView text, std::span<const Offset> offsets);
+    /// As DrawEach, turned about (x, y), the top left of the line that is not turned yet.
+    virtual void DrawTurned(Canvas& canvas, int x, int y, const Font& font, const Turn& turn,
+                            Color color, TextView text, std::span<const Offset> offsets) = 0;
 };
 
 /// Pixel buffer with a pen. Everything is clipped to the buffer. A canvas keeps the rectangle that

@@ -1,6 +1,7 @@
 // A show of three slides whose first one has a macro file.
 #pragma once
 
+#include "app/timers.h"
 #include "macro/macro.h"
 #include "support/fake_platform.h"
 
@@ -12,6 +13,7 @@ struct MacroShow {
     model::ShowState& state = app.state;
     model::Form1& form1 = app.windows.form1;
     model::Slidescreen& screen = app.windows.slidescreen;
+    app::TimerRunner timers{app};
 
     MacroShow() {
         state.TextMacroFlag = 0;

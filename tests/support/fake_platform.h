@@ -198,15 +198,25 @@ public:
         int x, y;
         platform::Color color;
         Text text;
+        const platform::Canvas* canvas = nullptr;
+        platform::Font font = {};
+        std::optional<platform::Turn> turn = std::nullopt;
     };
-    std::vector<Line> drawn;
+    std::vector<Line> drawn;  // every print, also of many made at once
     Extent Measure(const platform::Font& font, TextView text) override {
         return {static_cast<int>(font.sizePoints * static_cast<double>(text.size()) / 2),
                 static_cast<int>(font.sizePoints * 2)};
     }
-    void Draw(platform::Canvas&, int x, int y, const platform::Font&, platform::Color color,
-              TextView text) override {
-        drawn.push_back({x, y, color, Text(text)});
+    void Draw(platform::Canvas& canvas, int x, int y, const platform::Font& font,
+              platform::Color color, TextView text) override {
+        drawn.push_back({x, y, color, Text(text), &canvas, font});
+    }
+    void DrawTurned(platform::Canvas& canvas, int x, int y, const platform::Font& font,
+                    const platform::Turn& turn, platform::Color color, TextView text,
+                    std::span<const platform::Offset> offsets) override {
+        for (const platform::Offset& offset : offsets) {
+            drawn.push_back({x + offset.x, y + offset.y, color, Text(text), &canvas, font, turn});
+        }
     }
 };
 

@@ -14,6 +14,7 @@
 #include "adapters/qt/canvas_widget.h"
 #include "adapters/qt/convert.h"
 #include "adapters/qt/list_binding.h"
+#include "adapters/qt/qt_text_renderer.h"
 #include "adapters/qt/stage_widget.h"
 #include "adapters/qt/video_widget.h"
 #include "platform/monitors.h"
@@ -113,17 +114,38 @@ private:
 class LabelBinding : public ControlBinding {
 public:
     LabelBinding(model::Label& label, QLabel& widget, Gate& gate, const CanvasWidget* host)
-        : ControlBinding(label, widget, gate, host), label_(label), face_(widget) {
+        : ControlBinding(label, widget, gate, host),
+          label_(label),
+          face_(widget),
+          onCanvas_(host != nullptr) {
         widget.setTextFormat(Qt::PlainText);
         Sync();
     }
 
 protected:
-    void SyncOwn() override { face_.setText(ToQt(label_.Caption())); }
+    void SyncOwn() override {
+        face_.setText(ToQt(label_.Caption()));
+        if (!label_.FontName().empty()) {
+            TakeLook();
+        }
+    }
+    int UnitsPerPixel() const override { return onCanvas_ ? 1 : ControlBinding::UnitsPerPixel(); }
 
 private:
+    void TakeLook() {
+        QFont font = ScreenFont(
+            {label_.FontName, label_.FontSize, label_.FontBold, label_.FontItalic, false});
+        font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() / Scale()))));
+        face_.setFont(font);
+        QPalette palette = face_.palette();
+        const auto color = static_cast<platform::Color>(label_.ForeColor());
+        palette.setColor(QPalette::WindowText, QColor::fromRgb(platform::ToPixel(color)));
+        face_.setPalette(palette);
+    }
+
     model::Label& label_;
     QLabel& face_;
+    bool onCanvas_;
 };
 
 class FrameBinding : public ControlBinding {
@@ -251,17 +273,25 @@ void ControlBinding::Act(const std::function<void()>& call) {
     });
 }
 
+int ControlBinding::UnitsPerPixel() const {
+    return platform::kTwipsPerPixel;
+}
+
+double ControlBinding::Scale() const {
+    return host_ ? host_->Scale() : 1.0;
+}
+
 void ControlBinding::Place() {
     const QWidget* parent = widget_.parentWidget();
     const bool onStage = qobject_cast<const StageWidget*>(parent) != nullptr;
     if (!host_ && !onStage) {
         return;
     }
-    const double scale = host_ ? host_->Scale() : 1.0;
-    const auto units = [scale](int twips) {
-        return static_cast<int>(std::lround(twips / platform::kTwipsPerPixel / scale));
+    const double scale = Scale();
+    const auto pixels = [&](int units) {
+        return static_cast<int>(std::lround(units / UnitsPerPixel() / scale));
     };
-    QSize size(units(control_.Width), units(control_.Height));
+    QSize size(pixels(control_.Width), pixels(control_.Height));
     if (size.isEmpty()) {
         size = NaturalSize();
     }

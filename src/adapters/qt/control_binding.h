@@ -35,6 +35,10 @@ protected:
     void Act(const std::function<void()>& call);
     /// Size of a widget for which the model says none.
     virtual QSize NaturalSize() const { return widget_.sizeHint(); }
+    /// In which the model gives Width and Height.
+    virtual int UnitsPerPixel() const;
+    /// Pixels of the canvas for one of the toolkit's; 1 for a widget that is not on a canvas.
+    double Scale() const;
 
     model::VisibleControl& control_;
     QWidget& widget_;

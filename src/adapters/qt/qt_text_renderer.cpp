@@ -6,14 +6,23 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "adapters/qt/convert.h"
+#include "platform/coverage.h"
 
 namespace qt_adapter {
 
 namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
+constexpr int kSizeToMeasure = 1000;
+// What the width of a turned text's letters is measured by. Of the fonts' own average most parts
+// are full-width letters.
+constexpr char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+// Characters; of the smallest letters so many are wider than any canvas.
+constexpr size_t kLongestLine = 65536;
+constexpr platform::Offset kInPlace[] = {{0, 0}};
 
 struct Substitute {
     const char* names;  // parted by '|'
@@ -42,6 +51,53 @@ QString FamilyFor(const QString& name) {
     return QString::fromLatin1(kDefaultFamily);
 }
 
+/// The part of the shape of a line that falls on `wanted`. `place` takes the line's box, whose top
+/// left is the origin, to the canvas.
+platform::Coverage ShapeOf(const QFont& font, const QString& line, const QTransform& place,
+                           const QRect& wanted) {
+    const QFontMetrics metrics(font);
+    const QPoint baseline(0, metrics.ascent());
+    // Slanted letters and accents reach beyond the line's box.
+    const int beyond = 2 + metrics.height() / 3;
+    const QRect box = metrics.boundingRect(line)
+                          .translated(baseline)
+                          .united(QRect(0, 0, metrics.horizontalAdvance(line), metrics.height()))
+                          .adjusted(-beyond, -beyond, beyond, beyond);
+    const QRect covered = place.mapRect(QRectF(box)).toAlignedRect().intersected(wanted);
+    if (covered.isEmpty()) {
+        return {};
+    }
+    platform::Coverage shape{covered.x(), covered.y(), covered.width(), covered.height(), {}};
+    shape.values.resize(static_cast<size_t>(shape.width) * static_cast<size_t>(shape.height));
+    QImage image(shape.values.data(), shape.width, shape.height, shape.width,
+                 QImage::Format_Grayscale8);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.setTransform(place * QTransform::fromTranslate(-covered.x(), -covered.y()));
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(baseline, line);
+    return shape;
+}
+
+/// Canvas area that is reached from by some offset.
+QRect Wanted(const platform::Canvas& canvas, std::span<const platform::Offset> offsets) {
+    QRect wanted;
+    for (const platform::Offset& offset : offsets) {
+        wanted |= QRect(-offset.x, -offset.y, canvas.Width(), canvas.Height());
+    }
+    return wanted;
+}
+
+void Print(platform::Canvas& canvas, const QFont& font, const QTransform& place,
+           platform::Color color, TextView text, std::span<const platform::Offset> offsets) {
+    const QString line = ToQt(text.substr(0, kLongestLine));
+    if (line.isEmpty() || offsets.empty() || canvas.Pixels().Empty()) {
+        return;
+    }
+    platform::Stamp(canvas, ShapeOf(font, line, place, Wanted(canvas, offsets)), color, offsets);
+}
+
 }  // namespace
 
 QFont ScreenFont(const platform::Font& font) {
@@ -64,28 +120,34 @@ platform::TextRenderer::Extent QtTextRenderer::Measure(const platform::Font& fon
 
 void QtTextRenderer::Draw(platform::Canvas& canvas, int x, int y, const platform::Font& font,
                           platform::Color color, TextView text) {
-    platform::Bitmap& pixels = canvas.Writable();
-    if (pixels.Empty() || text.empty()) {
-        return;
-    }
-    const QFont screenFont = ScreenFont(font);
-    const QFontMetrics metrics(screenFont);
-    const QString line = ToQt(text);
-    QImage image(reinterpret_cast<uchar*>(pixels.pixels.data()), pixels.width, pixels.height,
-                 pixels.width * static_cast<qsizetype>(sizeof(platform::Pixel)),
-                 QImage::Format_RGB32);
-    QPainter painter(&image);
-    painter.setFont(screenFont);
-    painter.setPen(QColor::fromRgb(platform::ToPixel(color)));
-    const QPoint origin(x, y + metrics.ascent());
-    painter.drawText(origin, line);
-    painter.end();
-    // Slanted letters and accents reach beyond the line's box.
-    const QRect box = metrics.boundingRect(line)
-                          .translated(origin)
-                          .united(QRect(x, y, metrics.horizontalAdvance(line), metrics.height()))
-                          .adjusted(-2, -2, 2, 2);
-    canvas.Touch({box.x(), box.y(), box.width(), box.height()});
+    DrawEach(canvas, x, y, font, color, text, kInPlace);
+}
+
+void QtTextRenderer::DrawEach(platform::Canvas& canvas, int x, int y, const platform::Font& font,
+                              platform::Color color, TextView text,
+                              std::span<const platform::Offset> offsets) {
+    Print(canvas, ScreenFont(font), QTransform::fromTranslate(x, y), color, text, offsets);
+}
+
+void QtTextRenderer::DrawTurned(platform::Canvas& canvas, int x, int y, const platform::Font& font,
+                                const platform::Turn& turn, platform::Color color, TextView text,
+                                std::span<const platform::Offset> offsets) {
+    const int height = turn.height > 0 ? turn.height : platform::Turn::kUnsaidHeight;
+    QFont screenFont = ScreenFont(font);
+    // At a large size, so that rounding does not count.
+    screenFont.setPixelSize(kSizeToMeasure);
+    const QFontMetricsF large(screenFont);
+    const double linePerSize = large.height() / kSizeToMeasure;
+    const double letterPerSize =
+        large.horizontalAdvance(QLatin1String(kLetters)) / (strlen(kLetters) * kSizeToMeasure);
+    const int size = std::max(1, static_cast<int>(std::lround(height / linePerSize)));
+    screenFont.setPixelSize(size);
+    const double scaleY = height / (size * linePerSize);
+    const double scaleX = turn.width > 0 ? turn.width / (size * letterPerSize) : scaleY;
+    QTransform place = QTransform::fromTranslate(x, y);
+    place.rotate(-turn.angle10 / 10.0);
+    place.scale(scaleX, scaleY);
+    Print(canvas, screenFont, place, color, text, offsets);
 }
 
 }  // namespace qt_adapter

@@ -16,6 +16,13 @@ public:
     Extent Measure(const platform::Font& font, TextView text) override;
     void Draw(platform::Canvas& canvas, int x, int y, const platform::Font& font,
               platform::Color color, TextView text) override;
+    /// The line is made into a shape once; the prints are laid down together.
+    void DrawEach(platform::Canvas& canvas, int x, int y, const platform::Font& font,
+                  platform::Color color, TextView text,
+                  std::span<const platform::Offset> offsets) override;
+    void DrawTurned(platform::Canvas& canvas, int x, int y, const platform::Font& font,
+                    const platform::Turn& turn, platform::Color color, TextView text,
+                    std::span<const platform::Offset> offsets) override;
 };
 
 }  // namespace qt_adapter

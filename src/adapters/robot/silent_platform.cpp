@@ -66,6 +66,8 @@ public:
     Extent Measure(const platform::Font&, TextView) override { return {}; }
     void Draw(platform::Canvas&, int, int, const platform::Font&, platform::Color,
               TextView) override {}
+    void DrawTurned(platform::Canvas&, int, int, const platform::Font&, const platform::Turn&,
+                    platform::Color, TextView, std::span<const platform::Offset>) override {}
 };
 
 class NoSound : public platform::Sound {
