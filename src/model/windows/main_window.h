@@ -8,10 +8,10 @@ namespace model {
 struct Form1 : Window {
     Form1();
 
-    PictureBox Picture1{this, "Picture1"};                       // preview
-    PictureBox Picture3{this, "Picture3"};                       // stands in for a video
-    Label Label1{this, "Label1"};                                // scrolling text
-    ControlArray<PictureBox> Picture2{this, "Picture2", 0, 63};  // macro picture slots
+    PictureBox Picture1{this, "Picture1"};                             // preview
+    PictureBox Picture3{this, "Picture3"};                             // stands in for a video
+    Label Label1{this, "Label1"};                                      // scrolling text
+    ControlArray<PictureBox> Picture2{this, "Picture2", 0, 63, true};  // cut-out pieces
 
     Button Command1{this, "Command1", u"START"};
     Button Command2{this, "Command2", u"PAUSE"};
