@@ -9,8 +9,9 @@
 @100 expect Slidescreen.Picture1(0).Left 170
 expect Slidescreen.Picture1(3).Top 180
 shot full.png
-@3205 expect Slidescreen.Picture1(1).Left 201
-expect Slidescreen.Picture1(1).Top 121
+# 22 steps: this runs in the pass of 3210.
+@3205 expect Slidescreen.Picture1(1).Left 202
+expect Slidescreen.Picture1(1).Top 122
 expect Form1.Picture2(1).Left 20
 @3300 key Slidescreen 27
 +20 expect Slidescreen.Visible false
