@@ -10,12 +10,11 @@ ExpectOther() {
 }
 
 StartProgram "$PARAPICO_DATA/pieces_full.kvs"
-WaitForWindow 'パラピコ'
-sleep 0.5
-xdotool key Return  # the box before the full screen
-sleep 0.5
-WaitForWindow 'パラピコ'
-WaitForColor 520 422 '#FFC000' 'the rectangle stands'
+# Not focused: the keyboard belongs to the box above it.
+WaitFor 'the full screen' FindWindow 'パラピコ'
+# Return for the box that comes before the full screen; to the show it means nothing.
+PiecesStand() { xdotool key Return; sleep 0.3; HasColor 520 422 '#FFC000'; }
+WaitFor 'the rectangle stands' PiecesStand
 ExpectColor 620 422 '#FFC000' 'the ellipse stands'
 ExpectOther 592 404 '#FFC000' 'the corner of the ellipse is cut off'
 
