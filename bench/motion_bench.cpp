@@ -22,8 +22,8 @@ constexpr int kSide = 400;
 constexpr int kSteps = 600;
 // A step copies the box once; the rest is arithmetic and events.
 constexpr double kAllowedLogic = 1.5;
-// With a view the old and the new place are painted through the shape, too. Motion is smooth while a
-// step takes less than its usual wait of 1 ms, about 45 copies.
+// With a view the old and the new place are painted through the shape, too. Motion is smooth while
+// a step takes less than its usual wait of 1 ms, about 45 copies.
 constexpr double kAllowedView = 30;
 
 double Seconds(const std::function<void()>& work) {
