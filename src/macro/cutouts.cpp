@@ -1,14 +1,235 @@
 #include "macro/cutouts.h"
 
+#include <algorithm>
+
+#include "document/cutout_points.h"
+#include "macro/arguments.h"
+#include "macro/buttons.h"
+#include "macro/shapes.h"
+#include "text/code_page.h"
+#include "text/numbers.h"
 #include "text/paths.h"
 
 namespace macro {
+
+namespace {
+
+struct PieceLine {
+    int16_t jump = 0;
+    Text picture, action;  // as written; empty without
+};
+
+PieceLine ReadPieceLine(TextView line) {
+    PieceLine piece;
+    const size_t open = line.find(u'(');
+    const size_t comma = open == TextView::npos ? open : line.find(u',', open);
+    if (comma != TextView::npos) {
+        // A number beyond 16 bits jumps nowhere.
+        const double jump = text::SafeNumber(line.substr(open + 1, comma - open - 1));
+        piece.jump = text::ToInt16(jump).value_or(0);
+    }
+    piece.picture = Quoted(line);
+    if (const size_t first = line.find(u'"'); first != TextView::npos) {
+        const size_t second = line.find(u'"', first + 1);
+        piece.action = second == TextView::npos ? Text() : Text(Quoted(line.substr(second + 1)));
+    }
+    return piece;
+}
+
+bool IsClickable(const PieceLine& piece) {
+    const Text kind = text::KindOf(piece.action);
+    return piece.jump != 0 || kind == u"WAV" || kind == u"EXE" || text::IsVideoKind(piece.action);
+}
+
+/// One pixel more on every side.
+platform::Rect Widened(const platform::Rect& place) {
+    return {place.x - 1, place.y - 1, place.width + 2, place.height + 2};
+}
+
+/// Where the background comes back under a piece that is shown anew.
+platform::Rect OldPlace(const model::ShowState& state, int index, const platform::Rect& place) {
+    const auto i = static_cast<size_t>(index);
+    if (state.CutoutType[i] != kDataFileShape) {
+        return Widened(place);
+    }
+    return {place.x + state.CutoutMinX[i], place.y + state.CutoutMinY[i],
+            state.CutoutMaxX[i] - state.CutoutMinX[i] + 1,
+            state.CutoutMaxY[i] - state.CutoutMinY[i] + 1};
+}
+
+bool IsSeenInFullScreen(Application& app, int index) {
+    return app.state.CutoutActive[static_cast<size_t>(index)] == 1 && InFullScreen(app.state) &&
+           app.windows.slidescreen.Picture1(index).Visible;
+}
+
+void Empty(model::PictureBox& box) {
+    box.Visible = false;
+    if (box.Picture() || box.WindowRgn()) {
+        box.SetPicture(nullptr);
+        box.SetWindowRgn(nullptr);
+    }
+}
+
+void RemovePiece(Application& app, int index) {
+    model::PictureBox& onScreen = app.windows.slidescreen.Picture1(index);
+    const platform::Rect place = PlaceOf(onScreen);
+    const bool seen = IsSeenInFullScreen(app, index);
+    if (app.state.CutoutActive[static_cast<size_t>(index)] == 1) {
+        TraceCutout(app, index, u"removed");
+    }
+    Empty(app.windows.form1.Picture2(index));
+    Empty(onScreen);
+    if (seen) {
+        app.platform.loop.PumpEvents();
+        RestoreBackground(app, Widened(place));
+        app.platform.loop.PumpEvents();
+    }
+    app.state.CutoutActive[static_cast<size_t>(index)] = 0;
+}
+
+void HideOldPiece(Application& app, int index) {
+    model::PictureBox& onScreen = app.windows.slidescreen.Picture1(index);
+    if (!IsSeenInFullScreen(app, index)) {
+        return;
+    }
+    onScreen.Visible = false;
+    app.platform.loop.PumpEvents();
+    RestoreBackground(app, OldPlace(app.state, index, PlaceOf(onScreen)));
+    app.platform.loop.PumpEvents();
+}
+
+/// Null for an empty name and for a file that is no picture.
+platform::BitmapPtr LoadPicture(Application& app, TextView path) {
+    const auto imaging = app.platform.imaging.MakeControl();
+    return !path.empty() && imaging->Load(path, {}) ? imaging->Picture() : nullptr;
+}
+
+/// A coordinate that no 16 bits hold leaves its bound as it was.
+void Bound(int16_t& lowest, int16_t& highest, int32_t value) {
+    if (const auto fits = text::ToInt16(value)) {
+        lowest = std::min(lowest, *fits);
+        highest = std::max(highest, *fits);
+    }
+}
+
+/// Corners of the coordinate file; sets the piece's bounds. Nothing where the file cannot be read
+/// or is none.
+std::vector<platform::Point> DataFilePoints(Application& app, size_t i) {
+    model::ShowState& state = app.state;
+    state.CutoutMinX[i] = state.CutoutMinY[i] = kNoMinimum;
+    state.CutoutMaxX[i] = state.CutoutMaxY[i] = kNoMaximum;
+    std::vector<platform::Point> points;
+    std::string bytes;
+    platform::FileError error;
+    if (state.CutoutDataFile[i].empty() ||
+        !app.platform.files.Read(state.CutoutDataFile[i], bytes, error)) {
+        return points;
+    }
+    const auto read = document::ReadCutoutPoints(text::DecodeFile(bytes, app.platform.codePage));
+    for (const document::CutoutPoint& point : read.value_or(std::vector<document::CutoutPoint>())) {
+        points.push_back({point.x, point.y});
+        Bound(state.CutoutMinX[i], state.CutoutMaxX[i], point.x);
+        Bound(state.CutoutMinY[i], state.CutoutMaxY[i], point.y);
+    }
+    return points;
+}
+
+/// Only the window of the mode in force gets the shape; the piece of the other one is whole.
+void Shape(Application& app, int index) {
+    model::ShowState& state = app.state;
+    const auto i = static_cast<size_t>(index);
+    model::PictureBox& inWindow = app.windows.form1.Picture2(index);
+    model::PictureBox& onScreen = app.windows.slidescreen.Picture1(index);
+    inWindow.Visible = false;
+    onScreen.Visible = false;
+    const platform::Size box{onScreen.ScaleWidth(), onScreen.ScaleHeight()};
+    const auto points = state.PicPbType == kDataFileShape ? DataFilePoints(app, i)
+                                                          : ShapePoints(state.PicPbType, box);
+    inWindow.SetWindowRgn(nullptr);
+    onScreen.SetWindowRgn(nullptr);
+    CutoutInForce(app, index).SetWindowRgn(platform::CreatePolyPolygonRgn(points, box));
+    state.CutoutType[i] = state.PicPbType;
+}
+
+void ShowPiece(Run& run, int index, const PieceLine& piece) {
+    Application& app = run.app;
+    model::ShowState& state = run.state;
+    model::PictureBox& inWindow = app.windows.form1.Picture2(index);
+    model::PictureBox& onScreen = app.windows.slidescreen.Picture1(index);
+    const bool clickable = IsClickable(piece);
+    for (model::PictureBox* box : {&inWindow, &onScreen}) {
+        box->MousePointer = clickable ? model::kPointerCustom : model::kPointerDefault;
+    }
+    if (clickable) {
+        state.MacroButtonsShown = 1;
+        ShowPointer(app);
+    }
+    HideOldPiece(app, index);
+
+    const Text folder = SlideFolder(app);
+    const auto i = static_cast<size_t>(index);
+    state.CutoutPicture[i] = text::WithFolder(folder, piece.picture);
+    const platform::BitmapPtr picture = LoadPicture(app, state.CutoutPicture[i]);
+    inWindow.SetPicture(picture);
+    onScreen.SetPicture(picture);
+    inWindow.Left = run.CurrentXValue;
+    inWindow.Top = app.windows.form1.Picture1.canvas.penY;
+    onScreen.Left = state.TextOriginX + run.CurrentXValue;
+    onScreen.Top = app.windows.slidescreen.P2.canvas.penY;
+    state.CutoutJump[i] = piece.jump;
+    state.CutoutActive[i] = 1;
+    state.CutoutAction[i] = piece.action.empty() ? Text() : text::WithFolder(folder, piece.action);
+    Shape(app, index);
+    inWindow.Visible = true;
+    onScreen.Visible = true;
+    TraceCutout(app, index, u"shown");
+}
+
+}  // namespace
 
 Text SlideFolder(const Application& app) {
     return text::FolderPart(app.state.SlideList(app.state.SlideIndex));
 }
 
-Flow NameCutoutData(Run&, double) {
+std::optional<int> CutoutIndex(TextView line) {
+    const auto index = text::ToInt16(text::SafeNumber(text::Mid(line, 6, 2)));
+    return index && *index >= 0 && *index <= kLastCutout ? std::optional<int>(*index)
+                                                         : std::nullopt;
+}
+
+model::PictureBox& CutoutInForce(Application& app, int index) {
+    return InFullScreen(app.state) ? app.windows.slidescreen.Picture1(index)
+                                   : app.windows.form1.Picture2(index);
+}
+
+void TraceCutout(Application& app, int index, TextView what) {
+    const model::ShowState& state = app.state;
+    const auto i = static_cast<size_t>(index);
+    const platform::Rect place = PlaceOf(CutoutInForce(app, index));
+    app.platform.trace.Event("cutout", {{"index", double(index)},
+                                        {"x", double(place.x)},
+                                        {"y", double(place.y)},
+                                        {"width", double(place.width)},
+                                        {"height", double(place.height)},
+                                        {"picture", state.CutoutPicture[i]},
+                                        {"jump", double(state.CutoutJump[i])},
+                                        {"action", state.CutoutAction[i]},
+                                        {"shape", double(state.CutoutType[i])},
+                                        {"state", Text(what)}});
+}
+
+Flow NameCutoutData(Run& run, double) {
+    const auto fields = CallFields(BeforeComment(run.MacroLineUpper), 2);
+    const auto index = text::ToInt16(NumberField(fields, 0));
+    if (!index || *index > kLastCutout) {
+        return Flow::GoOn;
+    }
+    run.state.PicPbType = kDataFileShape;
+    if (*index >= 0) {
+        const Text name = fields.size() > 1 ? Unwrapped(fields[1]) : Text();
+        run.state.CutoutDataFile[static_cast<size_t>(*index)] =
+            name.empty() ? Text() : text::WithFolder(SlideFolder(run.app), name);
+    }
     return Flow::GoOn;
 }
 
@@ -17,22 +238,43 @@ Flow SetCutoutShape(Run& run, double shape) {
     return Flow::GoOn;
 }
 
-Flow ShowCutout(Run&, double) {
+Flow ShowCutout(Run& run, double) {
+    const TextView line = BeforeComment(run.MacroLineUpper);
+    const auto index = CutoutIndex(line);
+    const PieceLine piece = ReadPieceLine(line);
+    if (!index || piece.picture.empty()) {
+        if (index) {
+            RemovePiece(run.app, *index);
+        }
+        ClearLine(run);
+        return Flow::GoOn;
+    }
+    ShowPiece(run, *index, piece);
+    // In the text the line counts as one that is not empty.
+    SetLine(run, u"\n");
+    FocusScreen(run.app);
     return Flow::GoOn;
 }
 
-void RemoveObjects(Application& app) {
+void RemoveObject(Application& app, int index) {
     model::ShowState& state = app.state;
-    for (auto* slots : {&app.windows.form1.Picture2, &app.windows.slidescreen.Picture1}) {
-        for (auto& slot : *slots) {
-            slot->Visible = false;
-            if (slot->Picture()) {
-                slot->SetPicture(nullptr);
-            }
-        }
+    const auto i = static_cast<size_t>(index);
+    model::PictureBox& onScreen = app.windows.slidescreen.Picture1(index);
+    if (state.CutoutActive[i] == 1) {
+        TraceCutout(app, index, u"removed");
     }
-    state.CutoutJump.fill(0);
-    state.CutoutAction.fill({});
+    Empty(app.windows.form1.Picture2(index));
+    if (IsSeenInFullScreen(app, index)) {
+        RestoreBackground(app, Widened(PlaceOf(onScreen)));
+    }
+    Empty(onScreen);
+    state.CutoutPicture[i].clear();
+    state.CutoutAction[i].clear();
+    for (auto* table : {&state.CutoutJump, &state.CutoutActive, &state.CutoutType,
+                        &state.CutoutMinX, &state.CutoutMinY, &state.CutoutMaxX, &state.CutoutMaxY,
+                        &state.MenuJump, &state.MenuActive}) {
+        (*table)[i] = 0;
+    }
 }
 
 }  // namespace macro

@@ -9,6 +9,21 @@ namespace {
 
 constexpr int kNextSlideMs = 100;
 
+/// Events run between the pieces, so that they vanish one by one.
+void RemoveObjectsOneByOne(Application& app) {
+    model::ShowState& state = app.state;
+    const auto menus = MenuButtons(app.windows.slidescreen);
+    for (int index = 0; index <= kLastCutout; ++index) {
+        const auto i = static_cast<size_t>(index);
+        if (InFullScreen(state) && state.MenuActive[i] == 1 && i >= 1 && i <= menus.size()) {
+            RestoreBackground(app, PlaceOf(*menus[i - 1]));
+        }
+        RemoveObject(app, index);
+        state.PicPbType = 0;
+        app.platform.loop.PumpEvents();
+    }
+}
+
 }  // namespace
 
 void LeaveSlide(Run& run) {
@@ -21,8 +36,7 @@ void LeaveSlide(Run& run) {
         RestoreBackground(app, PlaceOf(app.windows.slidescreen.Command2));
     }
     app.platform.loop.PumpEvents();
-    RemoveObjects(app);
-    state.PicPbType = 0;
+    RemoveObjectsOneByOne(app);
     app.windows.form1.Timer1.Interval = kNextSlideMs;
     state.MacroEndShow = 1;
     if (state.SlideIndex < 0) {

@@ -57,7 +57,9 @@ void RunTextMacro(Application& app) {
 
 void ClearMacroObjects(Application& app) {
     HideButtons(app);
-    RemoveObjects(app);
+    for (int index = 0; index <= kLastCutout; ++index) {
+        RemoveObject(app, index);
+    }
 }
 
 void ResetTextSettings(Application& app) {

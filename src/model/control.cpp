@@ -154,9 +154,24 @@ void PictureBox::SetPicture(platform::BitmapPtr picture) {
     if (autoSize_) {
         Width = ScaleWidth() * platform::kTwipsPerPixel;
         Height = ScaleHeight() * platform::kTwipsPerPixel;
+        Refresh();
     } else {
         Cls();
     }
+}
+
+const platform::Bitmap& PictureBox::Shown() const {
+    return autoSize_ && picture_ ? *picture_ : canvas.Pixels();
+}
+
+void PictureBox::SetWindowRgn(platform::RegionPtr region) {
+    region_ = std::move(region);
+    Refresh();
+}
+
+bool PictureBox::TakesPress(int x, int y) const {
+    const bool inBox = x >= 0 && y >= 0 && x < ToPixels(Width) && y < ToPixels(Height);
+    return inBox && (!region_ || region_->Contains(x, y));
 }
 
 void PictureBox::Cls() {

@@ -11,6 +11,7 @@
 #include "model/property.h"
 #include "platform/canvas.h"
 #include "platform/imaging.h"
+#include "platform/region.h"
 
 namespace model {
 
@@ -182,6 +183,9 @@ private:
     std::deque<bool> selected_;
 };
 
+/// Values of PictureBox::MousePointer.
+constexpr int kPointerDefault = 0, kPointerCustom = 99;  // custom: a hand that says "press here"
+
 /// A surface with a picture under what was drawn on it. With AutoSize it only holds the picture
 /// and its size follows it; otherwise its canvas has the control's size in pixels.
 class PictureBox : public VisibleControl {
@@ -190,18 +194,29 @@ public:
     Property<int> BackColor{*this, "BackColor", 0};  // 0x00BBGGRR
     Property<bool> AutoRedraw{*this, "AutoRedraw", true};
     Property<bool> Border{*this, "Border", false};
+    Property<int> MousePointer{*this, "MousePointer", kPointerDefault};
     Event<> Click;
     Event<int> KeyDown;
     /// Takes the keyboard; attached by the view.
     Event<> SetFocus;
+    /// Called when what is seen changed without the canvas: the region, or an AutoSize box's
+    /// picture. Attached by the view.
+    Event<> Refresh;
 
     platform::Canvas canvas;
 
     const platform::BitmapPtr& Picture() const { return picture_; }
     /// Shows the picture at the top left over the back colour; what was drawn is gone. Null: none.
     void SetPicture(platform::BitmapPtr picture);
+    /// The pixels that a view shows.
+    const platform::Bitmap& Shown() const;
     /// What was drawn is gone, the picture stays.
     void Cls();
+    /// Only these pixels are seen and take clicks; null: all.
+    void SetWindowRgn(platform::RegionPtr region);
+    const platform::RegionPtr& WindowRgn() const { return region_; }
+    /// True when a press at that pixel of the box is a press on it.
+    bool TakesPress(int x, int y) const;
     /// Sets the control's size (twips) and the canvas's, keeping what is on it. What the box grows
     /// by shows the picture, else the back colour.
     void SetSize(int widthTwips, int heightTwips);
@@ -212,6 +227,7 @@ public:
 private:
     bool autoSize_;
     platform::BitmapPtr picture_;
+    platform::RegionPtr region_;
 };
 
 /// Shows what the program's video player plays (platform::Video).
@@ -256,10 +272,13 @@ private:
 template <class Kind>
 class ControlArray {
 public:
-    ControlArray(Window* window, const std::string& name, int first, int count) : first_(first) {
+    /// `rest` goes to every element behind its window and name.
+    template <class... Rest>
+    ControlArray(Window* window, const std::string& name, int first, int count, Rest... rest)
+        : first_(first) {
         for (int i = 0; i < count; ++i) {
-            elements_.push_back(
-                std::make_unique<Kind>(window, name + "(" + std::to_string(first + i) + ")"));
+            elements_.push_back(std::make_unique<Kind>(
+                window, name + "(" + std::to_string(first + i) + ")", rest...));
         }
     }
     Kind& operator()(int index) { return *elements_.at(static_cast<size_t>(index - first_)); }

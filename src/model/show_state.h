@@ -69,6 +69,8 @@ struct ShowState {
     std::array<Text, 64> CutoutDataFile;
     /// Bounding box of a polygon in the object's own pixels; 9999, 9999, 0, 0 without one.
     std::array<int16_t, 64> CutoutMinX{}, CutoutMinY{}, CutoutMaxX{}, CutoutMaxY{};
+    /// Full path of an object's picture, for the trace.
+    std::array<Text, 64> CutoutPicture;
 
     /// The monitors by number, in twips; zeros behind the last one.
     std::array<int32_t, kMonitorsMost> MonitorLeft{}, MonitorTop{}, MonitorRight{}, MonitorBottom{};

@@ -25,6 +25,10 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   vue2.kvs      a b in the oldest form
   cut.kvs       five.kvs without its end
   refused.kvs   a tag that is none
+  pieces.kvs    m1 m2 a: m1.txt shows six shapes, one of each, m2.txt a chosen jump and motion
+  pieces_full.kvs the same in the full screen
+m1, m2 (320x240, shaded) have macro files beside them; star.png (60x40) is their piece, cut.dat a
+polygon in it.
   all.kvl       one.kvs, then repeat.kvs
 State files, for the program folder:
   uautst.dat    the link window with its auto start: one.kvs, then repeat.kvs beside itself
@@ -135,6 +139,23 @@ def row(date_from="", time_from="", date_to="", time_to=""):
     return f"{date_from:10}{time_from:5}{date_to:10}{time_to:5}"
 
 
+def shaded(width, height):
+    """A picture in which every pixel differs from its neighbours."""
+    def chunk(kind, body):
+        return (struct.pack(">I", len(body)) + kind + body
+                + struct.pack(">I", zlib.crc32(kind + body)))
+
+    rows = b"".join(b"\0" + b"".join(bytes((x * 255 // width, y * 255 // height, (x * y) % 96))
+                                     for x in range(width)) for y in range(height))
+    header = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header)
+            + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
+
+
+def macro(*lines):
+    return "".join(line + "\r\n" for line in lines).encode("cp932")
+
+
 def main():
     folder = pathlib.Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
@@ -206,6 +227,26 @@ def main():
     }
     for name, (slides, settings) in shows.items():
         files[name + ".kvs"] = document(lines_of_show(slides, **settings))
+    for name in ("m1", "m2"):
+        files[f"{name}.png"] = shaded(320, 240)
+    files["star.png"] = png(60, 40, (255, 192, 0))
+    files["cut.dat"] = macro("KVS_PICTYPE_DATA", "5,5", "55,5", "55,35", "30,15", "5,35")
+    shapes = ["//切取画像", "CurrentX=10", "CurrentY=10", "[テキスト]", "PicPB00(0,\"star.png\",\"\")"]
+    for i, left in ((1, 110), (2, 210)):
+        shapes += [f"CurrentX={left}", "CurrentY=10", f"PicPBType={i}",
+                   f"PicPB0{i}(0,\"star.png\",\"\")"]
+    for i, left in ((3, 10), (4, 110)):
+        shapes += [f"CurrentX={left}", "CurrentY=100", f"PicPBType={i}",
+                   f"PicPB0{i}(0,\"star.png\",\"\")"]
+    shapes += ["CurrentX=210", "CurrentY=100", "PicPBData(5,\"cut.dat\")",
+               "PicPB05(0,\"star.png\",\"\")"]
+    files["m1.txt"] = macro(*shapes)
+    files["m2.txt"] = macro(
+        "[テキスト]", "CurrentX=20", "CurrentY=20", "PicPBType=3",
+        "PicPB01(1,\"star.png\",\"\")  //次の画面へ", "MovPB01(100,50,10)")
+    pieces = ["m1.png", "m2.png", "a.png"]
+    files["pieces.kvs"] = document(lines_of_show(pieces))
+    files["pieces_full.kvs"] = document(lines_of_show(pieces, always_full=0))
 
     for name, content in files.items():
         (folder / name).write_bytes(content)

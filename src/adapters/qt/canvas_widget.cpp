@@ -5,11 +5,40 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QRegion>
 #include <cmath>
+#include <vector>
 
 #include "adapters/qt/virtual_keys.h"
 
 namespace qt_adapter {
+
+namespace {
+
+QRegion ToMask(const platform::Region& region, double scale) {
+    if (region.rects.empty()) {
+        return QRegion(-1, -1, 1, 1);  // an empty mask would mean none
+    }
+    std::vector<QRect> rects;
+    rects.reserve(region.rects.size());
+    for (const platform::Rect& rect : region.rects) {
+        rects.emplace_back(rect.x, rect.y, rect.width, rect.height);
+    }
+    if (scale == 1.0) {
+        QRegion mask;
+        mask.setRects(rects.data(), static_cast<int>(rects.size()));
+        return mask;
+    }
+    QRegion mask;
+    for (const QRect& rect : rects) {
+        const QPointF end(rect.x() + rect.width(), rect.y() + rect.height());
+        mask += QRect(QPoint((QPointF(rect.topLeft()) / scale).toPoint()),
+                      (end / scale).toPoint() - QPoint(1, 1));
+    }
+    return mask;
+}
+
+}  // namespace
 
 CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -20,6 +49,7 @@ CanvasWidget::~CanvasWidget() {
     if (box_) {
         box_->canvas.onChanged = nullptr;
         box_->SetFocus = nullptr;
+        box_->Refresh = nullptr;
     }
 }
 
@@ -36,11 +66,25 @@ void CanvasWidget::Attach(model::PictureBox& box, Gate& gate, bool physical) {
         }
     };
     box.SetFocus = [this] { setFocus(); };
+    box.Refresh = [this] {
+        FollowRegion();
+        update();
+    };
+    FollowRegion();
     update();
 }
 
 double CanvasWidget::Scale() const {
     return physical_ ? devicePixelRatioF() : 1.0;
+}
+
+void CanvasWidget::FollowRegion() {
+    const platform::RegionPtr& region = box_->WindowRgn();
+    if (!region || region->Covers({box_->ScaleWidth(), box_->ScaleHeight()})) {
+        clearMask();
+    } else {
+        setMask(ToMask(*region, Scale()));
+    }
 }
 
 void CanvasWidget::Flush() {
@@ -61,7 +105,7 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
         painter.fillRect(event->rect(), Qt::black);
         return;
     }
-    const platform::Bitmap& pixels = box_->canvas.Pixels();
+    const platform::Bitmap& pixels = box_->Shown();
     const double scale = Scale();
     const QRectF covered(0, 0, pixels.width / scale, pixels.height / scale);
     if (!covered.contains(QRectF(event->rect()))) {

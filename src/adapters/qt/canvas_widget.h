@@ -22,6 +22,9 @@ public:
     /// Canvas pixels in one unit of the widget's coordinates.
     double Scale() const;
 
+    /// Cuts the widget to the box's region, pointer and presses included.
+    void FollowRegion();
+
     /// Asks for a repaint of what changed on the canvas since the last time.
     void Flush();
 

@@ -223,14 +223,24 @@ class PictureBinding : public ControlBinding {
 public:
     PictureBinding(model::PictureBox& box, CanvasWidget& widget, Gate& gate,
                    const CanvasWidget* host, bool physical)
-        : ControlBinding(box, widget, gate, host) {
+        : ControlBinding(box, widget, gate, host), box_(box) {
         widget.Attach(box, gate, physical);
         Sync();
     }
 
 protected:
-    void SyncOwn() override { widget_.update(); }
+    void SyncOwn() override {
+        if (box_.MousePointer == model::kPointerCustom) {
+            widget_.setCursor(Qt::PointingHandCursor);
+        } else if (widget_.cursor().shape() == Qt::PointingHandCursor) {
+            widget_.setCursor(Qt::ArrowCursor);
+        }
+        widget_.update();
+    }
     QSize NaturalSize() const override { return {0, 0}; }
+
+private:
+    model::PictureBox& box_;
 };
 
 }  // namespace

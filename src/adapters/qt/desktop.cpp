@@ -11,8 +11,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "adapters/qt/convert.h"
 #include "adapters/qt/color_scheme.h"
+#include "adapters/qt/convert.h"
 #include "adapters/qt/form_loader.h"
 #include "adapters/qt/gate.h"
 #include "adapters/qt/media_player.h"

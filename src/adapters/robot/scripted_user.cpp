@@ -123,6 +123,23 @@ void PressShortcut(model::Window& window, int code) {
     }
 }
 
+/// A press beside a cut-out shape is no press on the piece.
+bool Misses(const Action& action, const model::Control& control) {
+    const auto* picture = dynamic_cast<const model::PictureBox*>(&control);
+    return picture && picture->WindowRgn() && action.numbers.size() == 2 &&
+           !picture->TakesPress(action.numbers[0], action.numbers[1]);
+}
+
+/// What lies beneath the pieces of a window: its first picture box.
+model::Control& CanvasOf(model::Window& window) {
+    for (model::Control* control : window.Controls()) {
+        if (control->Kind() == model::ControlKind::PictureBox) {
+            return *control;
+        }
+    }
+    return window;
+}
+
 model::Control* FindTarget(model::Application& application, const Action& action) {
     model::Window* window = application.windows.Find(action.window);
     if (!window || action.control.empty()) {
@@ -295,9 +312,16 @@ void ScriptedUser::Run(const Action& action) {
     }
 }
 
-/// Nothing in the program asks yet where a click was, nor for the right button.
+/// Nothing in the program asks yet for the right button.
 void ScriptedUser::Mouse(const Action& action, model::Window& window, model::Control& control) {
     if (action.kind == ActionKind::RightClick) {
+        return;
+    }
+    if (Misses(action, control)) {
+        model::Control& beneath = CanvasOf(window);
+        if (CanUse(window, beneath)) {
+            Press(beneath);
+        }
         return;
     }
     Press(control);

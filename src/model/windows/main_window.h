@@ -10,11 +10,11 @@ struct Form1 : Window {
 
     Property<int> ShownSlide{*this, "ShownSlide"};  // 1-based; 0 while no show is under way
 
-    PictureBox Picture1{this, "Picture1"};                       // preview
-    PictureBox Picture3{this, "Picture3"};                       // stands in for a video
-    Label Label1{this, "Label1"};                                // scrolling text
-    Label SlideCount{this, "SlideCount"};                        // "3 / 12"
-    ControlArray<PictureBox> Picture2{this, "Picture2", 0, 63};  // macro picture slots
+    PictureBox Picture1{this, "Picture1"};                             // preview
+    PictureBox Picture3{this, "Picture3"};                             // stands in for a video
+    Label Label1{this, "Label1"};                                      // scrolling text
+    Label SlideCount{this, "SlideCount"};                              // "3 / 12"
+    ControlArray<PictureBox> Picture2{this, "Picture2", 0, 63, true};  // cut-out pieces
 
     Button Command1{this, "Command1", u"START"};
     Button Command2{this, "Command2", u"PAUSE"};

@@ -8,13 +8,13 @@ namespace model {
 struct Slidescreen : Window {
     Slidescreen() : Window("Slidescreen", u"パラピコ") {}
 
-    PictureBox P2{this, "P2"};                                   // visible canvas
-    PictureBox P3{this, "P3"};                                   // background under macro objects
-    PictureBox P4{this, "P4"};                                   // canvas without text
-    ControlArray<PictureBox> Picture1{this, "Picture1", 0, 63};  // macro picture slots
-    PictureBox Picture2{this, "Picture2"};                       // stands in for a video
-    Label Label1{this, "Label1"};                                // scrolling text
-    Timer Timer1{this, "Timer1"};                                // scrolls the text
+    PictureBox P2{this, "P2"};  // visible canvas
+    PictureBox P3{this, "P3"};  // background under macro objects
+    PictureBox P4{this, "P4"};  // canvas without text
+    ControlArray<PictureBox> Picture1{this, "Picture1", 0, 63, true};  // cut-out pieces
+    PictureBox Picture2{this, "Picture2"};                             // stands in for a video
+    Label Label1{this, "Label1"};                                      // scrolling text
+    Timer Timer1{this, "Timer1"};                                      // scrolls the text
     Button Command1{this, "Command1", u"Yes"};
     Button Command2{this, "Command2", u"No"};
     Button menu1{this, "menu1"};
