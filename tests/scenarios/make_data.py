@@ -21,7 +21,11 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   vue2.kvs      a b in the oldest form
   cut.kvs       five.kvs without its end
   refused.kvs   a tag that is none
+  texts.kvs     w1 w2 a with their macro files: drawn lines; a scrolling line that runs once
+  texts_full.kvs the same in the full screen
+  texts_second.kvs a w1
   all.kvl       one.kvs, then repeat.kvs
+w1 and w2 are 320x240, olive.
 """
 
 import pathlib
@@ -44,15 +48,15 @@ def png(width, height, rgb):
 
 
 def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1,
-                  effects=(11, 12)):
+                  effects=(11, 12), text_macros=1):
     """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
     def number(value):
         return (f" {value}" if value >= 0 else str(value)) + " "
 
     rows = rows or [BLANK_ROW] * len(slides)
     before = ["21vue3167893", "show.kvs", number(interval), number(repeat), number(7), "*.wav", "",
-              number(effects[0]), number(-30), number(effects[1]), number(-30), number(10), number(10), number(1),
-              "1", number(20), number(20), number(0), "", number(0), number(0), number(random),
+              number(effects[0]), number(-30), number(effects[1]), number(-30), number(10), number(10),
+              number(text_macros), "1", number(20), number(20), number(0), "", number(0), number(0), number(random),
               number(0), number(0), "", number(len(slides))]
     # Overlay 0 0, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
     # mode, always full screen (0 is on), speed, load mode, two linked WAV options.
@@ -67,6 +71,18 @@ def document(lines):
 
 def row(date_from="", time_from="", date_to="", time_to=""):
     return f"{date_from:10}{time_from:5}{date_to:10}{time_to:5}"
+
+
+def texts():
+    """The macro files of texts.kvs: CP932, CR LF."""
+    lines = {
+        "w1.txt": ["//表示", "QBColor=14", "CurrentX=10", "CurrentY=20", "Delay=0.5", "LineSpace=5",
+                   "Kage=1", "[テキスト]", "一行目", "Grad(255,0,0,0,0,255,\"abcde\")",
+                   "TextOut(40,0,90,\"縦\")", "QBColor=15", "最後"],
+        "w2.txt": ["CurrentY=50", "Telop1(5,20,\"流れる\")"],
+    }
+    return {name: "".join(line + "\r\n" for line in content).encode("cp932")
+            for name, content in lines.items()}
 
 
 def main():
@@ -100,6 +116,11 @@ def main():
     files["only_bad.kvs"] = document(lines_of_show(["text.jpg"]))
     files["full.kvs"] = document(lines_of_show(five[:3], always_full=0))
     files["effects.kvs"] = document(lines_of_show(five[:3], always_full=0, effects=(10, 11)))
+    slides = ["w1.png", "w2.png", "a.png"]
+    files["texts.kvs"] = document(lines_of_show(slides, text_macros=0))
+    files["texts_full.kvs"] = document(lines_of_show(slides, always_full=0, text_macros=0))
+    files["texts_second.kvs"] = document(lines_of_show(["a.png", "w1.png"], text_macros=0))
+    files.update({name: png(320, 240, (64, 64, 0)) for name in slides[:2]}, **texts())
     files["all.kvl"] = document(["1vue3167", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
     files["failing.kvs"] = document(lines_of_show(
         ["a.png", "text.jpg", "zero.png", "missing.png", "b.png"]))
