@@ -1,6 +1,8 @@
 #include "platform/coverage.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 
 namespace platform {
 
@@ -138,16 +140,26 @@ private:
                 row[x / 64] |= uint64_t{values[x] >= least} << (x % 64);
             }
         }
-        // Prints at the same place count once here.
-        std::vector<Offset> places(offsets_.begin(), offsets_.end());
-        const auto before = [](Offset a, Offset b) { return a.y != b.y ? a.y < b.y : a.x < b.x; };
-        std::sort(places.begin(), places.end(), before);
-        places.erase(std::unique(places.begin(), places.end()), places.end());
+        // By rows: those of an outline have the same columns, which are then spread only once.
+        std::map<int, std::set<int>> columnsOfRow;
+        for (const Offset& offset : offsets_) {
+            columnsOfRow[offset.y - least_.y].insert(offset.x - least_.x);
+        }
         BitRows spread(reach.width, reach.height);
-        for (const Offset& place : places) {
+        BitRows across(reach.width, shape_.height);
+        const std::set<int>* spreadColumns = nullptr;
+        for (const auto& [down, columns] : columnsOfRow) {
+            if (spreadColumns == nullptr || *spreadColumns != columns) {
+                std::fill(across.bits.begin(), across.bits.end(), 0);
+                for (const int column : columns) {
+                    for (int y = 0; y < shape_.height; ++y) {
+                        OrMoved(across.Row(y), shapeBits.Row(y), across.words, column);
+                    }
+                }
+                spreadColumns = &columns;
+            }
             for (int y = 0; y < shape_.height; ++y) {
-                OrMoved(spread.Row(y + place.y - least_.y), shapeBits.Row(y), spread.words,
-                        place.x - least_.x);
+                OrMoved(spread.Row(y + down), across.Row(y), spread.words, 0);
             }
         }
         return spread;

@@ -108,7 +108,7 @@ TEST(TextPictures, FarOutsideAndHugeTextsAreClipped) {
 /// A line of squares whose top left is at (150, 150): 20 pixels high, some 80 long.
 Rect TurnedBy(int angle10, int width = 0) {
     QtTextRenderer renderer;
-    Canvas canvas = Paper(300, 300);
+    Canvas canvas = Paper(400, 300);
     renderer.DrawTurned(canvas, 150, 150, FontOf(99), {20, width, angle10}, kInk, u"■■■■",
                         kInPlace);
     const Rect inked = Inked(canvas);

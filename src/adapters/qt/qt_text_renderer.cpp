@@ -16,7 +16,7 @@ namespace qt_adapter {
 namespace {
 
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
-constexpr int kSizeToMeasure = 1000;
+constexpr int kSizeOfTurned = 1000;
 // What the width of a turned text's letters is measured by. Of the fonts' own average most parts
 // are full-width letters.
 constexpr char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
@@ -134,16 +134,13 @@ void QtTextRenderer::DrawTurned(platform::Canvas& canvas, int x, int y, const pl
                                 std::span<const platform::Offset> offsets) {
     const int height = turn.height > 0 ? turn.height : platform::Turn::kUnsaidHeight;
     QFont screenFont = ScreenFont(font);
-    // At a large size, so that rounding does not count.
-    screenFont.setPixelSize(kSizeToMeasure);
-    const QFontMetricsF large(screenFont);
-    const double linePerSize = large.height() / kSizeToMeasure;
-    const double letterPerSize =
-        large.horizontalAdvance(QLatin1String(kLetters)) / (strlen(kLetters) * kSizeToMeasure);
-    const int size = std::max(1, static_cast<int>(std::lround(height / linePerSize)));
-    screenFont.setPixelSize(size);
-    const double scaleY = height / (size * linePerSize);
-    const double scaleX = turn.width > 0 ? turn.width / (size * letterPerSize) : scaleY;
+    // Set at a large size and made small, so that no letter's width is rounded.
+    screenFont.setPixelSize(kSizeOfTurned);
+    const QFontMetricsF metrics(screenFont);
+    const double letter =
+        metrics.horizontalAdvance(QLatin1String(kLetters)) / static_cast<double>(strlen(kLetters));
+    const double scaleY = height / metrics.height();
+    const double scaleX = turn.width > 0 ? turn.width / letter : scaleY;
     QTransform place = QTransform::fromTranslate(x, y);
     place.rotate(-turn.angle10 / 10.0);
     place.scale(scaleX, scaleY);

@@ -1,0 +1,12 @@
+# STOP in the wait behind a line ends the text at once.
+# slides: 0 a.png 3000 w1.png
+# trace: "text":"一行目"
+# no trace: "text":"abcde"
+choose texts_second.kvs
+menu mnuOPEN
+click Form1.Command1
+@3300 expect MacroDelayWaiting 1
+click Form1.Command3
+@3400 expect ShowRunning 0
+expect Form1.Timer3.Enabled false
+@9000 quit
