@@ -118,7 +118,6 @@ def mp4(milliseconds):
 def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1,
                   effects=(11, 12), sound=7, wav_file="", midi_file="", mp3_file="", sync=0,
                   sounds=(), over_mp3=0):
-                  effects=(11, 12), text_macros=1):
     """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
     def number(value):
         return (f" {value}" if value >= 0 else str(value)) + " "
@@ -128,9 +127,6 @@ def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_f
               number(7 if sound == 8 else sound), "*.wav", wav_file,
               number(effects[0]), number(-30), number(effects[1]), number(-30), number(10), number(10), number(1),
               "1", number(20), number(20), number(0), midi_file, number(sync), number(0), number(random),
-    before = ["21vue3167893", "show.kvs", number(interval), number(repeat), number(7), "*.wav", "",
-              number(effects[0]), number(-30), number(effects[1]), number(-30), number(10), number(10),
-              number(text_macros), "1", number(20), number(20), number(0), "", number(0), number(0), number(random),
               number(0), number(0), "", number(len(slides))]
     # Overlay 0 0, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
     # mode, always full screen (0 is on), speed, load mode, two linked WAV options.
@@ -163,6 +159,8 @@ def shaded(width, height):
 
 def macro(*lines):
     return "".join(line + "\r\n" for line in lines).encode("cp932")
+
+
 def texts():
     """The macro files of texts.kvs: CP932, CR LF."""
     lines = {
@@ -213,9 +211,9 @@ def main():
     files["extremes.kvs"] = document(lines_of_show(
         ["line.png", "dot.png", "line.png", "e.png"], always_full=0, effects=(10, 11)))
     slides = ["w1.png", "w2.png", "a.png"]
-    files["texts.kvs"] = document(lines_of_show(slides, text_macros=0))
-    files["texts_full.kvs"] = document(lines_of_show(slides, always_full=0, text_macros=0))
-    files["texts_second.kvs"] = document(lines_of_show(["a.png", "w1.png"], text_macros=0))
+    files["texts.kvs"] = document(lines_of_show(slides))
+    files["texts_full.kvs"] = document(lines_of_show(slides, always_full=0))
+    files["texts_second.kvs"] = document(lines_of_show(["a.png", "w1.png"]))
     files.update({name: png(320, 240, (64, 64, 0)) for name in slides[:2]}, **texts())
     files["all.kvl"] = document(["1vue3167", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
     files["uautst.dat"] = document(
