@@ -68,7 +68,7 @@ WaitForColor 420 250 '#00FF00' 'the right arrow goes on'
 
 # The same by the menu: Alt+R, STOP.
 Keys alt+r Down Return
-WaitForColor 420 250 '#000000' 'STOP in the menu empties the preview'
+WaitForColor 420 150 '#000000' 'STOP in the menu empties the preview'
 Keys ctrl+q
 for ((try = 0; try < limit; ++try)); do
     kill -0 "$program" 2>/dev/null || break
