@@ -14,7 +14,7 @@ constexpr double kUnsaidNumber = 100;  // of interval and step
 constexpr double kHighestNumber = 1000;
 constexpr int kMsPerInterval = 10;
 // Characters. Loops can append to a line without end; so much takes minutes to go by.
-constexpr size_t kLongestCaption = 16384;
+constexpr size_t kLongestCaption = 4096;
 
 struct Telop {
     int interval, step;  // hundredths of a second, pixels
@@ -49,21 +49,28 @@ Line LineInWindow(Application& app) {
 }
 
 /// The label is as large as its text.
-void SetCaption(Application& app, model::Label& label, Text caption) {
-    caption.resize(std::min(caption.size(), kLongestCaption));
+void FitToCaption(Application& app, model::Label& label) {
     const auto extent = app.platform.textRenderer.Measure(
-        {label.FontName, label.FontSize, label.FontBold, label.FontItalic, false}, caption);
+        {label.FontName, label.FontSize, label.FontBold, label.FontItalic, false}, label.Caption());
     label.Width = extent.width;
     label.Height = extent.height;
-    label.Caption = std::move(caption);
 }
 
-void TakeLook(model::Label& label, const platform::Canvas& canvas) {
+void SetCaption(Application& app, model::Label& label, Text caption) {
+    caption.resize(std::min(caption.size(), kLongestCaption));
+    if (caption != label.Caption()) {
+        label.Caption = std::move(caption);
+        FitToCaption(app, label);
+    }
+}
+
+void TakeLook(Application& app, model::Label& label, const platform::Canvas& canvas) {
     label.FontName = canvas.font.name;
     label.FontSize = canvas.font.sizePoints;
     label.FontBold = canvas.font.bold;
     label.FontItalic = canvas.font.italic;
     label.ForeColor = static_cast<int>(canvas.color);
+    FitToCaption(app, label);
 }
 
 void EmptyCaptions(Application& app) {
@@ -108,7 +115,7 @@ Flow StartTelop(Run& run, double) {
     label.Top = box.canvas.penY;
     if (!timer.Enabled) {
         label.Left = box.ScaleWidth();
-        TakeLook(label, box.canvas);
+        TakeLook(app, label, box.canvas);
     }
     if (once) {
         SetCaption(app, label, label.Caption() + telop.text);

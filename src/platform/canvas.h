@@ -60,6 +60,7 @@ struct Font {
     Text name = u"ＭＳ Ｐゴシック";
     double sizePoints = 9;
     bool bold = false, italic = false, underline = false;
+    friend bool operator==(const Font&, const Font&) = default;
 };
 
 class Canvas;

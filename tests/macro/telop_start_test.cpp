@@ -89,6 +89,14 @@ TEST_F(TelopStart, ANewTextTakesOverWhenTheOldOneHasGone) {
     EXPECT_EQ(form1.Label1.Left(), 640);
 }
 
+TEST_F(TelopStart, ATextThatWasLeftStandingTakesTheNewSize) {
+    Play(u"Telop(10,100,\"one\")\n");
+    form1.Timer4.Enabled = false;
+    Play(u"FontSize=40\nTelop(10,100,\"two\")\n");
+    EXPECT_EQ(form1.Label1.Caption(), u"one");
+    EXPECT_EQ(form1.Label1.Width(), 60);
+}
+
 TEST_F(TelopStart, OnceOnlyLinesAreStrungTogetherAndEnd) {
     Play(u"Telop1(10,100,\"abc\")\nTELOP1(10,100,\"DEF\")\n");
     EXPECT_EQ(state.TelopRunning, 1);
@@ -120,7 +128,7 @@ TEST_F(TelopStart, WithoutATextEverythingEnds) {
 
 TEST_F(TelopStart, ALoopCannotStringALineTogetherWithoutEnd) {
     Play(u"Loop=3000\nTelop1(10,100,\"1234567890\")\nEndLoop\n");
-    EXPECT_EQ(form1.Label1.Caption().size(), 16384u);
+    EXPECT_EQ(form1.Label1.Caption().size(), 4096u);
 }
 
 }  // namespace

@@ -113,8 +113,16 @@ QFont ScreenFont(const platform::Font& font) {
     return result;
 }
 
+const QFont& QtTextRenderer::Found(const platform::Font& font) {
+    if (font != last_) {
+        last_ = font;
+        found_ = ScreenFont(font);
+    }
+    return found_;
+}
+
 platform::TextRenderer::Extent QtTextRenderer::Measure(const platform::Font& font, TextView text) {
-    const QFontMetrics metrics(ScreenFont(font));
+    const QFontMetrics metrics(Found(font));
     return {metrics.horizontalAdvance(ToQt(text)), metrics.height()};
 }
 
@@ -126,14 +134,14 @@ void QtTextRenderer::Draw(platform::Canvas& canvas, int x, int y, const platform
 void QtTextRenderer::DrawEach(platform::Canvas& canvas, int x, int y, const platform::Font& font,
                               platform::Color color, TextView text,
                               std::span<const platform::Offset> offsets) {
-    Print(canvas, ScreenFont(font), QTransform::fromTranslate(x, y), color, text, offsets);
+    Print(canvas, Found(font), QTransform::fromTranslate(x, y), color, text, offsets);
 }
 
 void QtTextRenderer::DrawTurned(platform::Canvas& canvas, int x, int y, const platform::Font& font,
                                 const platform::Turn& turn, platform::Color color, TextView text,
                                 std::span<const platform::Offset> offsets) {
     const int height = turn.height > 0 ? turn.height : platform::Turn::kUnsaidHeight;
-    QFont screenFont = ScreenFont(font);
+    QFont screenFont = Found(font);
     // Set at a large size and made small, so that no letter's width is rounded.
     screenFont.setPixelSize(kSizeOfTurned);
     const QFontMetricsF metrics(screenFont);

@@ -23,6 +23,14 @@ public:
     void DrawTurned(platform::Canvas& canvas, int x, int y, const platform::Font& font,
                     const platform::Turn& turn, platform::Color color, TextView text,
                     std::span<const platform::Offset> offsets) override;
+
+private:
+    /// ScreenFont of the font that was asked for last is kept: finding one takes longer than
+    /// drawing a short text.
+    const QFont& Found(const platform::Font& font);
+
+    platform::Font last_;
+    QFont found_ = ScreenFont(last_);
 };
 
 }  // namespace qt_adapter
