@@ -11,6 +11,9 @@ namespace macro {
 namespace {
 
 constexpr int kGap = 4;  // pixels between Yes and No
+// Pixels: a menu button is as wide as its caption asks, with so much beside it.
+constexpr int kMenuMargin = 40;
+constexpr int kMenuWidth[] = {80, 800};
 
 void Place(model::VisibleControl& control, int x, int y) {
     control.Left = x;
@@ -160,8 +163,12 @@ Flow MenuButton(Run& run, double) {
         state.MenuJump[entry] = jump.value_or(0);
         state.MenuActive[entry] = 1;
         const Text caption = fields.size() > 1 ? Unwrapped(fields[1]) : Text();
-        inWindow.Caption = caption;
-        onScreen.Caption = caption;
+        const int text = run.app.platform.textRenderer.Measure({}, caption).width;
+        const int width = std::clamp(text + kMenuMargin, kMenuWidth[0], kMenuWidth[1]);
+        for (model::Button* button : {&inWindow, &onScreen}) {
+            button->Caption = caption;
+            button->Width = width * platform::kTwipsPerPixel;
+        }
         Place(inWindow, run.CurrentXValue, form1.Picture1.canvas.penY);
         Place(onScreen, state.TextOriginX + run.CurrentXValue, screen.P2.canvas.penY);
     }

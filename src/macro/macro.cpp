@@ -62,9 +62,15 @@ void ClearMacroObjects(Application& app) {
     }
 }
 
-void ResetTextSettings(Application& app) {
-    app.state.BorderColorIndex = 0;
-    app.state.LineSpaceExtra = 0;
+void ResetShowSettings(Application& app) {
+    model::ShowState& state = app.state;
+    for (auto setting : {&model::ShowState::BorderColorIndex, &model::ShowState::LineSpaceExtra,
+                         &model::ShowState::OverlayFrameOff, &model::ShowState::Mp3VolumeOffset,
+                         &model::ShowState::PicturePositionFixed}) {
+        state.*setting = 0;
+    }
+    state.OverlayBackText.clear();
+    state.PictureScale = 0;
 }
 
 }  // namespace macro

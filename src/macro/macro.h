@@ -13,8 +13,9 @@ void RunTextMacro(Application& app);
 /// Hides the macro buttons and menu entries of both windows and clears the 63 picture slots.
 void ClearMacroObjects(Application& app);
 
-/// What words set for the whole show goes back: outline colour and line space.
-void ResetTextSettings(Application& app);
+/// What words set for the whole show goes back: outline colour, line space, frame and ground of
+/// overlaid pictures, scale and place of pictures, volume.
+void ResetShowSettings(Application& app);
 
 /// Text file of the slide in force: its path, or its name in the linked folder, with ".txt" in
 /// place of the last four characters, whatever they are. Empty for a name that is shorter.

@@ -106,7 +106,8 @@ Flow SavePicture(Run& run, double) {
         run.app.platform.loop.PumpEvents();
     }
     CopyWhole(screen.P3, screen.P2);
-    if (scrolling) {
+    // The text may have run out in the pump.
+    if (scrolling && screen.Timer1.Enabled) {
         screen.Label1.Visible = true;
     }
     return Flow::GoOn;

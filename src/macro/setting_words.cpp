@@ -65,7 +65,8 @@ Flow SetPosition(Run& run, double) {
     const Text argument = text::Mid(run.MacroLineUpper, run.ArgStart, 8);
     const size_t point = argument.find(u'.');
     if (point == Text::npos) {
-        return SetPictureRandom(run, text::RoundHalfEven(NumberArgument(run, kNumberDigits)));
+        const auto mode = text::ToInt16(NumberArgument(run, kNumberDigits));
+        return mode ? SetPictureRandom(run, *mode) : Flow::Failed;
     }
     state.PicturePositionXFactor = Factor(TextView(argument).substr(0, point));
     state.PicturePositionYFactor = Factor(TextView(argument).substr(point + 1));
@@ -83,7 +84,7 @@ Flow SetPictureRandom(Run& run, double mode) {
 }
 
 Flow SetOverlaySize(Run& run, double size) {
-    if (Whole(size) <= kLargestOverlaySize) {
+    if (size <= kLargestOverlaySize) {
         run.state.OverlaySize = Whole(size);
         run.app.windows.form1.mnuKASAS.Check(run.state.OverlaySize);
     }
@@ -124,13 +125,13 @@ Flow SetEraseSpeed(Run& run, double speed) {
 
 Flow SetEffectSpeedFixed(Run& run, double mode) {
     model::ShowState& state = run.state;
-    if (mode != 0 && mode != 1) {
-        return Flow::GoOn;
+    if (mode == 0 || mode == 1) {
+        state.EffectSpeedFixed = static_cast<int16_t>(mode);
+        run.app.windows.form1.mnuKSPSEL.Check(state.EffectSpeedFixed);
+        document::FollowMenuVisibility(run.app);
     }
-    state.EffectSpeedFixed = static_cast<int16_t>(mode);
-    run.app.windows.form1.mnuKSPSEL.Check(state.EffectSpeedFixed);
-    document::FollowMenuVisibility(run.app);
-    if (mode == 1) {
+    // Also with another number: what is fixed goes back to its speed.
+    if (state.EffectSpeedFixed != 0) {
         state.ShowEffectSpeed = kFixedEffectSpeed;
         state.EraseEffectSpeed = kFixedEffectSpeed;
     }

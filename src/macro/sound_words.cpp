@@ -21,9 +21,11 @@ constexpr int kListMode = 6;
 /// sndPlaySound's flags for n = 0, 1, 2: play and go on, wait, repeat; none with a default sound.
 constexpr int kWaveFlags[] = {3, 2, 11};
 
+constexpr double kSteepestFade = 1e9;  // of 1000
+
 struct FileCall {
     Text file;
-    double number = 0;
+    int mode = 0;  // -1: none of 0, 1, 2
 };
 
 /// The first quoted text, and the number between the comma behind it and the last ')'.
@@ -35,7 +37,8 @@ FileCall ReadFileCall(TextView upperLine) {
     const size_t comma = line.find(u',', last == TextView::npos ? 0 : last);
     if (comma != TextView::npos) {
         const TextView rest = line.substr(comma + 1);
-        call.number = text::SafeNumber(rest.substr(0, rest.rfind(u')')));
+        const double number = text::SafeNumber(rest.substr(0, rest.rfind(u')')));
+        call.mode = number == 0 || number == 1 || number == 2 ? static_cast<int>(number) : -1;
     }
     return call;
 }
@@ -48,22 +51,23 @@ Flow ChangeVolume(Run& run, int offset) {
 }
 
 int FadeStep(double seconds) {
-    return seconds <= 0 ? sound::kFullVolume : static_cast<int>(text::Int(100 / seconds + 0.5));
+    return seconds <= 0 ? sound::kFullVolume
+                        : static_cast<int>(std::min(text::Int(100 / seconds + 0.5), kSteepestFade));
 }
 
 }  // namespace
 
 Flow ShowMovie(Run& run, double) {
     const FileCall call = ReadFileCall(run.MacroLineUpper);
-    picture::ShowMacroMovie(run.app, call.file, static_cast<int>(text::Int(call.number)));
+    picture::ShowMacroMovie(run.app, call.file, call.mode);
     return Flow::GoOn;
 }
 
 Flow PlayWave(Run& run, double) {
     const FileCall call = ReadFileCall(run.MacroLineUpper);
-    if (call.number == 0 || call.number == 1 || call.number == 2) {
+    if (call.mode >= 0) {
         run.app.platform.sound.SndPlaySound(text::WithFolder(SlideFolder(run.app), call.file),
-                                            kWaveFlags[static_cast<size_t>(call.number)]);
+                                            kWaveFlags[call.mode]);
     }
     return Flow::GoOn;
 }

@@ -4,11 +4,22 @@
 
 namespace model {
 
+namespace {
+
+/// Twips: 80 × 28 pixels, no higher than a line of a slide's text, so that menus stack.
+void SizeMacroButton(Button& button) {
+    button.Width = 1200;
+    button.Height = 420;
+}
+
+}  // namespace
+
 Form1::Form1() : Window("Form1", u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10") {
     Width = 12600;  // a preview of 800 × 450 pixels, the screens' own proportions
     Height = 8800;
     for (Button* button : {&Command8, &Command9, &menu1, &menu2, &menu3, &menu4, &menu5}) {
         button->Visible = false;
+        SizeMacroButton(*button);
     }
     for (auto& slot : Picture2) {
         slot->Visible = false;
@@ -25,6 +36,12 @@ Form1::Form1() : Window("Form1", u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10") {
     mnuPAUSE.Shortcut = u"Space";
     mnuPREVIOUS.Shortcut = u"Left";
     mnuNEXT.Shortcut = u"Right";
+}
+
+Slidescreen::Slidescreen() : Window("Slidescreen", u"パラピコ") {
+    for (Button* button : {&Command1, &Command2, &menu1, &menu2, &menu3, &menu4, &menu5}) {
+        SizeMacroButton(*button);
+    }
 }
 
 std::array<Window*, 26> Windows::All() {

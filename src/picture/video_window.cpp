@@ -168,6 +168,9 @@ void ShowMacroMovie(Application& app, const Text& path, int mode) {
     OpenFile(app, path);
     app.windows.SetPointer(model::kPointerNormal);
     app.platform.video.SetLoop(mode == static_cast<int>(MacroMovie::Loop));
+    if (!app.platform.files.Exists(path)) {
+        return;  // a macro says nothing of what is missing, and must not wait for it
+    }
     switch (static_cast<MacroMovie>(mode)) {
         case MacroMovie::Open:
         case MacroMovie::Loop:

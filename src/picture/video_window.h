@@ -22,8 +22,8 @@ enum class MacroMovie {
     Loop = 2,   // go on at once; the video plays over and over
 };
 
-/// A macro's video: with any other mode the file is only opened. An empty path ends what plays and
-/// closes the window.
+/// A macro's video: with any other mode the file is only opened, and so is one that is missing. An
+/// empty path ends what plays and closes the window.
 void ShowMacroMovie(Application& app, const Text& path, int mode);
 
 }  // namespace picture

@@ -1,6 +1,7 @@
 #include "playback/link_run.h"
 
 #include "document/show_document.h"
+#include "macro/macro.h"
 #include "playback/slide_step.h"
 #include "playback/step_sound.h"
 #include "playback/transport.h"
@@ -19,6 +20,7 @@ bool LoadLinkEntry(Application& app) {
         state.ShowAbort = 0;
         return false;
     }
+    macro::ResetShowSettings(app);
     state.SlideIndex = 0;
     state.ShowRunning = 0;
     state.SlideList.Erase();

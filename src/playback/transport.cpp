@@ -187,14 +187,13 @@ void ResetRun(Application& app) {
     state.LinkedMediaPath.clear();
     for (int16_t model::ShowState::*flag :
          {&model::ShowState::SoundListStarted, &model::ShowState::LastWasVideo,
-          &model::ShowState::Mp3VolumeOffset, &model::ShowState::RestartSoundMacro,
-          &model::ShowState::RestartSoundFlag, &model::ShowState::MacroButtonsShown,
-          &model::ShowState::StopRequest, &model::ShowState::FullScreenClosedByUser,
-          &model::ShowState::ShowAbort, &model::ShowState::SoundPaused}) {
+          &model::ShowState::RestartSoundMacro, &model::ShowState::RestartSoundFlag,
+          &model::ShowState::MacroButtonsShown, &model::ShowState::StopRequest,
+          &model::ShowState::FullScreenClosedByUser, &model::ShowState::ShowAbort,
+          &model::ShowState::SoundPaused}) {
         state.*flag = 0;
     }
-    state.PictureScale = 0;
-    macro::ResetTextSettings(app);
+    macro::ResetShowSettings(app);
     TakeShowDate(app);
     state.StartLatch = 1;
     sound::StopSound(app);

@@ -80,6 +80,29 @@ TEST_F(Buttons, MenuChosenWhileYesAndNoStand) {
     EXPECT_EQ(state.MacroEndShow, 1);
 }
 
+TEST(MacroButtons, HaveTheirSizesFromTheBeginning) {
+    MacroShow show;
+    bool seen = false;
+    show.fake.loop.At(50, [&] {
+        seen = true;
+        EXPECT_EQ(show.form1.Command9.Left(), 80 + 4);
+        EXPECT_EQ(show.screen.Command2.Left(), 80 + 4);
+        for (const model::Button* button :
+             {&show.form1.Command8, &show.screen.Command1, &show.form1.menu1, &show.screen.menu1}) {
+            EXPECT_EQ(button->Width(), 80 * 15);
+            EXPECT_EQ(button->Height(), 28 * 15);
+        }
+        // 20 letters of 4.5 pixels in the test, and the margin.
+        EXPECT_EQ(show.form1.menu2.Width(), (90 + 40) * 15);
+        EXPECT_EQ(show.screen.menu2.Width(), (90 + 40) * 15);
+        EXPECT_EQ(show.screen.menu3.Width(), 800 * 15);
+        show.state.StopRequest = 1;
+    });
+    show.Play(u"Menu1(1,\"a\")\r\nMenu2(1,\"12345678901234567890\")\r\nMenu3(1,\"" +
+              Text(1000, u'x') + u"\")\r\nYesNoPB(1,1)\r\n");
+    EXPECT_TRUE(seen);
+}
+
 TEST_F(Buttons, StopLeavesTheWait) {
     fake.loop.At(50, [&] { state.StopRequest = 1; });
     Play(u"YesNoPB(1,1)\r\nCurrentX=9\r\n");

@@ -21,7 +21,10 @@ struct Cinema : fakes::FakePlatform {
     model::Player& player = form24.WindowsMediaPlayer1;
     app::TimerRunner timers{app};
 
-    Cinema() { picture::AttachVideoWindow(app); }
+    Cinema() {
+        picture::AttachVideoWindow(app);
+        files.Put(u"C:\\v\\m.mp4", "");
+    }
     /// Plays as a slide does; answers the moment at which the window was gone.
     double Play() {
         picture::PlayVideo(app, u"C:\\v\\film.mp4");
@@ -217,6 +220,18 @@ TEST(MacroMovie, AnotherModeOnlyOpens) {
         picture::ShowMacroMovie(cinema.app, u"C:\\v\\m.mp4", mode);
         EXPECT_FALSE(cinema.form24.Visible);
         EXPECT_EQ(cinema.video.log, (Log{"open C:\\v\\m.mp4", "loop 0"}));
+    }
+}
+
+TEST(MacroMovie, AMissingFileIsPassedOverInSilence) {
+    for (const int mode : {0, 1, 2}) {
+        Cinema cinema;
+        picture::ShowMacroMovie(cinema.app, u"C:\\v\\gone.mp4", mode);
+        cinema.loop.Run(1000);
+        EXPECT_EQ(cinema.loop.Milliseconds(), 1000);
+        EXPECT_FALSE(cinema.form24.Visible);
+        EXPECT_TRUE(cinema.dialogs.messages.empty());
+        EXPECT_EQ(cinema.state.VideoStoppedByUser, 0);
     }
 }
 

@@ -88,6 +88,21 @@ TEST(LinkRun, PlaysAllDocumentsOnceAndEnds) {
     EXPECT_EQ(show.Buttons(), "SF");
 }
 
+TEST(LinkRun, EveryDocumentBeginsWithoutWhatMacrosSetBefore) {
+    LinkShow show;
+    show.Run();
+    show.state.OverlayFrameOff = show.state.PicturePositionFixed = 1;
+    show.state.Mp3VolumeOffset = 500;
+    show.loop.Run(3000);
+    EXPECT_EQ(show.Names(), "a1 a2");
+    EXPECT_EQ(show.state.OverlayFrameOff, 1);
+    show.loop.Run(3000);
+    EXPECT_EQ(show.Names(), "a1 a2 b1");
+    EXPECT_EQ(show.state.OverlayFrameOff, 0);
+    EXPECT_EQ(show.state.PicturePositionFixed, 0);
+    EXPECT_EQ(show.state.Mp3VolumeOffset, 0);
+}
+
 TEST(LinkRun, ReturnsToTheLinkWindow) {
     LinkShow show({u"b"});
     show.state.LinkWindowOpen = 1;

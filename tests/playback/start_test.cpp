@@ -34,6 +34,9 @@ TEST(Start, ResetsTheRun) {
         state.*flag = 1;
     }
     state.PictureScale = 0.5;
+    state.BorderColorIndex = state.LineSpaceExtra = state.OverlayFrameOff = 1;
+    state.PicturePositionFixed = 1;
+    state.OverlayBackText = u"112233";
     state.LinkedWavPath = u"old";
     state.LinkedMediaPath = u"old";
     state.ShowDateText = u"2000/01/01";
@@ -49,6 +52,11 @@ TEST(Start, ResetsTheRun) {
     EXPECT_EQ(state.ShowAbort, 0);
     EXPECT_EQ(state.SoundPaused, 0);
     EXPECT_EQ(state.PictureScale, 0);
+    EXPECT_EQ(state.BorderColorIndex, 0);
+    EXPECT_EQ(state.LineSpaceExtra, 0);
+    EXPECT_EQ(state.OverlayFrameOff, 0);
+    EXPECT_EQ(state.PicturePositionFixed, 0);
+    EXPECT_EQ(state.OverlayBackText, u"");
     EXPECT_EQ(state.LinkedWavPath, u"");
     EXPECT_NE(state.LinkedMediaPath, u"old");
     EXPECT_EQ(state.ShowDateText, u"2026/01/01");

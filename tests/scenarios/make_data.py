@@ -27,6 +27,9 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   refused.kvs   a tag that is none
   pieces.kvs    m1 m2 a: m1.txt shows six shapes, one of each, m2.txt a chosen jump and motion
   pieces_full.kvs the same in the full screen
+  media.kvs     s1 a, c.mp3 behind them: s1.txt plays a wave, fades, shows a film, starts a program
+  words.kvs     s2 s3 a in the full screen: s2.txt sets what the menus set, s3.txt filters and clears
+s1 (black), s2 (left half black, right half white), s3 (the same): 320x240.
 m1, m2 (320x240, shaded) have macro files beside them; star.png (60x40) is their piece, cut.dat a
 polygon in it.
   all.kvl       one.kvs, then repeat.kvs
@@ -269,6 +272,21 @@ def main():
     pieces = ["m1.png", "m2.png", "a.png"]
     files["pieces.kvs"] = document(lines_of_show(pieces))
     files["pieces_full.kvs"] = document(lines_of_show(pieces, always_full=0))
+
+    files["s1.png"] = png(320, 240, (0, 0, 0))
+    files["s2.png"] = files["s3.png"] = png_of_rows(
+        320, 240, (b"\0" + bytes(3 * 160) + b"\xff" * (3 * 160)) * 240)
+    files["s1.txt"] = macro(
+        "MP3Vol=50", "PlayWav(\"b.wav\",1)  //待つ", "FadeOut=1", "Movie(\"film.mp4\",1)",
+        "Shell=\"show.exe\"", "PlayWav(\"b.wav\",0)", "StopWav")
+    files["s2.txt"] = macro(
+        "SoundSet=1", "SoundEnd=0", "Kouka=3", "DelKouka=0", "KSPSet=1", "PicRnd=1", "DownSize=2",
+        "CtrlBox=0", "SizeCtrl=2", "Overlap=1", "Overlap=9", "Interval=5")
+    files["s3.txt"] = macro(
+        "Overlap=0", "PicRnd=0", "DownSize=6", "SizeCtrl=0", "[テキスト]", "文字", "Sleep=1",
+        "Reverse", "Sleep=1", "再び", "Sleep=1", "Cls", "SavePic", "Cursor=0", "Sleep=1", "Cursor=1")
+    files["media.kvs"] = document(lines_of_show(["s1.png", "a.png"], sound=8, mp3_file="c.mp3"))
+    files["words.kvs"] = document(lines_of_show(["s2.png", "s3.png", "a.png"], always_full=0))
 
     for name, content in files.items():
         (folder / name).write_bytes(content)

@@ -23,6 +23,8 @@ namespace qt_adapter {
 
 namespace {
 
+constexpr int kCaptionMargin = 8;  // pixels, of a button over a canvas
+
 using model::ControlKind;
 
 class ButtonBinding : public ControlBinding {
@@ -304,6 +306,12 @@ void ControlBinding::Place() {
     QSize size(pixels(control_.Width), pixels(control_.Height));
     if (size.isEmpty()) {
         size = NaturalSize();
+    }
+    if (const auto* button = qobject_cast<const QPushButton*>(&widget_); button && host_) {
+        // On a scaled monitor the letters are larger than the canvas's pixels.
+        const QFontMetrics metrics = button->fontMetrics();
+        size = size.expandedTo({metrics.horizontalAdvance(button->text()) + kCaptionMargin,
+                                metrics.height() + kCaptionMargin / 2});
     }
     widget_.resize(size);
     if (host_) {

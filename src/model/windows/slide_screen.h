@@ -6,7 +6,7 @@
 namespace model {
 
 struct Slidescreen : Window {
-    Slidescreen() : Window("Slidescreen", u"パラピコ") {}
+    Slidescreen();
 
     PictureBox P2{this, "P2"};  // visible canvas
     PictureBox P3{this, "P3"};  // background under macro objects
