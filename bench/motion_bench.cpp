@@ -121,9 +121,10 @@ int main(int argc, char** argv) {
     robot::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     const auto make = [&](platform::EventLoop& loop) {
-        auto app = std::make_unique<Application>(platform::Platform{
-            loop, rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
-            desktop.TextRenderer(), rest.sound, rest.system, rest.trace, rest.codePage});
+        auto app = std::make_unique<Application>(
+            platform::Platform{loop, rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
+                               desktop.TextRenderer(), rest.sound, rest.video, rest.system,
+                               rest.trace, rest.codePage});
         Prepare(*app);
         return app;
     };

@@ -125,7 +125,8 @@ QByteArray OldestShow(const QString& name, const QStringList& slides) {
 
 }  // namespace
 
-bool WriteDocuments(const QString& folder, const QStringList& slides) {
+bool WriteDocuments(const QString& folder, const QStringList& slides,
+                    const QStringList& macroSlides) {
     const QStringList rows = {
         kNoSchedule,
         ScheduleRow(QStringLiteral("2001/01/01 00:00"), QStringLiteral("2010/12/31 23:59")),
@@ -138,6 +139,7 @@ bool WriteDocuments(const QString& folder, const QStringList& slides) {
         QByteArray bytes;
     } documents[] = {
         {"demo.kvs", NewestShow(QStringLiteral("demo.kvs"), slides)},
+        {"macros.kvs", NewestShow(QStringLiteral("macros.kvs"), macroSlides)},
         {"少し前の版.kvs", MiddleShow(QStringLiteral("少し前の版.kvs"), slides)},
         {"旧版.kvs", OldestShow(QStringLiteral("旧版.kvs"), slides)},
         {"予定.kvs", NewestShow(QStringLiteral("予定.kvs"), slides.mid(0, 4), rows)},

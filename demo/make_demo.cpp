@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "documents.h"
+#include "macro_show.h"
 #include "scenes.h"
 
 namespace demo {
@@ -69,9 +70,8 @@ bool MakeDemo(const QString& folder) {
     if (!QDir().mkpath(folder)) return false;
     // The title is a drawing of lines and needs no drawing here.
     const QString title = QStringLiteral("はじまり.svg");
-    QFile::remove(folder + QLatin1Char('/') + title);
-    if (!QFile::copy(QStringLiteral(PARAPICO_DEMO_SOURCE "/title.svg"),
-                     folder + QLatin1Char('/') + title)) {
+    if (!CopyOver(QStringLiteral(PARAPICO_DEMO_SOURCE "/title.svg"),
+                  folder + QLatin1Char('/') + title)) {
         return false;
     }
     QStringList names = {title};
@@ -82,7 +82,8 @@ bool MakeDemo(const QString& folder) {
         std::printf("%s\n", slide.name);
         std::fflush(stdout);
     }
-    return WriteDocuments(folder, names);
+    const QStringList macroSlides = MakeMacroSlides(folder, names.mid(1));
+    return !macroSlides.isEmpty() && WriteDocuments(folder, names, macroSlides);
 }
 
 }  // namespace

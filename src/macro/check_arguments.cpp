@@ -42,15 +42,6 @@ constexpr OtherEffect kOtherEffects[] = {
     {u"SCREENXY", u"座標原点は変わらず、表示位置だけが原点に戻ります"},
 };
 
-Text EffectOfOther(TextView word) {
-    for (const OtherEffect& row : kOtherEffects) {
-        if (word == row.word) {
-            return row.effect;
-        }
-    }
-    return u"この値では何も変わりません";
-}
-
 void CheckRange(ArgumentCheck& check, const Keyword& keyword, int column, double value) {
     const Text range = Shown(keyword.range.lowest) + u"～" + Shown(keyword.range.highest);
     const Text wrong =
@@ -70,7 +61,7 @@ void CheckRange(ArgumentCheck& check, const Keyword& keyword, int column, double
         case BadValue::Unbounded:
             // The range 0 to 0 stands for any number; others are a choice.
             if (keyword.range.lowest != keyword.range.highest) {
-                check.Add(column, wrong, EffectOfOther(keyword.name));
+                check.Add(column, wrong, EffectOfOtherValue(keyword.name));
             }
             return;
     }
@@ -110,10 +101,12 @@ void CheckNumber(ArgumentCheck& check, const Keyword& keyword, TextView upper) {
 
 void CheckQuoted(ArgumentCheck& check, const Keyword& keyword, TextView line) {
     const TextView value = Quoted(line);
-    if (value.empty()) {
+    // An empty pair stands in every file that began as the template, and is meant to do nothing.
+    const bool emptyPair = line.substr(std::min(line.find(u'"'), line.size())).starts_with(u"\"\"");
+    if (value.empty() && !emptyPair) {
         check.Add(static_cast<int>(keyword.name.size()) + 1,
                   Text(keyword.name) + u"に \"～\" で囲んだ文字がありません", u"何もしません");
-    } else if (keyword.name == u"BACKCOLOR" && value.size() != 6) {
+    } else if (keyword.name == u"BACKCOLOR" && !value.empty() && value.size() != 6) {
         check.Add(ColumnOf(line, value), u"BACKCOLORの色が6文字ではありません",
                   u"000000 になります");
     }
@@ -244,6 +237,15 @@ void CheckObjectNumber(ArgumentCheck& check, const Keyword& keyword, TextView li
 }
 
 }  // namespace
+
+Text EffectOfOtherValue(TextView word) {
+    for (const OtherEffect& row : kOtherEffects) {
+        if (word == row.word) {
+            return row.effect;
+        }
+    }
+    return u"この値では何も変わりません";
+}
 
 void ArgumentCheck::Add(int column, Text wrong, Text effect) {
     findings.push_back({line, column, std::move(wrong), std::move(effect)});

@@ -8,6 +8,9 @@
 
 namespace macro {
 
+/// What a number does that is none of the word's choices, for words that neither clip nor ignore.
+Text EffectOfOtherValue(TextView word);
+
 struct ArgumentCheck {
     platform::Files& files;
     CheckedSlide slide;

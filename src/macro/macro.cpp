@@ -24,17 +24,25 @@ void ResetForSlide(Run& run) {
     ResetTextOfSlide(run);
 }
 
+/// ".txt" in place of the last four characters; empty for a path that is shorter.
+Text WithTextKind(Text path) {
+    return path.size() < 4 ? Text() : path.replace(path.size() - 4, 4, u".txt");
+}
+
 }  // namespace
 
 Text MacroFile(const Application& app) {
     const model::ShowState& state = app.state;
-    Text path = state.LinkedFolderFlag == 0
-                    ? state.SlideList(state.SlideIndex)
-                    : text::WithSeparator(state.LinkedFolder) + state.CurrentName;
-    if (path.size() < 4) {
-        return {};
-    }
-    return path.replace(path.size() - 4, 4, u".txt");
+    return WithTextKind(state.LinkedFolderFlag == 0
+                            ? state.SlideList(state.SlideIndex)
+                            : text::WithSeparator(state.LinkedFolder) + state.CurrentName);
+}
+
+Text MacroFile(const Application& app, TextView slide) {
+    const model::ShowState& state = app.state;
+    return WithTextKind(state.LinkedFolderFlag == 0
+                            ? Text(slide)
+                            : text::WithSeparator(state.LinkedFolder) + text::BareName(slide));
 }
 
 void RunTextMacro(Application& app) {

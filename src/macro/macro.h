@@ -20,5 +20,7 @@ void ResetShowSettings(Application& app);
 /// Text file of the slide in force: its path, or its name in the linked folder, with ".txt" in
 /// place of the last four characters, whatever they are. Empty for a name that is shorter.
 Text MacroFile(const Application& app);
+/// The same of any slide: a path of the slide list.
+Text MacroFile(const Application& app, TextView slide);
 
 }  // namespace macro
