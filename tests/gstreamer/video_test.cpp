@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QImage>
 #include <QMetaObject>
+#include <algorithm>
 #include <cstring>
+#include <map>
 #include <set>
 
 #include "adapters/gstreamer/gst_video.h"
+#include "adapters/gstreamer/library.h"
 #include "adapters/gstreamer/worker.h"
 #include "gstreamer/gstreamer_support.h"
 
@@ -193,6 +196,63 @@ TEST(GstVideo, ASoundDeviceThatGoesAwayDoesNotStopThePictures) {
     const double start = loop.Milliseconds();
     ASSERT_TRUE(cinema.Becomes(VideoState::Stopped));
     EXPECT_GE(loop.Milliseconds() - start, 500);
+}
+
+/// Milliseconds that calls take: the middle one is told apart from the machine's own hiccups.
+struct CallTimes {
+    RealLoop& loop;
+    std::vector<double> taken;
+    template <class Call>
+    void operator()(Call call) {
+        const double start = loop.Milliseconds();
+        call();
+        taken.push_back(loop.Milliseconds() - start);
+    }
+    double Middle() {
+        std::sort(taken.begin(), taken.end());
+        return taken[taken.size() / 2];
+    }
+};
+
+TEST(GstVideo, NoCallHoldsUpTheWindow) {
+    Studio studio;
+    Cinema cinema;
+    studio.Write("a.wav", WaveBytes(Tone(0.5)));
+    studio.Write("a.mid", MidiBytes(400));
+    studio.Write("cut.mp3", "ID3\x04");
+    ASSERT_TRUE(cinema.Make("a.mp4", 10));
+    // The program does so at its start: while a thread loads a library no other one can begin.
+    gst_adapter::WarmUp();
+    ASSERT_TRUE(gst_adapter::WaitForThreads(20000));
+    std::map<std::string, CallTimes> times;
+    const auto timed = [&](const char* what, auto call) {
+        times.try_emplace(what, CallTimes{studio.loop, {}}).first->second(call);
+    };
+    for (int round = 0; round < 30; ++round) {
+        const char* files[] = {"a.wav", "a.mid", "cut.mp3"};
+        const char* types[] = {"waveaudio", "sequencer", "MPEGVideo"};
+        const int kind = round % 3;
+        timed("open", [&] { studio.Open(files[kind], types[kind], "wav"); });
+        timed("play", [&] { studio.Send("play wav from 1"); });
+        timed("status", [&] { studio.Send("status wav mode"); });
+        timed("setaudio", [&] { studio.Send("setaudio wav volume to 500"); });
+        timed("SndPlaySound",
+              [&] { studio.sound->SndPlaySound(studio.folder.TextPath("a.wav"), 3); });
+        timed("SetUrl", [&] { cinema.Open("a.mp4"); });
+        timed("Play", [&] { cinema.video->Play(); });
+        studio.loop.Sleep(round % 4 * 20);
+        timed("Status", [&] { cinema.video->Status(); });
+        timed("Frame", [&] { cinema.video->Frame(); });
+        timed("Close", [&] { cinema.video->Close(); });
+        timed("stop", [&] { studio.Send("stop wav"); });
+        timed("close", [&] { studio.Send("close wav"); });
+        timed("cancel", [&] { studio.sound->SndPlaySound(std::nullopt, 0); });
+    }
+    for (auto& [what, time] : times) {
+        EXPECT_LT(time.Middle(), 5) << what;
+        RecordProperty("call_" + what, std::to_string(time.Middle()) + " ms, at most " +
+                                           std::to_string(time.taken.back()) + " ms");
+    }
 }
 
 TEST(GstVideo, OpeningAndClosingLeavesNothingBehind) {

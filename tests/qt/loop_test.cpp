@@ -182,6 +182,40 @@ TEST_F(Loops, BoxesAnswerWhatWasPressed) {
     EXPECT_EQ(press(QMessageBox::NoButton), platform::Answer::No) << "closed by its frame";
 }
 
+TEST_F(Loops, BoxesKeepTheirButtonsOnTheScreen) {
+    QString text, details;
+    int height = 0;
+    const auto look = [&] {
+        loop.SetTimer(&keys[0], 1, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                loop.CancelTimer(&keys[0]);
+                text = box->text();
+                details = box->detailedText();
+                height = box->height();
+                box->close();
+            }
+        });
+    };
+    Text command = u"first ";
+    for (int i = 0; i < 4000; ++i) {
+        command += u"&x ";
+    }
+    command += u"\u202Elast";
+    look();
+    desktop.AskProgram(command);
+    EXPECT_LT(height, 500);
+    EXPECT_TRUE(text.contains("\n\nfirst &x"));
+    EXPECT_TRUE(text.endsWith(QStringLiteral("&x \uFFFDlast"))) << "no mark of direction";
+    EXPECT_EQ(details.size(), static_cast<qsizetype>(command.size())) << "all of it can be seen";
+    look();
+    desktop.Dialogs().Message(command + u"\r\n再生", platform::kExclamation, u"");
+    EXPECT_LT(height, 500);
+    EXPECT_TRUE(text.endsWith(QStringLiteral("last\n再生")));
+    look();
+    desktop.AskProgram(u"short");
+    EXPECT_EQ(details, QString());
+}
+
 TEST_F(Loops, ProgramsAreAskedAboutInThreeWays) {
     const auto press = [&](int button) {
         loop.SetTimer(&keys[0], 1, [this, button] {

@@ -161,7 +161,7 @@ TEST(RobotVideo, PlaysForTheLengthOfTheFile) {
         device.loop.Sleep(static_cast<int>(setting.milliseconds) - 1);
         EXPECT_EQ(device.video.Status(), VideoState::Playing);
         device.loop.Sleep(1);
-        EXPECT_EQ(device.video.Status(), VideoState::Ready);
+        EXPECT_EQ(device.video.Status(), VideoState::Stopped);
         device.video.SetLoop(true);
         EXPECT_EQ(device.video.Status(), VideoState::Playing);
         device.video.Close();

@@ -37,9 +37,33 @@ QWidget* BoxParent() {
     return visible;
 }
 
+constexpr qsizetype kLongestLine = 600;  // of a box; documents may bring any length
+constexpr qsizetype kEndShown = 100;
+
+/// A box shows its buttons whatever a document makes it say: of a long line the middle goes.
 QString Lines(TextView text) {
     QString lines = ToQt(text);
-    return lines.replace("\r\n", "\n").replace('\r', '\n');
+    QStringList list = lines.replace("\r\n", "\n").replace('\r', '\n').split('\n');
+    for (QString& line : list) {
+        if (line.size() > kLongestLine) {
+            line = line.left(kLongestLine - kEndShown) + QStringLiteral(" […] ") +
+                   line.right(kEndShown);
+        }
+    }
+    return list.join('\n');
+}
+
+/// Line ends and marks of direction can make a command look like another one.
+QString Plain(TextView command) {
+    QString plain = ToQt(command);
+    for (QChar& letter : plain) {
+        const QChar::Category category = letter.category();
+        if (category == QChar::Other_Control || category == QChar::Other_Format ||
+            category == QChar::Separator_Line || category == QChar::Separator_Paragraph) {
+            letter = QChar::ReplacementCharacter;
+        }
+    }
+    return plain;
 }
 
 QMessageBox::Icon IconOf(int flags) {
@@ -108,10 +132,15 @@ platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
 }
 
 platform::ProgramAnswer QtDialogs::AskProgram(TextView commandLine) {
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("パラピコ"),
-                    QStringLiteral("このスライドショーはプログラムを起動しようとしています。\n\n") +
-                        ToQt(commandLine),
-                    QMessageBox::NoButton, BoxParent());
+    const QString whole = Plain(commandLine);
+    const QString shown = Lines(FromQt(whole));
+    QMessageBox box(
+        QMessageBox::Warning, QStringLiteral("パラピコ"),
+        QStringLiteral("このスライドショーはプログラムを起動しようとしています。\n\n") + shown,
+        QMessageBox::NoButton, BoxParent());
+    if (shown != whole) {
+        box.setDetailedText(whole);  // nobody agrees to what cannot be seen
+    }
     box.setTextFormat(Qt::PlainText);
     box.setCursor(Qt::ArrowCursor);
     QPushButton* yes = box.addButton(QStringLiteral("はい(&Y)"), QMessageBox::AcceptRole);

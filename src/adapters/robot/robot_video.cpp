@@ -62,7 +62,8 @@ platform::VideoState RobotVideo::Status() {
         return platform::VideoState::Loading;
     }
     const bool over = loop_.Milliseconds() - started_ >= milliseconds_;
-    return over && !loopOn_ ? platform::VideoState::Ready : platform::VideoState::Playing;
+    // Not Ready: a video that is over before anybody asked would be taken for one that cannot play.
+    return over && !loopOn_ ? platform::VideoState::Stopped : platform::VideoState::Playing;
 }
 
 }  // namespace robot
