@@ -308,6 +308,20 @@ TEST_F(Views, MenuBarHoldsEveryEntryInOrder) {
     EXPECT_EQ(bar, expectedBar);
 }
 
+TEST_F(Views, MenuBarFitsTheSmallestUsualWindowWithEveryMenuShown) {
+    windows.form1.mnuCDM.Visible = true;
+    windows.form1.Visible = true;
+    QWidget* root = desktop.WidgetOf(windows.form1);
+    root->resize(840, 586);
+    desktop.Loop().PumpEvents();
+    const auto* bar = root->findChild<QMenuBar*>();
+    for (QAction* action : bar->actions()) {
+        const QRect place = bar->actionGeometry(action);
+        EXPECT_FALSE(place.isEmpty()) << action->text().toStdString();
+        EXPECT_LE(place.right(), bar->width()) << action->text().toStdString();
+    }
+}
+
 TEST_F(Views, RadioMarksFollowTheModelOnly) {
     model::MenuArray& array = windows.form1.mnuKUFL;
     array.Check(1);

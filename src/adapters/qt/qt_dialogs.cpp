@@ -41,6 +41,11 @@ constexpr qsizetype kLongestLine = 600;  // of a box; documents may bring any le
 constexpr qsizetype kEndShown = 100;
 
 /// A box shows its buttons whatever a document makes it say: of a long line the middle goes.
+/// A box without a title bears the program's name, as the person knows it.
+QString TitleOr(TextView title) {
+    return title.empty() ? QStringLiteral("パラピコ") : ToQt(title);
+}
+
 QString Lines(TextView text) {
     QString lines = ToQt(text);
     QStringList list = lines.replace("\r\n", "\n").replace('\r', '\n').split('\n');
@@ -113,7 +118,7 @@ QString DefaultSuffix(TextView filter) {
 }
 
 platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
-    QMessageBox box(IconOf(flags), ToQt(title), Lines(text), QMessageBox::NoButton, BoxParent());
+    QMessageBox box(IconOf(flags), TitleOr(title), Lines(text), QMessageBox::NoButton, BoxParent());
     box.setTextFormat(Qt::PlainText);
     box.setCursor(Qt::ArrowCursor);
     const bool asks = (flags & kButtonMask) == platform::kYesNo;
@@ -159,7 +164,7 @@ std::optional<Text> QtDialogs::Input(TextView prompt, TextView title, TextView i
     QInputDialog box(BoxParent());
     box.setCursor(Qt::ArrowCursor);
     box.setInputMode(QInputDialog::TextInput);
-    box.setWindowTitle(ToQt(title));
+    box.setWindowTitle(TitleOr(title));
     box.setLabelText(Lines(prompt));
     box.setTextValue(ToQt(initial));
     if (gate_.Exec(box) != QDialog::Accepted) {
