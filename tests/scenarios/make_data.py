@@ -234,7 +234,7 @@ def main():
         files[f"{name}.png"] = shaded(320, 240)
     files["star.png"] = png(60, 40, (255, 192, 0))
     files["cut.dat"] = macro("KVS_PICTYPE_DATA", "5,5", "55,5", "55,35", "30,15", "5,35")
-    shapes = ["//切取画像", "CurrentX=10", "CurrentY=10", "[テキスト]", "PicPB00(0,\"star.png\",\"\")"]
+    shapes = ["//切取画像", "CurrentX=10", "CurrentY=10", "SavePic", "PicPB00(0,\"star.png\",\"\")"]
     for i, left in ((1, 110), (2, 210)):
         shapes += [f"CurrentX={left}", "CurrentY=10", f"PicPBType={i}",
                    f"PicPB0{i}(0,\"star.png\",\"\")"]
@@ -245,7 +245,7 @@ def main():
                "PicPB05(0,\"star.png\",\"\")"]
     files["m1.txt"] = macro(*shapes)
     files["m2.txt"] = macro(
-        "[テキスト]", "CurrentX=20", "CurrentY=20", "PicPBType=3",
+        "SavePic", "CurrentX=20", "CurrentY=20", "PicPBType=3",
         "PicPB01(1,\"star.png\",\"\")  //次の画面へ", "MovPB01(100,50,10)")
     pieces = ["m1.png", "m2.png", "a.png"]
     files["pieces.kvs"] = document(lines_of_show(pieces))
