@@ -160,6 +160,9 @@ Flow MenuButton(Run& run, double) {
         model::Button& onScreen = *MenuButtons(screen)[entry - 1];
         model::Button& inWindow = *MenuButtons(form1)[entry - 1];
         ClearOldMenu(run, entry, onScreen);
+        if (Stopping(state)) {
+            return Flow::Stop;  // the objects were cleared meanwhile: none may come up behind
+        }
         state.MenuJump[entry] = jump.value_or(0);
         state.MenuActive[entry] = 1;
         const Text caption = fields.size() > 1 ? Unwrapped(fields[1]) : Text();

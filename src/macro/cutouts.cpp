@@ -165,6 +165,9 @@ void ShowPiece(Run& run, int index, const PieceLine& piece) {
         ShowPointer(app);
     }
     HideOldPiece(app, index);
+    if (Stopping(state)) {
+        return;  // the objects were cleared meanwhile: none may come up behind
+    }
 
     const Text folder = SlideFolder(app);
     const auto i = static_cast<size_t>(index);

@@ -166,6 +166,27 @@ TEST_F(Buttons, SecondMenuOfANumberMovesAndRenamesIt) {
     EXPECT_EQ(Now(), 120);
 }
 
+TEST_F(Buttons, NothingIsShownWhenTheShowStopsMeanwhile) {
+    GoFullScreen();
+    screen.menu1.Width = 20 * 15;
+    state.EffectDc = std::make_shared<platform::Bitmap>(300, 300, 0xFF112233u);
+    fake.PutPicture(u"C:\\show\\a.png", 10, 10);
+    for (const char16_t* again : {u"Menu1(1,\"b\")\r\n", u"PicPB01(1,\"a.png\",\"\")\r\n"}) {
+        state.StopRequest = 0;
+        fake.loop.onPump = [&] {
+            const bool shown = screen.menu1.Visible && screen.Picture1(1).Visible;
+            if (state.MenuActive[1] == 1 && state.CutoutActive[1] == 1 && !shown) {
+                state.StopRequest = 1;
+                macro::ClearMacroObjects(app);
+            }
+        };
+        Play(Text(u"PicPB01(1,\"a.png\",\"\")\r\nMenu1(1,\"a\")\r\n") + again);
+        EXPECT_EQ(state.StopRequest, 1);
+        EXPECT_FALSE(form1.menu1.Visible || screen.menu1.Visible);
+        EXPECT_FALSE(form1.Picture2(1).Visible || screen.Picture1(1).Visible);
+    }
+}
+
 TEST_F(Buttons, MenusOfTheTextStackBelowEachOther) {
     fake.loop.At(100, [&] {
         EXPECT_EQ(form1.menu1.Top(), 0);
