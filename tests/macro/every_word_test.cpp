@@ -222,6 +222,20 @@ TEST(EveryWord, LineOfAnUnknownWordChangesNone) {
     }
 }
 
+TEST(EveryWord, YesAndNoStandSideBySide) {
+    MacroShow show;
+    const auto place = [](const model::Button& button) {
+        return std::vector<int>{button.Left, button.Width / platform::kTwipsPerPixel};
+    };
+    StopLater(show);
+    show.Play(u"CurrentX=10\r\nYesNoPB(1,1)");
+    for (const auto& [yes, no] : {std::pair{&show.screen.Command1, &show.screen.Command2},
+                                  std::pair{&show.form1.Command8, &show.form1.Command9}}) {
+        EXPECT_GT(place(*yes)[1], 0);
+        EXPECT_EQ(place(*no)[0], place(*yes)[0] + place(*yes)[1] + 4);
+    }
+}
+
 TEST(EveryWord, HasACase) {
     std::set<Text> cases;
     for (const Case& row : kCases) {
