@@ -14,8 +14,6 @@ constexpr int kGap = 4;  // pixels between Yes and No
 // Pixels: a menu button is as wide as its caption asks, with so much beside it.
 constexpr int kMenuMargin = 40;
 constexpr int kMenuWidth[] = {80, 800};
-constexpr int kYesNoWidth = 80 * platform::kTwipsPerPixel;
-constexpr int kYesNoHeight = 30 * platform::kTwipsPerPixel;
 
 void Place(model::VisibleControl& control, int x, int y) {
     control.Left = x;
@@ -26,14 +24,6 @@ void Place(model::VisibleControl& control, int x, int y) {
 void PlaceYesNo(Run& run) {
     model::Form1& form1 = run.app.windows.form1;
     model::Slidescreen& screen = run.app.windows.slidescreen;
-    // A width of 0 would let the view choose, and No would stand on Yes.
-    for (model::Button* button :
-         {&screen.Command1, &screen.Command2, &form1.Command8, &form1.Command9}) {
-        if (button->Width == 0) {
-            button->Width = kYesNoWidth;
-            button->Height = kYesNoHeight;
-        }
-    }
     const int screenX = run.state.TextOriginX + run.CurrentXValue;
     const int screenY = screen.P2.canvas.penY;
     const int windowY = form1.Picture1.canvas.penY;

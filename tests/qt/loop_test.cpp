@@ -182,6 +182,26 @@ TEST_F(Loops, BoxesAnswerWhatWasPressed) {
     EXPECT_EQ(press(QMessageBox::NoButton), platform::Answer::No) << "closed by its frame";
 }
 
+TEST_F(Loops, BoxesWithoutATitleBearTheProgramsName) {
+    QStringList titles;
+    const auto close = [&] {
+        loop.SetTimer(&keys[0], 1, [&] {
+            if (QWidget* box = QApplication::activeModalWidget()) {
+                loop.CancelTimer(&keys[0]);
+                titles << box->windowTitle();
+                box->close();
+            }
+        });
+    };
+    close();
+    desktop.Dialogs().Message(u"本文", platform::kPlain, u"");
+    close();
+    desktop.Dialogs().Message(u"本文", platform::kPlain, u"題");
+    close();
+    EXPECT_EQ(desktop.Dialogs().Input(u"本文", u"", u""), std::nullopt);
+    EXPECT_EQ(titles, (QStringList{"パラピコ", "題", "パラピコ"}));
+}
+
 TEST_F(Loops, BoxesKeepTheirButtonsOnTheScreen) {
     QString text, details;
     int height = 0;
@@ -192,13 +212,6 @@ TEST_F(Loops, BoxesKeepTheirButtonsOnTheScreen) {
                 text = box->text();
                 details = box->detailedText();
                 height = box->height();
-TEST_F(Loops, BoxesWithoutATitleBearTheProgramsName) {
-    QStringList titles;
-    const auto close = [&] {
-        loop.SetTimer(&keys[0], 1, [&] {
-            if (QWidget* box = QApplication::activeModalWidget()) {
-                loop.CancelTimer(&keys[0]);
-                titles << box->windowTitle();
                 box->close();
             }
         });
@@ -221,13 +234,6 @@ TEST_F(Loops, BoxesWithoutATitleBearTheProgramsName) {
     look();
     desktop.AskProgram(u"short");
     EXPECT_EQ(details, QString());
-    close();
-    desktop.Dialogs().Message(u"本文", platform::kPlain, u"");
-    close();
-    desktop.Dialogs().Message(u"本文", platform::kPlain, u"題");
-    close();
-    EXPECT_EQ(desktop.Dialogs().Input(u"本文", u"", u""), std::nullopt);
-    EXPECT_EQ(titles, (QStringList{"パラピコ", "題", "パラピコ"}));
 }
 
 TEST_F(Loops, ProgramsAreAskedAboutInThreeWays) {

@@ -40,12 +40,12 @@ QWidget* BoxParent() {
 constexpr qsizetype kLongestLine = 600;  // of a box; documents may bring any length
 constexpr qsizetype kEndShown = 100;
 
-/// A box shows its buttons whatever a document makes it say: of a long line the middle goes.
 /// A box without a title bears the program's name, as the person knows it.
 QString TitleOr(TextView title) {
     return title.empty() ? QStringLiteral("パラピコ") : ToQt(title);
 }
 
+/// A box shows its buttons whatever a document makes it say: of a long line the middle goes.
 QString Lines(TextView text) {
     QString lines = ToQt(text);
     QStringList list = lines.replace("\r\n", "\n").replace('\r', '\n').split('\n');
