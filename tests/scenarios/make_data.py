@@ -57,6 +57,8 @@ Documents with sound (all without repetition):
   texts_full.kvs the same in the full screen
   texts_second.kvs a w1
   all.kvl       one.kvs, then repeat.kvs
+  edge_*.kvs    the macro language at its edges: reader, text, pieces, motion, stop, buttons, screen;
+                edge_*_full.kvs the same in the full screen
 w1 and w2 are 320x240, olive.
 """
 
@@ -176,6 +178,75 @@ def texts():
             for name, content in lines.items()}
 
 
+def edge_macros():
+    """Macro files at the edges of the language, beside e_….png of 320x240 (e_dot: 1x1)."""
+    star = '"star.png",""'
+    files = {
+        # The reader.
+        "e_plain.txt": macro("説明文", "QBColor=4", "CurrentX=30"),
+        "e_zero.txt": b"",
+        "e_words.txt": macro("前文", "Skip=0", "End=0", "YesNoPB(0,0)", "Lock=0", "[テキスト]", "上",
+                             "Tablet", "Endless", "a\tb"),
+        "e_lf.txt": "CurrentX=30\nCurrentY=40\nLineSpace=7\n[テキスト]\n上\n\n下".encode("cp932"),
+        "e_loop.txt": macro("LineSpace=0", "[テキスト]", "Loop=2", "行", "EndLoop", "後"),
+        "e_waits.txt": macro("Sleep=0", "Sleep=61", "EndTime=601", "[テキスト]", "続く"),
+        "e_skip.txt": macro("Skip=50", "[テキスト]", "ない"),
+        "e_endtime.txt": macro("EndTime=2", "[テキスト]", "ない"),
+        # Text.
+        "e_colour.txt": macro("QBColor=16", "FontSize=7", "[テキスト]", "緑"),
+        "e_grad.txt": macro('Grad(255,255,255,0,128,255,"abc")', "CurrentY=100",
+                            'Grad(255,255,255,0,0,0,"abc")'),
+        "e_kage.txt": macro("Kage=1", "ZureX=-4", "[テキスト]", "左影", "Kage=2", "太い"),
+        "e_telop.txt": macro('Telop1(1,1000,"x")'),
+        "e_telops.txt": macro('Telop(1,1000,"x")', "Sleep=1", 'Telop(1,1,"")'),
+        # Pieces.
+        "e_other.txt": macro('PicPBData(3,"cut.dat")', f"PicPB4(1,{star})"),
+        "e_same.txt": macro(f"PicPB00(0,{star})", "CurrentX=100", f"PicPB0(0,{star})",
+                            'PicPB1(0,"star.png","note.txt")', f"PicPB63(1,{star})"),
+        "e_many.txt": macro('PicPBData(5,"many.dat")', f"PicPB05(1,{star})"),
+        # 4 corners of the left half, one of them again up to the 5000th; then the right half.
+        "many.dat": macro("KVS_PICTYPE_DATA", "0,0", "30,0", "30,40", *["0,40"] * 4997,
+                          "60,40", "60,0", "0,0"),
+        # Motion.
+        "e_bounds.txt": macro("CurrentX=600", f"PicPB01(0,{star})", "MovPB01(0,0,500)",
+                              "MovPB01(900,0)", "OverPic=1", "MovPB01(200,0)",
+                              "MovPB01(-2,0,5000)"),
+        "e_dot.txt": macro("OverPic=-1", "Loop=10", "CurrentX=100", "CurrentY=100",
+                           f"PicPB02(0,{star})", "MovPB02(RND,RND,1)", "EndLoop",
+                           f"PicPB03(0,{star})"),
+        "e_stop.txt": macro(f"PicPB01(0,{star})", "MovPB01(100,0,100)"),
+        # Buttons.
+        "e_first.txt": macro("YesNoPB(-1,1)"),
+        "e_yes_no.txt": macro("CurrentX=20", "CurrentY=30", "YesNoPB(1,0)", "[テキスト]", "続き",
+                              "YesNoPB(1,0)"),
+        "e_menu.txt": macro("CurrentX=10", "CurrentY=10", 'Menu1(1,"初め")', "CurrentX=50",
+                            "CurrentY=60", 'Menu1(50,"最後")'),
+        "e_menu6.txt": macro('MENU6(1,"無")'),
+        # The screen.
+        "e_clear.txt": macro("SavePic", "[テキスト]", "一", "Cls", "二", "Reverse", "Reverse", "三"),
+        "e_percent.txt": macro("Position=50.50", "[テキスト]", "座標"),
+        "e_corner.txt": macro("Position=100.0", "[テキスト]", "座標"),
+        "e_random.txt": macro("Position=1", "[テキスト]", "座標"),
+        "e_centre.txt": macro("Position=0", "[テキスト]", "座標"),
+    }
+    shows = {
+        "reader": ["plain", "zero", "words", "lf", "loop", "waits", "skip", "plain", "endtime"],
+        "text": ["colour", "grad", "kage", "telop", "telops", "plain"],
+        "pieces": ["other", "same", "many", "plain"],
+        "motion": ["bounds", "dot", "plain"],
+        "stop": ["stop", "plain"],
+        "buttons": ["first", "yes_no", "menu", "plain", "menu6"],
+        "screen": ["clear", "corner", "percent", "random", "centre", "plain"],
+    }
+    for name, slides in shows.items():
+        pictures = [f"e_{slide}.png" for slide in slides]
+        files[f"edge_{name}.kvs"] = document(lines_of_show(pictures))
+        files[f"edge_{name}_full.kvs"] = document(lines_of_show(pictures, always_full=0))
+        files.update({picture: png(320, 240, (0, 0, 96)) for picture in pictures})
+    files["e_dot.png"] = png(1, 1, (255, 255, 255))
+    return files
+
+
 def main():
     folder = pathlib.Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
@@ -288,6 +359,7 @@ def main():
     files["media.kvs"] = document(lines_of_show(["s1.png", "a.png"], sound=8, mp3_file="c.mp3"))
     files["words.kvs"] = document(lines_of_show(["s2.png", "s3.png", "a.png"], always_full=0))
 
+    files.update(edge_macros())
     for name, content in files.items():
         (folder / name).write_bytes(content)
     (folder / ".stamp").touch()
