@@ -10,7 +10,6 @@
 # trace: {"t":3000,"event":"text","x":800,"y":420,"text":"座標"
 # trace: {"t":6000,"event":"text","x":1600,"y":0,"text":"座標"
 # trace: {"t":9000,"event":"text","x":800,"y":420,"text":"座標"
-# no trace: "event":"message"
 @3100 expect PicturePositionFixed 1
 expect PicturePositionXFactor 1
 expect PicturePositionYFactor 0

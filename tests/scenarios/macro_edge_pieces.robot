@@ -17,7 +17,7 @@ expect Form1.Picture2(3).Visible false
 expect Form1.Picture2(4).Visible true
 expect Form1.Picture2(4).MousePointer 99
 expect MacroButtonsShown 1
-@9990 expect SlideIndex 2
+@9990 expect SlideIndex 1
 @10000 click Form1.Picture2(4) 2 2
 @10200 expect Form1.Picture2(4).Visible false
 expect Form1.Picture2(0).Left 100

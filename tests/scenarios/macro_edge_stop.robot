@@ -1,12 +1,12 @@
-# STOP in the main window during a move leaves the piece where it stands: the press of 250 is met by
-# the pump of the pass of 300, the fourth.
-# slides: 0 e_stop.png
+# STOP in the main window during a move leaves the piece where it stands: the press of 3250 is met by
+# the pump of the pass of 3300, the fourth. (On the first slide of a show STOP is not enabled yet.)
+# slides: 0 e_plain.png 3000 e_stop.png
 # no trace: "event":"message"
 choose edge_stop.kvs
 menu mnuOPEN
 click Form1.Command1
-@250 click Form1.Command3
-@500 expect Form1.Picture2(1).Left 4
+@3250 click Form1.Command3
+@3500 expect Form1.Picture2(1).Left 4
 expect Form1.Picture2(1).Visible true
 expect ShowRunning 0
 @9000 expect Form1.Picture2(1).Left 4

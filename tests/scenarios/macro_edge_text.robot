@@ -1,13 +1,14 @@
 # Text at its edges. Colour 16 is 10, bright green, and size 7 is 24. A ramp over three letters steps
 # by whole numbers rounded down: red by -85 to 0, green by -43 (of -127) to 126, blue stays; or all
-# three by -85 to black. The shadow to the left and the thick outline leave the text itself in place.
+# three by -85 to black. The shadow to the left and the thick outline leave the text itself in place,
+# and the word between them is a blank line.
 # slides: 0 e_colour.png 3000 e_grad.png 6000 e_kage.png 9000 e_telop.png 12000 e_telops.png
 # slides: 16000 e_plain.png
 # trace: {"t":0,"event":"text","x":0,"y":0,"text":"緑","colour":65280,"font":"ＭＳ ゴシック","size":24}
 # trace: {"t":3000,"event":"text","x":0,"y":0,"text":"abc","colour":16743936
 # trace: {"t":3000,"event":"text","x":0,"y":100,"text":"abc","colour":0,
 # trace: {"t":6000,"event":"text","x":0,"y":0,"text":"左影","colour":0,
-# trace: {"t":6000,"event":"text","x":0,"y":29,"text":"太い","colour":0,
+# trace: {"t":6000,"event":"text","x":0,"y":58,"text":"太い","colour":0,
 # no trace: "event":"message"
 choose edge_text.kvs
 menu mnuOPEN

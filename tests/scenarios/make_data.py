@@ -234,7 +234,7 @@ def edge_macros():
         "text": ["colour", "grad", "kage", "telop", "telops", "plain"],
         "pieces": ["other", "same", "many", "plain"],
         "motion": ["bounds", "dot", "plain"],
-        "stop": ["stop", "plain"],
+        "stop": ["plain", "stop", "plain"],
         "buttons": ["first", "yes_no", "menu", "plain", "menu6"],
         "screen": ["clear", "corner", "percent", "random", "centre", "plain"],
     }
