@@ -13,7 +13,6 @@ menu mnuOPEN
 click Form1.Command1
 @70 expect Form1.Picture2(1).Top 0
 @150 expect OverPicMode 1
-@2330 expect SlideIndex 1
 @5335 expect SlideIndex 2
 @5345 expect OverPicMode -1
 quit

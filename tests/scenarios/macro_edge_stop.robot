@@ -1,5 +1,7 @@
-# STOP in the main window during a move leaves the piece where it stands: the press of 3250 is met by
+# STOP in the main window during a move ends it where the piece stands, and hides the piece: the press of 3250 is met by
 # the pump of the pass of 3300, the fourth. (On the first slide of a show STOP is not enabled yet.)
+# trace: {"t":3300,"event":"cutout","index":1,"x":4,"y":0,
+# no trace: "state":"moved"
 # slides: 0 e_plain.png 3000 e_stop.png
 # no trace: "event":"message"
 choose edge_stop.kvs
@@ -7,7 +9,7 @@ menu mnuOPEN
 click Form1.Command1
 @3250 click Form1.Command3
 @3500 expect Form1.Picture2(1).Left 4
-expect Form1.Picture2(1).Visible true
+expect Form1.Picture2(1).Visible false
 expect ShowRunning 0
 @9000 expect Form1.Picture2(1).Left 4
 quit

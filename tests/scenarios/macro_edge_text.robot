@@ -13,6 +13,7 @@
 choose edge_text.kvs
 menu mnuOPEN
 click Form1.Command1
+@6100 shot shadows.png
 # 1000 pixels at a time, every 10 ms: a line that runs once is over with its first step.
 @9005 expect TelopRunning 1
 expect TelopStep 1000
