@@ -223,7 +223,8 @@ def edge_macros():
                             "CurrentY=60", 'Menu1(50,"最後")'),
         "e_menu6.txt": macro('MENU6(1,"無")'),
         # The screen.
-        "e_clear.txt": macro("SavePic", "[テキスト]", "一", "Cls", "二", "Reverse", "Reverse", "三"),
+        "e_clear.txt": macro("SavePic", "[テキスト]", "一", "Cls", "二", "Sleep=1", "Reverse", "Reverse",
+                             "三"),
         "e_percent.txt": macro("Position=50.50", "[テキスト]", "座標"),
         "e_corner.txt": macro("Position=100.0", "[テキスト]", "座標"),
         "e_random.txt": macro("Position=1", "[テキスト]", "座標"),
