@@ -100,7 +100,11 @@ TEST(GstOutput, TwoHundredPiecesLeaveNothingBehind) {
         << descriptors << " -> " << OpenDescriptors();
     EXPECT_TRUE(Eventually([&] { return Threads() <= threads + 8; }))
         << threads << " -> " << Threads();
+#ifndef __SANITIZE_ADDRESS__  // which holds back what was given up
     EXPECT_LT(ResidentKiB() - memory, 20000);
+#else
+    static_cast<void>(memory);
+#endif
 }
 
 }  // namespace

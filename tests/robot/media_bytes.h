@@ -10,7 +10,7 @@ namespace media {
 inline std::string Big(uint64_t value, int count) {
     std::string bytes;
     for (int i = count - 1; i >= 0; --i) {
-        bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+        bytes += i < 8 ? static_cast<char>(value >> (8 * i) & 0xFF) : '\0';
     }
     return bytes;
 }
