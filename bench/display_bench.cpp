@@ -231,7 +231,8 @@ int main(int argc, char** argv) {
     imaging::QtImaging imaging(rest.files);
     WatchedLoop loop(desktop.Loop());
     Application app({loop, rest.files, rest.dialogs, desktop.Monitors(), imaging,
-                     desktop.TextRenderer(), rest.sound, rest.system, trace, rest.codePage});
+                     desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,
+                     rest.codePage});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);

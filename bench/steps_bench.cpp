@@ -53,6 +53,10 @@ public:
     void GrayScale() override {}
     void Reverse() override {}
     void Mosaic(int) override {}
+    void Flip() override {}
+    void Invert() override {}
+    void EdgeFilter(int) override {}
+    void Emboss(int, int) override {}
     platform::BitmapPtr Picture() override {
         return std::make_shared<platform::Bitmap>(size_.width / 8, size_.height / 8);
     }
