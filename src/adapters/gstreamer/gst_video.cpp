@@ -20,7 +20,6 @@ namespace {
 
 // A header that asks for more is taken for damage.
 constexpr const char* kPictureCaps = "video/x-raw,format=BGRx,width=[1,8192],height=[1,8192]";
-constexpr GstClockTime kPrerollLimit = 5 * GST_SECOND;
 
 /// The newest picture on its way from the stream to the window.
 struct Mailbox {
@@ -217,11 +216,7 @@ void GstVideo::Core::Build(double from) {
     }
     gst_element_set_state(pipeline.get(), GST_STATE_PAUSED);
     if (from > 0) {
-        gst_element_get_state(pipeline.get(), nullptr, nullptr, kPrerollLimit);
-        gst_element_seek_simple(
-            pipeline.get(), GST_FORMAT_TIME,
-            static_cast<GstSeekFlags>(GST_SEEK_FLAG_FLUSH | GST_SEEK_FLAG_KEY_UNIT),
-            static_cast<gint64>(from * GST_SECOND));
+        SeekPaused(*pipeline, from);
     }
 }
 

@@ -204,6 +204,14 @@ ElementPtr MakePipeline(std::function<void(StreamEvent)> onEvent) {
     return pipeline;
 }
 
+void SeekPaused(GstElement& pipeline, double seconds) {
+    constexpr GstClockTime kPrerollLimit = 5 * GST_SECOND;
+    gst_element_get_state(&pipeline, nullptr, nullptr, kPrerollLimit);
+    gst_element_seek_simple(&pipeline, GST_FORMAT_TIME,
+                            static_cast<GstSeekFlags>(GST_SEEK_FLAG_FLUSH | GST_SEEK_FLAG_KEY_UNIT),
+                            static_cast<gint64>(seconds * GST_SECOND));
+}
+
 void DropPipeline(ElementPtr& pipeline) {
     if (!pipeline) {
         return;

@@ -21,6 +21,10 @@ ElementPtr MakePipeline(std::function<void(StreamEvent)> onEvent);
 /// Stops the pipeline, cuts off its events and frees it. May take as long as its sink likes.
 void DropPipeline(ElementPtr& pipeline);
 
+/// Goes to the place, in seconds, of a pipeline that was set to pause. Waits up to 5 s until that
+/// is possible, so from a worker only; a file that cannot seek stays at its beginning.
+void SeekPaused(GstElement& pipeline, double seconds);
+
 /// Adds a source of the samples, linked to the pad "sink" of `to`. `loop`: at the end it begins
 /// anew, without a gap. The source begins where it stands.
 bool AddPcmSource(GstElement& pipeline, GstElement& to, std::unique_ptr<PcmSource> source,

@@ -15,7 +15,6 @@ namespace {
 constexpr int kEndPollMs = 20;
 constexpr int kPositionPollMs = 100;
 constexpr int kStalledPolls = 250;  // five seconds without progress behind the last sample
-constexpr GstClockTime kPrerollLimit = 5 * GST_SECOND;
 
 }  // namespace
 
@@ -118,11 +117,7 @@ void Player::Core::Build(double from) {
     }
     gst_element_set_state(pipeline.get(), GST_STATE_PAUSED);
     if (from > 0 && offset == 0) {
-        gst_element_get_state(pipeline.get(), nullptr, nullptr, kPrerollLimit);
-        gst_element_seek_simple(
-            pipeline.get(), GST_FORMAT_TIME,
-            static_cast<GstSeekFlags>(GST_SEEK_FLAG_FLUSH | GST_SEEK_FLAG_KEY_UNIT),
-            static_cast<gint64>(from * GST_SECOND));
+        SeekPaused(*pipeline, from);
     }
 }
 
