@@ -7,6 +7,9 @@ run_packages=(
     # To build.
     g++ cmake ninja-build ccache qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgl-dev pkg-config
     libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libsndfile1-dev libcdio-dev
+    libgraphicsmagick++1-dev libavcodec-dev libavformat-dev libswscale-dev libseccomp-dev
+    # To run: drawings in PostScript.
+    ghostscript
     # To run: picture kinds, the window systems, Qt's own dialogs in Japanese, fonts.
     qt6-image-formats-plugins libqt6svg6 qt6-qpa-plugins libxcb-cursor0 qt6-wayland
     qt6-translations-l10n fonts-ipafont-gothic fonts-ipafont-mincho
@@ -22,7 +25,10 @@ test_packages=(
     xvfb xauth xdotool x11-xserver-utils weston imagemagick dbus-daemon
     # To check what is installed, and the package.
     desktop-file-utils appstream shared-mime-info libglib2.0-bin man-db groff-base lintian
+    # Make pictures of every kind for the tests.
+    graphicsmagick netpbm ffmpeg
     # Benchmarks compare with these.
+    feh mpv
     libbenchmark-dev libturbojpeg0-dev libjpeg-dev gstreamer1.0-plugins-base-apps
     gstreamer1.0-tools
 )

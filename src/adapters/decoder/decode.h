@@ -1,0 +1,29 @@
+// Decodes one picture that the toolkit does not read. Runs in the decoder's own process.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "adapters/door/kind.h"
+#include "platform/imaging.h"
+
+namespace decoder {
+
+struct Picture {
+    platform::Size size;
+    int bitsPerPixel = 24;         // as the file stores it: 1, 4, 8, 16, 24, 32, 48, 64
+    std::vector<uint32_t> pixels;  // 0xFFRRGGBB, row by row; what is transparent lies over white
+};
+
+/// Loads what the libraries load at first use, so that nothing has to be opened afterwards.
+void WarmUp();
+
+/// The whole picture, turned upright. `wanted` matters for drawings (Eps) only: the size to draw
+/// at, empty for the drawing's own (72 dots an inch). Nothing for a damaged file, or one above the
+/// limits. May crash, hang or use up the memory on a hostile file: the caller's process has limits.
+std::optional<Picture> Decode(door::Kind kind, std::span<const uint8_t> file,
+                              platform::Size wanted);
+
+}  // namespace decoder

@@ -1,0 +1,38 @@
+// Kinds of pictures that the toolkit does not read: they are decoded in a process of their own.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace door {
+
+/// The numbers stand in messages between program and decoder.
+enum class Kind : uint8_t {
+    None = 0,
+    Psd = 1,
+    Tga = 2,
+    Pcx = 3,
+    Cal = 4,
+    Mac = 5,
+    Img = 6,
+    Msp = 7,
+    Wpg = 8,
+    Ras = 9,
+    Pct = 10,
+    Eps = 11,
+    Pcd = 12,
+    Avif = 13,
+    Heic = 14,
+    Jxl = 15,
+};
+constexpr uint8_t kLastKind = 15;
+
+/// Bytes of a file's start and of its end that KindOf wants to see, fewer where it is shorter.
+constexpr size_t kStartBytes = 4096;
+constexpr size_t kEndBytes = 64;
+
+/// By the content where the kind has a mark, else by the name's extension, without case. `name` is
+/// a path or a bare name.
+Kind KindOf(std::string_view start, std::string_view end, std::string_view name);
+
+}  // namespace door
