@@ -17,7 +17,7 @@ ADAPTERS = {"qt", "gstreamer", "cdio", "imaging", "door", "decoder", "posix", "r
 # The robot plays a person: it needs the windows on the screen and the trace's JSON.
 # The disc reader feeds the sound. Program and decoder's process talk through the door.
 ADAPTER_NEIGHBOURS = {"robot": {"qt", "posix"}, "qt": {"posix"}, "cdio": {"gstreamer"},
-                      "imaging": {"door"}, "decoder": {"door"}}
+                      "door": {"posix"}, "imaging": {"door", "posix"}, "decoder": {"door", "posix"}}
 # Standard headers whose whole purpose is forbidden in the logic.
 FORBIDDEN_HEADERS = {
     "thread": "one thread runs the logic", "mutex": "one thread runs the logic",
