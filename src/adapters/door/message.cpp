@@ -32,6 +32,9 @@ std::optional<Message> Copied(std::span<const uint8_t> bytes) {
 
 /// False when nothing came in time. Errors count as something: the reading that follows fails.
 bool Wait(int socket, int milliseconds) {
+    if (socket < 0) {
+        return true;
+    }
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
     while (true) {
