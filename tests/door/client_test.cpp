@@ -105,6 +105,18 @@ TEST(DoorClient, ADrawingHasAProcessOfItsOwnAndIsToldTheSize) {
     EXPECT_EQ(Decode(client, "wanted", Kind::Eps, {40000, 40000}).outcome, Outcome::Failed);
 }
 
+TEST(DoorClient, ADrawingIsMeasured) {
+    Client client(StandIn("limited"));
+    const Result result = client.Measure(Kind::Svg, FileOf("100000x3").Get());
+    EXPECT_EQ(result.outcome, Outcome::Decoded);
+    EXPECT_EQ(result.size, (platform::Size{100000, 3}));
+    EXPECT_FALSE(result.pixels);
+    for (const char* word : {"0x3", "-1x-1", "no size"}) {
+        EXPECT_EQ(client.Measure(Kind::Svg, FileOf(word).Get()).outcome, Outcome::Failed) << word;
+    }
+    EXPECT_EQ(client.Measure(Kind::Pcx, FileOf("1x1").Get()).outcome, Outcome::Failed);
+}
+
 TEST(DoorClient, OneProcessServesAllPictures) {
     Client client(StandIn("limited"));
     for (const char* word : {"picture", "no such word", "throw", "too few pixels", "picture"}) {
@@ -121,7 +133,7 @@ TEST(DoorClient, OneProcessServesAllPictures) {
 
 TEST(DoorClient, TheProcessOpensNoFile) {
     Client client(StandIn("limited"));
-    for (const Kind kind : {Kind::Pcx, Kind::Eps}) {
+    for (const Kind kind : {Kind::Pcx, Kind::Eps, Kind::Svg}) {
         const Result result = Decode(client, "open", kind);
         ASSERT_EQ(result.outcome, Outcome::Decoded);
         EXPECT_EQ(result.pixels->pixels[0], 0xFF000000u);
@@ -228,7 +240,7 @@ TEST(DoorClient, WhatTheProcessStartedGoesWithIt) {
 }
 
 TEST(DoorClient, WithoutAnExecutableNothingIsDecoded) {
-    for (const char* program : {"", "/nonexistent/decoder", "/etc/passwd", "/"}) {
+    for (const char* program : {"/nonexistent/decoder", "/etc/passwd", "/"}) {
         Client client({program, {}, kLongLimit});
         EXPECT_EQ(Decode(client).outcome, Outcome::Missing) << program;
         EXPECT_EQ(Decode(client).outcome, Outcome::Missing) << program;

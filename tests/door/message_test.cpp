@@ -30,7 +30,9 @@ struct Pair {
 
 Request GoodRequest() {
     Request request;
+    request.task = door::kDecode;
     request.kind = static_cast<uint32_t>(door::Kind::Pcx);
+    request.serial = 7;
     return request;
 }
 
@@ -46,7 +48,7 @@ TEST(Requests, EveryFieldIsChecked) {
     request.mark = door::kAnswerMark;
     EXPECT_FALSE(Accepted(request));
     for (const auto& [kind, accepted] :
-         {std::pair(0u, false), {1u, true}, {15u, true}, {16u, false}, {0x101u, false}}) {
+         {std::pair(0u, false), {1u, true}, {16u, true}, {17u, false}, {0x101u, false}}) {
         request = GoodRequest();
         request.kind = kind;
         EXPECT_EQ(Accepted(request), accepted) << kind;
@@ -75,7 +77,7 @@ TEST(Requests, EveryFieldIsChecked) {
 Answer GoodAnswer() {
     Answer answer;
     answer.serial = 7;
-    answer.decoded = 1;
+    answer.what = door::kDecoded;
     answer.bitsPerPixel = 24;
     answer.width = 3;
     answer.height = 2;
@@ -83,7 +85,7 @@ Answer GoodAnswer() {
 }
 
 bool Accepted(const Answer& answer, size_t descriptors = 1) {
-    return door::ParseAnswer(door::BytesOf(answer), descriptors, 7).has_value();
+    return door::ParseAnswer(door::BytesOf(answer), descriptors, GoodRequest()).has_value();
 }
 
 TEST(Answers, EveryFieldIsChecked) {
@@ -98,7 +100,8 @@ TEST(Answers, EveryFieldIsChecked) {
     for (const auto& [field, value, accepted] : {Case{&Answer::mark, door::kRequestMark, false},
                                                  {&Answer::serial, 8, false},
                                                  {&Answer::serial, 6, false},
-                                                 {&Answer::decoded, 2, false},
+                                                 {&Answer::what, 2, false},
+                                                 {&Answer::what, 3, false},
                                                  {&Answer::bitsPerPixel, 0, false},
                                                  {&Answer::bitsPerPixel, 1, true},
                                                  {&Answer::bitsPerPixel, 2, false},
@@ -126,6 +129,29 @@ TEST(Answers, AFailureHoldsNothing) {
     EXPECT_FALSE(Accepted(failed, 1));
     failed.width = 1;
     EXPECT_FALSE(Accepted(failed, 0));
+}
+
+TEST(Answers, OnlyDrawingsAreMeasured) {
+    Request request = GoodRequest();
+    request.task = door::kMeasure;
+    EXPECT_FALSE(Accepted(request));
+    request.kind = static_cast<uint32_t>(door::Kind::Svg);
+    EXPECT_TRUE(Accepted(request));
+    Answer answer;
+    answer.serial = 7;
+    answer.what = door::kMeasured;
+    // However large: it is only a size.
+    answer.width = answer.height = INT32_MAX;
+    EXPECT_TRUE(door::ParseAnswer(door::BytesOf(answer), 0, request));
+    EXPECT_FALSE(door::ParseAnswer(door::BytesOf(answer), 1, request));
+    EXPECT_FALSE(door::ParseAnswer(door::BytesOf(GoodAnswer()), 1, request));
+    answer.height = 0;
+    EXPECT_FALSE(door::ParseAnswer(door::BytesOf(answer), 0, request));
+    request.width = request.height = 5;
+    EXPECT_FALSE(Accepted(request));
+    request.width = request.height = 0;
+    request.task = 3;
+    EXPECT_FALSE(Accepted(request));
 }
 
 TEST(Socket, AMessageComesWithItsFile) {

@@ -11,8 +11,8 @@
 #include <string>
 #include <thread>
 
-#include "adapters/decoder/limits.h"
-#include "adapters/decoder/serve.h"
+#include "adapters/confine/limits.h"
+#include "adapters/confine/serve.h"
 #include "adapters/door/process.h"
 #include "adapters/door/transfer.h"
 
@@ -37,7 +37,7 @@ Request NextRequest() {
 Answer GoodAnswer(const Request& request) {
     Answer answer;
     answer.serial = request.serial;
-    answer.decoded = 1;
+    answer.what = request.task == door::kMeasure ? door::kMeasured : door::kDecoded;
     answer.bitsPerPixel = 8;
     answer.width = 2;
     answer.height = 1;
@@ -153,11 +153,16 @@ void WithChild() {
 }
 
 /// The real frame around a decoder that does what the file says.
-std::optional<decoder::Picture> DecodeWord(door::Kind, std::span<const uint8_t> file,
-                                           platform::Size wanted) {
-    const std::string word(file.begin(), file.end());
+std::optional<door::Picture> DecodeWord(door::Kind, std::span<const uint8_t> file,
+                                        platform::Size wanted) {
+    static uint32_t decoded = 0;
+    ++decoded;
+    std::string word(file.begin(), file.end());
+    if (word.starts_with("8BPS")) {
+        word.erase(0, 4);  // what makes it a picture's file
+    }
     if (word == "spin") {
-        decoder::AllowProcessorTime(1);
+        confine::AllowProcessorTime(1);
         while (true) {
             static volatile int turns = 0;
             turns = turns + 1;
@@ -167,23 +172,37 @@ std::optional<decoder::Picture> DecodeWord(door::Kind, std::span<const uint8_t> 
     } else if (word == "throw") {
         throw std::runtime_error("damaged");
     } else if (word == "too few pixels") {
-        return decoder::Picture{{100, 100}, 24, {1, 2, 3}};
+        return door::Picture{{100, 100}, 24, {1, 2, 3}};
     } else if (word == "open") {
         const bool opened = open("/etc/passwd", O_RDONLY) >= 0;
-        return decoder::Picture{{1, 1}, 24, {opened ? 1u : 0u}};
+        return door::Picture{{1, 1}, 24, {opened ? 1u : 0u}};
+    } else if (word == "count") {
+        return door::Picture{{1, 1}, 16, {decoded}};
     } else if (word == "wanted") {
-        return decoder::Picture{
+        return door::Picture{
             {1, 1}, 24, {static_cast<uint32_t>(wanted.width << 8 | wanted.height)}};
     } else if (word != "picture") {
         return std::nullopt;
     }
-    return decoder::Picture{{2, 1}, 4, {kPixels.begin(), kPixels.end()}};
+    return door::Picture{{2, 1}, 4, {kPixels.begin(), kPixels.end()}};
+}
+
+/// Two numbers, in words.
+std::optional<platform::Size> MeasureWord(door::Kind, std::span<const uint8_t> file) {
+    const std::string word(file.begin(), file.end());
+    platform::Size size;
+    return std::sscanf(word.c_str(), "%dx%d", &size.width, &size.height) == 2 ? std::optional(size)
+                                                                              : std::nullopt;
 }
 
 int Limited(const std::string& roleName) {
-    const door::Role role = roleName == "eps" ? door::Role::Eps : door::Role::Raster;
-    decoder::FollowProgram(role);
-    return decoder::LimitProcess(role) ? decoder::Serve(kProcessSocket, role, DecodeWord) : 1;
+    const door::Role role = roleName == "eps"   ? door::Role::Eps
+                            : roleName == "svg" ? door::Role::Svg
+                                                : door::Role::Raster;
+    confine::FollowProgram(role);
+    return confine::LimitProcess(role)
+               ? confine::Serve(kProcessSocket, {role, {}, DecodeWord, MeasureWord})
+               : 1;
 }
 
 }  // namespace

@@ -10,57 +10,74 @@ namespace door {
 Client::Client(ClientOptions options) : options_(std::move(options)) {}
 
 Client::~Client() {
-    for (const Role role : {Role::Raster, Role::Eps}) {
+    for (const Role role : {Role::Raster, Role::Eps, Role::Svg}) {
         Forget(role);
     }
 }
 
 Result Client::Decode(Kind kind, int file, platform::Size wanted) {
-    if (kind == Kind::None || (!wanted.Empty() && !FitsBound(wanted))) {
-        return {Outcome::Failed, nullptr, 0};
+    Request request;
+    request.task = kDecode;
+    request.kind = static_cast<uint32_t>(kind);
+    if (!wanted.Empty()) {
+        request.width = wanted.width;
+        request.height = wanted.height;
+    }
+    return Ask(request, file);
+}
+
+Result Client::Measure(Kind kind, int file) {
+    Request request;
+    request.task = kMeasure;
+    request.kind = static_cast<uint32_t>(kind);
+    return Ask(request, file);
+}
+
+Result Client::Ask(Request& request, int file) {
+    request.serial = ++serial_;
+    if (!ParseRequest(BytesOf(request), 1)) {
+        return {Outcome::Failed, nullptr, 0, {}};
     }
     Result result;
     try {
-        result = Ask(kind, file, wanted.Empty() ? platform::Size() : wanted);
+        result = AnswerTo(request, file);
     } catch (const std::bad_alloc&) {
-        // An answer may still be under way to nobody.
-        result = {Outcome::Lied, nullptr, 0};
+        result.outcome = Outcome::Lied;
     }
     if (result.outcome != Outcome::Decoded && result.outcome != Outcome::Failed) {
-        Forget(RoleOf(kind));
+        Forget(RoleOf(static_cast<Kind>(request.kind)));
     }
     return result;
 }
 
-Result Client::Ask(Kind kind, int file, platform::Size wanted) {
-    const Role role = RoleOf(kind);
-    Request request;
-    request.serial = ++serial_;
-    request.kind = static_cast<uint32_t>(kind);
-    request.width = wanted.width;
-    request.height = wanted.height;
+Result Client::AnswerTo(const Request& request, int file) {
+    const Role role = RoleOf(static_cast<Kind>(request.kind));
+    Result result;
     if (!SendRequest(role, request, file)) {
-        return {Outcome::Missing, nullptr, 0};
+        return result;
     }
     const Received received =
         Receive(processes_[static_cast<int>(role)]->socket.Get(), options_.limitMilliseconds);
-    if (received.state == Received::State::Nothing) {
-        return {Outcome::Late, nullptr, 0};
+    const auto answer = ParseAnswer(received.Bytes(), received.descriptors.size(), request);
+    if (received.state != Received::State::Message) {
+        const bool gone = received.state == Received::State::Gone;
+        result.outcome = gone ? Outcome::Died : Outcome::Late;
+    } else if (!answer) {
+        result.outcome = Outcome::Lied;
+    } else if (answer->what == kFailed) {
+        result.outcome = Outcome::Failed;
+    } else {
+        result.outcome = Outcome::Decoded;
+        result.size = {answer->width, answer->height};
+        result.bitsPerPixel = static_cast<int>(answer->bitsPerPixel);
+        if (answer->what == kDecoded) {
+            result.pixels = ReadPixels(received.descriptors[0].Get(), result.size);
+            if (!result.pixels) {
+                result = {Outcome::Lied, nullptr, 0, {}};
+            }
+        }
     }
-    if (received.state == Received::State::Gone) {
-        return {Outcome::Died, nullptr, 0};
-    }
-    const auto answer = ParseAnswer(received.Bytes(), received.descriptors.size(), request.serial);
-    if (!answer) {
-        return {Outcome::Lied, nullptr, 0};
-    }
-    if (answer->decoded == 0) {
-        return {Outcome::Failed, nullptr, 0};
-    }
-    Result result{Outcome::Decoded,
-                  ReadPixels(received.descriptors[0].Get(), {answer->width, answer->height}),
-                  static_cast<int>(answer->bitsPerPixel)};
-    return result.pixels ? result : Result{Outcome::Lied, nullptr, 0};
+    return result;
 }
 
 /// A process that went away since the last picture is none of this picture's fault.
@@ -72,7 +89,8 @@ bool Client::SendRequest(Role role, const Request& request, int file) {
     Forget(role);
     std::vector<std::string> arguments = {kRoleNames[static_cast<int>(role)]};
     arguments.insert(arguments.end(), options_.arguments.begin(), options_.arguments.end());
-    process = StartProcess(options_.program, arguments);
+    process =
+        StartProcess(options_.program.empty() ? ProgramOf(role) : options_.program, arguments);
     return process && Send(process->socket.Get(), BytesOf(request), file);
 }
 

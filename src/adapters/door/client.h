@@ -12,7 +12,7 @@
 namespace door {
 
 struct ClientOptions {
-    std::string program = DecoderProgram();
+    std::string program;                 // empty: each role's own
     std::vector<std::string> arguments;  // behind the role's name
     /// For one picture, the start of the process included.
     int limitMilliseconds = 10000;
@@ -20,7 +20,7 @@ struct ClientOptions {
 
 /// What became of a picture. All but Decoded mean an unreadable file.
 enum class Outcome {
-    Decoded,
+    Decoded,  // or measured
     Failed,   // the decoder says so
     Died,     // its process crashed, ran out of time or memory, or closed
     Late,     // no answer within the limit
@@ -32,6 +32,7 @@ struct Result {
     Outcome outcome = Outcome::Missing;
     platform::BitmapPtr pixels;  // opaque; null unless Decoded
     int bitsPerPixel = 0;        // of the file: 1, 4, 8, 16, 24, 32, 48, 64
+    platform::Size size;         // of the pixels, or of the drawing that was measured
 };
 
 /// Keeps one process for each role, started on first need, and again after one that did not serve.
@@ -44,14 +45,18 @@ public:
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
 
-    /// Decodes an open plain file, whatever its offset, which stays. `wanted` is for drawings (Eps)
-    /// only: the size to draw at, empty for the drawing's own. Waits for the limit at most. Never
-    /// throws and raises no signal.
+    /// Decodes an open plain file, whatever its offset, which stays. `wanted` is for drawings only:
+    /// the size to draw at, empty for the drawing's own. Waits for the limit at most. Never throws
+    /// and raises no signal.
     Result Decode(Kind kind, int file, platform::Size wanted);
 
+    /// The same for a drawing's own size (Svg); no pixels.
+    Result Measure(Kind kind, int file);
+
 private:
-    Result Ask(Kind kind, int file, platform::Size wanted);
-    bool SendRequest(Role role, const struct Request& request, int file);
+    Result Ask(Request& request, int file);
+    Result AnswerTo(const Request& request, int file);
+    bool SendRequest(Role role, const Request& request, int file);
     void Forget(Role role);
 
     ClientOptions options_;

@@ -13,7 +13,7 @@ namespace door {
 namespace {
 
 // What travels has no gaps, so that nothing of the sender's memory goes along.
-static_assert(sizeof(Request) == 5 * 4 && sizeof(Answer) == 6 * 4);
+static_assert(sizeof(Request) == 6 * 4 && sizeof(Answer) == 6 * 4);
 
 constexpr uint32_t kDepths[] = {1, 4, 8, 16, 24, 32, 48, 64};
 
@@ -80,26 +80,38 @@ std::optional<Request> ParseRequest(std::span<const uint8_t> bytes, size_t descr
         return std::nullopt;
     }
     const bool known = request->kind != 0 && request->kind <= kLastKind;
+    const bool drawing = known && RoleOf(static_cast<Kind>(request->kind)) != Role::Raster;
     const bool ownSize = request->width == 0 && request->height == 0;
-    return known && (ownSize || FitsBound({request->width, request->height})) ? request
-                                                                              : std::nullopt;
+    const bool decode = request->task == kDecode && known &&
+                        (ownSize || FitsBound({request->width, request->height}));
+    const bool measure = request->task == kMeasure && drawing && ownSize;
+    return decode || measure ? request : std::nullopt;
 }
 
 std::optional<Answer> ParseAnswer(std::span<const uint8_t> bytes, size_t descriptors,
-                                  uint32_t serial) {
+                                  const Request& request) {
     const auto answer = Copied<Answer>(bytes);
-    if (!answer || answer->mark != kAnswerMark || answer->serial != serial) {
+    if (!answer || answer->mark != kAnswerMark || answer->serial != request.serial) {
         return std::nullopt;
     }
-    if (answer->decoded == 0) {
-        const bool empty = answer->bitsPerPixel == 0 && answer->width == 0 && answer->height == 0;
-        return empty && descriptors == 0 ? answer : std::nullopt;
-    }
+    const platform::Size size{answer->width, answer->height};
     const bool depthKnown = std::ranges::find(kDepths, answer->bitsPerPixel) != std::end(kDepths);
-    return answer->decoded == 1 && descriptors == 1 && depthKnown &&
-                   FitsBound({answer->width, answer->height})
-               ? answer
-               : std::nullopt;
+    bool right = false;
+    switch (answer->what) {
+        case kFailed:
+            right = descriptors == 0 && answer->bitsPerPixel == 0 && size == platform::Size();
+            break;
+        case kDecoded:
+            right = request.task == kDecode && descriptors == 1 && depthKnown && FitsBound(size);
+            break;
+        case kMeasured:
+            right = request.task == kMeasure && descriptors == 0 && answer->bitsPerPixel == 0 &&
+                    !size.Empty();
+            break;
+        default:
+            break;
+    }
+    return right ? answer : std::nullopt;
 }
 
 Received Receive(int socket, int milliseconds) {

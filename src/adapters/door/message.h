@@ -22,12 +22,12 @@ constexpr int64_t kMostPixelBytes = int64_t{1} << 30;
 constexpr int64_t kMostPixels = kMostPixelBytes / 4;
 
 /// Each has a process of its own, named by its first argument.
-enum class Role { Raster, Eps };
-constexpr int kRoles = 2;
-constexpr const char* kRoleNames[kRoles] = {"raster", "eps"};
-/// Drawings need a helper of their own, so their process is limited less.
+enum class Role { Raster, Eps, Svg };
+constexpr int kRoles = 3;
+constexpr const char* kRoleNames[kRoles] = {"raster", "eps", "svg"};
+/// Drawings need fonts or a helper, so their processes are limited less.
 constexpr Role RoleOf(Kind kind) {
-    return kind == Kind::Eps ? Role::Eps : Role::Raster;
+    return kind == Kind::Eps ? Role::Eps : kind == Kind::Svg ? Role::Svg : Role::Raster;
 }
 
 /// The mark holds the version: another version's message is none.
@@ -38,27 +38,34 @@ constexpr uint32_t kAnswerMark = 0x31615044;   // "DPa1"
 struct Request {
     uint32_t mark = kRequestMark;
     uint32_t serial = 0;  // the answer repeats it
+    uint32_t task = 0;
     uint32_t kind = 0;
     int32_t width = 0, height = 0;  // pixels wanted of a drawing; both 0 for its own size
 };
+/// Request::task. Measuring wants no size; only drawings are measured.
+constexpr uint32_t kDecode = 1, kMeasure = 2;
 
-/// Comes with one descriptor, the pixels, when the picture was decoded; else with none, and with 0
-/// in the fields of the picture.
+/// Comes with one descriptor, the pixels, when the picture was decoded; else with none. What is not
+/// told is 0.
 struct Answer {
     uint32_t mark = kAnswerMark;
     uint32_t serial = 0;
-    uint32_t decoded = 0;  // 1 or 0
+    uint32_t what = 0;
     uint32_t bitsPerPixel = 0;
     int32_t width = 0, height = 0;  // pixels
 };
+
+/// Answer::what. Measured is a size, however large.
+constexpr uint32_t kFailed = 0, kDecoded = 1, kMeasured = 2;
 
 /// Whether a picture of this size fits the bound.
 bool FitsBound(platform::Size size);
 
 /// The message if every field is in range and exactly the descriptors came that belong to it.
 std::optional<Request> ParseRequest(std::span<const uint8_t> bytes, size_t descriptors);
+/// The same for what answers this request; a failure answers every one.
 std::optional<Answer> ParseAnswer(std::span<const uint8_t> bytes, size_t descriptors,
-                                  uint32_t serial);
+                                  const Request& request);
 
 /// One message as it came.
 struct Received {

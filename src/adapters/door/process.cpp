@@ -17,10 +17,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// The user's own fonts lie below it.
+std::string Home() {
+    const char* home = std::getenv("HOME");
+    return home != nullptr ? home : "/";
+}
+
 /// What the user's variables say is not the decoder's business, and the names of files least.
 std::vector<std::string> Environment() {
     // One thread: pictures are small, and starting threads takes longer than it saves.
-    std::vector<std::string> result = {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "HOME=/",
+    std::vector<std::string> result = {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "HOME=" + Home(),
                                        "OMP_NUM_THREADS=1"};
     for (const char* name : {"ASAN_OPTIONS", "UBSAN_OPTIONS"}) {
         if (const char* value = std::getenv(name)) {
@@ -76,14 +82,15 @@ bool Prepare(Start& start, int socket) {
 
 }  // namespace
 
-std::string DecoderProgram() {
+std::string ProgramOf(Role role) {
+    const std::string name = role == Role::Svg ? "parapico-svg" : "parapico-decoder";
     std::error_code error;
     const fs::path own = fs::read_symlink("/proc/self/exe", error);
     if (error) {
         return {};
     }
-    for (const char* place : {"parapico-decoder", "../libexec/parapico/parapico-decoder"}) {
-        const fs::path program = own.parent_path() / place;
+    for (const char* folder : {".", "../libexec/parapico"}) {
+        const fs::path program = own.parent_path() / folder / name;
         if (access(program.c_str(), X_OK) == 0) {
             return program.lexically_normal().string();
         }

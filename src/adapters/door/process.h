@@ -19,9 +19,9 @@ struct Process {
 /// The process finds its end of the socket here.
 constexpr int kProcessSocket = 3;
 
-/// Path of the decoder's executable: beside the program's own, else in ../libexec/parapico/ from
+/// Path of the role's executable: beside the program's own, else in ../libexec/parapico/ from
 /// there. Empty when there is none.
-std::string DecoderProgram();
+std::string ProgramOf(Role role);
 
 /// Starts the executable with these arguments. It gets one end of a new socket and nothing else of
 /// the program: no open file, no variable of the environment, no words on the terminal. Nothing

@@ -6,7 +6,6 @@
 
 #include <QByteArray>
 #include <QFile>
-#include <QGuiApplication>
 #include <QImageReader>
 #include <algorithm>
 #include <array>
@@ -36,6 +35,9 @@ int OpenPlain(const std::string& path, struct stat& status) {
     }
     return fd;
 }
+
+/// Bits per pixel that a drawing has before it was drawn.
+constexpr int kDrawnDepth = 32;
 
 /// Bits per pixel as the file stores it, from the form that its reader chose.
 int DepthOf(const QImage& image) {
@@ -76,11 +78,10 @@ public:
         identity_ = {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
         const QByteArray start = file_.peek(kSniffBytes);
         kind_ = SniffKind(ViewOf(start));
-        // Drawings may hold text, and fonts are there only once the toolkit stands.
-        if (kind_ == Kind::Svg && qGuiApp == nullptr) {
-            kind_ = Kind::None;
-        }
-        if (kind_ == Kind::None) {
+        if (kind_ == Kind::Svg) {
+            // The toolkit's reader would hold up the program for hours, or open what is named.
+            foreign_ = door::Kind::Svg;
+        } else if (kind_ == Kind::None) {
             foreign_ = door::KindOf(ViewOf(start), ViewOf(End()), path);
         } else {
             reader_.setDecideFormatFromContent(false);
@@ -101,6 +102,17 @@ public:
         into.kind_ = kind_;
         into.foreign_ = foreign_;
         into.identity_ = identity_;
+    }
+
+    /// The size of what is decoded elsewhere; the pixels too where nothing less tells it.
+    bool AskSize(PictureFile& into, door::Client& decoder) {
+        const bool measurable = foreign_ == door::Kind::Svg;
+        const door::Result result =
+            measurable ? decoder.Measure(foreign_, file_.handle()) : DecodeForeign({}, decoder);
+        into.own_ = result.size;
+        into.foreignDepth_ = measurable ? kDrawnDepth : result.bitsPerPixel;
+        into.ready_ = result.pixels;
+        return result.outcome == door::Outcome::Decoded;
     }
 
     bool ReadHeader(PictureFile& into) {
@@ -169,17 +181,9 @@ std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath,
         result->path_ = nativePath;
         PictureReader reader(nativePath);
         reader.Identify(*result);
-        if (reader.Foreign() == door::Kind::None) {
-            return reader.ReadHeader(*result) ? result : nullptr;
-        }
-        const door::Result decoded = reader.DecodeForeign({}, decoder);
-        if (!decoded.pixels) {
-            return nullptr;
-        }
-        result->own_ = {decoded.pixels->width, decoded.pixels->height};
-        result->foreignDepth_ = decoded.bitsPerPixel;
-        result->ready_ = decoded.pixels;
-        return result;
+        const bool read = reader.Foreign() == door::Kind::None ? reader.ReadHeader(*result)
+                                                               : reader.AskSize(*result, decoder);
+        return read ? result : nullptr;
     } catch (const std::bad_alloc&) {
         return nullptr;
     }

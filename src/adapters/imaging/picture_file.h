@@ -19,19 +19,19 @@ constexpr int64_t kMostBytes = door::kMostPixelBytes;
 bool FitsMemory(platform::Size size);
 
 /// A file whose header was read. Immutable; stays usable when the file is gone, but for decoding.
-/// What the toolkit does not read is decoded by `decoder`, the calling thread's own.
+/// SVG, and what the toolkit does not read, is decoded by `decoder`, the calling thread's own.
 class PictureFile {
 public:
     /// Nullptr where the file is no plain file, cannot be opened, is of no known kind or has an
-    /// unreadable header. Waits for nothing but the decoder; never throws. What the toolkit does
-    /// not read is decoded here, as nothing else tells its size; the first Decode has it ready.
+    /// unreadable header. Waits for nothing but the decoder; never throws. Where nothing less
+    /// tells the size, the picture is decoded here, and the first Decode has it ready.
     static std::shared_ptr<PictureFile> Open(const std::string& nativePath, door::Client& decoder);
 
     /// The picture's own size, turned upright.
     platform::Size OwnSize() const { return own_; }
 
     /// True for a drawing without pixels of its own, sharp at every size.
-    bool IsDrawing() const { return kind_ == Kind::Svg || foreign_ == door::Kind::Eps; }
+    bool IsDrawing() const { return foreign_ == door::Kind::Svg || foreign_ == door::Kind::Eps; }
 
     /// Whether the file is still the one that was opened.
     bool IsUnchanged() const;
@@ -57,7 +57,7 @@ private:
 
     std::string path_;
     Kind kind_ = Kind::None;
-    door::Kind foreign_ = door::Kind::None;  // what the toolkit does not read
+    door::Kind foreign_ = door::Kind::None;  // what is decoded behind the door
     int foreignDepth_ = 0;
     mutable std::atomic<platform::BitmapPtr> ready_;  // of the own size, until the first Decode
     Identity identity_;

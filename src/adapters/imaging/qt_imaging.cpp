@@ -209,7 +209,8 @@ private:
 
 }  // namespace
 
-QtImaging::QtImaging(platform::Files& files) : files_(files) {
+QtImaging::QtImaging(platform::Files& files, door::ClientOptions decoder)
+    : files_(files), decoder_(std::move(decoder)) {
     QImageReader::setAllocationLimit(static_cast<int>(kMostBytes >> 20));
 }
 

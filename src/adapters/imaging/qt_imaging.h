@@ -7,14 +7,14 @@
 
 namespace imaging {
 
-/// PNG, JPEG, BMP, TIFF, GIF, WebP and SVG, told apart by content; what is none of these is decoded
-/// behind the door, in a process of its own. SVG needs a QGuiApplication. Pictures above 1 GiB of
+/// PNG, JPEG, BMP, TIFF, GIF, WebP, told apart by content; SVG and what is none of these is decoded
+/// behind the door, in a process of its own. Pictures above 1 GiB of
 /// pixels are refused, but JPEG and SVG where the fitted size does. Everything runs on the caller's
 /// thread; nothing throws. Must outlive its controls.
 class QtImaging : public platform::Imaging {
 public:
     /// `files` must outlive this object and its controls.
-    explicit QtImaging(platform::Files& files);
+    explicit QtImaging(platform::Files& files, door::ClientOptions decoder = {});
 
     Text VersionText() const override;
     std::unique_ptr<platform::ImagingControl> MakeControl() override;

@@ -1,13 +1,15 @@
-#include "adapters/decoder/file_rules.h"
+#include "adapters/confine/file_rules.h"
 
 #include <fcntl.h>
 #include <linux/landlock.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include <cerrno>
+#include <cstdlib>
+#include <span>
+#include <string>
 
-namespace decoder {
+namespace confine {
 
 using door::Descriptor;
 
@@ -34,27 +36,40 @@ struct Rule {
     uint64_t rights;
 };
 
-/// What Ghostscript needs; paths that a system lacks are left out.
+/// What Ghostscript needs. Paths that a system lacks are left out, here and below.
 constexpr Rule kEpsRules[] = {
     {"/usr/bin/gs", kRun},
     {"/lib64/ld-linux-x86-64.so.2", kRun},
     {"/lib/ld-linux-aarch64.so.1", kRun},
-    {"/etc/ld.so.cache", kReadFile},
-    {"/usr/lib", kRead},
-    {"/lib", kRead},
-    {"/lib64", kRead},
     {"/usr/share/ghostscript", kRead},
     {"/var/lib/ghostscript", kRead},
     {"/usr/share/poppler", kRead},
     {"/usr/share/color", kRead},
-    {"/usr/share/fonts", kRead},
-    {"/usr/share/fontconfig", kRead},
-    {"/etc/fonts", kRead},
-    {"/var/cache/fontconfig", kRead},
     {"/etc/papersize", kReadFile},
     {"/etc/paperspecs", kReadFile},
     {"/dev/null", kReadFile | LANDLOCK_ACCESS_FS_WRITE_FILE},
     {"/dev/urandom", kReadFile},
+};
+
+/// Libraries and fonts, for all drawings.
+constexpr Rule kDrawingRules[] = {
+    {"/etc/ld.so.cache", kReadFile},
+    {"/usr/lib", kRead},
+    {"/lib", kRead},
+    {"/lib64", kRead},
+    {"/usr/share/fonts", kRead},
+    {"/usr/local/share/fonts", kRead},
+    {"/usr/share/fontconfig", kRead},
+    {"/etc/fonts", kRead},
+    {"/var/cache/fontconfig", kRead},
+};
+
+/// The user's own fonts, below the home folder.
+constexpr Rule kHomeRules[] = {
+    {"/.fonts", kRead},
+    {"/.local/share/fonts", kRead},
+    {"/.config/fontconfig", kRead},
+    {"/.cache/fontconfig", kRead},
 };
 
 long KernelVersion() {
@@ -71,16 +86,39 @@ Descriptor MakeRuleset(long version) {
     return Descriptor(static_cast<int>(syscall(SYS_landlock_create_ruleset, &rules, size, 0)));
 }
 
-bool Add(const Descriptor& ruleset, const Rule& rule) {
-    const Descriptor place(open(rule.path, O_PATH | O_CLOEXEC));
+bool Add(const Descriptor& ruleset, const std::string& path, uint64_t rights) {
+    const Descriptor place(open(path.c_str(), O_PATH | O_CLOEXEC));
     if (!place.Valid()) {
         return true;
     }
     landlock_path_beneath_attr beneath{};
-    beneath.allowed_access = rule.rights;
+    beneath.allowed_access = rights;
     beneath.parent_fd = place.Get();
     return syscall(SYS_landlock_add_rule, ruleset.Get(), LANDLOCK_RULE_PATH_BENEATH, &beneath, 0) ==
            0;
+}
+
+bool Add(const Descriptor& ruleset, const std::string& folder, std::span<const Rule> rules) {
+    bool done = true;
+    for (const Rule& rule : rules) {
+        done = done && Add(ruleset, folder + rule.path, rule.rights);
+    }
+    return done;
+}
+
+bool AddRole(const Descriptor& ruleset, door::Role role) {
+    switch (role) {
+        case door::Role::Raster:
+            return true;
+        case door::Role::Eps:
+            return Add(ruleset, "", kDrawingRules) && Add(ruleset, "", kEpsRules);
+        case door::Role::Svg: {
+            const char* home = std::getenv("HOME");
+            return Add(ruleset, "", kDrawingRules) &&
+                   (home == nullptr || Add(ruleset, home, kHomeRules));
+        }
+    }
+    return false;
 }
 
 }  // namespace
@@ -91,13 +129,8 @@ bool ConfineFiles(door::Role role) {
         return true;
     }
     const Descriptor ruleset = MakeRuleset(version);
-    bool done = ruleset.Valid();
-    if (role == door::Role::Eps) {
-        for (const Rule& rule : kEpsRules) {
-            done = done && Add(ruleset, rule);
-        }
-    }
-    return done && syscall(SYS_landlock_restrict_self, ruleset.Get(), 0) == 0;
+    return ruleset.Valid() && AddRole(ruleset, role) &&
+           syscall(SYS_landlock_restrict_self, ruleset.Get(), 0) == 0;
 }
 
-}  // namespace decoder
+}  // namespace confine

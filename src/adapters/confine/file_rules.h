@@ -3,11 +3,11 @@
 
 #include "adapters/door/message.h"
 
-namespace decoder {
+namespace confine {
 
 /// For this thread and all that it starts, for good. Raster: no file. Eps: Ghostscript and what is
-/// installed with it, for reading. Needs no_new_privs. True as well where the kernel has no such
-/// rules; false when it has them and refuses.
+/// installed with it, for reading. Svg: libraries and fonts, for reading. Needs no_new_privs. True
+/// as well where the kernel has no such rules; false when it has them and refuses.
 bool ConfineFiles(door::Role role);
 
-}  // namespace decoder
+}  // namespace confine

@@ -1,6 +1,6 @@
 // What the decoder's process can and cannot do any more once its limits stand. Each case runs in a
 // process of its own.
-#include "adapters/decoder/limits.h"
+#include "adapters/confine/limits.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ constexpr int kUnlimited = 99;
 int StatusOf(Role role, const std::function<int()>& work) {
     const pid_t child = fork();
     if (child == 0) {
-        _exit(decoder::LimitProcess(role) ? work() : kUnlimited);
+        _exit(confine::LimitProcess(role) ? work() : kUnlimited);
     }
     int status = 0;
     EXPECT_EQ(waitpid(child, &status, 0), child);
@@ -76,10 +76,22 @@ TEST(Limits, EpsReadsWhatItsHelperNeedsAndWritesNothing) {
     EXPECT_EQ(ErrorOf(Role::Eps, [] { return mkdir("/tmp/parapico-folder", 0700) == 0; }), EPERM);
 }
 
+TEST(Limits, SvgReadsLibrariesAndFontsAndWritesNothing) {
+    for (const char* path : {"/etc/ld.so.cache", "/usr/share/fonts"}) {
+        EXPECT_EQ(ErrorOf(Role::Svg, [&] { return Opens(path); }), 0) << path;
+    }
+    for (const char* path : {"/etc/passwd", "/dev/zero", "/proc/self/maps", "/tmp", "/"}) {
+        EXPECT_EQ(ErrorOf(Role::Svg, [&] { return Opens(path); }), EACCES) << path;
+    }
+    EXPECT_EQ(ErrorOf(Role::Svg, [] { return Opens("/tmp/parapico-new", O_CREAT | O_RDWR); }),
+              EACCES);
+}
+
 TEST(Limits, ProgramsAreStartedByEpsAloneAndOneOnly) {
-    EXPECT_EQ(ErrorOf(Role::Raster, [] { return fork() >= 0; }), EPERM);
-    EXPECT_EQ(ErrorOf(Role::Raster, [] { return execl("/bin/true", "true", nullptr) == 0; }),
-              EPERM);
+    for (const Role role : {Role::Raster, Role::Svg}) {
+        EXPECT_EQ(ErrorOf(role, [] { return fork() >= 0; }), EPERM);
+        EXPECT_EQ(ErrorOf(role, [] { return execl("/bin/true", "true", nullptr) == 0; }), EPERM);
+    }
     const auto runs = [](const char* program) {
         return WEXITSTATUS(StatusOf(Role::Eps, [=] { return StatusOfProgram(program); }));
     };
@@ -89,7 +101,7 @@ TEST(Limits, ProgramsAreStartedByEpsAloneAndOneOnly) {
 }
 
 TEST(Limits, NoNetworkAndNoTracing) {
-    for (const Role role : {Role::Raster, Role::Eps}) {
+    for (const Role role : {Role::Raster, Role::Eps, Role::Svg}) {
         for (const int family : {AF_INET, AF_INET6, AF_UNIX, AF_NETLINK}) {
             EXPECT_EQ(ErrorOf(role, [=] { return socket(family, SOCK_DGRAM, 0) >= 0; }), EPERM);
         }
@@ -104,7 +116,7 @@ TEST(Limits, NoNetworkAndNoTracing) {
 }
 
 TEST(Limits, LimitsStay) {
-    for (const Role role : {Role::Raster, Role::Eps}) {
+    for (const Role role : {Role::Raster, Role::Eps, Role::Svg}) {
         const rlimit more{RLIM_INFINITY, RLIM_INFINITY};
         EXPECT_EQ(ErrorOf(role, [&] { return setrlimit(RLIMIT_FSIZE, &more) == 0; }), EPERM);
         EXPECT_EQ(ErrorOf(role, [&] { return setrlimit(RLIMIT_AS, &more) == 0; }), EPERM);
@@ -125,7 +137,7 @@ TEST(Limits, MemoryIsBounded) {
                MAP_FAILED;
     };
     EXPECT_EQ(ErrorOf(Role::Raster, [&] { return get(size_t{1} << 30); }), 0);
-    EXPECT_EQ(ErrorOf(Role::Raster, [&] { return get(decoder::kMostMemory); }), ENOMEM);
+    EXPECT_EQ(ErrorOf(Role::Raster, [&] { return get(confine::kMostMemory); }), ENOMEM);
     EXPECT_EQ(ErrorOf(Role::Raster,
                       [] {
                           return mmap(nullptr, 4096, PROT_READ | PROT_EXEC,
@@ -162,8 +174,8 @@ TEST(Limits, ASpinDiesWhenItsTimeIsOver) {
     getrusage(RUSAGE_CHILDREN, &before);
     const int status = StatusOf(Role::Raster, [] {
         // The second time counts from itself on, so the first one is no promise.
-        decoder::AllowProcessorTime(100);
-        decoder::AllowProcessorTime(1);
+        confine::AllowProcessorTime(100);
+        confine::AllowProcessorTime(1);
         static volatile int turns = 0;
         while (true) {
             turns = turns + 1;
@@ -179,7 +191,7 @@ TEST(Limits, ASpinDiesWhenItsTimeIsOver) {
 }
 
 TEST(Limits, ThreadsWorkAndTimeIsTold) {
-    for (const Role role : {Role::Raster, Role::Eps}) {
+    for (const Role role : {Role::Raster, Role::Eps, Role::Svg}) {
         EXPECT_EQ(ErrorOf(role,
                           [] {
                               pthread_t thread{};

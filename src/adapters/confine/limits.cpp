@@ -1,4 +1,4 @@
-#include "adapters/decoder/limits.h"
+#include "adapters/confine/limits.h"
 
 #include <signal.h>
 #include <sys/prctl.h>
@@ -7,10 +7,10 @@
 
 #include <algorithm>
 
-#include "adapters/decoder/file_rules.h"
-#include "adapters/decoder/system_calls.h"
+#include "adapters/confine/file_rules.h"
+#include "adapters/confine/system_calls.h"
 
-namespace decoder {
+namespace confine {
 
 namespace {
 
@@ -64,4 +64,4 @@ void AllowProcessorTime(int seconds) {
     setrlimit(RLIMIT_CPU, &limit);
 }
 
-}  // namespace decoder
+}  // namespace confine

@@ -1,4 +1,4 @@
-#include "adapters/decoder/system_calls.h"
+#include "adapters/confine/system_calls.h"
 
 #include <fcntl.h>
 #include <sched.h>
@@ -11,7 +11,7 @@
 #include <cerrno>
 #include <span>
 
-namespace decoder {
+namespace confine {
 
 namespace {
 
@@ -79,16 +79,24 @@ constexpr int kForAll[] = {
     SCMP_SYS(exit_group),
 };
 
-/// Starting a program, and what a program does when it starts. Opening is up to the file rules.
-constexpr int kForEps[] = {
-    SCMP_SYS(open),       SCMP_SYS(openat),     SCMP_SYS(access),      SCMP_SYS(faccessat),
-    SCMP_SYS(faccessat2), SCMP_SYS(stat),       SCMP_SYS(lstat),       SCMP_SYS(newfstatat),
-    SCMP_SYS(statx),      SCMP_SYS(statfs),     SCMP_SYS(fstatfs),     SCMP_SYS(readlink),
-    SCMP_SYS(readlinkat), SCMP_SYS(getdents64), SCMP_SYS(getcwd),      SCMP_SYS(fadvise64),
-    SCMP_SYS(dup),        SCMP_SYS(dup2),       SCMP_SYS(dup3),        SCMP_SYS(pipe),
-    SCMP_SYS(pipe2),      SCMP_SYS(fcntl),      SCMP_SYS(close_range), SCMP_SYS(mmap),
-    SCMP_SYS(mprotect),   SCMP_SYS(arch_prctl), SCMP_SYS(clone),       SCMP_SYS(fork),
-    SCMP_SYS(vfork),      SCMP_SYS(execve),     SCMP_SYS(wait4),       SCMP_SYS(waitid),
+/// Reading files by name; which ones is up to the file rules.
+constexpr int kForOpening[] = {
+    SCMP_SYS(open),       SCMP_SYS(openat),     SCMP_SYS(access),   SCMP_SYS(faccessat),
+    SCMP_SYS(faccessat2), SCMP_SYS(stat),       SCMP_SYS(lstat),    SCMP_SYS(newfstatat),
+    SCMP_SYS(statx),      SCMP_SYS(statfs),     SCMP_SYS(fstatfs),  SCMP_SYS(readlink),
+    SCMP_SYS(readlinkat), SCMP_SYS(getdents64), SCMP_SYS(getcwd),   SCMP_SYS(fadvise64),
+    SCMP_SYS(fcntl),      SCMP_SYS(mmap),       SCMP_SYS(mprotect),
+};
+
+/// Starting a program, and what a program does when it starts.
+constexpr int kForStarting[] = {
+    SCMP_SYS(dup),         SCMP_SYS(dup2),       SCMP_SYS(dup3),   SCMP_SYS(pipe), SCMP_SYS(pipe2),
+    SCMP_SYS(close_range), SCMP_SYS(arch_prctl), SCMP_SYS(clone),  SCMP_SYS(fork), SCMP_SYS(vfork),
+    SCMP_SYS(execve),      SCMP_SYS(wait4),      SCMP_SYS(waitid),
+};
+
+constexpr int kForEvents[] = {
+    SCMP_SYS(eventfd2),
 };
 
 /// One call that is allowed where its arguments compare so.
@@ -135,19 +143,35 @@ bool AllowForAll(scmp_filter_ctx filter) {
            seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
 }
 
+bool AllowThreads(scmp_filter_ctx filter) {
+    return seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1,
+                            SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD)) == 0;
+}
+
 bool AllowRaster(scmp_filter_ctx filter) {
     const Allowed rules[] = {
         // Memory, but none that is made to run: all libraries are loaded.
         {SCMP_SYS(mmap), 1, {SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0)}},
         {SCMP_SYS(mprotect), 1, {SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0)}},
-        {SCMP_SYS(clone), 1, {SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD)}},
         // What fstat is in the C library.
         {SCMP_SYS(newfstatat), 1, {SCMP_A3(SCMP_CMP_MASKED_EQ, AT_EMPTY_PATH, AT_EMPTY_PATH)}},
         {SCMP_SYS(fcntl), 1, {SCMP_A1(SCMP_CMP_EQ, F_GETFL)}},
         {SCMP_SYS(fcntl), 1, {SCMP_A1(SCMP_CMP_EQ, F_GETFD)}},
         {SCMP_SYS(fcntl), 1, {SCMP_A1(SCMP_CMP_EQ, F_SETFD)}},
     };
-    return Allow(filter, rules);
+    return Allow(filter, rules) && AllowThreads(filter);
+}
+
+bool AllowRole(scmp_filter_ctx filter, door::Role role) {
+    switch (role) {
+        case door::Role::Raster:
+            return AllowRaster(filter);
+        case door::Role::Eps:
+            return Allow(filter, kForOpening) && Allow(filter, kForStarting);
+        case door::Role::Svg:
+            return Allow(filter, kForOpening) && Allow(filter, kForEvents) && AllowThreads(filter);
+    }
+    return false;
 }
 
 }  // namespace
@@ -159,11 +183,9 @@ bool ConfineSystemCalls(door::Role role) {
     }
     // Threads that the libraries have started already are bound, too.
     const bool done = seccomp_attr_set(filter, SCMP_FLTATR_CTL_TSYNC, 1) == 0 &&
-                      AllowForAll(filter) &&
-                      (role == door::Role::Raster ? AllowRaster(filter) : Allow(filter, kForEps)) &&
-                      seccomp_load(filter) == 0;
+                      AllowForAll(filter) && AllowRole(filter, role) && seccomp_load(filter) == 0;
     seccomp_release(filter);
     return done;
 }
 
-}  // namespace decoder
+}  // namespace confine

@@ -3,10 +3,10 @@
 
 #include "adapters/door/message.h"
 
-namespace decoder {
+namespace confine {
 
 /// For all threads and all that they start, for good: what is not on the role's list fails with
 /// EPERM. False when the system refuses.
 bool ConfineSystemCalls(door::Role role);
 
-}  // namespace decoder
+}  // namespace confine
