@@ -34,6 +34,9 @@ QByteArray PngHeader(int width, int height);
 
 class ImagingFolder {
 public:
+    explicit ImagingFolder(door::ClientOptions decoder = {})
+        : imaging_(files_, std::move(decoder)) {}
+
     Text Put(const std::string& name, const QByteArray& bytes) {
         folder_.Put(name, bytes.toStdString());
         return folder_.TextPath(name);
@@ -45,7 +48,7 @@ public:
 private:
     TemporaryFolder folder_;
     posix_adapter::PosixFiles files_{folder_.Path("program")};
-    imaging::QtImaging imaging_{files_};
+    imaging::QtImaging imaging_;
 };
 
 /// Largest difference of a colour part between two pixels.

@@ -21,6 +21,7 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   extremes.kvs  line dot line e, in full screen, effects in turn
   effects.kvs   a b c as full.kvs, effects in turn, erased as shown
   failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
+  hostile.kvs   a, endless.svg, garbage.psd, bomb.png, bar.svg (a blue bar at the top), b
   names.kvs     絵１, wide, tall
   vue2.kvs      a b in the oldest form
   cut.kvs       five.kvs without its end
@@ -80,14 +81,19 @@ def pattern(width, height):
         for y in range(height)))
 
 
-def png_of_rows(width, height, rows):
-    def chunk(kind, body):
-        return (struct.pack(">I", len(body)) + kind + body
-                + struct.pack(">I", zlib.crc32(kind + body)))
+def png_chunk(kind, body):
+    return (struct.pack(">I", len(body)) + kind + body
+            + struct.pack(">I", zlib.crc32(kind + body)))
 
+
+def png_header(width, height):
     header = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
-    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header)
-            + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
+    return b"\x89PNG\r\n\x1a\n" + png_chunk(b"IHDR", header)
+
+
+def png_of_rows(width, height, rows):
+    return (png_header(width, height)
+            + png_chunk(b"IDAT", zlib.compress(rows)) + png_chunk(b"IEND", b""))
 
 
 def wav(milliseconds):
@@ -296,6 +302,16 @@ def main():
     files["autstart.dat"] = document([" 0 "])
     files["failing.kvs"] = document(lines_of_show(
         ["a.png", "text.jpg", "zero.png", "missing.png", "b.png"]))
+    svg = "<svg xmlns='http://www.w3.org/2000/svg' width='320' height='240'>{}</svg>"
+    files["bar.svg"] = svg.format("<rect width='320' height='60' fill='#00f'/>").encode()
+    # Every rule is held against every level: hours of work.
+    files["endless.svg"] = svg.format(
+        "<style>" + "a b c d e f g {fill:red}" * 20000 + "</style>"
+        + "<g class='x'>" * 2000 + "</g>" * 2000).encode()
+    files["garbage.psd"] = b"8BPS" + bytes(range(256)) * 4
+    files["bomb.png"] = png_header(60000, 60000)
+    files["hostile.kvs"] = document(lines_of_show(
+        ["a.png", "endless.svg", "garbage.psd", "bomb.png", "bar.svg", "b.png"]))
     files["names.kvs"] = document(lines_of_show(["絵１.png", "wide.png", "tall.png"]))
     files["vue2.kvs"] = document(
         ["vue2", "show.kvs", " 3000 ", " 1 ", " 7 ", "*.wav", " 2 ", "a.png", "b.png"])

@@ -4,18 +4,13 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <vector>
 
 #include "adapters/door/kind.h"
-#include "platform/imaging.h"
+#include "adapters/door/picture.h"
 
 namespace decoder {
 
-struct Picture {
-    platform::Size size;
-    int bitsPerPixel = 24;         // as the file stores it: 1, 4, 8, 16, 24, 32, 48, 64
-    std::vector<uint32_t> pixels;  // 0xFFRRGGBB, row by row; what is transparent lies over white
-};
+using door::Picture;
 
 /// Loads what the libraries load at first use, so that nothing has to be opened afterwards.
 void WarmUp();

@@ -1,4 +1,10 @@
-// The decoder's process: started by the program, answers one request after the other.
-int main() {
-    return 2;
+// The decoder's process: started by the program, decodes what the toolkit does not read.
+
+#include "adapters/confine/serve.h"
+#include "adapters/decoder/decode.h"
+
+int main(int argc, char** argv) {
+    confine::RunService(argc, argv,
+                        {{door::Role::Raster, decoder::WarmUp, decoder::Decode, {}},
+                         {door::Role::Eps, {}, decoder::Decode, {}}});
 }

@@ -1,4 +1,4 @@
-// Kinds of pictures that the toolkit does not read: they are decoded in a process of their own.
+// Kinds of pictures that are decoded in a process of their own.
 #pragma once
 
 #include <cstdint>
@@ -24,8 +24,9 @@ enum class Kind : uint8_t {
     Avif = 13,
     Heic = 14,
     Jxl = 15,
+    Svg = 16,  // read by the toolkit, but not in the program's process; KindOf does not look for it
 };
-constexpr uint8_t kLastKind = 15;
+constexpr uint8_t kLastKind = 16;
 
 /// Bytes of a file's start and of its end that KindOf wants to see, fewer where it is shorter.
 constexpr size_t kStartBytes = 4096;

@@ -6,8 +6,8 @@
 
 #include <QByteArray>
 #include <QFile>
-#include <QGuiApplication>
 #include <QImageReader>
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <new>
@@ -36,6 +36,9 @@ int OpenPlain(const std::string& path, struct stat& status) {
     return fd;
 }
 
+/// Bits per pixel that a drawing has before it was drawn.
+constexpr int kDrawnDepth = 32;
+
 /// Bits per pixel as the file stores it, from the form that its reader chose.
 int DepthOf(const QImage& image) {
     constexpr int kMostSmallPalette = 16;
@@ -57,7 +60,7 @@ int DepthOf(const QImage& image) {
 }  // namespace
 
 bool FitsMemory(Size size) {
-    return !size.Empty() && int64_t{size.width} * size.height <= kMostBytes / 4;
+    return door::FitsBound(size);
 }
 
 /// An open picture file with its reader set up.
@@ -74,12 +77,13 @@ public:
         }
         identity_ = {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
         const QByteArray start = file_.peek(kSniffBytes);
-        kind_ = SniffKind({start.constData(), static_cast<size_t>(start.size())});
-        // Drawings may hold text, and fonts are there only once the toolkit stands.
-        if (kind_ == Kind::Svg && qGuiApp == nullptr) {
-            kind_ = Kind::None;
-        }
-        if (kind_ != Kind::None) {
+        kind_ = SniffKind(ViewOf(start));
+        if (kind_ == Kind::Svg) {
+            // The toolkit's reader would hold up the program for hours, or open what is named.
+            foreign_ = door::Kind::Svg;
+        } else if (kind_ == Kind::None) {
+            foreign_ = door::KindOf(ViewOf(start), ViewOf(End()), path);
+        } else {
             reader_.setDecideFormatFromContent(false);
             reader_.setAutoDetectImageFormat(false);
             reader_.setAutoTransform(true);
@@ -88,14 +92,33 @@ public:
         }
     }
 
-    Kind FileKind() const { return kind_; }
+    door::Kind Foreign() const { return foreign_; }
+
+    door::Result DecodeForeign(Size wanted, door::Client& decoder) {
+        return decoder.Decode(foreign_, file_.handle(), wanted);
+    }
+
+    void Identify(PictureFile& into) const {
+        into.kind_ = kind_;
+        into.foreign_ = foreign_;
+        into.identity_ = identity_;
+    }
+
+    /// The size of what is decoded elsewhere; the pixels too where nothing less tells it.
+    bool AskSize(PictureFile& into, door::Client& decoder) {
+        const bool measurable = foreign_ == door::Kind::Svg;
+        const door::Result result =
+            measurable ? decoder.Measure(foreign_, file_.handle()) : DecodeForeign({}, decoder);
+        into.own_ = result.size;
+        into.foreignDepth_ = measurable ? kDrawnDepth : result.bitsPerPixel;
+        into.ready_ = result.pixels;
+        return result.outcome == door::Outcome::Decoded;
+    }
 
     bool ReadHeader(PictureFile& into) {
         if (kind_ == Kind::None) {
             return false;
         }
-        into.kind_ = kind_;
-        into.identity_ = identity_;
         if (kind_ == Kind::Jpeg) {
             const JpegHeader header = ReadJpegHeader(file_);
             into.scaledDecodeBytes_ = header.WorkingBytes();
@@ -115,9 +138,9 @@ public:
 
     bool IsSameFile(const PictureFile& known) const {
         const PictureFile::Identity& before = known.identity_;
-        return kind_ == known.kind_ && identity_.device == before.device &&
-               identity_.node == before.node && identity_.size == before.size &&
-               identity_.changed.tv_sec == before.changed.tv_sec &&
+        return kind_ == known.kind_ && foreign_ == known.foreign_ &&
+               identity_.device == before.device && identity_.node == before.node &&
+               identity_.size == before.size && identity_.changed.tv_sec == before.changed.tv_sec &&
                identity_.changed.tv_nsec == before.changed.tv_nsec;
     }
 
@@ -134,20 +157,43 @@ public:
     }
 
 private:
+    static std::string_view ViewOf(const QByteArray& bytes) {
+        return {bytes.constData(), static_cast<size_t>(bytes.size())};
+    }
+
+    QByteArray End() {
+        constexpr auto kEnd = static_cast<qint64>(door::kEndBytes);
+        file_.seek(std::max(file_.size() - kEnd, qint64{0}));
+        return file_.read(kEnd);
+    }
+
     QFile file_;
     QImageReader reader_;
     Kind kind_ = Kind::None;
+    door::Kind foreign_ = door::Kind::None;
     PictureFile::Identity identity_;
 };
 
-std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath) {
+std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath,
+                                               door::Client& decoder) {
     try {
         auto result = std::make_shared<PictureFile>();
         result->path_ = nativePath;
         PictureReader reader(nativePath);
-        return reader.ReadHeader(*result) ? result : nullptr;
+        reader.Identify(*result);
+        const bool read = reader.Foreign() == door::Kind::None ? reader.ReadHeader(*result)
+                                                               : reader.AskSize(*result, decoder);
+        return read ? result : nullptr;
     } catch (const std::bad_alloc&) {
         return nullptr;
+    }
+}
+
+bool PictureFile::IsUnchanged() const {
+    try {
+        return PictureReader(path_).IsSameFile(*this);
+    } catch (const std::bad_alloc&) {
+        return false;
     }
 }
 
@@ -162,11 +208,31 @@ bool PictureFile::DecodesScaledTo(Size size) const {
     return kind_ == Kind::Jpeg && smaller && scaledDecodeBytes_ <= kMostBytes;
 }
 
-BitmapPtr PictureFile::Decode(Size size, int* depth) const {
+BitmapPtr PictureFile::DecodeForeign(Size size, door::Client& decoder) const {
+    BitmapPtr pixels = ready_.exchange(nullptr);
+    if (pixels && size == own_) {
+        return pixels;
+    }
+    PictureReader reader(path_);
+    if (!reader.IsSameFile(*this)) {
+        return nullptr;
+    }
+    pixels = reader.DecodeForeign(size == own_ ? Size() : size, decoder).pixels;
+    const bool asAsked = pixels && pixels->width == size.width && pixels->height == size.height;
+    return asAsked || !pixels ? pixels : Smooth(*pixels, size);
+}
+
+BitmapPtr PictureFile::Decode(Size size, int* depth, door::Client& decoder) const {
     if (!FitsMemory(size)) {
         return nullptr;
     }
     try {
+        if (foreign_ != door::Kind::None) {
+            if (depth != nullptr) {
+                *depth = foreignDepth_;
+            }
+            return DecodeForeign(size, decoder);
+        }
         PictureReader reader(path_);
         if (!reader.IsSameFile(*this)) {
             return nullptr;

@@ -27,13 +27,22 @@ bool Covers(Size outer, Size inner) {
 
 class QtImagingControl : public platform::ImagingControl {
 public:
-    explicit QtImagingControl(platform::Files& files) : files_(files) {}
+    QtImagingControl(platform::Files& files, door::Client& decoder)
+        : files_(files), decoder_(decoder) {}
 
-    bool ReadInformation(TextView path) override { return OpenFile(path) != nullptr; }
+    bool ReadInformation(TextView path) override {
+        opened_ = OpenFile(path);
+        openedPath_ = path;
+        return opened_ != nullptr;
+    }
 
     bool Load(TextView path, const platform::FitFunction& fit) override {
         Clear();
-        const std::shared_ptr<PictureFile> file = OpenFile(path);
+        // Opening may have meant decoding: it is not done twice.
+        std::shared_ptr<PictureFile> file = std::exchange(opened_, nullptr);
+        if (!file || openedPath_ != path || !file->IsUnchanged()) {
+            file = OpenFile(path);
+        }
         if (!file) {
             return false;
         }
@@ -41,7 +50,7 @@ public:
         const Size wanted = fit ? fit(own) : Size();
         const bool scaled = file->DecodesScaledTo(wanted);
         State fresh;
-        fresh.pixels = file->Decode(scaled ? wanted : own, &fresh.bitsPerPixel);
+        fresh.pixels = file->Decode(scaled ? wanted : own, &fresh.bitsPerPixel, decoder_);
         if (!fresh.pixels) {
             return false;
         }
@@ -105,7 +114,7 @@ public:
         if (!Holds() || SizeOf(*state_.pixels) == state_.held) {
             return state_.pixels;
         }
-        BitmapPtr whole = state_.source ? Whole(*state_.source, state_.held) : nullptr;
+        BitmapPtr whole = state_.source ? Whole(*state_.source, state_.held, decoder_) : nullptr;
         if (!whole && FitsMemory(state_.held)) {
             whole = Guarded([&] { return Smooth(*state_.pixels, state_.held); });
         }
@@ -138,7 +147,7 @@ private:
 
     std::shared_ptr<PictureFile> OpenFile(TextView path) {
         const std::optional<std::string> found = files_.Find(path);
-        return found ? PictureFile::Open(*found) : nullptr;
+        return found ? PictureFile::Open(*found, decoder_) : nullptr;
     }
 
     /// The result of `work`, null where memory does not do.
@@ -152,10 +161,10 @@ private:
     }
 
     /// The picture decoded whole, at most once for all controls that share it.
-    static BitmapPtr Whole(Source& source, Size size) {
+    static BitmapPtr Whole(Source& source, Size size, door::Client& decoder) {
         BitmapPtr whole = source.whole.lock();
         if (!whole || !(SizeOf(*whole) == size)) {
-            whole = source.file->Decode(size, nullptr);
+            whole = source.file->Decode(size, nullptr, decoder);
             source.whole = whole;
         }
         return whole;
@@ -166,7 +175,7 @@ private:
         const bool sharper = state_.source && (state_.source->file->IsDrawing() ||
                                                !Covers(SizeOf(*state_.pixels), size));
         if (sharper && state_.source->file->DecodesScaledTo(size)) {
-            if (BitmapPtr decoded = state_.source->file->Decode(size, nullptr)) {
+            if (BitmapPtr decoded = state_.source->file->Decode(size, nullptr, decoder_)) {
                 return decoded;
             }
         }
@@ -192,12 +201,16 @@ private:
     }
 
     platform::Files& files_;
+    door::Client& decoder_;
     State state_;
+    std::shared_ptr<PictureFile> opened_;  // by ReadInformation, for the Load that follows
+    Text openedPath_;
 };
 
 }  // namespace
 
-QtImaging::QtImaging(platform::Files& files) : files_(files) {
+QtImaging::QtImaging(platform::Files& files, door::ClientOptions decoder)
+    : files_(files), decoder_(std::move(decoder)) {
     QImageReader::setAllocationLimit(static_cast<int>(kMostBytes >> 20));
 }
 
@@ -206,7 +219,7 @@ Text QtImaging::VersionText() const {
 }
 
 std::unique_ptr<platform::ImagingControl> QtImaging::MakeControl() {
-    return std::make_unique<QtImagingControl>(files_);
+    return std::make_unique<QtImagingControl>(files_, decoder_);
 }
 
 }  // namespace imaging

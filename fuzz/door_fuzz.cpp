@@ -1,0 +1,124 @@
+// Any bytes, with any number of descriptors of any length, as a message to either side of the door:
+// never a crash, what is taken is in range, and no descriptor stays open.
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <cstring>
+
+#include "adapters/door/message.h"
+#include "adapters/door/transfer.h"
+
+namespace {
+
+void Require(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+/// What the input says ahead of the message itself.
+struct Head {
+    uint8_t descriptors = 0;  // as they are sent, up to kMostSent
+    uint8_t kind = 0;         // of what the descriptors are
+    uint16_t kilobytes = 0;   // length of the memory behind them
+    uint8_t remainder = 0;    // and bytes beyond
+    uint8_t asked = 0;        // what the answer is to answer
+};
+constexpr size_t kMostSent = 24;
+
+door::Descriptor MakeDescriptor(const Head& head) {
+    constexpr uint8_t kPipe = 1, kDevice = 2;
+    if (head.kind == kPipe) {
+        int ends[2];
+        Require(pipe2(ends, O_CLOEXEC) == 0);
+        close(ends[1]);
+        return door::Descriptor(ends[0]);
+    }
+    if (head.kind == kDevice) {
+        return door::Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC));
+    }
+    door::Descriptor memory(memfd_create("fuzz", MFD_CLOEXEC));
+    Require(ftruncate(memory.Get(), (head.kilobytes % 4096) * 1024 + head.remainder) == 0);
+    return memory;
+}
+
+void SendRaw(int socket, const uint8_t* data, size_t size, int descriptor, size_t count) {
+    alignas(cmsghdr) std::array<uint8_t, CMSG_SPACE(kMostSent * sizeof(int))> control{};
+    iovec part{const_cast<uint8_t*>(data), size};
+    msghdr header{};
+    header.msg_iov = &part;
+    header.msg_iovlen = 1;
+    if (count != 0) {
+        header.msg_control = control.data();
+        header.msg_controllen = CMSG_SPACE(count * sizeof(int));
+        cmsghdr* rights = CMSG_FIRSTHDR(&header);
+        rights->cmsg_level = SOL_SOCKET;
+        rights->cmsg_type = SCM_RIGHTS;
+        rights->cmsg_len = CMSG_LEN(count * sizeof(int));
+        for (size_t i = 0; i < count; ++i) {
+            std::memcpy(CMSG_DATA(rights) + i * sizeof(int), &descriptor, sizeof descriptor);
+        }
+    }
+    sendmsg(socket, &header, MSG_NOSIGNAL | MSG_DONTWAIT);
+}
+
+/// The decoder's side.
+void TakeRequest(const door::Received& received) {
+    const auto request = door::ParseRequest(received.Bytes(), received.descriptors.size());
+    if (!request) {
+        return;
+    }
+    Require(request->kind >= 1 && request->kind <= door::kLastKind);
+    Require(received.descriptors.size() == 1);
+    const auto file = door::ReadFile(received.descriptors[0].Get());
+    Require(!file || (!file->empty() && file->size() <= door::kMostFileBytes));
+}
+
+/// The program's side.
+void TakeAnswer(const door::Received& received, uint8_t asked) {
+    door::Request request;
+    request.task = asked % 2 == 0 ? door::kDecode : door::kMeasure;
+    request.kind = asked;
+    const auto answer = door::ParseAnswer(received.Bytes(), received.descriptors.size(), request);
+    if (!answer || answer->what != door::kDecoded) {
+        Require(!answer || answer->what == door::kFailed || asked % 2 == 1);
+        return;
+    }
+    const platform::Size size{answer->width, answer->height};
+    Require(door::FitsBound(size));
+    const auto bitmap = door::ReadPixels(received.descriptors[0].Get(), size);
+    Require(!bitmap || (bitmap->width == size.width && bitmap->pixels[0] >> 24 == 0xFF));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    Head head;
+    if (size < sizeof head) {
+        return 0;
+    }
+    std::memcpy(&head, data, sizeof head);
+    data += sizeof head;
+    size -= sizeof head;
+    const int before = dup(STDIN_FILENO);
+    close(before);
+    {
+        int ends[2];
+        Require(socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) == 0);
+        const door::Descriptor here(ends[0]), there(ends[1]);
+        const door::Descriptor sent = MakeDescriptor(head);
+        SendRaw(here.Get(), data, size, sent.Get(), head.descriptors % (kMostSent + 1));
+        const door::Received received = door::Receive(there.Get(), 0);
+        TakeRequest(received);
+        TakeAnswer(received, head.asked);
+    }
+    // The lowest free number is the one it was.
+    const int after = dup(STDIN_FILENO);
+    close(after);
+    Require(before == after);
+    return 0;
+}

@@ -1,0 +1,29 @@
+// What the decoder's process may do, once it holds hostile pictures: decode, and nothing else.
+#pragma once
+
+#include <cstdint>
+
+#include "adapters/door/message.h"
+
+namespace confine {
+
+/// Addresses of the process, and of a helper that it starts.
+constexpr uint64_t kMostMemory = uint64_t{2} << 30;
+/// Processor time of one picture.
+constexpr int kPictureSeconds = 8;
+
+/// The process ends when its program does, with all that it started. Call first.
+void FollowProgram(door::Role role);
+
+/// Once and for good, for this process and all that it starts: memory, length of written files,
+/// number of open ones, no dumps, no new rights. No network, no tracing of others. Raster: no file
+/// can be opened and no program started any more. Eps: Ghostscript can be started and can read
+/// what is installed with it; Svg: libraries and fonts can be read; neither can write. False when
+/// the system refuses what must be there; where the kernel cannot confine the files that are opened
+/// (before 5.13), drawings go on without that.
+bool LimitProcess(door::Role role);
+
+/// From now on the process has this much processor time; then it dies of SIGXCPU.
+void AllowProcessorTime(int seconds);
+
+}  // namespace confine

@@ -1,0 +1,115 @@
+#include "adapters/confine/serve.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <exception>
+#include <string_view>
+
+#include "adapters/confine/limits.h"
+#include "adapters/door/process.h"
+#include "adapters/door/transfer.h"
+
+namespace confine {
+
+using door::Answer;
+using door::Descriptor;
+using door::Request;
+
+namespace {
+
+/// What the program would not believe is not sent.
+bool Sound(const door::Picture& picture) {
+    return door::FitsBound(picture.size) &&
+           picture.pixels.size() ==
+               static_cast<size_t>(picture.size.width) * static_cast<size_t>(picture.size.height);
+}
+
+void Measure(const Request& request, std::span<const uint8_t> file, const Service& service,
+             Answer& answer) {
+    const auto size = service.measure ? service.measure(static_cast<door::Kind>(request.kind), file)
+                                      : std::nullopt;
+    if (size && !size->Empty()) {
+        answer.what = door::kMeasured;
+        answer.width = size->width;
+        answer.height = size->height;
+    }
+}
+
+Descriptor Decode(const Request& request, std::span<const uint8_t> file, const Service& service,
+                  Answer& answer) {
+    const auto picture = service.decode(static_cast<door::Kind>(request.kind), file,
+                                        {request.width, request.height});
+    Descriptor pixels;
+    if (picture && Sound(*picture)) {
+        pixels = door::MakePixels(picture->pixels);
+    }
+    if (pixels.Valid()) {
+        answer.what = door::kDecoded;
+        answer.bitsPerPixel = static_cast<uint32_t>(picture->bitsPerPixel);
+        answer.width = picture->size.width;
+        answer.height = picture->size.height;
+    }
+    return pixels;
+}
+
+bool AnswerOne(int socket, const Request& request, int file, const Service& service) {
+    Answer answer;
+    answer.serial = request.serial;
+    Descriptor pixels;
+    try {
+        if (const auto bytes = door::ReadFile(file)) {
+            if (request.task == door::kMeasure) {
+                Measure(request, *bytes, service, answer);
+            } else {
+                pixels = Decode(request, *bytes, service, answer);
+            }
+        }
+    } catch (const std::exception&) {
+        answer = Answer();
+        answer.serial = request.serial;
+    }
+    return door::Send(socket, door::BytesOf(answer), pixels.Get());
+}
+
+}  // namespace
+
+int Serve(int socket, const Service& service) {
+    constexpr int kForever = -1;
+    while (true) {
+        const door::Received received = door::Receive(socket, kForever);
+        if (received.state == door::Received::State::Gone) {
+            return 0;
+        }
+        const auto request = door::ParseRequest(received.Bytes(), received.descriptors.size());
+        if (!request || door::RoleOf(static_cast<door::Kind>(request->kind)) != service.role) {
+            return 1;
+        }
+        AllowProcessorTime(kPictureSeconds);
+        if (!AnswerOne(socket, *request, received.descriptors[0].Get(), service)) {
+            return 1;
+        }
+    }
+}
+
+void RunService(int argc, char** argv, const std::vector<Service>& services) {
+    constexpr int kWrongUsage = 2;
+    const std::string_view name = argc > 1 ? argv[1] : "";
+    // A helper must not hold the program's socket: its end tells the program of this process's.
+    if (fcntl(door::kProcessSocket, F_SETFD, FD_CLOEXEC) == 0) {
+        for (const Service& service : services) {
+            if (name != door::kRoleNames[static_cast<int>(service.role)]) {
+                continue;
+            }
+            FollowProgram(service.role);
+            if (service.warmUp) {
+                service.warmUp();
+            }
+            // Nothing is tidied up at the end: libraries would only want what they cannot have.
+            _exit(LimitProcess(service.role) ? Serve(door::kProcessSocket, service) : 1);
+        }
+    }
+    _exit(kWrongUsage);
+}
+
+}  // namespace confine

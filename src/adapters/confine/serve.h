@@ -1,0 +1,35 @@
+// A process behind the door: one request after the other, within limits.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "adapters/door/message.h"
+#include "adapters/door/picture.h"
+
+namespace confine {
+
+/// What a process does in one role. What the functions throw is a picture that failed.
+struct Service {
+    door::Role role = door::Role::Raster;
+    /// Does ahead of the limits what cannot be done behind them. May be empty.
+    std::function<void()> warmUp;
+    /// `wanted` is empty for the picture's own size.
+    std::function<std::optional<door::Picture>(door::Kind, std::span<const uint8_t> file,
+                                               platform::Size wanted)>
+        decode;
+    /// A drawing's own size, however large. Empty where that takes drawing it.
+    std::function<std::optional<platform::Size>(door::Kind, std::span<const uint8_t> file)> measure;
+};
+
+/// Answers on the socket until the program closes its end: 0, the exit status. Another one for a
+/// message that is none, or when no answer can be sent.
+int Serve(int socket, const Service& service);
+
+/// The whole of such a process: the service whose role the command line names warms up, is limited
+/// and serves. Ends the process.
+[[noreturn]] void RunService(int argc, char** argv, const std::vector<Service>& services);
+
+}  // namespace confine

@@ -1,0 +1,105 @@
+#include "adapters/door/client.h"
+
+#include <new>
+#include <utility>
+
+#include "adapters/door/transfer.h"
+
+namespace door {
+
+Client::Client(ClientOptions options) : options_(std::move(options)) {}
+
+Client::~Client() {
+    for (const Role role : {Role::Raster, Role::Eps, Role::Svg}) {
+        Forget(role);
+    }
+}
+
+Result Client::Decode(Kind kind, int file, platform::Size wanted) {
+    Request request;
+    request.task = kDecode;
+    request.kind = static_cast<uint32_t>(kind);
+    if (!wanted.Empty()) {
+        request.width = wanted.width;
+        request.height = wanted.height;
+    }
+    return Ask(request, file);
+}
+
+Result Client::Measure(Kind kind, int file) {
+    Request request;
+    request.task = kMeasure;
+    request.kind = static_cast<uint32_t>(kind);
+    return Ask(request, file);
+}
+
+Result Client::Ask(Request& request, int file) {
+    request.serial = ++serial_;
+    if (!ParseRequest(BytesOf(request), 1)) {
+        return {Outcome::Failed, nullptr, 0, {}};
+    }
+    Result result;
+    try {
+        result = AnswerTo(request, file);
+    } catch (const std::bad_alloc&) {
+        result.outcome = Outcome::Lied;
+    }
+    if (result.outcome != Outcome::Decoded && result.outcome != Outcome::Failed) {
+        Forget(RoleOf(static_cast<Kind>(request.kind)));
+    }
+    return result;
+}
+
+Result Client::AnswerTo(const Request& request, int file) {
+    const Role role = RoleOf(static_cast<Kind>(request.kind));
+    Result result;
+    if (!SendRequest(role, request, file)) {
+        return result;
+    }
+    const Received received =
+        Receive(processes_[static_cast<int>(role)]->socket.Get(), options_.limitMilliseconds);
+    const auto answer = ParseAnswer(received.Bytes(), received.descriptors.size(), request);
+    if (received.state != Received::State::Message) {
+        const bool gone = received.state == Received::State::Gone;
+        result.outcome = gone ? Outcome::Died : Outcome::Late;
+    } else if (!answer) {
+        result.outcome = Outcome::Lied;
+    } else if (answer->what == kFailed) {
+        result.outcome = Outcome::Failed;
+    } else {
+        result.outcome = Outcome::Decoded;
+        result.size = {answer->width, answer->height};
+        result.bitsPerPixel = static_cast<int>(answer->bitsPerPixel);
+        if (answer->what == kDecoded) {
+            result.pixels = ReadPixels(received.descriptors[0].Get(), result.size);
+            if (!result.pixels) {
+                result = {Outcome::Lied, nullptr, 0, {}};
+            }
+        }
+    }
+    return result;
+}
+
+/// A process that went away since the last picture is none of this picture's fault.
+bool Client::SendRequest(Role role, const Request& request, int file) {
+    std::optional<Process>& process = processes_[static_cast<int>(role)];
+    if (process && Send(process->socket.Get(), BytesOf(request), file)) {
+        return true;
+    }
+    Forget(role);
+    std::vector<std::string> arguments = {kRoleNames[static_cast<int>(role)]};
+    arguments.insert(arguments.end(), options_.arguments.begin(), options_.arguments.end());
+    process =
+        StartProcess(options_.program.empty() ? ProgramOf(role) : options_.program, arguments);
+    return process && Send(process->socket.Get(), BytesOf(request), file);
+}
+
+void Client::Forget(Role role) {
+    std::optional<Process>& process = processes_[static_cast<int>(role)];
+    if (process) {
+        EndProcess(*process);
+        process.reset();
+    }
+}
+
+}  // namespace door

@@ -1,0 +1,67 @@
+// The program's side of the door: has pictures decoded that the toolkit does not read.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "adapters/door/kind.h"
+#include "adapters/door/process.h"
+#include "platform/imaging.h"
+
+namespace door {
+
+struct ClientOptions {
+    std::string program;                 // empty: each role's own
+    std::vector<std::string> arguments;  // behind the role's name
+    /// For one picture, the start of the process included.
+    int limitMilliseconds = 10000;
+};
+
+/// What became of a picture. All but Decoded mean an unreadable file.
+enum class Outcome {
+    Decoded,  // or measured
+    Failed,   // the decoder says so
+    Died,     // its process crashed, ran out of time or memory, or closed
+    Late,     // no answer within the limit
+    Lied,     // an answer that is none
+    Missing,  // no process can be started
+};
+
+struct Result {
+    Outcome outcome = Outcome::Missing;
+    platform::BitmapPtr pixels;  // opaque; null unless Decoded
+    int bitsPerPixel = 0;        // of the file: 1, 4, 8, 16, 24, 32, 48, 64
+    platform::Size size;         // of the pixels, or of the drawing that was measured
+};
+
+/// Keeps one process for each role, started on first need, and again after one that did not serve.
+/// Serves one thread; another thread has a client of its own. Its processes end with it, and with
+/// the thread that it served.
+class Client {
+public:
+    explicit Client(ClientOptions options = {});
+    ~Client();
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
+
+    /// Decodes an open plain file, whatever its offset, which stays. `wanted` is for drawings only:
+    /// the size to draw at, empty for the drawing's own. Waits for the limit at most. Never throws
+    /// and raises no signal.
+    Result Decode(Kind kind, int file, platform::Size wanted);
+
+    /// The same for a drawing's own size (Svg); no pixels.
+    Result Measure(Kind kind, int file);
+
+private:
+    Result Ask(Request& request, int file);
+    Result AnswerTo(const Request& request, int file);
+    bool SendRequest(Role role, const Request& request, int file);
+    void Forget(Role role);
+
+    ClientOptions options_;
+    std::optional<Process> processes_[kRoles];
+    uint32_t serial_ = 0;
+};
+
+}  // namespace door

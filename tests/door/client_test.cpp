@@ -1,0 +1,341 @@
+// The program's side against processes that serve, and against all that do not.
+#include "adapters/door/client.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <thread>
+
+#include "adapters/door/transfer.h"
+
+namespace {
+
+using door::Client;
+using door::Kind;
+using door::Outcome;
+using door::Result;
+
+/// Generous for those that are to answer; those that hang are given the short one.
+constexpr int kLongLimit = 60000, kShortLimit = 300;
+
+door::ClientOptions StandIn(const std::string& manner, int limit = kLongLimit) {
+    return {PARAPICO_STAND_IN, {manner}, limit};
+}
+
+/// An open file that holds this.
+door::Descriptor FileOf(const std::string& content) {
+    door::Descriptor file(memfd_create("file", MFD_CLOEXEC));
+    EXPECT_EQ(write(file.Get(), content.data(), content.size()),
+              static_cast<ssize_t>(content.size()));
+    return file;
+}
+
+Result Decode(Client& client, const std::string& content = "picture", Kind kind = Kind::Pcx,
+              platform::Size wanted = {}) {
+    const door::Descriptor file = FileOf(content);
+    return client.Decode(kind, file.Get(), wanted);
+}
+
+int OpenDescriptors() {
+    int count = 0;
+    for ([[maybe_unused]] const auto& entry :
+         std::filesystem::directory_iterator("/proc/self/fd")) {
+        ++count;
+    }
+    return count;
+}
+
+/// The processes that this one started and that stand, zombies too.
+std::vector<pid_t> Children() {
+    std::vector<pid_t> result;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+        const std::string name = entry.path().filename();
+        if (name.find_first_not_of("0123456789") != std::string::npos) {
+            continue;
+        }
+        FILE* file = std::fopen((entry.path() / "stat").c_str(), "r");
+        int id = 0, parent = 0;
+        if (file != nullptr) {
+            if (std::fscanf(file, "%d (%*[^)]) %*c %d", &id, &parent) == 2 && parent == getpid()) {
+                result.push_back(id);
+            }
+            std::fclose(file);
+        }
+    }
+    return result;
+}
+
+/// Gone, or about to be: waits for the system, never for long.
+bool IsGone(pid_t process) {
+    for (int i = 0; i < 2000; ++i) {
+        if (kill(process, 0) != 0) {
+            return true;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return false;
+}
+
+TEST(DoorClient, APictureComes) {
+    Client client(StandIn("limited"));
+    const Result result = Decode(client);
+    ASSERT_EQ(result.outcome, Outcome::Decoded);
+    EXPECT_EQ(result.bitsPerPixel, 4);
+    EXPECT_EQ(result.pixels->width, 2);
+    EXPECT_EQ(result.pixels->height, 1);
+    EXPECT_THAT(result.pixels->pixels, testing::ElementsAre(0xFF102030u, 0xFF405060u));
+}
+
+TEST(DoorClient, ADrawingHasAProcessOfItsOwnAndIsToldTheSize) {
+    Client client(StandIn("limited"));
+    ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
+    EXPECT_EQ(Children().size(), 1u);
+    const Result result = Decode(client, "wanted", Kind::Eps, {18, 7});
+    ASSERT_EQ(result.outcome, Outcome::Decoded);
+    EXPECT_EQ(result.pixels->pixels[0], 0xFF001207u);
+    EXPECT_EQ(Children().size(), 2u);
+    EXPECT_EQ(Decode(client, "wanted", Kind::Eps).pixels->pixels[0], 0xFF000000u);
+    EXPECT_EQ(Decode(client, "wanted", Kind::Eps, {40000, 40000}).outcome, Outcome::Failed);
+}
+
+TEST(DoorClient, ADrawingIsMeasured) {
+    Client client(StandIn("limited"));
+    const Result result = client.Measure(Kind::Svg, FileOf("100000x3").Get());
+    EXPECT_EQ(result.outcome, Outcome::Decoded);
+    EXPECT_EQ(result.size, (platform::Size{100000, 3}));
+    EXPECT_FALSE(result.pixels);
+    for (const char* word : {"0x3", "-1x-1", "no size"}) {
+        EXPECT_EQ(client.Measure(Kind::Svg, FileOf(word).Get()).outcome, Outcome::Failed) << word;
+    }
+    EXPECT_EQ(client.Measure(Kind::Pcx, FileOf("1x1").Get()).outcome, Outcome::Failed);
+}
+
+TEST(DoorClient, OneProcessServesAllPictures) {
+    Client client(StandIn("limited"));
+    for (const char* word : {"picture", "no such word", "throw", "too few pixels", "picture"}) {
+        Decode(client, word);
+    }
+    const auto before = Children();
+    ASSERT_EQ(before.size(), 1u);
+    EXPECT_EQ(Decode(client, "throw").outcome, Outcome::Failed);
+    EXPECT_EQ(Decode(client, "too few pixels").outcome, Outcome::Failed);
+    EXPECT_EQ(Decode(client, "").outcome, Outcome::Failed);
+    EXPECT_EQ(Decode(client).outcome, Outcome::Decoded);
+    EXPECT_EQ(Children(), before);
+}
+
+TEST(DoorClient, TheProcessOpensNoFile) {
+    Client client(StandIn("limited"));
+    for (const Kind kind : {Kind::Pcx, Kind::Eps, Kind::Svg}) {
+        const Result result = Decode(client, "open", kind);
+        ASSERT_EQ(result.outcome, Outcome::Decoded);
+        EXPECT_EQ(result.pixels->pixels[0], 0xFF000000u);
+    }
+}
+
+TEST(DoorClient, ACrashAndASpinCostOnePicture) {
+    Client client(StandIn("limited"));
+    for (const char* word : {"crash", "spin"}) {
+        EXPECT_EQ(Decode(client, word).outcome, Outcome::Died) << word;
+        EXPECT_TRUE(Children().empty());
+        EXPECT_EQ(Decode(client).outcome, Outcome::Decoded);
+    }
+}
+
+TEST(DoorClient, BadProcessesAreSeenThroughAndEnded) {
+    const std::pair<const char*, Outcome> manners[] = {{"ends at once", Outcome::Died},
+                                                       {"crash", Outcome::Died},
+                                                       {"close", Outcome::Died},
+                                                       {"half, then crash", Outcome::Lied},
+                                                       {"garbage", Outcome::Lied},
+                                                       {"short", Outcome::Lied},
+                                                       {"long", Outcome::Lied},
+                                                       {"no descriptor", Outcome::Lied},
+                                                       {"two descriptors", Outcome::Lied},
+                                                       {"many descriptors", Outcome::Lied},
+                                                       {"pipe", Outcome::Lied},
+                                                       {"other serial", Outcome::Lied},
+                                                       {"larger", Outcome::Lied},
+                                                       {"smaller", Outcome::Lied},
+                                                       {"beyond the bound", Outcome::Lied},
+                                                       {"negative", Outcome::Lied},
+                                                       {"odd depth", Outcome::Lied}};
+    const int descriptors = OpenDescriptors();
+    for (const auto& [manner, outcome] : manners) {
+        SCOPED_TRACE(manner);
+        Client client(StandIn(manner));
+        for (int i = 0; i < 3; ++i) {
+            const Result result = Decode(client);
+            // Whether a process that ends at once is asked first is a race.
+            EXPECT_TRUE(result.outcome == outcome || (std::string(manner) == "ends at once" &&
+                                                      result.outcome == Outcome::Missing));
+            EXPECT_FALSE(result.pixels);
+            EXPECT_TRUE(Children().empty());
+            EXPECT_EQ(OpenDescriptors(), descriptors);
+        }
+    }
+}
+
+TEST(DoorClient, AnotherFilesystemsFileIsNoPixels) {
+    // Where the folder for temporary files lies in memory itself, the file has seals as well.
+    Client client(StandIn("plain file"));
+    const Result result = Decode(client);
+    EXPECT_TRUE(result.outcome == Outcome::Lied || result.outcome == Outcome::Decoded);
+}
+
+TEST(DoorClient, AHangEndsAtTheLimit) {
+    Client client(StandIn("hang", kShortLimit));
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(Decode(client).outcome, Outcome::Late);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(kShortLimit));
+    EXPECT_TRUE(Children().empty());
+}
+
+TEST(DoorClient, AnAnswerTooManyIsNotTheNextPictures) {
+    Client client(StandIn("twice"));
+    EXPECT_EQ(Decode(client).outcome, Outcome::Decoded);
+    EXPECT_EQ(Decode(client).outcome, Outcome::Lied);
+    EXPECT_EQ(Decode(client).outcome, Outcome::Decoded);
+}
+
+TEST(DoorClient, MemoryThatShrinksMeanwhileHarmsNobody) {
+    Client client(StandIn("shrinking"));
+    for (int i = 0; i < 20; ++i) {
+        const Result result = Decode(client);
+        EXPECT_TRUE(result.outcome == Outcome::Decoded || result.outcome == Outcome::Lied);
+    }
+}
+
+TEST(DoorClient, AProcessThatWasKilledBetweenPicturesIsReplacedUnseen) {
+    Client client(StandIn("limited"));
+    ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
+    const auto children = Children();
+    ASSERT_EQ(children.size(), 1u);
+    kill(children[0], SIGKILL);
+    // Its end of the socket closes a moment later.
+    for (int i = 0;
+         i < 2000 && std::filesystem::exists("/proc/" + std::to_string(children[0]) + "/fd/3");
+         ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    EXPECT_EQ(Decode(client).outcome, Outcome::Decoded);
+    EXPECT_EQ(Children().size(), 1u);
+}
+
+TEST(DoorClient, WhatTheProcessStartedGoesWithIt) {
+    Client client(StandIn("with child"));
+    const Result result = Decode(client, "picture", Kind::Eps);
+    ASSERT_EQ(result.outcome, Outcome::Decoded);
+    const auto child = static_cast<pid_t>(result.pixels->pixels[0] & 0xFFFFFFu);
+    EXPECT_EQ(kill(child, 0), 0);
+    EXPECT_EQ(Decode(client, "picture", Kind::Eps).outcome, Outcome::Died);
+    EXPECT_TRUE(IsGone(child));
+}
+
+TEST(DoorClient, WithoutAnExecutableNothingIsDecoded) {
+    for (const char* program : {"/nonexistent/decoder", "/etc/passwd", "/"}) {
+        Client client({program, {}, kLongLimit});
+        EXPECT_EQ(Decode(client).outcome, Outcome::Missing) << program;
+        EXPECT_EQ(Decode(client).outcome, Outcome::Missing) << program;
+    }
+    EXPECT_TRUE(Children().empty());
+    Client client(StandIn("limited"));
+    EXPECT_EQ(Decode(client, "picture", Kind::None).outcome, Outcome::Failed);
+}
+
+TEST(DoorClient, ManyPicturesAndCrashesLeaveNothingBehind) {
+    Client client(StandIn("limited"));
+    ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
+    const int descriptors = OpenDescriptors();
+    for (int i = 0; i < 200; ++i) {
+        const bool crash = i % 4 == 3;
+        EXPECT_EQ(Decode(client, crash ? "crash" : "picture").outcome,
+                  crash ? Outcome::Died : Outcome::Decoded);
+    }
+    ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
+    EXPECT_EQ(OpenDescriptors(), descriptors);
+    EXPECT_EQ(Children().size(), 1u);
+}
+
+TEST(DoorClient, TheProcessGetsNothingOfTheProgram) {
+    setenv("PARAPICO_TEST_SECRET", "1", 1);
+    const door::Descriptor leak(dup(STDIN_FILENO));  // not closed on exec
+    {
+        Client client(StandIn("limited"));
+        ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
+        const auto children = Children();
+        ASSERT_EQ(children.size(), 1u);
+        const std::string process = "/proc/" + std::to_string(children[0]);
+        // What belongs to the picture is closed a moment behind the answer.
+        std::vector<std::string> open;
+        for (int i = 0; i < 2000 && open.size() != 4; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(i == 0 ? 0 : 1));
+            open.clear();
+            for (const auto& entry : std::filesystem::directory_iterator(process + "/fd")) {
+                open.push_back(entry.path().filename());
+            }
+        }
+        EXPECT_THAT(open, testing::UnorderedElementsAre("0", "1", "2", "3"));
+        for (const char* standard : {"/fd/0", "/fd/1", "/fd/2"}) {
+            EXPECT_EQ(std::filesystem::read_symlink(process + standard), "/dev/null");
+        }
+        std::string environment(65536, '\0');
+        FILE* file = std::fopen((process + "/environ").c_str(), "r");
+        ASSERT_TRUE(file);
+        environment.resize(std::fread(environment.data(), 1, environment.size(), file));
+        std::fclose(file);
+        EXPECT_THAT(environment, testing::HasSubstr("LC_ALL=C.UTF-8"));
+        EXPECT_THAT(environment, testing::Not(testing::HasSubstr("PARAPICO_TEST_SECRET")));
+    }
+    EXPECT_TRUE(Children().empty());
+}
+
+TEST(DoorClient, EachThreadCanHaveItsOwn) {
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i) {
+        threads.emplace_back([] {
+            Client client(StandIn("limited"));
+            for (int j = 0; j < 20; ++j) {
+                EXPECT_EQ(Decode(client).outcome, Outcome::Decoded);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_TRUE(Children().empty());
+}
+
+TEST(DoorClient, ProcessesEndWithTheProgram) {
+    int ends[2];
+    ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
+    const door::Descriptor in(ends[0]);
+    door::Descriptor out(ends[1]);
+    const pid_t program = fork();
+    if (program == 0) {
+        // Left without a word, as a program that crashes leaves.
+        Client client(StandIn("limited"));
+        Decode(client);
+        Decode(client, "picture", Kind::Eps);
+        const auto children = Children();
+        const bool told = write(out.Get(), children.data(), 2 * sizeof(pid_t)) == 8;
+        raise(SIGKILL);
+        _exit(told ? 0 : 1);
+    }
+    pid_t children[2] = {0, 0};
+    ASSERT_EQ(read(in.Get(), children, sizeof children), 8);
+    for (const pid_t child : children) {
+        ASSERT_GT(child, 0);
+        EXPECT_TRUE(IsGone(child));
+    }
+    door::EndProcess({program, door::Descriptor()});
+}
+
+}  // namespace
