@@ -36,6 +36,32 @@ int OpenPlain(const std::string& path, struct stat& status) {
     return fd;
 }
 
+bool Same(const timespec& a, const timespec& b) {
+    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+FileIdentity MakeIdentity(const struct stat& status) {
+    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim, status.st_ctim};
+}
+
+int64_t PixelBytes(Size size) {
+    return int64_t{size.width} * size.height * static_cast<int64_t>(sizeof(platform::Pixel));
+}
+
+/// A file that seems cut off as soon as its reader is to give up.
+class ReadableFile : public QFile {
+public:
+    explicit ReadableFile(const ReadingContext& context) : context_(context) {}
+
+protected:
+    qint64 readData(char* data, qint64 most) override {
+        return context_.giveUp ? -1 : QFile::readData(data, most);
+    }
+
+private:
+    const ReadingContext& context_;
+};
+
 /// Bits per pixel as the file stores it, from the form that its reader chose.
 int DepthOf(const QImage& image) {
     constexpr int kMostSmallPalette = 16;
@@ -60,10 +86,23 @@ bool FitsMemory(Size size) {
     return !size.Empty() && int64_t{size.width} * size.height <= kMostBytes / 4;
 }
 
+bool operator==(const FileIdentity& a, const FileIdentity& b) {
+    return a.device == b.device && a.node == b.node && a.size == b.size &&
+           Same(a.written, b.written) && Same(a.changed, b.changed);
+}
+
+std::optional<FileIdentity> IdentityOf(const std::string& nativePath) {
+    struct stat status {};
+    if (stat(nativePath.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        return std::nullopt;
+    }
+    return MakeIdentity(status);
+}
+
 /// An open picture file with its reader set up.
 class PictureReader {
 public:
-    explicit PictureReader(const std::string& path) {
+    PictureReader(const std::string& path, const ReadingContext& context) : file_(context) {
         struct stat status {};
         const int fd = OpenPlain(path, status);
         if (fd < 0 || !file_.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
@@ -72,11 +111,11 @@ public:
             }
             return;
         }
-        identity_ = {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
+        identity_ = MakeIdentity(status);
         const QByteArray start = file_.peek(kSniffBytes);
         kind_ = SniffKind({start.constData(), static_cast<size_t>(start.size())});
         // Drawings may hold text, and fonts are there only once the toolkit stands.
-        if (kind_ == Kind::Svg && qGuiApp == nullptr) {
+        if (kind_ == Kind::Svg && (qGuiApp == nullptr || !context.drawings)) {
             kind_ = Kind::None;
         }
         if (kind_ != Kind::None) {
@@ -114,11 +153,7 @@ public:
     }
 
     bool IsSameFile(const PictureFile& known) const {
-        const PictureFile::Identity& before = known.identity_;
-        return kind_ == known.kind_ && identity_.device == before.device &&
-               identity_.node == before.node && identity_.size == before.size &&
-               identity_.changed.tv_sec == before.changed.tv_sec &&
-               identity_.changed.tv_nsec == before.changed.tv_nsec;
+        return kind_ == known.kind_ && identity_ == known.identity_;
     }
 
     QImage Decode(const PictureFile& file, Size size) {
@@ -134,17 +169,18 @@ public:
     }
 
 private:
-    QFile file_;
+    ReadableFile file_;
     QImageReader reader_;
     Kind kind_ = Kind::None;
-    PictureFile::Identity identity_;
+    FileIdentity identity_;
 };
 
-std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath) {
+std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath,
+                                               ReadingContext& context) {
     try {
         auto result = std::make_shared<PictureFile>();
         result->path_ = nativePath;
-        PictureReader reader(nativePath);
+        PictureReader reader(nativePath, context);
         return reader.ReadHeader(*result) ? result : nullptr;
     } catch (const std::bad_alloc&) {
         return nullptr;
@@ -162,17 +198,28 @@ bool PictureFile::DecodesScaledTo(Size size) const {
     return kind_ == Kind::Jpeg && smaller && scaledDecodeBytes_ <= kMostBytes;
 }
 
-BitmapPtr PictureFile::Decode(Size size, int* depth) const {
-    if (!FitsMemory(size)) {
+Size PictureFile::SizeToDecode(Size wanted) const {
+    const bool smaller = wanted.width <= own_.width && wanted.height <= own_.height;
+    const bool taken = IsDrawing() ? FitsMemory(wanted) : smaller && !wanted.Empty();
+    return taken ? wanted : own_;
+}
+
+int64_t PictureFile::WorkingBytes(Size size) const {
+    return DecodesScaledTo(size) ? scaledDecodeBytes_ : PixelBytes(own_);
+}
+
+BitmapPtr PictureFile::Decode(Size size, int* depth, ReadingContext& context) const {
+    const Size decoded = DecodesScaledTo(size) ? size : own_;
+    if (!FitsMemory(size) || !FitsMemory(decoded)) {
         return nullptr;
     }
     try {
-        PictureReader reader(path_);
+        PictureReader reader(path_, context);
         if (!reader.IsSameFile(*this)) {
             return nullptr;
         }
-        QImage image = reader.Decode(*this, size);
-        if (image.isNull()) {
+        QImage image = reader.Decode(*this, decoded);
+        if (image.isNull() || context.giveUp) {
             return nullptr;
         }
         if (depth != nullptr) {

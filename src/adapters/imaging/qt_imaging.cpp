@@ -27,29 +27,33 @@ bool Covers(Size outer, Size inner) {
 
 class QtImagingControl : public platform::ImagingControl {
 public:
-    explicit QtImagingControl(platform::Files& files) : files_(files) {}
+    QtImagingControl(platform::Files& files, ReadingContext& context, PreparedPictures& prepared)
+        : files_(files), context_(context), prepared_(prepared) {}
 
-    bool ReadInformation(TextView path) override { return OpenFile(path) != nullptr; }
+    bool ReadInformation(TextView path) override {
+        const std::optional<std::string> found = files_.Find(path);
+        return found && PictureFile::Open(*found, context_);
+    }
 
     bool Load(TextView path, const platform::FitFunction& fit) override {
         Clear();
-        const std::shared_ptr<PictureFile> file = OpenFile(path);
-        if (!file) {
+        const std::optional<std::string> found = files_.Find(path);
+        if (!found) {
             return false;
         }
-        const Size own = file->OwnSize();
-        const Size wanted = fit ? fit(own) : Size();
-        const bool scaled = file->DecodesScaledTo(wanted);
-        State fresh;
-        fresh.pixels = file->Decode(scaled ? wanted : own, &fresh.bitsPerPixel);
-        if (!fresh.pixels) {
+        std::optional<LoadedPicture> loaded = prepared_.Take(*found, fit);
+        if (!loaded) {
+            loaded = LoadPicture(*found, fit, context_);
+        }
+        if (!loaded->pixels) {
             return false;
         }
-        fresh.held = own;
-        if (scaled || file->IsDrawing()) {
-            fresh.source = std::make_shared<Source>(Source{file, {}});
+        state_.held = loaded->file->OwnSize();
+        state_.bitsPerPixel = loaded->bitsPerPixel;
+        state_.pixels = std::move(loaded->pixels);
+        if (!(SizeOf(*state_.pixels) == state_.held) || loaded->file->IsDrawing()) {
+            state_.source = std::make_shared<Source>(Source{std::move(loaded->file), {}});
         }
-        state_ = std::move(fresh);
         return true;
     }
 
@@ -136,11 +140,6 @@ private:
         int bitsPerPixel = 24;
     };
 
-    std::shared_ptr<PictureFile> OpenFile(TextView path) {
-        const std::optional<std::string> found = files_.Find(path);
-        return found ? PictureFile::Open(*found) : nullptr;
-    }
-
     /// The result of `work`, null where memory does not do.
     template <typename Work>
     static BitmapPtr Guarded(const Work& work) {
@@ -152,10 +151,10 @@ private:
     }
 
     /// The picture decoded whole, at most once for all controls that share it.
-    static BitmapPtr Whole(Source& source, Size size) {
+    BitmapPtr Whole(Source& source, Size size) {
         BitmapPtr whole = source.whole.lock();
         if (!whole || !(SizeOf(*whole) == size)) {
-            whole = source.file->Decode(size, nullptr);
+            whole = source.file->Decode(size, nullptr, context_);
             source.whole = whole;
         }
         return whole;
@@ -166,7 +165,7 @@ private:
         const bool sharper = state_.source && (state_.source->file->IsDrawing() ||
                                                !Covers(SizeOf(*state_.pixels), size));
         if (sharper && state_.source->file->DecodesScaledTo(size)) {
-            if (BitmapPtr decoded = state_.source->file->Decode(size, nullptr)) {
+            if (BitmapPtr decoded = state_.source->file->Decode(size, nullptr, context_)) {
                 return decoded;
             }
         }
@@ -192,12 +191,14 @@ private:
     }
 
     platform::Files& files_;
+    ReadingContext& context_;
+    PreparedPictures& prepared_;
     State state_;
 };
 
 }  // namespace
 
-QtImaging::QtImaging(platform::Files& files) : files_(files) {
+QtImaging::QtImaging(platform::Files& files, bool prepares) : files_(files), prepares_(prepares) {
     QImageReader::setAllocationLimit(static_cast<int>(kMostBytes >> 20));
 }
 
@@ -206,7 +207,20 @@ Text QtImaging::VersionText() const {
 }
 
 std::unique_ptr<platform::ImagingControl> QtImaging::MakeControl() {
-    return std::make_unique<QtImagingControl>(files_);
+    return std::make_unique<QtImagingControl>(files_, context_, prepared_);
+}
+
+void QtImaging::Prepare(const std::vector<platform::Wanted>& wanted) {
+    if (!prepares_) {
+        return;
+    }
+    std::vector<PreparedPictures::Wanted> found;
+    for (const platform::Wanted& one : wanted) {
+        if (std::optional<std::string> native = files_.Find(one.path)) {
+            found.push_back({std::move(*native), one.fit});
+        }
+    }
+    prepared_.Prepare(found);
 }
 
 }  // namespace imaging

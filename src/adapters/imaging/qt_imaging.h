@@ -1,6 +1,7 @@
 // The imaging control over Qt's picture readers.
 #pragma once
 
+#include "adapters/imaging/prepared_pictures.h"
 #include "platform/files.h"
 #include "platform/imaging.h"
 
@@ -8,17 +9,26 @@ namespace imaging {
 
 /// PNG, JPEG, BMP, TIFF, GIF, WebP and SVG, told apart by content. SVG needs a QGuiApplication.
 /// Pictures above 1 GiB of pixels are refused, but JPEG and SVG where the fitted size does.
-/// Everything runs on the caller's thread; nothing throws.
+/// Everything runs on the caller's thread but what is prepared, which has one of its own; nothing
+/// throws. Drawings are not prepared.
 class QtImaging : public platform::Imaging {
 public:
-    /// `files` must outlive this object and its controls.
-    explicit QtImaging(platform::Files& files);
+    /// `files` must outlive this object, and this object its controls. With `prepares` false
+    /// Prepare does nothing.
+    explicit QtImaging(platform::Files& files, bool prepares = true);
 
     Text VersionText() const override;
     std::unique_ptr<platform::ImagingControl> MakeControl() override;
+    void Prepare(const std::vector<platform::Wanted>& wanted) override;
+
+    /// What stands ready; for measuring and tests.
+    PreparedPictures& Prepared() { return prepared_; }
 
 private:
     platform::Files& files_;
+    bool prepares_;
+    ReadingContext context_;  // of the caller's thread
+    PreparedPictures prepared_;
 };
 
 }  // namespace imaging
