@@ -41,6 +41,7 @@ public:
     const TemporaryFolder& Folder() const { return folder_; }
     std::unique_ptr<platform::ImagingControl> Control() { return imaging_.MakeControl(); }
     imaging::QtImaging& Imaging() { return imaging_; }
+    platform::Files& Files() { return files_; }
 
 private:
     TemporaryFolder folder_;

@@ -1,5 +1,7 @@
 #include "adapters/imaging/prepared_pictures.h"
 
+#include <pthread.h>
+
 #include <algorithm>
 #include <chrono>
 #include <new>
@@ -182,6 +184,7 @@ void PreparedPictures::StartWorker() {
 }
 
 void PreparedPictures::Run() {
+    pthread_setname_np(pthread_self(), kPreparingThread);
     Lock lock(mutex_);
     while (!ending_) {
         working_ = NextWaiting();

@@ -29,6 +29,9 @@ LoadedPicture LoadPicture(const std::string& nativePath, const platform::FitFunc
 constexpr int64_t kMostHeldBytes = int64_t{128} << 20;
 constexpr int64_t kMostWorkingBytes = int64_t{256} << 20;
 
+/// Name that the system shows for the worker.
+constexpr const char* kPreparingThread = "picture ahead";
+
 /// Used by one thread. The worker starts when something is wanted first and ends with the object;
 /// it sleeps while there is nothing to do.
 class PreparedPictures {
