@@ -1,10 +1,8 @@
 // A 24-megapixel JPEG file to its picture fitted into full HD, against the JPEG library's own
 // scaled decode to the next larger size that it offers.
 #include <QGuiApplication>
-#include <QImage>
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <functional>
@@ -16,37 +14,13 @@
 
 #include "adapters/imaging/qt_imaging.h"
 #include "adapters/posix/posix_files.h"
+#include "photograph.h"
 
 namespace {
 
-constexpr int kWidth = 6000, kHeight = 4000;
 constexpr int kFittedWidth = 1620, kFittedHeight = 1080;
 constexpr int kRounds = 9;
 constexpr double kAllowed = 1.3;
-
-/// Something like a photograph: soft shapes with grain.
-QImage MakePhotograph() {
-    QImage image(kWidth, kHeight, QImage::Format_RGB32);
-    std::vector<int> waveX(kWidth), waveY(kHeight);
-    for (int x = 0; x < kWidth; ++x) {
-        waveX[static_cast<size_t>(x)] = static_cast<int>(60 * std::sin(x / 217.0));
-    }
-    for (int y = 0; y < kHeight; ++y) {
-        waveY[static_cast<size_t>(y)] = static_cast<int>(60 * std::cos(y / 131.0));
-    }
-    unsigned seed = 1;
-    for (int y = 0; y < kHeight; ++y) {
-        QRgb* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < kWidth; ++x) {
-            seed = seed * 1664525u + 1013904223u;
-            const int grain = static_cast<int>(seed >> 28);
-            const int base = waveX[static_cast<size_t>(x)] + waveY[static_cast<size_t>(y)] + 120;
-            row[x] = qRgb(std::clamp(base + grain, 0, 255), std::clamp(base / 2 + 60, 0, 255),
-                          std::clamp(220 - base + grain, 0, 255));
-        }
-    }
-    return image;
-}
 
 double Milliseconds(const std::function<bool()>& work) {
     const auto start = std::chrono::steady_clock::now();

@@ -73,6 +73,7 @@ public:
     std::unique_ptr<platform::ImagingControl> MakeControl() override {
         return std::make_unique<PlainControl>();
     }
+    void Prepare(const std::vector<platform::Wanted>&) override {}
 };
 
 class NoText : public platform::TextRenderer {

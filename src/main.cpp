@@ -41,7 +41,8 @@ constexpr const char* kUsage =
     "  parapico --resave IN OUT [--distribution]\n"
     "  parapico --check [--json] FILE...\n"
     "  parapico --robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N]\n"
-    "           [--now \"YYYY-MM-DD hh:mm:ss\"] [--screen WxH[,WxH…]] [--title] [DOCUMENT]\n";
+    "           [--now \"YYYY-MM-DD hh:mm:ss\"] [--screen WxH[,WxH…]]\n"
+    "           [--prepare on|off] [--title] [DOCUMENT]\n";
 
 /// Nobody listens.
 class NoTrace : public platform::Trace {
@@ -77,10 +78,10 @@ Text CommandText(const std::string& argument) {
 
 /// Everything but the loop, the boxes and the devices is the same on the desktop and in the robot.
 struct Surroundings {
-    explicit Surroundings(const std::string& appFolder)
+    explicit Surroundings(const std::string& appFolder, bool prepare = true)
         : programFolder(posix_adapter::ProgramFolder(appFolder)),
           files(programFolder),
-          imaging(files),
+          imaging(files, prepare),
           system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)) {
         system.FindWith(files);
     }
@@ -169,7 +170,7 @@ int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
         robot::Robot robot(*options, *trace);
         clock->loop = &robot.Loop();
         qt_adapter::Desktop desktop(argc, argv, {.offscreen = true, .screens = options->screens});
-        Surroundings around(robot.AppFolder());
+        Surroundings around(robot.AppFolder(), options->prepare);
         robot::TracedSystem system(around.system, *trace, false);
         Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
                                  around.imaging, desktop.TextRenderer(), robot.Sound(),

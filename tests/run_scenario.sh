@@ -1,5 +1,6 @@
 #!/bin/bash
-# run_scenario.sh PROGRAM SCRIPT DATA SCRATCH: plays one robot script.
+# run_scenario.sh PROGRAM SCRIPT DATA SCRATCH [OPTION VALUE]...: plays one robot script, with these
+# options of the robot ahead of its own.
 #
 # It runs in a fresh copy of the data, so that a scenario may change and delete files. Comments of
 # the script say what else is wanted:
@@ -18,6 +19,7 @@
 #                                                            volumes not at all
 set -euo pipefail
 program=$1 script=$2 data=$3 scratch=$4
+shift 4
 
 rm -rf "$scratch"
 mkdir -p "$scratch/app"
@@ -43,7 +45,7 @@ run=("$program")
 if [[ -n $(wanted held) ]]; then
     run=(env -u XDG_RUNTIME_DIR flock "$scratch/app/.parapico.lock" "$program")
 fi
-"${run[@]}" --robot "$script" --trace "$trace" --app-folder "$scratch/app" "${arguments[@]}" ||
+"${run[@]}" --robot "$script" --trace "$trace" --app-folder "$scratch/app" "$@" "${arguments[@]}" ||
     status=$?
 
 failed=0

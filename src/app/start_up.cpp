@@ -21,6 +21,7 @@
 #include "picture/video_window.h"
 #include "playback/control_box.h"
 #include "playback/full_screen.h"
+#include "playback/prepare.h"
 #include "playback/transport.h"
 #include "text/numbers.h"
 #include "text/paths.h"
@@ -169,6 +170,10 @@ void Form1_Load(Application& app, bool roomy) {
         state.SlideListEnd = static_cast<int16_t>(slides + 1);
     }
     TakeLinkListAtStart(app);
+    // Decoded while the windows are built.
+    if (StartsByItself(app)) {
+        playback::PrepareStart(app, true);
+    }
 }
 
 void Form1_Resize(Application& app) {
@@ -234,6 +239,7 @@ void RunProgram(Application& application, const StartOptions& options) {
         StartInFullScreen(application);
     } else {
         form1.Show();
+        playback::PrepareStart(application, false);
     }
     application.platform.loop.RunUntil([] { return false; });
     throw platform::ProgramEnd{};

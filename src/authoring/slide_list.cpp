@@ -3,6 +3,7 @@
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
 #include "document/state_files.h"
+#include "playback/prepare.h"
 #include "playback/transport.h"
 #include "text/paths.h"
 
@@ -78,6 +79,7 @@ void NewDocument(Application& app) {
     state.DocumentFileDate.clear();
     state.SlideListEnd = 0;
     state.SlideIndex = 0;
+    playback::ForgetPrepared(app);
     app.windows.form1.Caption = u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10";
     app.windows.form1.Timer1.Interval = kNewIntervalMs;
     DisableLinkedFileButtons(app.windows.form3);
@@ -111,6 +113,7 @@ void OpenDocument(Application& app, TextView path) {
     DisableLinkedFileButtons(form3);
     document::ReadShowDocument(app, path);
     form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
+    playback::PrepareStart(app, false);
 }
 
 void SaveDocument(Application& app) {

@@ -112,12 +112,7 @@ bool LoadSlidePicture(Application& app) {
     // Asked behind the redraw, which pumps events: the window can be closed in it.
     const bool fullScreen = state.FullScreenActive == 1;
     platform::ImagingControl& lead = *windows.form4.Lead1.imaging;
-    // The decoder may work scaled: for a random limit the largest that can be drawn.
-    const FitRule hint = CurrentRule(app, fullScreen, 1.0);
-    const auto wanted = [&hint](platform::Size own) {
-        return FittedSize(hint, own).value_or(platform::Size{});
-    };
-    if (!lead.ReadInformation(path) || !lead.Load(path, wanted)) {
+    if (!lead.ReadInformation(path) || !lead.Load(path, FitForLoad(app, fullScreen))) {
         return false;
     }
     if (lead.BitsPerPixel() != 24) {
@@ -147,6 +142,12 @@ bool LoadSlidePicture(Application& app) {
     SizePreview(app);
     windows.form1.Picture1.SetPicture(windows.form4.Picture1.Picture());
     return true;
+}
+
+platform::FitFunction FitForLoad(Application& app, bool fullScreen) {
+    return [hint = CurrentRule(app, fullScreen, 1.0)](platform::Size own) {
+        return FittedSize(hint, own).value_or(platform::Size{});
+    };
 }
 
 void HandleLoadFailure(Application& app) {

@@ -13,6 +13,10 @@ namespace picture {
 /// overlay muted the previous picture; the caller runs HandleLoadFailure.
 bool LoadSlidePicture(Application& app);
 
+/// How large a picture loaded now would be wanted: a pure function of its own size that holds the
+/// settings of this moment. For a random limit the largest that can be drawn; nothing is drawn.
+platform::FitFunction FitForLoad(Application& app, bool fullScreen);
+
 /// What follows a picture that cannot be read: the previews are emptied; unless the main window is
 /// minimised or the show is aborting already, the user is asked (or ListErrorDelete answers) and
 /// the entry leaves the lists, or ShowAbort becomes 1. Timer1 then ticks after 10 ms.

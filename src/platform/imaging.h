@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "platform/canvas.h"
 #include "text/text.h"
@@ -23,7 +24,8 @@ class ImagingControl {
 public:
     virtual ~ImagingControl() = default;
 
-    /// Reads the header. False for an unreadable file. Changes nothing.
+    /// Reads the file's start. False where that shows the file to be unreadable; Load may still
+    /// fail. Changes nothing.
     virtual bool ReadInformation(TextView path) = 0;
 
     /// Decodes the file at its own colour depth; alpha lies over white, EXIF orientation is
@@ -72,12 +74,26 @@ public:
     virtual void Clear() = 0;
 };
 
+/// A picture that will be loaded soon.
+struct Wanted {
+    Text path;
+    /// Called on another thread, maybe after the caller is gone: a pure function of values it
+    /// holds.
+    FitFunction fit;
+};
+
 class Imaging {
 public:
     virtual ~Imaging() = default;
     /// "… 1997": the last four characters are read as a number.
     virtual Text VersionText() const = 0;
     virtual std::unique_ptr<ImagingControl> MakeControl() = 0;
+
+    /// Pictures to decode ahead, the most urgent first, in place of those that were wanted before;
+    /// none: everything is let go. Only a hint: a later Load has the same result, also of a file
+    /// that changes meanwhile, and finds its picture decoded where time and memory sufficed. Cheap
+    /// to call again with what is wanted already.
+    virtual void Prepare(const std::vector<Wanted>& wanted) = 0;
 };
 
 }  // namespace platform

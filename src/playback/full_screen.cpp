@@ -11,6 +11,7 @@
 #include "playback/control_box.h"
 #include "playback/link_run.h"
 #include "playback/macro_clicks.h"
+#include "playback/prepare.h"
 #include "playback/slide_step.h"
 #include "playback/step_sound.h"
 #include "playback/transport.h"
@@ -32,6 +33,11 @@ void UnloadWithEndMark(Application& app) {
     app.state.FullScreenEndMark = 0;
 }
 
+/// Slide on the screen: a running show's index points at the one behind it.
+int ShownIndex(const model::ShowState& state) {
+    return state.ShowRunning == 1 ? state.SlideIndex - 1 : state.SlideIndex;
+}
+
 /// Clears the canvas and makes the picture on show ready for it at the size of its monitor.
 void FitToScreenAnew(Application& app) {
     app.windows.slidescreen.P2.SetPicture(nullptr);
@@ -48,6 +54,7 @@ void TakeOverRunningShow(Application& app) {
     picture::RunShowEffect(app);
     CopyCanvasForMacros(app);
     app.windows.SetPointer(model::kPointerNormal);
+    PrepareAround(app, ShownIndex(app.state));
     if (RunsForward(app)) {
         SetSlideInterval(app);
         app.windows.form1.Timer1.Enabled = true;
@@ -193,13 +200,9 @@ void ShowCaller(Application& app) {
     }
 }
 
-/// A running show's index points at the slide behind the one on the screen.
 bool HasCurrentPicture(const model::ShowState& state) {
-    if (state.SlideIndex <= 0) {
-        return false;
-    }
-    const int shown = state.ShowRunning == 1 ? state.SlideIndex - 1 : state.SlideIndex;
-    return !state.SlideList(state.SlideIndex).empty() || !state.SlideList(shown).empty();
+    return state.SlideIndex > 0 && (!state.SlideList(state.SlideIndex).empty() ||
+                                    !state.SlideList(ShownIndex(state)).empty());
 }
 
 void Form_Unload(Application& app) {
@@ -221,6 +224,9 @@ void Form_Unload(Application& app) {
     if (HasCurrentPicture(state) && state.ShowAbort != 1 &&
         (state.SizeAdjust == 0 || state.SizeAdjust == 1)) {
         picture::RefitHeldPicture(app, false);
+    }
+    if (state.SlideIndex > 0) {
+        PrepareAround(app, ShownIndex(state));
     }
     windows.form1.Picture1.AutoRedraw = true;
     windows.slidescreen.Hide();

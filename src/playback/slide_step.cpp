@@ -10,6 +10,7 @@
 #include "picture/overlay.h"
 #include "picture/screen.h"
 #include "picture/video_window.h"
+#include "playback/prepare.h"
 #include "playback/schedule.h"
 #include "playback/step_sound.h"
 #include "text/numbers.h"
@@ -104,6 +105,7 @@ Next ShowVideo(Application& app) {
     windows.form1.Caption = state.CurrentName;
     windows.form1.ShownSlide = state.SlideIndex;
     StartSoundBesideVideo(app);
+    PrepareAround(app, state.SlideIndex);
     picture::PlayVideo(app, path);
     state.LastWasVideo = 1;
     if (state.VideoStoppedByUser == 1 && state.MacroWaitClick != 1) {
@@ -192,6 +194,7 @@ Next ShowPicture(Application& app) {
     state.MacroEndShow = 0;
     app.windows.form1.ShownSlide = state.SlideIndex;
     TraceSlide(app);
+    PrepareAround(app, state.SlideIndex);
     CopyCanvasForMacros(app);
     if (state.LinkedSoundPosition == 1) {
         macro::RunTextMacro(app);
@@ -207,6 +210,8 @@ Next ShowPicture(Application& app) {
     if (state.LinkedSoundPosition == 0) {
         macro::RunTextMacro(app);
     }
+    // A macro may have set another size, or jumped.
+    PrepareAround(app, state.SlideIndex);
     return Next::End;
 }
 

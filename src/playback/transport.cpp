@@ -8,6 +8,7 @@
 #include "playback/full_screen.h"
 #include "playback/link_run.h"
 #include "playback/macro_clicks.h"
+#include "playback/prepare.h"
 #include "playback/schedule.h"
 #include "playback/slide_step.h"
 #include "playback/step_sound.h"
@@ -210,6 +211,7 @@ void ClearRun(Application& app) {
     app.windows.form1.ShownSlide = 0;
     app.windows.form1.Timer1.Enabled = false;
     picture::ClearPreview(app);
+    ForgetPrepared(app);
 }
 
 void SetSlideInterval(Application& app) {
@@ -297,6 +299,7 @@ void Command2_Click(Application& app) {
             form1.Command7.Enabled = true;
         }
         form1.Command1.Enabled = true;
+        PrepareAround(app, state.SlideIndex);
     }
 }
 

@@ -34,8 +34,8 @@ QByteArray PngHeader(int width, int height);
 
 class ImagingFolder {
 public:
-    explicit ImagingFolder(door::ClientOptions decoder = {})
-        : imaging_(files_, std::move(decoder)) {}
+    explicit ImagingFolder(const door::ClientOptions& decoder = {})
+        : imaging_(files_, true, decoder) {}
 
     Text Put(const std::string& name, const QByteArray& bytes) {
         folder_.Put(name, bytes.toStdString());
@@ -44,6 +44,7 @@ public:
     const TemporaryFolder& Folder() const { return folder_; }
     std::unique_ptr<platform::ImagingControl> Control() { return imaging_.MakeControl(); }
     imaging::QtImaging& Imaging() { return imaging_; }
+    platform::Files& Files() { return files_; }
 
 private:
     TemporaryFolder folder_;

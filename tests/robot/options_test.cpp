@@ -21,15 +21,17 @@ TEST(RobotArguments, DefaultsWithAScriptAlone) {
     EXPECT_EQ(platform::DateTimeText(options->now), u"2026/01/01 12:00:00");
     EXPECT_EQ(options->screens, (std::vector<platform::Rect>{{0, 0, 1920, 1080}}));
     EXPECT_FALSE(options->title);
+    EXPECT_TRUE(options->prepare);
     EXPECT_EQ(options->document, "");
 }
 
 TEST(RobotArguments, EveryOptionInAnyOrder) {
     std::string error;
-    const auto options = ParseRobotArguments(
-        {"旅.kvs", "--title", "--screen", "1280x720,800x600", "--now", "2024-02-29 23:59:58",
-         "--seed", "42", "--app-folder", "app", "--trace", "-", "--robot", "a.robot"},
-        error);
+    const auto options =
+        ParseRobotArguments({"旅.kvs", "--title", "--screen", "1280x720,800x600", "--now",
+                             "2024-02-29 23:59:58", "--seed", "42", "--app-folder", "app",
+                             "--trace", "-", "--prepare", "off", "--robot", "a.robot"},
+                            error);
     ASSERT_TRUE(options) << error;
     EXPECT_EQ(options->document, "旅.kvs");
     EXPECT_TRUE(options->title);
@@ -39,6 +41,7 @@ TEST(RobotArguments, EveryOptionInAnyOrder) {
     EXPECT_EQ(options->seed, 42u);
     EXPECT_EQ(options->appFolder, "app");
     EXPECT_EQ(options->trace, "-");
+    EXPECT_FALSE(options->prepare);
 }
 
 TEST(RobotArguments, BehindTwoDashesStandsTheDocument) {
@@ -59,6 +62,9 @@ TEST(RobotArguments, WrongUsageIsTold) {
     for (const char* value : {"", "1920", "1920x", "0x100", "100x-1", "100x100,", "40000x100",
                               "1920X1080", "1920x1080x2"}) {
         EXPECT_NE(Refusal({"--robot", "a", "--screen", value}), "accepted") << value;
+    }
+    for (const char* value : {"", "yes", "ON"}) {
+        EXPECT_NE(Refusal({"--robot", "a", "--prepare", value}), "accepted") << value;
     }
     for (const char* value : {"", "12:00:00", "2026-13-01 00:00:00", "2026-02-30 00:00:00",
                               "2026-01-01 25:00:00", "2026/01/01 12:00:00", "tomorrow"}) {

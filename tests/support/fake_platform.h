@@ -185,6 +185,8 @@ public:
     std::unique_ptr<platform::ImagingControl> MakeControl() override {
         return std::make_unique<FakeImagingControl>(files_, log);
     }
+    std::vector<platform::Wanted> wanted;  // of the last Prepare
+    void Prepare(const std::vector<platform::Wanted>& list) override { wanted = list; }
 
 private:
     platform::Files& files_;

@@ -1,5 +1,6 @@
 #include "adapters/door/client.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -7,7 +8,8 @@
 
 namespace door {
 
-Client::Client(ClientOptions options) : options_(std::move(options)) {}
+Client::Client(ClientOptions options, const std::atomic<bool>* giveUp)
+    : options_(std::move(options)), giveUp_(giveUp) {}
 
 Client::~Client() {
     for (const Role role : {Role::Raster, Role::Eps, Role::Svg}) {
@@ -50,14 +52,28 @@ Result Client::Ask(Request& request, int file) {
     return result;
 }
 
+/// The answer, or nothing when the limit has passed or the caller gives up.
+Received Client::Wait(int socket) const {
+    if (giveUp_ == nullptr) {
+        return Receive(socket, options_.limitMilliseconds);
+    }
+    constexpr int kLookMilliseconds = 20;
+    Received received;
+    for (int left = options_.limitMilliseconds;
+         received.state == Received::State::Nothing && left > 0 && !*giveUp_;
+         left -= kLookMilliseconds) {
+        received = Receive(socket, std::min(left, kLookMilliseconds));
+    }
+    return received;
+}
+
 Result Client::AnswerTo(const Request& request, int file) {
     const Role role = RoleOf(static_cast<Kind>(request.kind));
     Result result;
     if (!SendRequest(role, request, file)) {
         return result;
     }
-    const Received received =
-        Receive(processes_[static_cast<int>(role)]->socket.Get(), options_.limitMilliseconds);
+    const Received received = Wait(processes_[static_cast<int>(role)]->socket.Get());
     const auto answer = ParseAnswer(received.Bytes(), received.descriptors.size(), request);
     if (received.state != Received::State::Message) {
         const bool gone = received.state == Received::State::Gone;

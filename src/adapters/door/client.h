@@ -1,6 +1,7 @@
 // The program's side of the door: has pictures decoded that the toolkit does not read.
 #pragma once
 
+#include <atomic>
 #include <optional>
 #include <string>
 #include <vector>
@@ -40,7 +41,9 @@ struct Result {
 /// the thread that it served.
 class Client {
 public:
-    explicit Client(ClientOptions options = {});
+    /// `giveUp`, where there is one, may be set by another thread: what is being waited for then
+    /// comes late at once. It must outlive the client.
+    explicit Client(ClientOptions options = {}, const std::atomic<bool>* giveUp = nullptr);
     ~Client();
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
@@ -55,11 +58,13 @@ public:
 
 private:
     Result Ask(Request& request, int file);
+    Received Wait(int socket) const;
     Result AnswerTo(const Request& request, int file);
     bool SendRequest(Role role, const Request& request, int file);
     void Forget(Role role);
 
     ClientOptions options_;
+    const std::atomic<bool>* giveUp_;
     std::optional<Process> processes_[kRoles];
     uint32_t serial_ = 0;
 };

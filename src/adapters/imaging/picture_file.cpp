@@ -36,6 +36,32 @@ int OpenPlain(const std::string& path, struct stat& status) {
     return fd;
 }
 
+bool Same(const timespec& a, const timespec& b) {
+    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+FileIdentity MakeIdentity(const struct stat& status) {
+    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim, status.st_ctim};
+}
+
+int64_t PixelBytes(Size size) {
+    return int64_t{size.width} * size.height * static_cast<int64_t>(sizeof(platform::Pixel));
+}
+
+/// A file that seems cut off as soon as its reader is to give up.
+class ReadableFile : public QFile {
+public:
+    explicit ReadableFile(const ReadingContext& context) : context_(context) {}
+
+protected:
+    qint64 readData(char* data, qint64 most) override {
+        return context_.giveUp ? -1 : QFile::readData(data, most);
+    }
+
+private:
+    const ReadingContext& context_;
+};
+
 /// Bits per pixel that a drawing has before it was drawn.
 constexpr int kDrawnDepth = 32;
 
@@ -63,10 +89,23 @@ bool FitsMemory(Size size) {
     return door::FitsBound(size);
 }
 
+bool operator==(const FileIdentity& a, const FileIdentity& b) {
+    return a.device == b.device && a.node == b.node && a.size == b.size &&
+           Same(a.written, b.written) && Same(a.changed, b.changed);
+}
+
+std::optional<FileIdentity> IdentityOf(const std::string& nativePath) {
+    struct stat status {};
+    if (stat(nativePath.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        return std::nullopt;
+    }
+    return MakeIdentity(status);
+}
+
 /// An open picture file with its reader set up.
 class PictureReader {
 public:
-    explicit PictureReader(const std::string& path) {
+    PictureReader(const std::string& path, const ReadingContext& context) : file_(context) {
         struct stat status {};
         const int fd = OpenPlain(path, status);
         if (fd < 0 || !file_.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
@@ -75,7 +114,7 @@ public:
             }
             return;
         }
-        identity_ = {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
+        identity_ = MakeIdentity(status);
         const QByteArray start = file_.peek(kSniffBytes);
         kind_ = SniffKind(ViewOf(start));
         if (kind_ == Kind::Svg) {
@@ -137,11 +176,7 @@ public:
     }
 
     bool IsSameFile(const PictureFile& known) const {
-        const PictureFile::Identity& before = known.identity_;
-        return kind_ == known.kind_ && foreign_ == known.foreign_ &&
-               identity_.device == before.device && identity_.node == before.node &&
-               identity_.size == before.size && identity_.changed.tv_sec == before.changed.tv_sec &&
-               identity_.changed.tv_nsec == before.changed.tv_nsec;
+        return kind_ == known.kind_ && foreign_ == known.foreign_ && identity_ == known.identity_;
     }
 
     QImage Decode(const PictureFile& file, Size size) {
@@ -167,33 +202,36 @@ private:
         return file_.read(kEnd);
     }
 
-    QFile file_;
+    ReadableFile file_;
     QImageReader reader_;
     Kind kind_ = Kind::None;
     door::Kind foreign_ = door::Kind::None;
-    PictureFile::Identity identity_;
+    FileIdentity identity_;
 };
 
-std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath,
-                                               door::Client& decoder) {
+bool PictureFile::Recognises(const std::string& nativePath, ReadingContext& context) {
     try {
-        auto result = std::make_shared<PictureFile>();
-        result->path_ = nativePath;
-        PictureReader reader(nativePath);
-        reader.Identify(*result);
-        const bool read = reader.Foreign() == door::Kind::None ? reader.ReadHeader(*result)
-                                                               : reader.AskSize(*result, decoder);
-        return read ? result : nullptr;
+        PictureReader reader(nativePath, context);
+        PictureFile header;
+        return reader.Foreign() != door::Kind::None || reader.ReadHeader(header);
     } catch (const std::bad_alloc&) {
-        return nullptr;
+        return false;
     }
 }
 
-bool PictureFile::IsUnchanged() const {
+std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath,
+                                               ReadingContext& context) {
     try {
-        return PictureReader(path_).IsSameFile(*this);
+        auto result = std::make_shared<PictureFile>();
+        result->path_ = nativePath;
+        PictureReader reader(nativePath, context);
+        reader.Identify(*result);
+        const bool read = reader.Foreign() == door::Kind::None
+                              ? reader.ReadHeader(*result)
+                              : reader.AskSize(*result, context.decoder);
+        return read ? result : nullptr;
     } catch (const std::bad_alloc&) {
-        return false;
+        return nullptr;
     }
 }
 
@@ -208,43 +246,55 @@ bool PictureFile::DecodesScaledTo(Size size) const {
     return kind_ == Kind::Jpeg && smaller && scaledDecodeBytes_ <= kMostBytes;
 }
 
-BitmapPtr PictureFile::DecodeForeign(Size size, door::Client& decoder) const {
+Size PictureFile::SizeToDecode(Size wanted) const {
+    const bool smaller = wanted.width <= own_.width && wanted.height <= own_.height;
+    const bool taken = IsDrawing() ? FitsMemory(wanted) : smaller && !wanted.Empty();
+    return taken ? wanted : own_;
+}
+
+int64_t PictureFile::WorkingBytes(Size size) const {
+    return DecodesScaledTo(size) ? scaledDecodeBytes_ : PixelBytes(own_);
+}
+
+BitmapPtr PictureFile::DecodeHere(Size size, int* depth, ReadingContext& context) const {
+    PictureReader reader(path_, context);
+    if (!reader.IsSameFile(*this)) {
+        return nullptr;
+    }
+    QImage image = reader.Decode(*this, size);
+    if (image.isNull() || context.giveUp) {
+        return nullptr;
+    }
+    if (depth != nullptr) {
+        *depth = DepthOf(image);
+    }
+    return OverWhite(std::move(image));
+}
+
+BitmapPtr PictureFile::DecodeForeign(Size size, ReadingContext& context) const {
     BitmapPtr pixels = ready_.exchange(nullptr);
     if (pixels && size == own_) {
         return pixels;
     }
-    PictureReader reader(path_);
+    PictureReader reader(path_, context);
     if (!reader.IsSameFile(*this)) {
         return nullptr;
     }
-    pixels = reader.DecodeForeign(size == own_ ? Size() : size, decoder).pixels;
-    const bool asAsked = pixels && pixels->width == size.width && pixels->height == size.height;
-    return asAsked || !pixels ? pixels : Smooth(*pixels, size);
+    return reader.DecodeForeign(size == own_ ? Size() : size, context.decoder).pixels;
 }
 
-BitmapPtr PictureFile::Decode(Size size, int* depth, door::Client& decoder) const {
-    if (!FitsMemory(size)) {
+BitmapPtr PictureFile::Decode(Size size, int* depth, ReadingContext& context) const {
+    const Size decoded = DecodesScaledTo(size) ? size : own_;
+    if (!FitsMemory(size) || !FitsMemory(decoded)) {
         return nullptr;
     }
+    const bool foreign = foreign_ != door::Kind::None;
+    if (foreign && depth != nullptr) {
+        *depth = foreignDepth_;
+    }
     try {
-        if (foreign_ != door::Kind::None) {
-            if (depth != nullptr) {
-                *depth = foreignDepth_;
-            }
-            return DecodeForeign(size, decoder);
-        }
-        PictureReader reader(path_);
-        if (!reader.IsSameFile(*this)) {
-            return nullptr;
-        }
-        QImage image = reader.Decode(*this, size);
-        if (image.isNull()) {
-            return nullptr;
-        }
-        if (depth != nullptr) {
-            *depth = DepthOf(image);
-        }
-        BitmapPtr pixels = OverWhite(std::move(image));
+        BitmapPtr pixels =
+            foreign ? DecodeForeign(decoded, context) : DecodeHere(decoded, depth, context);
         const bool asAsked = pixels && pixels->width == size.width && pixels->height == size.height;
         return asAsked || !pixels ? pixels : Smooth(*pixels, size);
     } catch (const std::bad_alloc&) {

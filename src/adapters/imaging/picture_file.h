@@ -6,7 +6,9 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "adapters/door/client.h"
 #include "adapters/imaging/sniff.h"
@@ -18,14 +20,44 @@ namespace imaging {
 constexpr int64_t kMostBytes = door::kMostPixelBytes;
 bool FitsMemory(platform::Size size);
 
+/// Which file it is, and in what state of its content. The last change of the inode counts too:
+/// whoever puts size and write time back cannot put that back.
+struct FileIdentity {
+    dev_t device = 0;
+    ino_t node = 0;
+    off_t size = 0;
+    timespec written{}, changed{};
+    friend bool operator==(const FileIdentity& a, const FileIdentity& b);
+};
+
+/// Nullopt where there is no plain file.
+std::optional<FileIdentity> IdentityOf(const std::string& nativePath);
+
+/// What each thread that reads pictures has of its own.
+struct ReadingContext {
+    explicit ReadingContext(door::ClientOptions options = {})
+        : decoder(std::move(options), &giveUp) {}
+
+    /// May be set by another thread: from then on reads fail, so that a decoder ends soon.
+    std::atomic<bool> giveUp{false};
+    door::Client decoder;
+};
+
 /// A file whose header was read. Immutable; stays usable when the file is gone, but for decoding.
-/// SVG, and what the toolkit does not read, is decoded by `decoder`, the calling thread's own.
+/// One thread may open it and another one decode it. SVG, and what the toolkit does not read, is
+/// decoded behind the door.
 class PictureFile {
 public:
+    /// False where the file's start shows that Open would fail. Decodes nothing, never throws.
+    static bool Recognises(const std::string& nativePath, ReadingContext& context);
+
     /// Nullptr where the file is no plain file, cannot be opened, is of no known kind or has an
-    /// unreadable header. Waits for nothing but the decoder; never throws. Where nothing less
-    /// tells the size, the picture is decoded here, and the first Decode has it ready.
-    static std::shared_ptr<PictureFile> Open(const std::string& nativePath, door::Client& decoder);
+    /// unreadable header. Waits for nothing but the decoder behind the door; never throws. Where
+    /// nothing less tells the size, the picture is decoded here, and the first Decode has it ready.
+    static std::shared_ptr<PictureFile> Open(const std::string& nativePath,
+                                             ReadingContext& context);
+
+    const FileIdentity& Identity() const { return identity_; }
 
     /// The picture's own size, turned upright.
     platform::Size OwnSize() const { return own_; }
@@ -33,34 +65,34 @@ public:
     /// True for a drawing without pixels of its own, sharp at every size.
     bool IsDrawing() const { return foreign_ == door::Kind::Svg || foreign_ == door::Kind::Eps; }
 
-    /// Whether the file is still the one that was opened.
-    bool IsUnchanged() const;
-
     /// Whether decoding at this size is less work than decoding whole.
     bool DecodesScaledTo(platform::Size size) const;
 
-    /// Opaque pixels of the given size; `size` must be the own size or one that DecodesScaledTo.
-    /// Null when the file is damaged, gone, or another one than it was, or when the memory would
-    /// not do. `depth` (may be null) gets the file's bits per pixel.
-    platform::BitmapPtr Decode(platform::Size size, int* depth, door::Client& decoder) const;
+    /// Size at which to decode a picture that will be wanted at `wanted`: that, where it is known
+    /// and not larger than the picture, otherwise the own size. A drawing takes any.
+    platform::Size SizeToDecode(platform::Size wanted) const;
+
+    /// Memory that decoding at `size` takes on its way, without the result.
+    int64_t WorkingBytes(platform::Size size) const;
+
+    /// Opaque pixels of the given size, decoded whole and scaled down where no scaled decoding is
+    /// to be had. Null when the file is damaged, gone, or another one than it was, when the
+    /// context gave up, or when the memory would not do. `depth` (may be null) gets the file's
+    /// bits per pixel.
+    platform::BitmapPtr Decode(platform::Size size, int* depth, ReadingContext& context) const;
 
 private:
-    struct Identity {
-        dev_t device = 0;
-        ino_t node = 0;
-        off_t size = 0;
-        timespec changed{};
-    };
     friend class PictureReader;
 
-    platform::BitmapPtr DecodeForeign(platform::Size size, door::Client& decoder) const;
+    platform::BitmapPtr DecodeHere(platform::Size size, int* depth, ReadingContext& context) const;
+    platform::BitmapPtr DecodeForeign(platform::Size size, ReadingContext& context) const;
 
     std::string path_;
     Kind kind_ = Kind::None;
     door::Kind foreign_ = door::Kind::None;  // what is decoded behind the door
     int foreignDepth_ = 0;
     mutable std::atomic<platform::BitmapPtr> ready_;  // of the own size, until the first Decode
-    Identity identity_;
+    FileIdentity identity_;
     platform::Size own_;
     bool sideways_ = false;          // stored turned by a quarter
     int64_t scaledDecodeBytes_ = 0;  // working memory of a scaled decode beside its result

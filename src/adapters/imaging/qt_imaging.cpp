@@ -27,38 +27,33 @@ bool Covers(Size outer, Size inner) {
 
 class QtImagingControl : public platform::ImagingControl {
 public:
-    QtImagingControl(platform::Files& files, door::Client& decoder)
-        : files_(files), decoder_(decoder) {}
+    QtImagingControl(platform::Files& files, ReadingContext& context, PreparedPictures& prepared)
+        : files_(files), context_(context), prepared_(prepared) {}
 
     bool ReadInformation(TextView path) override {
-        opened_ = OpenFile(path);
-        openedPath_ = path;
-        return opened_ != nullptr;
+        const std::optional<std::string> found = files_.Find(path);
+        return found && PictureFile::Recognises(*found, context_);
     }
 
     bool Load(TextView path, const platform::FitFunction& fit) override {
         Clear();
-        // Opening may have meant decoding: it is not done twice.
-        std::shared_ptr<PictureFile> file = std::exchange(opened_, nullptr);
-        if (!file || openedPath_ != path || !file->IsUnchanged()) {
-            file = OpenFile(path);
-        }
-        if (!file) {
+        const std::optional<std::string> found = files_.Find(path);
+        if (!found) {
             return false;
         }
-        const Size own = file->OwnSize();
-        const Size wanted = fit ? fit(own) : Size();
-        const bool scaled = file->DecodesScaledTo(wanted);
-        State fresh;
-        fresh.pixels = file->Decode(scaled ? wanted : own, &fresh.bitsPerPixel, decoder_);
-        if (!fresh.pixels) {
+        std::optional<LoadedPicture> loaded = prepared_.Take(*found, fit);
+        if (!loaded) {
+            loaded = LoadPicture(*found, fit, context_);
+        }
+        if (!loaded->pixels) {
             return false;
         }
-        fresh.held = own;
-        if (scaled || file->IsDrawing()) {
-            fresh.source = std::make_shared<Source>(Source{file, {}});
+        state_.held = loaded->file->OwnSize();
+        state_.bitsPerPixel = loaded->bitsPerPixel;
+        state_.pixels = std::move(loaded->pixels);
+        if (!(SizeOf(*state_.pixels) == state_.held) || loaded->file->IsDrawing()) {
+            state_.source = std::make_shared<Source>(Source{std::move(loaded->file), {}});
         }
-        state_ = std::move(fresh);
         return true;
     }
 
@@ -114,7 +109,7 @@ public:
         if (!Holds() || SizeOf(*state_.pixels) == state_.held) {
             return state_.pixels;
         }
-        BitmapPtr whole = state_.source ? Whole(*state_.source, state_.held, decoder_) : nullptr;
+        BitmapPtr whole = state_.source ? Whole(*state_.source, state_.held) : nullptr;
         if (!whole && FitsMemory(state_.held)) {
             whole = Guarded([&] { return Smooth(*state_.pixels, state_.held); });
         }
@@ -145,11 +140,6 @@ private:
         int bitsPerPixel = 24;
     };
 
-    std::shared_ptr<PictureFile> OpenFile(TextView path) {
-        const std::optional<std::string> found = files_.Find(path);
-        return found ? PictureFile::Open(*found, decoder_) : nullptr;
-    }
-
     /// The result of `work`, null where memory does not do.
     template <typename Work>
     static BitmapPtr Guarded(const Work& work) {
@@ -161,10 +151,10 @@ private:
     }
 
     /// The picture decoded whole, at most once for all controls that share it.
-    static BitmapPtr Whole(Source& source, Size size, door::Client& decoder) {
+    BitmapPtr Whole(Source& source, Size size) {
         BitmapPtr whole = source.whole.lock();
         if (!whole || !(SizeOf(*whole) == size)) {
-            whole = source.file->Decode(size, nullptr, decoder);
+            whole = source.file->Decode(size, nullptr, context_);
             source.whole = whole;
         }
         return whole;
@@ -175,7 +165,7 @@ private:
         const bool sharper = state_.source && (state_.source->file->IsDrawing() ||
                                                !Covers(SizeOf(*state_.pixels), size));
         if (sharper && state_.source->file->DecodesScaledTo(size)) {
-            if (BitmapPtr decoded = state_.source->file->Decode(size, nullptr, decoder_)) {
+            if (BitmapPtr decoded = state_.source->file->Decode(size, nullptr, context_)) {
                 return decoded;
             }
         }
@@ -201,16 +191,15 @@ private:
     }
 
     platform::Files& files_;
-    door::Client& decoder_;
+    ReadingContext& context_;
+    PreparedPictures& prepared_;
     State state_;
-    std::shared_ptr<PictureFile> opened_;  // by ReadInformation, for the Load that follows
-    Text openedPath_;
 };
 
 }  // namespace
 
-QtImaging::QtImaging(platform::Files& files, door::ClientOptions decoder)
-    : files_(files), decoder_(std::move(decoder)) {
+QtImaging::QtImaging(platform::Files& files, bool prepares, const door::ClientOptions& decoder)
+    : files_(files), prepares_(prepares), context_(decoder), prepared_(decoder) {
     QImageReader::setAllocationLimit(static_cast<int>(kMostBytes >> 20));
 }
 
@@ -219,7 +208,20 @@ Text QtImaging::VersionText() const {
 }
 
 std::unique_ptr<platform::ImagingControl> QtImaging::MakeControl() {
-    return std::make_unique<QtImagingControl>(files_, decoder_);
+    return std::make_unique<QtImagingControl>(files_, context_, prepared_);
+}
+
+void QtImaging::Prepare(const std::vector<platform::Wanted>& wanted) {
+    if (!prepares_) {
+        return;
+    }
+    std::vector<PreparedPictures::Wanted> found;
+    for (const platform::Wanted& one : wanted) {
+        if (std::optional<std::string> native = files_.Find(one.path)) {
+            found.push_back({std::move(*native), one.fit});
+        }
+    }
+    prepared_.Prepare(found);
 }
 
 }  // namespace imaging

@@ -2,26 +2,35 @@
 #pragma once
 
 #include "adapters/door/client.h"
+#include "adapters/imaging/prepared_pictures.h"
 #include "platform/files.h"
 #include "platform/imaging.h"
 
 namespace imaging {
 
-/// PNG, JPEG, BMP, TIFF, GIF, WebP, told apart by content; SVG and what is none of these is decoded
-/// behind the door, in a process of its own. Pictures above 1 GiB of
-/// pixels are refused, but JPEG and SVG where the fitted size does. Everything runs on the caller's
-/// thread; nothing throws. Must outlive its controls.
+/// PNG, JPEG, BMP, TIFF, GIF and WebP, told apart by content; SVG and what is none of these is
+/// decoded behind the door, in a process of its own. Pictures above 1 GiB of pixels are refused,
+/// but JPEG and drawings where the fitted size does. Everything runs on the caller's thread but
+/// what is prepared, which has one of its own; nothing throws.
 class QtImaging : public platform::Imaging {
 public:
-    /// `files` must outlive this object and its controls.
-    explicit QtImaging(platform::Files& files, door::ClientOptions decoder = {});
+    /// `files` must outlive this object, and this object its controls. With `prepares` false
+    /// Prepare does nothing.
+    explicit QtImaging(platform::Files& files, bool prepares = true,
+                       const door::ClientOptions& decoder = {});
 
     Text VersionText() const override;
     std::unique_ptr<platform::ImagingControl> MakeControl() override;
+    void Prepare(const std::vector<platform::Wanted>& wanted) override;
+
+    /// What stands ready; for measuring and tests.
+    PreparedPictures& Prepared() { return prepared_; }
 
 private:
     platform::Files& files_;
-    door::Client decoder_;
+    bool prepares_;
+    ReadingContext context_;  // of the caller's thread
+    PreparedPictures prepared_;
 };
 
 }  // namespace imaging

@@ -62,6 +62,9 @@ bool ReadOption(const std::string& name, const std::string& value, RobotOptions&
         good = ReadMoment(value, options.now);
     } else if (name == "--screen") {
         good = ReadScreens(value, options.screens);
+    } else if (name == "--prepare") {
+        good = value == "on" || value == "off";
+        options.prepare = value == "on";
     } else {
         error = "unknown option: " + name;
         return false;

@@ -55,6 +55,7 @@ public:
 
 class BlindImaging : public platform::Imaging {
 public:
+    void Prepare(const std::vector<platform::Wanted>&) override {}
     Text VersionText() const override { return u"0"; }
     std::unique_ptr<platform::ImagingControl> MakeControl() override {
         return std::make_unique<BlindControl>();
