@@ -99,6 +99,8 @@ def make_tga():
         put(f"tga_palette_{name}.tga", by_hand.tga(indexes, 1 + runs, 8, colours))
         put(f"tga_alpha_{name}.tga", by_hand.tga(alpha, 2 + runs, 32, alpha_bits=8))
         put(f"tga_16_{name}.tga", by_hand.tga(five, 2 + runs, 16))
+    put("tga_alpha_unused.tga",
+        by_hand.tga([[by_hand.bgr(p + (0,)) for p in row] for row in src.card()], 2, 32))
     put("tga_topdown.tga", by_hand.tga(card, 2, 24, top_down=True))
     put("tga_rightleft.tga", by_hand.tga(card, 2, 24, top_down=True, right_left=True))
     put("tga_rightleft_up.tga", by_hand.tga(card, 2, 24, right_left=True))
@@ -155,7 +157,6 @@ def make_ras():
                                           WIDTH, 24, 3))
     run("pnmtorast", "-standard", source("card.ppm"), to="ras_netpbm.ras")
     run("pnmtorast", "-rle", source("card.ppm"), to="ras_netpbm_rle.ras")
-    run("pnmtorast", "-rle", source("mono.pbm"), to="ras_netpbm_mono.ras")
     run("pnmtorast", "-rle", source("grey.pgm"), to="ras_netpbm_grey.ras")
     run("gm", "convert", source("card.ppm"), "ras_gm.ras")
     run("ffmpeg", "-v", "error", "-y", "-i", source("card.ppm"), "-c:v", "sunrast", "-f",
@@ -189,6 +190,8 @@ def make_wpg_and_pct():
     flags = [[p == BLACK for p in row] for row in src.mono()]
     put("pct_version1.pct", by_hand.pct(flags, True))
     put("pct_version1_bare.pct", by_hand.pct(flags, False))
+    put("pct_version1_packed.pct", by_hand.pct([[p == BLACK for p in row] for row in src.MAC_PAGE],
+                                               True))
     run("ppmtopict", source("pal256.ppm"), to="pct_netpbm.pct")
     run("gm", "convert", source("card.ppm"), "pct_gm.pct")
     run("gm", "convert", source("pal256.ppm"), "-type", "Palette", "pct_gm_palette.pct")
@@ -217,6 +220,7 @@ def make_new_kinds():
     for kind, extra in (("heic", []), ("avif", ["-A"])):
         run("heif-enc", *extra, "-q", "95", even, "-o", f"{kind}_card.{kind}")
         run("heif-enc", *extra, "-q", "95", card, "-o", f"{kind}_odd.{kind}")
+        run("heif-enc", *extra, "-q", "95", "-p", "chroma=444", card, "-o", f"{kind}_444.{kind}")
         run("heif-enc", *extra, "-q", "95", source("grey_pgm.png"), "-o", f"{kind}_grey.{kind}")
         run("heif-enc", *extra, "-q", "95", source("alpha.png"), "-o", f"{kind}_alpha.{kind}")
     run("heif-enc", "-q", "95", "-b", "10", source("deep_ppm.png"), "-o", "heic_10bit.heic")
@@ -231,7 +235,6 @@ def make_new_kinds():
     run("cjxl", source("deep_ppm.png"), "jxl_16bit.jxl", "-d", "0")
     run("cjxl", source("deep_pgm.png"), "jxl_grey16.jxl", "-d", "0")
     run("gm", "convert", source("photo.ppm"), "pcd_gm.pcd")
-    run("convert-im6", source("photo.ppm"), "pcd_im.pcd")
 
 
 out.mkdir(parents=True, exist_ok=True)

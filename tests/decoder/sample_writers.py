@@ -308,9 +308,10 @@ def pct(rows, headed):
     data = b""
     for row in rows:
         run = pack_bits(bits(row, 2))
-        data += bytes([len(run)]) + run
+        # Short rows are never packed.
+        data += bytes([len(run)]) + run if line >= 8 else bits(row, 2)
     body = b"\x11\x01" + b"\x01" + be16(10) + frame
-    body += b"\x98" + be16(line) + frame + frame + frame + be16(0) + data + b"\xFF"
+    body += (b"\x98" if line >= 8 else b"\x90") + be16(line) + frame + frame + frame + be16(0) + data + b"\xFF"
     return (bytes(512) if headed else b"") + be16(len(body) + 2 & 0xFFFF) + frame + body
 
 
