@@ -3,6 +3,7 @@
 where none does, made by hand. FOLDER/<kind>_<variant>.<ext> are for the decoder, FOLDER/toolkit/
 for the toolkit, FOLDER/sources/*.ppm is what they show. A writer that is missing fails the run."""
 import pathlib
+import shutil
 import subprocess
 import sys
 
@@ -24,11 +25,25 @@ def source(name):
 
 def run(*words, to=None):
     """Runs a writer; with `to`, its standard output is the sample."""
-    result = subprocess.run([str(word) for word in words], capture_output=True, cwd=out)
+    result = subprocess.run([str(word) for word in words], capture_output=True, cwd=out,
+                            stdin=subprocess.DEVNULL, timeout=60)
     if result.returncode != 0 or (to is not None and not result.stdout):
         sys.exit(f"{' '.join(map(str, words))}: {result.stderr.decode(errors='replace')}")
     if to is not None:
         put(to, result.stdout)
+
+
+def turned_jpeg():
+    """A JPEG that says of itself to be shown turned by a quarter to the right."""
+    plain = sources / "upright.jpg"
+    run("gm", "convert", source("card.ppm"), "-quality", "98", "-sampling-factor", "1x1", plain)
+    data = plain.read_bytes()
+    exif = (b"Exif\0\0MM\0*\0\0\0\x08\0\1" + b"\x01\x12\0\3\0\0\0\1\0\6\0\0" + bytes(4))
+    (sources / "turned.jpg").write_bytes(
+        data[:2] + b"\xFF\xE1" + (len(exif) + 2).to_bytes(2, "big") + exif + data[2:])
+    rows = src.card()
+    turned = [[rows[src.HEIGHT - 1 - x][y] for x in range(src.HEIGHT)] for y in range(src.WIDTH)]
+    (sources / "turnedcard.ppm").write_bytes(ppm(turned))
 
 
 def make_sources():
@@ -234,9 +249,17 @@ def make_new_kinds():
     run("cjxl", source("grey_pgm.png"), "jxl_grey.jxl", "-d", "0")
     run("cjxl", source("deep_ppm.png"), "jxl_16bit.jxl", "-d", "0")
     run("cjxl", source("deep_pgm.png"), "jxl_grey16.jxl", "-d", "0")
+    turned_jpeg()
+    run("cjxl", source("turned.jpg"), "jxl_turned.jxl")
+    run("cjxl", source("turned.jpg"), "jxl_turned_pixels.jxl", "-j", "0", "-d", "0.1")
+    run("heif-enc", "-q", "95", "-p", "chroma=444", source("turned.jpg"), "-o", "heic_turned.heic")
+    run("heif-enc", "-A", "-q", "95", "-p", "chroma=444", source("turned.jpg"), "-o",
+        "avif_turned.avif")
     run("gm", "convert", source("photo.ppm"), "pcd_gm.pcd")
 
 
+if (out / ".stamp").exists():
+    shutil.rmtree(out)
 out.mkdir(parents=True, exist_ok=True)
 make_sources()
 for make in (make_psd, make_tga, make_pcx, make_ras, make_two_level_kinds, make_wpg_and_pct,

@@ -101,7 +101,11 @@ std::optional<Picture> DecodeCals(Bytes file) {
     }
     Put(tiff, 0, 4);
     tiff.insert(tiff.end(), data.begin(), data.end());
-    return DecodeByMagick("TIFF", tiff);
+    std::optional<Picture> picture = DecodeByMagick("TIFF", tiff);
+    if (picture) {
+        picture->bitsPerPixel = 1;
+    }
+    return picture;
 }
 
 }  // namespace decoder

@@ -178,7 +178,13 @@ std::optional<Picture> DecodeRas(Bytes file) {
 }
 
 std::optional<Picture> DecodeImg(Bytes file) {
-    return PictureOf(DecodeFrame(AV_CODEC_ID_GEM, file), false);
+    constexpr size_t kPlanesAt = 4;
+    std::optional<Picture> picture = PictureOf(DecodeFrame(AV_CODEC_ID_GEM, file), false);
+    const size_t planes = Big(file, kPlanesAt, 2);
+    if (picture && planes <= 4) {
+        picture->bitsPerPixel = planes == 1 ? 1 : 4;
+    }
+    return picture;
 }
 
 }  // namespace decoder

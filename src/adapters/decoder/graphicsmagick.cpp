@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "adapters/decoder/over_white.h"
 
@@ -105,8 +106,9 @@ std::optional<Picture> DecodeByMagick(const char* format, Bytes file) {
     std::string(format).copy(info->magick, MaxTextExtent - 1);
     // With the name before the colon the kind is settled; what follows it would be a file.
     (std::string(format) + ":").copy(info->filename, MaxTextExtent - 1);
-    info->subimage = 0;
-    info->subrange = 1;
+    // The first picture only. Of this kind the numbers choose among its sizes, of which the whole
+    // screen's is wanted, as by default.
+    info->subrange = std::string_view(format) == "PCD" ? 0 : 1;
     Report report;
     ImagePtr image(BlobToImage(info.get(), file.data(), file.size(), &report.info));
     if (!image) {
@@ -123,13 +125,25 @@ std::optional<Picture> DecodeByMagick(const char* format, Bytes file) {
 }
 
 std::optional<Picture> DecodePct(Bytes file) {
-    if (HasPctVersion(file, kPctHead) || !HasPctVersion(file, 0)) {
-        return DecodeByMagick("PICT", file);
+    std::vector<uint8_t> headed;
+    if (!HasPctVersion(file, kPctHead) && HasPctVersion(file, 0)) {
+        // As it lies on the clipboard, without the empty head of a file.
+        headed.resize(kPctHead);
+        headed.insert(headed.end(), file.begin(), file.end());
+        file = headed;
     }
-    // As it lies on the clipboard, without the empty head of a file.
-    std::vector<uint8_t> headed(kPctHead);
-    headed.insert(headed.end(), file.begin(), file.end());
-    return DecodeByMagick("PICT", headed);
+    std::optional<Picture> picture = DecodeByMagick("PICT", file);
+    // The library takes the two values of a bitmap for the darkest two of 256 greys.
+    constexpr uint32_t kSet = 0xFF010101u, kUnset = 0xFF000000u;
+    const auto isBit = [](uint32_t pixel) { return pixel == kSet || pixel == kUnset; };
+    if (picture && std::ranges::find(picture->pixels, kSet) != picture->pixels.end() &&
+        std::ranges::all_of(picture->pixels, isBit)) {
+        picture->bitsPerPixel = 1;
+        for (uint32_t& pixel : picture->pixels) {
+            pixel = pixel == kSet ? 0xFF000000u : 0xFFFFFFFFu;
+        }
+    }
+    return picture;
 }
 
 }  // namespace decoder
