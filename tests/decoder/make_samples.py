@@ -252,9 +252,9 @@ def make_new_kinds():
     turned_jpeg()
     run("cjxl", source("turned.jpg"), "jxl_turned.jxl")
     run("cjxl", source("turned.jpg"), "jxl_turned_pixels.jxl", "-j", "0", "-d", "0.1")
-    run("heif-enc", "-q", "95", "-p", "chroma=444", source("turned.jpg"), "-o", "heic_turned.heic")
+    run("heif-enc", "-q", "95", "-p", "chroma=444", source("turned.jpg"), "-o", "heic_camera_note.heic")
     run("heif-enc", "-A", "-q", "95", "-p", "chroma=444", source("turned.jpg"), "-o",
-        "avif_turned.avif")
+        "avif_camera_note.avif")
     run("gm", "convert", source("photo.ppm"), "pcd_gm.pcd")
 
 

@@ -115,7 +115,9 @@ TEST(PostScript, DamagedOnesFail) {
 }
 
 TEST(PostScript, AnEndlessOneIsGivenUp) {
-    EXPECT_FALSE(Draw("%!PS\n%%BoundingBox: 0 0 8 8\n{} loop showpage\n"));
+    const std::string text = "%!PS\n%%BoundingBox: 0 0 8 8\n{} loop showpage\n";
+    const std::span bytes(reinterpret_cast<const uint8_t*>(text.data()), text.size());
+    EXPECT_FALSE(decoder::DrawPostScript(bytes, {}, std::chrono::milliseconds(50)));
 }
 
 TEST(PostScript, Boxes) {

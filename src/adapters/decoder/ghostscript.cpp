@@ -24,8 +24,6 @@ using Bytes = std::span<const uint8_t>;
 using platform::Size;
 using std::chrono::steady_clock;
 
-constexpr std::chrono::seconds kTimeLimit{8};
-
 class Descriptor {
 public:
     explicit Descriptor(int fd = -1) : fd_(fd) {}
@@ -98,19 +96,19 @@ std::vector<std::string> CommandLine(const Box& box, Size size) {
     constexpr double kPointsPerInch = 72;
     const double across = kPointsPerInch * size.width / (box.right - box.left);
     const double down = kPointsPerInch * size.height / (box.top - box.bottom);
-    return {
-        "gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-sDEVICE=ppmraw",
-        "-dTextAlphaBits=4", "-dGraphicsAlphaBits=4", "-dFIXEDMEDIA",
-        // In memory whole, as there is no place for temporary files.
-        "-dMaxBitmap=1000000000",
-        // Only the picture comes out of the standard output.
-        "-sstdout=%stderr", "-sOutputFile=%stdout",
-        "-g" + std::to_string(size.width) + "x" + std::to_string(size.height),
-        "-r" + Decimal(across) + "x" + Decimal(down), "-c",
-        "<</PageOffset [" + Decimal(-box.left) + " " + Decimal(-box.bottom) + "]>> setpagedevice",
-        "-f", "-",
-        // For drawings that leave showing the page to the one who shows them.
-        "-c", "showpage"};
+    return {"gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-sDEVICE=ppmraw",
+            "-dTextAlphaBits=4", "-dGraphicsAlphaBits=4", "-dFIXEDMEDIA",
+            // In memory whole, as there is no place for temporary files.
+            "-dMaxBitmap=1000000000",
+            // Only the picture comes out of the standard output.
+            "-sstdout=%stderr", "-sOutputFile=%stdout",
+            "-g" + std::to_string(size.width) + "x" + std::to_string(size.height),
+            "-r" + Decimal(across) + "x" + Decimal(down), "-c",
+            "<</Install {" + Decimal(-box.left) + " " + Decimal(-box.bottom) +
+                " translate}>> setpagedevice",
+            "-f", "-",
+            // For drawings that leave showing the page to the one who shows them.
+            "-c", "showpage"};
 }
 
 /// -1 where there is no interpreter. The child leads a group of its own.
@@ -120,7 +118,9 @@ pid_t Start(std::vector<std::string> words, int input, int output) {
         arguments.push_back(word.data());
     }
     arguments.push_back(nullptr);
-    std::array<std::string, 3> settings = {"PATH=/usr/bin:/bin", "LC_ALL=C", "HOME=/"};
+    // Temporary files are the only ones that a drawing may write: there is no place for them.
+    std::array<std::string, 3> settings = {"PATH=/usr/bin:/bin", "LC_ALL=C",
+                                           "TMPDIR=/dev/null/none"};
     std::array<char*, 4> environment = {settings[0].data(), settings[1].data(), settings[2].data(),
                                         nullptr};
     posix_spawn_file_actions_t actions;
@@ -151,8 +151,8 @@ size_t HeadEnd(Bytes output, Size size) {
 }
 
 /// Reads the first page; less of it when the other side closes or time is up.
-std::vector<uint8_t> ReadPage(int fd, Size size) {
-    const auto deadline = steady_clock::now() + kTimeLimit;
+std::vector<uint8_t> ReadPage(int fd, Size size, std::chrono::milliseconds timeLimit) {
+    const auto deadline = steady_clock::now() + timeLimit;
     const size_t pixelBytes =
         3 * static_cast<size_t>(size.width) * static_cast<size_t>(size.height);
     constexpr size_t kMostHead = 256;
@@ -203,7 +203,8 @@ void WarmUpGhostscript() {
     Nowhere();
 }
 
-std::optional<Picture> DrawPostScript(Bytes file, Size wanted) {
+std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
+                                      std::chrono::milliseconds timeLimit) {
     const Bytes postScript = PostScriptOf(file);
     const std::optional<Box> box =
         BoundingBox({reinterpret_cast<const char*>(postScript.data()), postScript.size()});
@@ -231,7 +232,7 @@ std::optional<Picture> DrawPostScript(Bytes file, Size wanted) {
     if (pid < 0) {
         return std::nullopt;
     }
-    const std::vector<uint8_t> read = ReadPage(result.Get(), size);
+    const std::vector<uint8_t> read = ReadPage(result.Get(), size, timeLimit);
     kill(-pid, SIGKILL);
     while (waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {
     }

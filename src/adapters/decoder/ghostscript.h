@@ -1,6 +1,7 @@
 // Drawings in PostScript, drawn by Ghostscript in a process of its own.
 #pragma once
 
+#include <chrono>
 #include <string_view>
 
 #include "adapters/decoder/decode.h"
@@ -20,7 +21,9 @@ std::optional<Box> BoundingBox(std::string_view postScript);
 void WarmUpGhostscript();
 
 /// Draws the first page's box at `wanted` pixels, or a pixel a point. Fails without a legible box,
-/// and where the interpreter takes more than some seconds.
-std::optional<Picture> DrawPostScript(std::span<const uint8_t> file, platform::Size wanted);
+/// and where the interpreter takes more than `timeLimit`.
+constexpr std::chrono::seconds kDrawingTime{8};
+std::optional<Picture> DrawPostScript(std::span<const uint8_t> file, platform::Size wanted,
+                                      std::chrono::milliseconds timeLimit = kDrawingTime);
 
 }  // namespace decoder

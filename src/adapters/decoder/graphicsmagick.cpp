@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "adapters/decoder/over_white.h"
+#include "adapters/decoder/pct_bitmap.h"
 
 namespace decoder {
 
@@ -132,18 +133,11 @@ std::optional<Picture> DecodePct(Bytes file) {
         headed.insert(headed.end(), file.begin(), file.end());
         file = headed;
     }
-    std::optional<Picture> picture = DecodeByMagick("PICT", file);
-    // The library takes the two values of a bitmap for the darkest two of 256 greys.
-    constexpr uint32_t kSet = 0xFF010101u, kUnset = 0xFF000000u;
-    const auto isBit = [](uint32_t pixel) { return pixel == kSet || pixel == kUnset; };
-    if (picture && std::ranges::find(picture->pixels, kSet) != picture->pixels.end() &&
-        std::ranges::all_of(picture->pixels, isBit)) {
-        picture->bitsPerPixel = 1;
-        for (uint32_t& pixel : picture->pixels) {
-            pixel = pixel == kSet ? 0xFF000000u : 0xFFFFFFFFu;
-        }
+    if (std::optional<Picture> bitmap =
+            DecodePctBitmap(file.subspan(std::min(kPctHead, file.size())))) {
+        return bitmap;
     }
-    return picture;
+    return DecodeByMagick("PICT", file);
 }
 
 }  // namespace decoder

@@ -1,6 +1,7 @@
 #include "adapters/decoder/msp.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace decoder {
 
@@ -44,7 +45,11 @@ std::optional<Picture> DecodeMsp(Bytes file) {
     if (file.size() < kHeadBytes) {
         return std::nullopt;
     }
-    const bool packed = file[0] == 'L';
+    const std::string_view mark(reinterpret_cast<const char*>(file.data()), 4);
+    const bool packed = mark == "LinS";
+    if (!packed && mark != "DanM") {
+        return std::nullopt;
+    }
     const size_t width = Little16(file, 4), height = Little16(file, 6);
     const size_t lineBytes = (width + 7) / 8;
     Bytes rest = file.subspan(kHeadBytes);
