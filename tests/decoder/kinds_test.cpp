@@ -208,6 +208,52 @@ TEST(Kinds, EverySampleHasARow) {
     }
 }
 
+/// Lines run and follow one another in any of four directions each: 0 to the right, 90 up.
+TEST(Kinds, ScannedDrawingsRunInEightDirections) {
+    const FileBytes file = Sample("cal_gm.cal");
+    const Picture source = Source("mono");
+    const int width = source.size.width, height = source.size.height;
+    const auto across = [](int degrees) { return degrees == 0 ? 1 : degrees == 180 ? -1 : 0; };
+    const auto down = [](int degrees) { return degrees == 270 ? 1 : degrees == 90 ? -1 : 0; };
+    for (const auto& [line, lines] : {std::pair{0, 270},
+                                      {180, 270},
+                                      {180, 90},
+                                      {0, 90},
+                                      {270, 0},
+                                      {270, 180},
+                                      {90, 180},
+                                      {90, 0}}) {
+        SCOPED_TRACE(std::to_string(line) + "," + std::to_string(lines));
+        std::string changed(file.begin(), file.end());
+        const auto three = [](int value) {
+            return (value < 10 ? "00" : value < 100 ? "0" : "") + std::to_string(value);
+        };
+        const size_t at = changed.find("rorient:");
+        ASSERT_NE(at, std::string::npos);
+        changed.replace(at, 16, "rorient: " + three(line) + "," + three(lines));
+        const auto picture =
+            decoder::Decode(door::Kind::Cal,
+                            {reinterpret_cast<const uint8_t*>(changed.data()), changed.size()}, {});
+        ASSERT_TRUE(picture);
+        const bool sideways = across(line) == 0;
+        ASSERT_EQ(picture->size.width, sideways ? height : width);
+        ASSERT_EQ(picture->size.height, sideways ? width : height);
+        // The first pixel stands in the corner that both directions come from.
+        const int startX = across(line) + across(lines) > 0 ? 0 : picture->size.width - 1;
+        const int startY = down(line) + down(lines) > 0 ? 0 : picture->size.height - 1;
+        int wrong = 0;
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x) {
+                const int toX = startX + x * across(line) + y * across(lines);
+                const int toY = startY + x * down(line) + y * down(lines);
+                wrong += picture->pixels[static_cast<size_t>(toY * picture->size.width + toX)] !=
+                         source.pixels[static_cast<size_t>(y * width + x)];
+            }
+        }
+        EXPECT_EQ(wrong, 0);
+    }
+}
+
 TEST(Kinds, LossyPicturesHaveTheirCorners) {
     constexpr uint32_t kCorners[] = {0xFFFF0000u, 0xFF00FF00u, 0xFF0000FFu, 0xFF000000u};
     for (const char* file : {"heic_odd.heic", "avif_odd.avif", "jxl_lossy.jxl", "pcd_gm.pcd"}) {

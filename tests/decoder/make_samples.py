@@ -258,11 +258,58 @@ def make_new_kinds():
     run("gm", "convert", source("photo.ppm"), "pcd_gm.pcd")
 
 
+def make_toolkit_kinds():
+    (out / "toolkit").mkdir(exist_ok=True)
+    card, grey, mono = source("card.ppm"), source("grey.pgm"), source("mono.pbm")
+    plain = "toolkit/tif_plain.tif"
+    run("gm", "convert", card, "-compress", "none", plain)
+    for name, *options in (("lzw", "-c", "lzw"), ("lzw_predictor", "-c", "lzw:2"),
+                           ("deflate", "-c", "zip"), ("packbits", "-c", "packbits"),
+                           ("jpeg", "-c", "jpeg:r:95"), ("big_endian", "-B"),
+                           ("tiled", "-t", "-w", "16", "-l", "16"),
+                           ("planes", "-p", "separate"), ("strips", "-r", "5")):
+        run("tiffcp", *options, plain, f"toolkit/tif_{name}.tif")
+    run("gm", "convert", source("deep.ppm"), "-compress", "none", "toolkit/tif_16bit.tif")
+    run("gm", "convert", source("deep.pgm"), "-compress", "LZW", "toolkit/tif_grey16.tif")
+    run("gm", "convert", grey, "-compress", "LZW", "toolkit/tif_grey.tif")
+    run("gm", "convert", card, "-colorspace", "CMYK", "-compress", "none", "toolkit/tif_inks.tif")
+    run("pamtotiff", "-none", "-indexbits=8", source("pal256.ppm"), to="toolkit/tif_palette.tif")
+    run("pamtotiff", "-none", "-indexbits=4", source("pal16.ppm"), to="toolkit/tif_palette4.tif")
+    run("pamtotiff", "-none", mono, to="toolkit/tif_mono.tif")
+    run("pamtotiff", "-none", "-miniswhite", mono, to="toolkit/tif_mono_white.tif")
+    run("pamtotiff", "-g3", mono, to="toolkit/tif_fax3.tif")
+    run("pamtotiff", "-g4", mono, to="toolkit/tif_fax4.tif")
+    run("ffmpeg", "-v", "error", "-y", "-i", source("alpha.pam"), "toolkit/tif_alpha.tif")
+    run("ppmtobmp", "-bpp=24", card, to="toolkit/bmp_24.bmp")
+    run("ppmtobmp", "-bpp=8", source("pal256.ppm"), to="toolkit/bmp_8.bmp")
+    run("ppmtobmp", "-bpp=4", source("pal16.ppm"), to="toolkit/bmp_4.bmp")
+    run("ppmtobmp", "-bpp=1", mono, to="toolkit/bmp_1.bmp")
+    run("ppmtobmp", "-os2", "-bpp=8", source("pal256.ppm"), to="toolkit/bmp_os2.bmp")
+    put("toolkit/bmp_runs8.bmp", by_hand.bmp_runs(src.INDEXES256, src.PALETTE256))
+    put("toolkit/bmp_16.bmp", by_hand.bmp([[by_hand.fifteen_bits(p) for p in row]
+                                           for row in src.FIVE_BITS], 16))
+    put("toolkit/bmp_32.bmp", by_hand.bmp([[by_hand.bgr(p + (0,)) for p in row]
+                                           for row in src.card()], 32))
+    put("toolkit/bmp_topdown.bmp", by_hand.bmp([[by_hand.bgr(p) for p in row]
+                                                for row in src.card()], 24, top_down=True))
+    run("gm", "convert", card, "-quality", "98", "toolkit/jpg_plain.jpg")
+    run("gm", "convert", card, "-quality", "98", "-interlace", "Line", "toolkit/jpg_progressive.jpg")
+    run("gm", "convert", grey, "-quality", "98", "toolkit/jpg_grey.jpg")
+    run("gm", "convert", card, "-colorspace", "CMYK", "-quality", "98", "toolkit/jpg_inks.jpg")
+    for name, picture, *options in (
+            ("plain", card), ("interlaced", card, "-interlace"), ("grey", grey), ("mono", mono),
+            ("16bit", source("deep.ppm")), ("grey16", source("deep.pgm")),
+            ("palette4", source("pal4.ppm")), ("palette16", source("pal16.ppm")),
+            ("palette256", source("pal256.ppm"))):
+        run("pnmtopng", "-quiet", *options, picture, to=f"toolkit/png_{name}.png")
+    run("gm", "convert", source("alpha.png"), "-interlace", "Line", "toolkit/png_alpha.png")
+
+
 if (out / ".stamp").exists():
     shutil.rmtree(out)
 out.mkdir(parents=True, exist_ok=True)
 make_sources()
 for make in (make_psd, make_tga, make_pcx, make_ras, make_two_level_kinds, make_wpg_and_pct,
-             make_eps, make_new_kinds):
+             make_eps, make_new_kinds, make_toolkit_kinds):
     make()
 (out / ".stamp").touch()

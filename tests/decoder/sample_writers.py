@@ -334,3 +334,30 @@ def dos_eps(postscript, preview):
     head = b"\xC5\xD0\xD3\xC6" + le32(start) + le32(len(postscript)) + le32(0) + le32(0)
     head += le32(start + len(postscript)) + le32(len(preview)) + le16(0xFFFF)
     return head.ljust(start, b"\0") + postscript + preview
+
+
+# ---- Bitmaps of the windows (little endian), rows a multiple of four bytes.
+
+def bmp_file(width, height, bpp, data, palette=(), packing=0):
+    colours = b"".join(bgr(p) + b"\0" for p in palette)
+    start = 54 + len(colours)
+    info = (le32(40) + le32(width) + le32(height & 0xFFFFFFFF) + le16(1) + le16(bpp) +
+            le32(packing) + le32(len(data)) + le32(2835) + le32(2835) + le32(len(palette)) + le32(0))
+    return b"BM" + le32(start + len(data)) + le32(0) + le32(start) + info + colours + data
+
+
+def bmp(rows, bpp, top_down=False):
+    lines = [b"".join(row) for row in (rows if top_down else rows[::-1])]
+    data = b"".join(line + bytes(-len(line) % 4) for line in lines)
+    return bmp_file(len(rows[0]), -len(rows) if top_down else len(rows), bpp, data)
+
+
+def bmp_runs(indexes, palette):
+    """Runs, literals of even length, ends of rows, end of the picture."""
+    data = bytearray()
+    for row in indexes[::-1]:
+        data += bytes([3, row[0]]) if row[0] == row[1] == row[2] else bytes(
+            v for i in row[:3] for v in (1, i))
+        rest = bytes(row[3:])
+        data += bytes([0, len(rest)]) + even(rest) + b"\0\0"
+    return bmp_file(len(indexes[0]), len(indexes), 8, bytes(data) + b"\0\1", palette, packing=1)
