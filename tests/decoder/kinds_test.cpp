@@ -161,6 +161,8 @@ constexpr Row kRows[] = {
     {"heic_camera_note.heic", "card", 24, kAny, kHalfColours},
     {"avif_camera_note.avif", "card", 24, kAny, kHalfColours},
     // Turned upright, and once only.
+    {"heic_turned.heic", "turnedcard", 24, kAny, kFullColours},
+    {"avif_turned.avif", "turnedcard", 24, kAny, kFullColours},
     {"jxl_turned.jxl", "turnedcard", 24, kAny, 2},
     {"jxl_turned_pixels.jxl", "turnedcard", 24, kAny, 2},
 };

@@ -255,6 +255,9 @@ def make_new_kinds():
     run("heif-enc", "-q", "95", "-p", "chroma=444", source("turned.jpg"), "-o", "heic_camera_note.heic")
     run("heif-enc", "-A", "-q", "95", "-p", "chroma=444", source("turned.jpg"), "-o",
         "avif_camera_note.avif")
+    # Three quarters to the left are one to the right.
+    for kind in ("heic", "avif"):
+        put(f"{kind}_turned.{kind}", by_hand.turned((out / f"{kind}_444.{kind}").read_bytes(), 3))
     run("gm", "convert", source("photo.ppm"), "pcd_gm.pcd")
 
 
@@ -266,13 +269,12 @@ def make_toolkit_kinds():
     for name, *options in (("lzw", "-c", "lzw"), ("lzw_predictor", "-c", "lzw:2"),
                            ("deflate", "-c", "zip"), ("packbits", "-c", "packbits"),
                            ("jpeg", "-c", "jpeg:r:95"), ("big_endian", "-B"),
-                           ("tiled", "-t", "-w", "16", "-l", "16"),
                            ("planes", "-p", "separate"), ("strips", "-r", "5")):
         run("tiffcp", *options, plain, f"toolkit/tif_{name}.tif")
     run("gm", "convert", source("deep.ppm"), "-compress", "none", "toolkit/tif_16bit.tif")
     run("gm", "convert", source("deep.pgm"), "-compress", "LZW", "toolkit/tif_grey16.tif")
     run("gm", "convert", grey, "-compress", "LZW", "toolkit/tif_grey.tif")
-    run("gm", "convert", card, "-colorspace", "CMYK", "-compress", "none", "toolkit/tif_inks.tif")
+    run("convert-im6", card, "-colorspace", "CMYK", "-compress", "none", "toolkit/tif_inks.tif")
     run("pamtotiff", "-none", "-indexbits=8", source("pal256.ppm"), to="toolkit/tif_palette.tif")
     run("pamtotiff", "-none", "-indexbits=4", source("pal16.ppm"), to="toolkit/tif_palette4.tif")
     run("pamtotiff", "-none", mono, to="toolkit/tif_mono.tif")
@@ -280,12 +282,17 @@ def make_toolkit_kinds():
     run("pamtotiff", "-g3", mono, to="toolkit/tif_fax3.tif")
     run("pamtotiff", "-g4", mono, to="toolkit/tif_fax4.tif")
     run("ffmpeg", "-v", "error", "-y", "-i", source("alpha.pam"), "toolkit/tif_alpha.tif")
+    # The toolkit's reader refuses plain ones of 24 bits, and tiles larger than the picture.
+    for name in ("grey", "palette", "mono", "fax4", "16bit"):
+        run("tiffcp", "-c", "lzw", "-t", "-w", "16", "-l", "16", f"toolkit/tif_{name}.tif",
+            f"toolkit/tif_tiled_{name}.tif")
     run("ppmtobmp", "-bpp=24", card, to="toolkit/bmp_24.bmp")
     run("ppmtobmp", "-bpp=8", source("pal256.ppm"), to="toolkit/bmp_8.bmp")
     run("ppmtobmp", "-bpp=4", source("pal16.ppm"), to="toolkit/bmp_4.bmp")
     run("ppmtobmp", "-bpp=1", mono, to="toolkit/bmp_1.bmp")
     run("ppmtobmp", "-os2", "-bpp=8", source("pal256.ppm"), to="toolkit/bmp_os2.bmp")
     put("toolkit/bmp_runs8.bmp", by_hand.bmp_runs(src.INDEXES256, src.PALETTE256))
+    put("toolkit/bmp_runs4.bmp", by_hand.bmp_runs4(src.INDEXES16, src.PALETTE16))
     put("toolkit/bmp_16.bmp", by_hand.bmp([[by_hand.fifteen_bits(p) for p in row]
                                            for row in src.FIVE_BITS], 16))
     put("toolkit/bmp_32.bmp", by_hand.bmp([[by_hand.bgr(p + (0,)) for p in row]
@@ -295,7 +302,7 @@ def make_toolkit_kinds():
     run("gm", "convert", card, "-quality", "98", "toolkit/jpg_plain.jpg")
     run("gm", "convert", card, "-quality", "98", "-interlace", "Line", "toolkit/jpg_progressive.jpg")
     run("gm", "convert", grey, "-quality", "98", "toolkit/jpg_grey.jpg")
-    run("gm", "convert", card, "-colorspace", "CMYK", "-quality", "98", "toolkit/jpg_inks.jpg")
+    run("convert-im6", card, "-colorspace", "CMYK", "-quality", "98", "toolkit/jpg_inks.jpg")
     for name, picture, *options in (
             ("plain", card), ("interlaced", card, "-interlace"), ("grey", grey), ("mono", mono),
             ("16bit", source("deep.ppm")), ("grey16", source("deep.pgm")),

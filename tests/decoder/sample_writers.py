@@ -352,6 +352,17 @@ def bmp(rows, bpp, top_down=False):
     return bmp_file(len(rows[0]), -len(rows) if top_down else len(rows), bpp, data)
 
 
+def bmp_runs4(indexes, palette):
+    """Rows of runs of two colours in turn, with ends of rows and of the picture."""
+    data = bytearray()
+    for row in indexes[::-1]:
+        for x in range(0, len(row), 2):
+            pair = row[x:x + 2]
+            data += bytes([len(pair), pair[0] << 4 | pair[-1]])
+        data += b"\0\0"
+    return bmp_file(len(indexes[0]), len(indexes), 4, bytes(data) + b"\0\1", palette, packing=2)
+
+
 def bmp_runs(indexes, palette):
     """Runs, literals of even length, ends of rows, end of the picture."""
     data = bytearray()
@@ -361,3 +372,74 @@ def bmp_runs(indexes, palette):
         rest = bytes(row[3:])
         data += bytes([0, len(rest)]) + even(rest) + b"\0\0"
     return bmp_file(len(indexes[0]), len(indexes), 8, bytes(data) + b"\0\1", palette, packing=1)
+
+
+# ---- Boxes of the new kinds: a note that the picture is to be shown turned.
+
+def boxes(data):
+    at = 0
+    while at + 8 <= len(data):
+        length = int.from_bytes(data[at:at + 4], "big") or len(data) - at
+        yield data[at + 4:at + 8], data[at + 8:at + length]
+        at += length
+
+
+def box(name, content):
+    return be32(len(content) + 8) + name + content
+
+
+def turned(data, quarters):
+    """The main item gets a property: to be turned so many quarters to the left."""
+    old = next(inner for name, inner in boxes(data) if name == b"meta")
+    main = next(inner for name, inner in boxes(old[4:]) if name == b"pitm")[4:6]
+
+    def properties(content):
+        out = b""
+        count = 0
+        for name, inner in boxes(content):
+            if name == b"ipco":
+                count = sum(1 for _ in boxes(inner)) + 1
+                inner += box(b"irot", bytes([quarters]))
+            elif name == b"ipma":
+                items = int.from_bytes(inner[4:8], "big")
+                grown, at = inner[:8], 8
+                for _ in range(items):
+                    end = at + 3 + inner[at + 2]
+                    more = bytes([0x80 | count]) if inner[at:at + 2] == main else b""
+                    grown += inner[at:at + 2] + bytes([inner[at + 2] + len(more)])
+                    grown += inner[at + 3:end] + more
+                    at = end
+                inner = grown
+            out += box(name, inner)
+        return out
+
+    def meta(content, moved):
+        out = content[:4]
+        for name, inner in boxes(content[4:]):
+            if name == b"iprp":
+                inner = properties(inner)
+            elif name == b"iloc":
+                inner = places(inner, moved)
+            out += box(name, inner)
+        return out
+
+    def places(inner, moved):
+        """The pieces of items that lie behind this box have moved on."""
+        version, sizes = inner[0], inner[4]
+        at = 8
+        out = bytearray(inner)
+        assert sizes == 0x44 and inner[5] >> 4 in (0, 4)
+        for _ in range(int.from_bytes(inner[6:8], "big")):
+            within = version > 0 and inner[at + 3] == 1
+            at += 2 + (2 if version > 0 else 0) + 2 + (inner[5] >> 4)
+            pieces = int.from_bytes(inner[at:at + 2], "big")
+            at += 2
+            for _ in range(pieces):
+                place = int.from_bytes(inner[at:at + 4], "big") + (0 if within else moved)
+                out[at:at + 4] = be32(place)
+                at += 8
+        return bytes(out)
+
+    moved = len(meta(old, 0)) - len(old)
+    return b"".join(box(name, meta(inner, moved) if name == b"meta" else inner)
+                    for name, inner in boxes(data))
