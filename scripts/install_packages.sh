@@ -26,7 +26,7 @@ test_packages=(
     # To check what is installed, and the package.
     desktop-file-utils appstream shared-mime-info libglib2.0-bin man-db groff-base lintian
     # Make pictures of every kind for the tests.
-    graphicsmagick netpbm ffmpeg
+    graphicsmagick netpbm ffmpeg libheif-examples libjxl-tools libtiff-tools
     # Benchmarks compare with these.
     feh mpv
     libbenchmark-dev libturbojpeg0-dev libjpeg-dev gstreamer1.0-plugins-base-apps

@@ -12,12 +12,17 @@ namespace decoder {
 
 using door::Picture;
 
-/// Loads what the libraries load at first use, so that nothing has to be opened afterwards.
+/// Pixels of the largest picture that is decoded: two of its copies fit the process's memory.
+constexpr int64_t kMostPixels = int64_t{1} << 27;
+
+/// Loads what the libraries load at first use, so that nothing has to be opened afterwards but by
+/// the interpreter of drawings, which is a program of its own.
 void WarmUp();
 
 /// The whole picture, turned upright. `wanted` matters for drawings (Eps) only: the size to draw
 /// at, empty for the drawing's own (72 dots an inch). Nothing for a damaged file, or one above the
-/// limits. May crash, hang or use up the memory on a hostile file: the caller's process has limits.
+/// limits; never throws. May crash, hang or use up the memory on a hostile file: the caller's
+/// process has limits.
 std::optional<Picture> Decode(door::Kind kind, std::span<const uint8_t> file,
                               platform::Size wanted);
 

@@ -32,8 +32,9 @@ constexpr uint8_t kLastKind = 16;
 constexpr size_t kStartBytes = 4096;
 constexpr size_t kEndBytes = 64;
 
-/// By the content where the kind has a mark, else by the name's extension, without case. `name` is
-/// a path or a bare name.
+/// By the content where the file has a mark; else, for the kinds whose files may be without one, by
+/// the name's extension, without case. `name` is a path or a bare name. An empty file is no
+/// picture.
 Kind KindOf(std::string_view start, std::string_view end, std::string_view name);
 
 }  // namespace door

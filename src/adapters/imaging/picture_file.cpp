@@ -163,7 +163,11 @@ public:
             into.scaledDecodeBytes_ = header.WorkingBytes();
             file_.seek(0);
         }
-        const QSize stored = reader_.size();
+        QSize stored = reader_.size();
+        if (kind_ == Kind::Bmp && stored.height() < 0) {
+            // Rows from the top down; the reader itself knows.
+            stored.setHeight(-stored.height());
+        }
         if (stored.isEmpty()) {
             return false;
         }

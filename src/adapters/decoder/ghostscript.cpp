@@ -1,0 +1,242 @@
+#include "adapters/decoder/ghostscript.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <string>
+
+namespace decoder {
+
+namespace {
+
+using Bytes = std::span<const uint8_t>;
+using platform::Size;
+using std::chrono::steady_clock;
+
+class Descriptor {
+public:
+    explicit Descriptor(int fd = -1) : fd_(fd) {}
+    ~Descriptor() { Close(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int Get() const { return fd_; }
+    void Close() {
+        if (fd_ >= 0) {
+            close(fd_);
+        }
+        fd_ = -1;
+    }
+
+private:
+    int fd_;
+};
+
+/// Where the interpreter's messages go.
+int Nowhere() {
+    static const int fd = open("/dev/null", O_RDWR | O_CLOEXEC);
+    return fd;
+}
+
+/// Without the envelope that holds a preview beside the drawing. Empty for a damaged envelope.
+Bytes PostScriptOf(Bytes file) {
+    constexpr std::array<uint8_t, 4> kEnvelope = {0xC5, 0xD0, 0xD3, 0xC6};
+    constexpr size_t kHeadBytes = 30;
+    if (file.size() < kHeadBytes || !std::equal(kEnvelope.begin(), kEnvelope.end(), file.begin())) {
+        return file;
+    }
+    const auto little32 = [&](size_t at) {
+        return size_t{file[at]} | size_t{file[at + 1]} << 8 | size_t{file[at + 2]} << 16 |
+               size_t{file[at + 3]} << 24;
+    };
+    const size_t start = std::min(little32(4), file.size());
+    return file.subspan(start, std::min(little32(8), file.size() - start));
+}
+
+/// A nameless file in memory, read from its start.
+int MemoryFile(Bytes content) {
+    const int fd = memfd_create("drawing", MFD_CLOEXEC);
+    size_t done = 0;
+    while (fd >= 0 && done < content.size()) {
+        const ssize_t count = write(fd, content.data() + done, content.size() - done);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {
+            close(fd);
+            return -1;
+        }
+        done += static_cast<size_t>(count);
+    }
+    if (fd >= 0) {
+        lseek(fd, 0, SEEK_SET);
+    }
+    return fd;
+}
+
+std::string Decimal(double value) {
+    std::array<char, 64> digits{};
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                            std::chars_format::fixed, 6);
+    return error == std::errc{} ? std::string(digits.data(), end) : "0";
+}
+
+/// The box's lower left corner comes to the page's, and its size becomes `size`.
+std::vector<std::string> CommandLine(const Box& box, Size size) {
+    constexpr double kPointsPerInch = 72;
+    const double across = kPointsPerInch * size.width / (box.right - box.left);
+    const double down = kPointsPerInch * size.height / (box.top - box.bottom);
+    return {"gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-sDEVICE=ppmraw",
+            "-dTextAlphaBits=4", "-dGraphicsAlphaBits=4", "-dFIXEDMEDIA",
+            // In memory whole, as there is no place for temporary files.
+            "-dMaxBitmap=1000000000",
+            // Only the picture comes out of the standard output.
+            "-sstdout=%stderr", "-sOutputFile=%stdout",
+            "-g" + std::to_string(size.width) + "x" + std::to_string(size.height),
+            "-r" + Decimal(across) + "x" + Decimal(down), "-c",
+            "<</Install {" + Decimal(-box.left) + " " + Decimal(-box.bottom) +
+                " translate}>> setpagedevice",
+            "-f", "-",
+            // For drawings that leave showing the page to the one who shows them.
+            "-c", "showpage"};
+}
+
+/// -1 where there is no interpreter. The child leads a group of its own.
+pid_t Start(std::vector<std::string> words, int input, int output) {
+    std::vector<char*> arguments;
+    for (std::string& word : words) {
+        arguments.push_back(word.data());
+    }
+    arguments.push_back(nullptr);
+    // Temporary files are the only ones that a drawing may write: there is no place for them.
+    std::array<std::string, 3> settings = {"PATH=/usr/bin:/bin", "LC_ALL=C",
+                                           "TMPDIR=/dev/null/none"};
+    std::array<char*, 4> environment = {settings[0].data(), settings[1].data(), settings[2].data(),
+                                        nullptr};
+    posix_spawn_file_actions_t actions;
+    posix_spawnattr_t attributes;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawnattr_init(&attributes);
+    posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, Nowhere(), STDERR_FILENO);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
+    posix_spawnattr_setpgroup(&attributes, 0);
+    pid_t pid = -1;
+    const int error = posix_spawn(&pid, "/usr/bin/gs", &actions, &attributes, arguments.data(),
+                                  environment.data());
+    posix_spawn_file_actions_destroy(&actions);
+    posix_spawnattr_destroy(&attributes);
+    return error == 0 ? pid : -1;
+}
+
+/// The lines before the pixels, a comment among them.
+size_t HeadEnd(Bytes output, Size size) {
+    const std::string_view text(reinterpret_cast<const char*>(output.data()),
+                                std::min<size_t>(output.size(), 1024));
+    const std::string last =
+        "\n" + std::to_string(size.width) + " " + std::to_string(size.height) + "\n255\n";
+    const size_t at = text.starts_with("P6") ? text.find(last) : std::string_view::npos;
+    return at == std::string_view::npos ? 0 : at + last.size();
+}
+
+/// Reads the first page; less of it when the other side closes or time is up.
+std::vector<uint8_t> ReadPage(int fd, Size size, std::chrono::milliseconds timeLimit) {
+    const auto deadline = steady_clock::now() + timeLimit;
+    const size_t pixelBytes =
+        3 * static_cast<size_t>(size.width) * static_cast<size_t>(size.height);
+    constexpr size_t kMostHead = 256;
+    std::vector<uint8_t> data(pixelBytes + kMostHead);
+    size_t filled = 0;
+    size_t head = 0;
+    while (filled < (head == 0 ? data.size() : head + pixelBytes)) {
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - steady_clock::now());
+        pollfd waiting = {fd, POLLIN, 0};
+        const int ready = poll(&waiting, 1, static_cast<int>(std::max<int64_t>(left.count(), 0)));
+        if (ready < 0 && errno == EINTR) {
+            continue;
+        }
+        const ssize_t count = ready > 0 ? read(fd, data.data() + filled, data.size() - filled) : 0;
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {
+            break;
+        }
+        filled += static_cast<size_t>(count);
+        head = head == 0 ? HeadEnd(Bytes(data).first(filled), size) : head;
+    }
+    data.resize(filled);
+    return data;
+}
+
+std::optional<Picture> PictureOf(Bytes output, Size size) {
+    const size_t head = HeadEnd(output, size);
+    const size_t count = static_cast<size_t>(size.width) * static_cast<size_t>(size.height);
+    if (head == 0 || output.size() - head < 3 * count) {
+        return std::nullopt;
+    }
+    Picture picture{size, 24, {}};
+    picture.pixels.resize(count);
+    const uint8_t* from = output.data() + head;
+    for (uint32_t& pixel : picture.pixels) {
+        pixel = 0xFF000000u | uint32_t{from[0]} << 16 | uint32_t{from[1]} << 8 | from[2];
+        from += 3;
+    }
+    return picture;
+}
+
+}  // namespace
+
+void WarmUpGhostscript() {
+    Nowhere();
+}
+
+std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
+                                      std::chrono::milliseconds timeLimit) {
+    const Bytes postScript = PostScriptOf(file);
+    const std::optional<Box> box =
+        BoundingBox({reinterpret_cast<const char*>(postScript.data()), postScript.size()});
+    if (!box) {
+        return std::nullopt;
+    }
+    // What covers the smallest part of a pixel has it; a hundredth is the noise of the numbers.
+    const auto pixels = [](double points) {
+        return std::max(1, static_cast<int>(std::ceil(points - 0.01)));
+    };
+    const Size own = {pixels(box->right - box->left), pixels(box->top - box->bottom)};
+    const Size size = wanted.Empty() ? own : wanted;
+    if (int64_t{size.width} * size.height > kMostPixels) {
+        return std::nullopt;
+    }
+    const Descriptor input(MemoryFile(postScript));
+    std::array<int, 2> ends = {-1, -1};
+    if (input.Get() < 0 || Nowhere() < 0 || pipe2(ends.data(), O_CLOEXEC) != 0) {
+        return std::nullopt;
+    }
+    const Descriptor result(ends[0]);
+    Descriptor output(ends[1]);
+    const pid_t pid = Start(CommandLine(*box, size), input.Get(), output.Get());
+    output.Close();
+    if (pid < 0) {
+        return std::nullopt;
+    }
+    const std::vector<uint8_t> read = ReadPage(result.Get(), size, timeLimit);
+    kill(-pid, SIGKILL);
+    while (waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    return PictureOf(read, size);
+}
+
+}  // namespace decoder

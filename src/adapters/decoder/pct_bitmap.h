@@ -1,0 +1,13 @@
+// Pictures of the first desktop with a mouse that are one bitmap.
+#pragma once
+
+#include "adapters/decoder/decode.h"
+
+namespace decoder {
+
+/// `file` without the empty head. Reads what GraphicsMagick shows black: a picture of version 1
+/// that holds a bitmap of one bit, packed or not, and before it nothing but what changes no pixel.
+/// Nothing for everything else.
+std::optional<Picture> DecodePctBitmap(std::span<const uint8_t> file);
+
+}  // namespace decoder
