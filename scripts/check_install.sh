@@ -77,14 +77,32 @@ echo quit >"$scratch/quit.robot"
 QT_QPA_PLATFORM=offscreen "$prefix/bin/parapico" --robot "$scratch/quit.robot" \
     --app-folder "$scratch/home"
 [[ -f $scratch/home/only-here.txt ]] || Fail "the program folder is not filled from the installed files"
-[[ $(ldd "$prefix/bin/parapico") != *"not found"* ]] || Fail "a library is missing"
+for program in bin/parapico libexec/parapico/parapico-decoder libexec/parapico/parapico-svg; do
+    [[ $(ldd "$prefix/$program") != *"not found"* ]] || Fail "a library of $program is missing"
+done
+
+echo "-- pictures that other processes decode"
+# A grey pixel, uncompressed: head, no palette, no resources, no layers, the way of storing, pixel.
+printf '8BPS\0\1\0\0\0\0\0\0\0\1\0\0\0\1\0\0\0\1\0\10\0\1%b\0\0\200' \
+    '\0\0\0\0\0\0\0\0\0\0\0\0' >"$scratch/grey.psd"
+cp "$source/tests/door/drawings/shapes.svg" "$scratch"
+printf 'vue2\r\na.kvs\r\n 3000 \r\n 1 \r\n 7 \r\n*.wav\r\n 2 \r\ngrey.psd\r\nshapes.svg\r\n' \
+    >"$scratch/pictures.kvs"
+printf '%s\n' "choose $scratch/pictures.kvs" "menu mnuOPEN" "click Form1.Command1" "+6000 quit" \
+    >"$scratch/pictures.robot"
+QT_QPA_PLATFORM=offscreen "$prefix/bin/parapico" --robot "$scratch/pictures.robot" \
+    --app-folder "$scratch/home" --trace "$scratch/trace"
+for picture in grey.psd shapes.svg; do
+    grep -q "\"event\":\"slide\".*$picture" "$scratch/trace" || Fail "$picture is not shown"
+done
 
 echo "-- the Debian package"
 (cd "$scratch" && cpack -G DEB --config "$build/CPackConfig.cmake" -B "$scratch/package") \
     >"$scratch/cpack.log" 2>&1 || { cat "$scratch/cpack.log"; Fail "packaging"; }
 package=$(echo "$scratch"/package/*.deb)
 dpkg-deb --contents "$package" >"$scratch/contents"
-for file in bin/parapico share/applications/parapico.desktop share/mime/packages/parapico.xml \
+for file in bin/parapico libexec/parapico/parapico-decoder libexec/parapico/parapico-svg \
+    share/applications/parapico.desktop share/mime/packages/parapico.xml \
     share/icons/hicolor/scalable/apps/parapico.svg share/man/man1/parapico.1.gz \
     share/parapico/assets/parapico.svg; do
     grep -q " \./usr/$file\$" "$scratch/contents" || Fail "the package lacks $file"
