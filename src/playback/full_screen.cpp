@@ -292,6 +292,7 @@ void FollowMonitors(Application& app) {
         FitToScreenAnew(app);
         picture::ShowAtOnce(app);
         CopyCanvasForMacros(app);
+        PrepareAround(app, ShownIndex(state));
     }
 }
 

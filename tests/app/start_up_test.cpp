@@ -354,6 +354,25 @@ TEST(StartUp, SlidesWithoutAutoStartWaitForStart) {
     EXPECT_EQ(program.state.SlideListEnd, 2);
 }
 
+TEST(StartUp, TheFirstPictureIsAskedForBeforeTheScreenComesUp) {
+    Program program;
+    program.Run(u"C:\\show\\two.kvs");
+    ASSERT_GE(program.around.imaging.everWanted.size(), 2u);
+    EXPECT_EQ(program.around.imaging.everWanted[0], u"C:\\show\\a.png");
+    EXPECT_EQ(program.around.imaging.everWanted[1], u"C:\\show\\b.png") << "while the first stands";
+}
+
+TEST(StartUp, AListThatWaitsForStartHasItsFirstPictureAskedFor) {
+    Program program;
+    program.PutState(program.around, {.slides = {u"C:\\show\\b.png", u"C:\\show\\a.png"}});
+    program.Run();
+    ASSERT_EQ(program.around.imaging.wanted.size(), 1u);
+    EXPECT_EQ(program.around.imaging.wanted[0].path, u"C:\\show\\b.png");
+    Program without;
+    without.Run();
+    EXPECT_TRUE(without.around.imaging.everWanted.empty());
+}
+
 constexpr const char16_t* kLinkStateRest = u" \r\n 0 \r\n 0 \r\n\r\n 1 \r\nC:\\show\\two.kvs\r\n";
 
 TEST(StartUp, LinkListStartsByItselfWithItsFlag) {

@@ -59,6 +59,15 @@ TEST(Open, AsksAndReadsTheChosenDocument) {
     }
 }
 
+TEST(Open, TheFirstPictureIsAskedForAndForgottenWithTheDocument) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    ASSERT_EQ(desk.imaging.wanted.size(), 1u);
+    EXPECT_EQ(desk.imaging.wanted[0].path, u"C:\\show\\a.png");
+    NewDocument(desk.app);
+    EXPECT_TRUE(desk.imaging.wanted.empty());
+}
+
 TEST(Open, FolderEndsBehindTheLastSeparatorOrColon) {
     Desk desk;
     desk.PutText(u"E:x.kvs", ShowOf({u"a.png"}));

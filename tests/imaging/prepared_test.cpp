@@ -175,6 +175,7 @@ TEST_F(Prepared, AFileThatChangedIsDecodedAgain) {
     Prepare({{path, Fit(10, 5)}});
     PutFlat("a.bmp", 40, 20, Qt::white, "bmp");
     ASSERT_TRUE(control_->Load(path, Fit(10, 5)));
+    control_->Resize(10, 5, 0);
     EXPECT_EQ(control_->Picture()->Row(0)[0], kWhite);
     EXPECT_EQ(Ahead().HeldCount(), 0);
 }
@@ -184,6 +185,7 @@ TEST_F(Prepared, AChangeThatHidesItsTimeAndSizeIsSeen) {
     struct stat before {};
     ASSERT_EQ(stat(Native("a.bmp").c_str(), &before), 0);
     Prepare({{path, Fit(10, 5)}});
+    ASSERT_EQ(Ahead().HeldCount(), 1);
     {
         QImage image(40, 20, QImage::Format_RGB32);
         image.fill(Qt::white);
@@ -198,7 +200,9 @@ TEST_F(Prepared, AChangeThatHidesItsTimeAndSizeIsSeen) {
     ASSERT_EQ(stat(Native("a.bmp").c_str(), &after), 0);
     ASSERT_EQ(after.st_ino, before.st_ino);
     ASSERT_EQ(after.st_mtim.tv_nsec, before.st_mtim.tv_nsec);
+    ASSERT_EQ(after.st_size, before.st_size);
     ASSERT_TRUE(control_->Load(path, Fit(10, 5)));
+    control_->Resize(10, 5, 0);
     EXPECT_EQ(control_->Picture()->Row(0)[0], kWhite);
 }
 

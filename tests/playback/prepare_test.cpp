@@ -246,6 +246,17 @@ TEST(PrepareFit, FollowsTheShowIntoTheFullScreenAndBack) {
     EXPECT_EQ(FittedOf(show), inWindow);
 }
 
+TEST(PrepareFit, FollowsAMonitorThatChanges) {
+    Show show(3);
+    StartInScreen(show);
+    show.loop.Run(1);
+    show.state.SizeAdjust = 0;
+    show.monitors.monitors = {{0, 0, 1280, 1024}};
+    show.monitors.onChanged();
+    EXPECT_EQ(Wanted(show), "2.png");
+    EXPECT_EQ(FittedOf(show), (Size{1280, 960}));
+}
+
 TEST(PrepareEnd, StopAndTheEndOfTheListLetEverythingGo) {
     Show stopped(3);
     stopped.Start();

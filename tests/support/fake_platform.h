@@ -186,7 +186,13 @@ public:
         return std::make_unique<FakeImagingControl>(files_, log);
     }
     std::vector<platform::Wanted> wanted;  // of the last Prepare
-    void Prepare(const std::vector<platform::Wanted>& list) override { wanted = list; }
+    std::vector<Text> everWanted;          // paths of all, each time they were asked for
+    void Prepare(const std::vector<platform::Wanted>& list) override {
+        wanted = list;
+        for (const platform::Wanted& one : list) {
+            everWanted.push_back(one.path);
+        }
+    }
 
 private:
     platform::Files& files_;
