@@ -29,7 +29,8 @@ test_packages=(
     graphicsmagick netpbm ffmpeg libheif-examples libjxl-tools libtiff-tools
     # Benchmarks compare with these.
     feh mpv
-    libbenchmark-dev libturbojpeg0-dev libjpeg-dev gstreamer1.0-plugins-base-apps
+    libbenchmark-dev libturbojpeg0-dev libjpeg-dev libxcb1-dev libxcb-xtest0-dev
+    gstreamer1.0-plugins-base-apps
     gstreamer1.0-tools
 )
 

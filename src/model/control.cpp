@@ -175,17 +175,7 @@ bool PictureBox::TakesPress(int x, int y) const {
 }
 
 void PictureBox::Cls() {
-    const auto ground = static_cast<platform::Color>(BackColor());
-    if (!picture_) {
-        canvas.Fill(ground);
-        return;
-    }
-    // What the picture covers is written once only.
-    const int width = picture_->width;
-    const int height = picture_->height;
-    canvas.FillRect({width, 0, canvas.Width() - width, canvas.Height()}, ground);
-    canvas.FillRect({0, height, width, canvas.Height() - height}, ground);
-    canvas.BitBlt(0, 0, width, height, picture_.get(), 0, 0);
+    canvas.Cover(static_cast<platform::Color>(BackColor()), picture_);
 }
 
 void PictureBox::SetSize(int widthTwips, int heightTwips) {

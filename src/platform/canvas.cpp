@@ -47,6 +47,19 @@ void CopyRows(Bitmap& target, const Rect& area, const Bitmap& source, int source
     }
 }
 
+/// An area wholly inside.
+void FillRows(Bitmap& target, const Rect& area, Color fill) {
+    if (area.Empty()) {
+        return;
+    }
+    // Copying is several times as fast as filling.
+    Pixel* first = target.Row(area.y) + area.x;
+    std::fill_n(first, area.width, ToPixel(fill));
+    for (int y = area.y + 1; y < area.y + area.height; ++y) {
+        std::memcpy(target.Row(y) + area.x, first, static_cast<size_t>(area.width) * sizeof(Pixel));
+    }
+}
+
 }  // namespace
 
 Rect Intersection(const Rect& a, const Rect& b) {
@@ -76,10 +89,18 @@ void TextRenderer::DrawEach(Canvas& canvas, int x, int y, const Font& font, Colo
 }
 
 void Canvas::Resize(int width, int height, Color fill) {
-    Bitmap fresh(std::max(width, 0), std::max(height, 0), ToPixel(fill));
+    Bitmap fresh;
+    fresh.width = std::max(width, 0);
+    fresh.height = std::max(height, 0);
     const Rect kept = Intersection(Bounds(fresh), Bounds(pixels_));
-    if (!kept.Empty()) {
-        CopyRows(fresh, kept, pixels_, 0, 0);
+    const bool plain = groundDue_ && !groundPicture_ && ground_ == fill;
+    if (kept.Empty() || plain) {
+        groundDue_ = true;
+        ground_ = fill;
+        groundPicture_ = nullptr;
+    } else {
+        fresh = Bitmap(fresh.width, fresh.height, ToPixel(fill));
+        CopyRows(fresh, kept, Pixels(), 0, 0);
     }
     pixels_ = std::move(fresh);
     // What was still unseen may lie outside the new size.
@@ -87,8 +108,31 @@ void Canvas::Resize(int width, int height, Color fill) {
     Touch(Bounds(pixels_));
 }
 
-void Canvas::Fill(Color fill) {
-    FillRect(Bounds(pixels_), fill);
+void Canvas::Cover(Color fill, BitmapPtr picture) {
+    groundDue_ = true;
+    ground_ = fill;
+    groundPicture_ = std::move(picture);
+    Touch(Bounds(pixels_));
+}
+
+void Canvas::FillWithGround() const {
+    groundDue_ = false;
+    const BitmapPtr picture = std::move(groundPicture_);
+    groundPicture_ = nullptr;
+    const Rect covered = picture ? Intersection(Bounds(pixels_), Bounds(*picture)) : Rect{};
+    const size_t count = static_cast<size_t>(pixels_.width) * static_cast<size_t>(pixels_.height);
+    if (pixels_.pixels.size() != count) {
+        pixels_.pixels.assign(count, ToPixel(ground_));
+    } else {
+        // What the picture covers is written once only.
+        FillRows(pixels_, {covered.width, 0, pixels_.width - covered.width, pixels_.height},
+                 ground_);
+        FillRows(pixels_, {0, covered.height, covered.width, pixels_.height - covered.height},
+                 ground_);
+    }
+    if (!covered.Empty()) {
+        CopyRows(pixels_, covered, *picture, 0, 0);
+    }
 }
 
 void Canvas::FillRect(const Rect& area, Color fill) {
@@ -96,19 +140,15 @@ void Canvas::FillRect(const Rect& area, Color fill) {
     if (inside.Empty()) {
         return;
     }
-    // Copying is several times as fast as filling.
-    Pixel* first = pixels_.Row(inside.y) + inside.x;
-    std::fill_n(first, inside.width, ToPixel(fill));
-    for (int y = inside.y + 1; y < inside.y + inside.height; ++y) {
-        std::memcpy(pixels_.Row(y) + inside.x, first,
-                    static_cast<size_t>(inside.width) * sizeof(Pixel));
-    }
+    DrawGround();
+    FillRows(pixels_, inside, fill);
     Touch(inside);
 }
 
 void Canvas::Line(int x1, int y1, int x2, int y2, Color lineColor) {
     // Keeps the products below within 64 bits; no canvas is nearly as large.
     static constexpr int kFarthest = 1 << 28;
+    DrawGround();
     const auto limited = [](int value) { return std::clamp(value, -kFarthest, kFarthest); };
     x1 = limited(x1), y1 = limited(y1), x2 = limited(x2), y2 = limited(y2);
     const bool steep = std::abs(y2 - y1) > std::abs(x2 - x1);
@@ -141,7 +181,7 @@ Color Canvas::Point(int x, int y) const {
     if (x < 0 || y < 0 || x >= pixels_.width || y >= pixels_.height) {
         return Rgb(255, 255, 255);
     }
-    return ToColor(pixels_.Row(y)[x]);
+    return ToColor(Pixels().Row(y)[x]);
 }
 
 void Canvas::BitBlt(int x, int y, int width, int height, const Bitmap* source, int sourceX,
@@ -166,6 +206,7 @@ void Canvas::BitBlt(int x, int y, int width, int height, const Bitmap* source, i
     if (inside.Empty()) {
         return;
     }
+    DrawGround();
     CopyRows(pixels_, inside, *source, static_cast<int>(left - x + sourceX),
              static_cast<int>(top - y + sourceY));
     Touch(inside);
@@ -184,6 +225,7 @@ void Canvas::StretchBlt(const Rect& target, const Bitmap& source) {
         StretchBlt(target, Bitmap(source));
         return;
     }
+    DrawGround();
     std::vector<int> columns(static_cast<size_t>(inside.width));
     for (int i = 0; i < inside.width; ++i) {
         const int64_t place = int64_t{inside.x} - target.x + i;

@@ -100,16 +100,22 @@ public:
 };
 
 /// Pixel buffer with a pen. Everything is clipped to the buffer. A canvas keeps the rectangle that
-/// changed since a view last took it.
+/// changed since a view last took it. What covers it whole is drawn when its pixels are first asked
+/// for: a canvas that nobody looks at costs neither time nor memory.
 class Canvas {
 public:
     int Width() const { return pixels_.width; }
     int Height() const { return pixels_.height; }
-    const Bitmap& Pixels() const { return pixels_; }
+    const Bitmap& Pixels() const {
+        DrawGround();
+        return pixels_;
+    }
 
     /// New size, filled with `fill`; old content stays where it fits.
     void Resize(int width, int height, Color fill);
-    void Fill(Color color);
+    void Fill(Color fill) { Cover(fill, nullptr); }
+    /// Replaces everything by the picture at the top left (null: none) over the colour.
+    void Cover(Color fill, BitmapPtr picture);
     void FillRect(const Rect& area, Color color);
     /// One-pixel line with both ends.
     void Line(int x1, int y1, int x2, int y2, Color color);
@@ -124,7 +130,10 @@ public:
     void StretchBlt(const Rect& target, const Bitmap& source);
 
     /// Writable pixels for a text renderer: mark what was drawn by Touch.
-    Bitmap& Writable() { return pixels_; }
+    Bitmap& Writable() {
+        DrawGround();
+        return pixels_;
+    }
     void Touch(const Rect& area);
 
     /// Rectangle changed since the last call; empties it.
@@ -137,7 +146,17 @@ public:
     Color color = 0;
 
 private:
-    Bitmap pixels_;
+    void DrawGround() const {
+        if (groundDue_) {
+            FillWithGround();
+        }
+    }
+    void FillWithGround() const;
+
+    mutable Bitmap pixels_;  // always of the canvas's size; what it holds counts once drawn
+    mutable bool groundDue_ = false;
+    Color ground_ = 0;
+    mutable BitmapPtr groundPicture_;  // while due
     Rect changed_;
 };
 

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <functional>
+#include <memory>
 #include <random>
 
 namespace {
@@ -63,6 +65,72 @@ TEST(CanvasResize, KeepsWhatFits) {
     EXPECT_EQ(canvas.TakeChanged(), (Rect{0, 0, 2, 4}));
     canvas.Resize(-1, 5, kBlack);
     EXPECT_TRUE(canvas.Pixels().Empty());
+}
+
+TEST(CanvasCover, LaysThePictureOverTheColour) {
+    Canvas canvas = MakeCanvas(3, 2, kRed);
+    canvas.FillRect({0, 0, 3, 2}, kWhite);
+    const auto picture = std::make_shared<const Bitmap>(2, 1, platform::ToPixel(kBlack));
+    canvas.TakeChanged();
+    canvas.Cover(kRed, picture);
+    EXPECT_EQ(canvas.TakeChanged(), (Rect{0, 0, 3, 2}));
+    const Pixel black = platform::ToPixel(kBlack), red = platform::ToPixel(kRed);
+    EXPECT_EQ(canvas.Pixels().pixels, (std::vector<Pixel>{black, black, red, red, red, red}));
+    // A larger one is cut off.
+    canvas.Cover(kRed, std::make_shared<const Bitmap>(9, 9, platform::ToPixel(kWhite)));
+    EXPECT_EQ(canvas.Pixels().pixels, std::vector<Pixel>(6, platform::ToPixel(kWhite)));
+}
+
+TEST(CanvasCover, IsDrawnWhenItIsLookedAt) {
+    Canvas canvas = MakeCanvas(2, 2, kRed);
+    const auto picture = std::make_shared<const Bitmap>(1, 1, platform::ToPixel(kWhite));
+    canvas.Cover(kBlack, picture);
+    EXPECT_EQ(picture.use_count(), 2) << "kept until then";
+    EXPECT_EQ(canvas.Point(0, 0), kWhite);
+    EXPECT_EQ(picture.use_count(), 1);
+    // The last one counts.
+    canvas.Cover(kBlack, picture);
+    canvas.Fill(kRed);
+    EXPECT_EQ(picture.use_count(), 1);
+    EXPECT_EQ(canvas.Point(0, 0), kRed);
+}
+
+TEST(CanvasCover, LiesUnderWhatIsDrawnBehindIt) {
+    const auto picture = std::make_shared<const Bitmap>(2, 2, platform::ToPixel(kWhite));
+    const Bitmap dot(1, 1, platform::ToPixel(kBlack));
+    const Bitmap quarter(2, 2, platform::ToPixel(kBlack));
+    const std::vector<std::function<void(Canvas&)>> drawings = {
+        [](Canvas& canvas) {
+            canvas.FillRect({0, 0, 1, 1}, kBlack);
+        },
+        [](Canvas& canvas) { canvas.Line(0, 0, 0, 0, kBlack); },
+        [&](Canvas& canvas) { canvas.BitBlt(0, 0, 1, 1, &dot, 0, 0); },
+        [&](Canvas& canvas) {
+            canvas.StretchBlt({0, 0, 1, 1}, quarter);
+        },
+        [](Canvas& canvas) { canvas.Writable().Row(0)[0] = platform::ToPixel(kBlack); }};
+    for (const auto& draw : drawings) {
+        Canvas canvas = MakeCanvas(3, 2, kBlack);
+        canvas.Cover(kRed, picture);
+        draw(canvas);
+        const Pixel black = platform::ToPixel(kBlack), white = platform::ToPixel(kWhite);
+        const Pixel red = platform::ToPixel(kRed);
+        EXPECT_EQ(canvas.Pixels().pixels,
+                  (std::vector<Pixel>{black, white, red, white, white, red}));
+    }
+}
+
+TEST(CanvasCover, StaysWhereItFitsAnotherSize) {
+    Canvas canvas = MakeCanvas(2, 1, kRed);
+    canvas.Cover(kRed, std::make_shared<const Bitmap>(1, 1, platform::ToPixel(kWhite)));
+    canvas.Resize(3, 1, kRed);
+    EXPECT_EQ(canvas.Point(0, 0), kWhite);
+    EXPECT_EQ(canvas.Point(2, 0), kRed);
+    // A plain colour is still the old one where the old canvas was.
+    canvas.Fill(kRed);
+    canvas.Resize(4, 1, kBlack);
+    EXPECT_EQ(canvas.Point(2, 0), kRed);
+    EXPECT_EQ(canvas.Point(3, 0), kBlack);
 }
 
 TEST(CanvasPoint, IsWhiteOutside) {

@@ -14,6 +14,7 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <algorithm>
 #include <set>
 
 #include "adapters/qt/canvas_widget.h"
@@ -66,6 +67,32 @@ void ClickAt(QWidget& widget) {
 void PressKey(QWidget& widget, int key) {
     QKeyEvent press(QEvent::KeyPress, key, {});
     QApplication::sendEvent(&widget, &press);
+}
+
+QWidget* MadeWindow(const QString& name) {
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const QWidget* widget) {
+        return widget->objectName() == name;
+    });
+    return found == all.end() ? nullptr : *found;
+}
+
+TEST(FullScreenShow, MakesNoMainWindow) {
+    int argc = 0;
+    Desktop desktop(argc, nullptr, {.offscreen = true, .screens = {}});
+    model::Windows windows;
+    desktop.MakeViews(windows);
+    windows.slidescreen.Width = 100 * platform::kTwipsPerPixel;
+    windows.slidescreen.Height = 80 * platform::kTwipsPerPixel;
+    windows.slidescreen.Show();
+    EXPECT_NE(MadeWindow("Slidescreen"), nullptr);
+    // The monitor is known by the place that the window would take.
+    EXPECT_EQ(desktop.Monitors().OfMainWindow(), 0);
+    EXPECT_EQ(MadeWindow("Form1"), nullptr);
+    windows.form1.Show();
+    EXPECT_NE(MadeWindow("Form1"), nullptr);
+    EXPECT_EQ(desktop.Monitors().OfMainWindow(), 0);
+    desktop.UnmakeViews();
 }
 
 TEST_F(Views, WindowsOfThisStageHaveForms) {

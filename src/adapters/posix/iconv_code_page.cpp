@@ -3,6 +3,7 @@
 #include <iconv.h>
 
 #include <array>
+#include <vector>
 
 namespace posix_adapter {
 
@@ -10,6 +11,7 @@ namespace {
 
 constexpr char16_t kReplacement = 0xFFFD;
 constexpr size_t kAll16Bit = 0x10000;
+constexpr unsigned kAsciiEnd = 0x80;
 
 /// One iconv conversion, closed at the end of its life. Without the system's conversion module
 /// every Convert fails, which leaves ASCII.
@@ -47,28 +49,20 @@ private:
     iconv_t handle_;
 };
 
-}  // namespace
+// Each table takes thousands of conversions: it is filled when a text first needs it, which a show
+// whose names are ASCII never does.
 
-struct IconvCodePage::Tables {
+struct Decoding {
     std::array<char16_t, 256> single{};                             // 0: no character of one byte
     std::vector<char16_t> twin = std::vector<char16_t>(kAll16Bit);  // by lead × 256 + trail
-    std::vector<uint16_t> encoded = std::vector<uint16_t>(kAll16Bit);  // 0: none but U+0000
 
-    Tables() {
-        FillDecoding();
-        FillEncoding();
-    }
-
-    char16_t Decoded(uint16_t code) const { return code < 0x100 ? single[code] : twin[code]; }
-
-private:
-    void FillDecoding() {
+    Decoding() {
         Converter converter("UTF-16LE", "CP932");
         for (unsigned lead = 0; lead < 0x100; ++lead) {
             const char one = static_cast<char>(lead);
             char16_t unit = 0;
             size_t size = 0;
-            if (lead < 0x80) {
+            if (lead < kAsciiEnd) {
                 single[lead] = static_cast<char16_t>(lead);
                 continue;
             }
@@ -86,14 +80,22 @@ private:
         }
     }
 
-    void FillEncoding() {
+    char16_t Decoded(uint16_t code) const { return code < 0x100 ? single[code] : twin[code]; }
+};
+
+const Decoding& SharedDecoding() {
+    static const Decoding table;
+    return table;
+}
+
+struct Encoding {
+    std::vector<uint16_t> codes = std::vector<uint16_t>(kAll16Bit);  // 0: none
+
+    Encoding() {
+        const Decoding& decoding = SharedDecoding();
         Converter converter("CP932", "UTF-16LE");
-        for (unsigned code = 1; code < kAll16Bit; ++code) {
+        for (unsigned code = kAsciiEnd; code < kAll16Bit; ++code) {
             const char16_t unit = static_cast<char16_t>(code);
-            if (code < 0x80) {
-                encoded[code] = static_cast<uint16_t>(code);
-                continue;
-            }
             std::array<unsigned char, 4> bytes{};
             size_t size = 0;
             if (!converter.Convert(&unit, sizeof unit, bytes.data(), bytes.size(), size) ||
@@ -101,26 +103,30 @@ private:
                 continue;
             }
             const unsigned value = size == 1 ? bytes[0] : unsigned{bytes[0]} << 8 | bytes[1];
-            if (Decoded(static_cast<uint16_t>(value)) == unit) {
-                encoded[code] = static_cast<uint16_t>(value);
+            if (decoding.Decoded(static_cast<uint16_t>(value)) == unit) {
+                codes[code] = static_cast<uint16_t>(value);
             }
         }
     }
 };
 
-const IconvCodePage::Tables& IconvCodePage::SharedTables() {
-    static const Tables tables;
-    return tables;
+const Encoding& SharedEncoding() {
+    static const Encoding table;
+    return table;
 }
 
-IconvCodePage::IconvCodePage() : tables_(SharedTables()) {}
+}  // namespace
 
 std::optional<std::string> IconvCodePage::Encode(TextView value) const {
     std::string result;
     result.reserve(value.size() * 2);
     for (const char16_t unit : value) {
-        const uint16_t code = tables_.encoded[unit];
-        if (code == 0 && unit != 0) {
+        if (unit < kAsciiEnd) {
+            result.push_back(static_cast<char>(unit));
+            continue;
+        }
+        const uint16_t code = SharedEncoding().codes[unit];
+        if (code == 0) {
             return std::nullopt;
         }
         if (code >= 0x100) {
@@ -136,13 +142,18 @@ Text IconvCodePage::Decode(std::string_view bytes) const {
     result.reserve(bytes.size());
     for (size_t i = 0; i < bytes.size(); ++i) {
         const auto lead = static_cast<unsigned char>(bytes[i]);
-        char16_t unit = tables_.single[lead];
-        if (unit == 0 && lead != 0 && i + 1 < bytes.size()) {
+        if (lead < kAsciiEnd) {
+            result.push_back(lead);
+            continue;
+        }
+        const Decoding& decoding = SharedDecoding();
+        char16_t unit = decoding.single[lead];
+        if (unit == 0 && i + 1 < bytes.size()) {
             const auto trail = static_cast<unsigned char>(bytes[i + 1]);
-            unit = tables_.twin[static_cast<size_t>(lead) << 8 | trail];
+            unit = decoding.twin[static_cast<size_t>(lead) << 8 | trail];
             i += unit != 0 ? 1 : 0;
         }
-        result.push_back(unit == 0 && lead != 0 ? kReplacement : unit);
+        result.push_back(unit == 0 ? kReplacement : unit);
     }
     return result;
 }

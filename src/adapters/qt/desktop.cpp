@@ -80,7 +80,7 @@ struct Desktop::Parts {
         : application(MakeApplication(argc, argv, options.offscreen)),
           loop(gate),
           dialogs(gate),
-          monitors(options.screens, [this] { return MainWindow(); }) {}
+          monitors(options.screens, [this] { return MainScreen(); }) {}
 
     /// The program hears of monitors that come, go or change, when the toolkit is done with it.
     void WatchScreens() {
@@ -116,9 +116,18 @@ struct Desktop::Parts {
         return nullptr;
     }
 
-    QWidget* MainWindow() {
+    /// Where the main window is, or would come up: a show in full screen does not make it.
+    QScreen* MainScreen() {
         WindowView* view = ViewOf(QStringLiteral("Form1"));
-        return view ? view->Widget() : nullptr;
+        if (!view) {
+            return nullptr;
+        }
+        if (const QWidget* widget = view->WidgetIfMade()) {
+            return widget->screen();
+        }
+        const model::Window& window = view->Window();
+        return ScreenAt((window.Left + window.Width / 2) / platform::kTwipsPerPixel,
+                        (window.Top + window.Height / 2) / platform::kTwipsPerPixel);
     }
 
     // The application comes first and goes last.

@@ -1,5 +1,6 @@
 #include "adapters/qt/form_loader.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include "adapters/qt/canvas_widget.h"
@@ -21,9 +22,12 @@ QString WidgetName(const std::string& controlName) {
     return name.replace('(', '_').remove(')');
 }
 
+PluginsAside::PluginsAside() : paths(QCoreApplication::libraryPaths()) {
+    QCoreApplication::setLibraryPaths({});
+}
+
 FormLoader::FormLoader(platform::Video* video) : video_(video) {
-    // Widgets of installed designer plug-ins are no part of this program's forms.
-    clearPluginPaths();
+    QCoreApplication::setLibraryPaths(paths);
 }
 
 bool FormLoader::HasForm(const std::string& windowName) {

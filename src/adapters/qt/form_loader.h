@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QUiLoader>
 #include <string>
 
@@ -12,7 +13,15 @@ namespace qt_adapter {
 /// Object name of a control: "Picture2_3" for "Picture2(3)".
 QString WidgetName(const std::string& controlName);
 
-class FormLoader : public QUiLoader {
+/// Widgets of installed designer plug-ins are no part of this program's forms, but the toolkit's
+/// loader loads them all, with the libraries they need, as soon as it is made. This is made ahead
+/// of it, so that it looks nowhere.
+struct PluginsAside {
+    PluginsAside();
+    QStringList paths;
+};
+
+class FormLoader : private PluginsAside, public QUiLoader {
 public:
     /// `video`: what the players of forms show; null: nothing.
     explicit FormLoader(platform::Video* video);

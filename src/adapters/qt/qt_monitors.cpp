@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QWidget>
 #include <algorithm>
 #include <cmath>
 
@@ -62,8 +61,8 @@ QPoint FromPhysical(int physicalX, int physicalY) {
                            static_cast<int>(std::lround((physicalY - corner.y()) / ratio)));
 }
 
-QtMonitors::QtMonitors(std::vector<platform::Rect> screens, std::function<QWidget*()> mainWindow)
-    : screens_(std::move(screens)), mainWindow_(std::move(mainWindow)) {}
+QtMonitors::QtMonitors(std::vector<platform::Rect> screens, std::function<QScreen*()> mainScreen)
+    : screens_(std::move(screens)), mainScreen_(std::move(mainScreen)) {}
 
 QtMonitors::~QtMonitors() = default;
 
@@ -84,11 +83,10 @@ std::vector<platform::Rect> QtMonitors::Enumerate() {
 }
 
 int QtMonitors::OfMainWindow() {
-    const QWidget* window = mainWindow_();
-    if (!window || !screens_.empty()) {
+    if (!screens_.empty()) {
         return 0;
     }
-    return static_cast<int>(std::max<qsizetype>(0, OrderedScreens().indexOf(window->screen())));
+    return static_cast<int>(std::max<qsizetype>(0, OrderedScreens().indexOf(mainScreen_())));
 }
 
 platform::Size QtMonitors::Room() {

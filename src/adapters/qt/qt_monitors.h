@@ -9,7 +9,6 @@
 #include "platform/monitors.h"
 
 class QScreen;
-class QWidget;
 
 namespace qt_adapter {
 
@@ -26,9 +25,9 @@ class ScreenKeeper;
 
 class QtMonitors : public platform::Monitors {
 public:
-    /// `screens` are reported instead of the real ones unless empty; `mainWindow` answers the main
-    /// window's widget, or null.
-    QtMonitors(std::vector<platform::Rect> screens, std::function<QWidget*()> mainWindow);
+    /// `screens` are reported instead of the real ones unless empty; `mainScreen` answers the
+    /// screen of the main window, or null.
+    QtMonitors(std::vector<platform::Rect> screens, std::function<QScreen*()> mainScreen);
     ~QtMonitors() override;
     std::vector<platform::Rect> Enumerate() override;
     int OfMainWindow() override;
@@ -38,7 +37,7 @@ public:
 
 private:
     std::vector<platform::Rect> screens_;
-    std::function<QWidget*()> mainWindow_;
+    std::function<QScreen*()> mainScreen_;
     std::unique_ptr<ScreenKeeper> keeper_;  // made when first needed
 };
 

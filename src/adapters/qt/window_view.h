@@ -38,6 +38,7 @@ public:
     model::Window& Window() { return window_; }
     /// The window's widget, made now if need be; null if its form cannot be read.
     QWidget* Widget();
+    QWidget* WidgetIfMade() const { return root_; }
     /// Lets canvases ask for the repaints that are due.
     void FlushCanvases();
 
