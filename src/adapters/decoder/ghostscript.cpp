@@ -16,31 +16,16 @@
 #include <cmath>
 #include <string>
 
+#include "adapters/door/message.h"
+
 namespace decoder {
 
 namespace {
 
 using Bytes = std::span<const uint8_t>;
+using door::Descriptor;
 using platform::Size;
 using std::chrono::steady_clock;
-
-class Descriptor {
-public:
-    explicit Descriptor(int fd = -1) : fd_(fd) {}
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int Get() const { return fd_; }
-    void Close() {
-        if (fd_ >= 0) {
-            close(fd_);
-        }
-        fd_ = -1;
-    }
-
-private:
-    int fd_;
-};
 
 /// Where the interpreter's messages go.
 int Nowhere() {
@@ -61,6 +46,19 @@ Bytes PostScriptOf(Bytes file) {
     };
     const size_t start = std::min(little32(4), file.size());
     return file.subspan(start, std::min(little32(8), file.size() - start));
+}
+
+std::optional<Box> BoxOf(Bytes postScript) {
+    return BoundingBox({reinterpret_cast<const char*>(postScript.data()), postScript.size()});
+}
+
+/// In pixels of a point each.
+Size OwnSize(const Box& box) {
+    // What covers the smallest part of a pixel has it; a hundredth is the noise of the numbers.
+    const auto pixels = [](double points) {
+        return std::max(1, static_cast<int>(std::ceil(points - 0.01)));
+    };
+    return {pixels(box.right - box.left), pixels(box.top - box.bottom)};
 }
 
 /// A nameless file in memory, read from its start.
@@ -111,7 +109,8 @@ std::vector<std::string> CommandLine(const Box& box, Size size) {
             "-c", "showpage"};
 }
 
-/// -1 where there is no interpreter. The child leads a group of its own.
+/// -1 where there is no interpreter. The child stays in the caller's group, so that who ends that
+/// ends it too.
 pid_t Start(std::vector<std::string> words, int input, int output) {
     std::vector<char*> arguments;
     for (std::string& word : words) {
@@ -124,19 +123,14 @@ pid_t Start(std::vector<std::string> words, int input, int output) {
     std::array<char*, 4> environment = {settings[0].data(), settings[1].data(), settings[2].data(),
                                         nullptr};
     posix_spawn_file_actions_t actions;
-    posix_spawnattr_t attributes;
     posix_spawn_file_actions_init(&actions);
-    posix_spawnattr_init(&attributes);
     posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
     posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, Nowhere(), STDERR_FILENO);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
-    posix_spawnattr_setpgroup(&attributes, 0);
     pid_t pid = -1;
-    const int error = posix_spawn(&pid, "/usr/bin/gs", &actions, &attributes, arguments.data(),
-                                  environment.data());
+    const int error =
+        posix_spawn(&pid, "/usr/bin/gs", &actions, nullptr, arguments.data(), environment.data());
     posix_spawn_file_actions_destroy(&actions);
-    posix_spawnattr_destroy(&attributes);
     return error == 0 ? pid : -1;
 }
 
@@ -203,20 +197,19 @@ void WarmUpGhostscript() {
     Nowhere();
 }
 
+std::optional<Size> MeasurePostScript(Bytes file) {
+    const std::optional<Box> box = BoxOf(PostScriptOf(file));
+    return box ? std::optional(OwnSize(*box)) : std::nullopt;
+}
+
 std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
                                       std::chrono::milliseconds timeLimit) {
     const Bytes postScript = PostScriptOf(file);
-    const std::optional<Box> box =
-        BoundingBox({reinterpret_cast<const char*>(postScript.data()), postScript.size()});
+    const std::optional<Box> box = BoxOf(postScript);
     if (!box) {
         return std::nullopt;
     }
-    // What covers the smallest part of a pixel has it; a hundredth is the noise of the numbers.
-    const auto pixels = [](double points) {
-        return std::max(1, static_cast<int>(std::ceil(points - 0.01)));
-    };
-    const Size own = {pixels(box->right - box->left), pixels(box->top - box->bottom)};
-    const Size size = wanted.Empty() ? own : wanted;
+    const Size size = wanted.Empty() ? OwnSize(*box) : wanted;
     if (int64_t{size.width} * size.height > kMostPixels) {
         return std::nullopt;
     }
@@ -233,7 +226,7 @@ std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
         return std::nullopt;
     }
     const std::vector<uint8_t> read = ReadPage(result.Get(), size, timeLimit);
-    kill(-pid, SIGKILL);
+    kill(pid, SIGKILL);
     while (waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {
     }
     return PictureOf(read, size);

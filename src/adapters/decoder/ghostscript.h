@@ -20,6 +20,9 @@ std::optional<Box> BoundingBox(std::string_view postScript);
 /// Opens what later calls need.
 void WarmUpGhostscript();
 
+/// A drawing's own size, a pixel a point. Nothing without a legible box.
+std::optional<platform::Size> MeasurePostScript(std::span<const uint8_t> file);
+
 /// Draws the first page's box at `wanted` pixels, or a pixel a point. Fails without a legible box,
 /// and where the interpreter takes more than `timeLimit`.
 constexpr std::chrono::seconds kDrawingTime{8};

@@ -145,7 +145,7 @@ public:
 
     /// The size of what is decoded elsewhere; the pixels too where nothing less tells it.
     bool AskSize(PictureFile& into, door::Client& decoder) {
-        const bool measurable = foreign_ == door::Kind::Svg;
+        const bool measurable = door::RoleOf(foreign_) != door::Role::Raster;
         const door::Result result =
             measurable ? decoder.Measure(foreign_, file_.handle()) : DecodeForeign({}, decoder);
         into.own_ = result.size;
