@@ -1,7 +1,6 @@
 // Files that are broken off, empty or say wrong things of themselves.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "decoder/decoder_support.h"
@@ -101,31 +100,31 @@ TEST(Damaged, OneKindIsNotReadAsAnother) {
     EXPECT_FALSE(decoder::Decode(Kind::None, Sample("psd_rgb_raw.psd"), {}));
 }
 
-/// The decoder's process closes itself against opening files once it is warm.
+/// What the decoder's process does once it is warm: no file more, and 2 GiB of addresses.
+void DecodeAllClosed(const std::vector<std::string>& names, const std::vector<FileBytes>& files) {
+    const rlimit none = {0, 0}, memory = {rlim_t{2} << 30, rlim_t{2} << 30};
+    setrlimit(RLIMIT_NOFILE, &none);
+    setrlimit(RLIMIT_AS, &memory);
+    int failed = 0;
+    for (size_t i = 0; i < names.size(); ++i) {
+        const Kind kind = KindOfSample(names[i]);
+        if (kind != Kind::Eps && !decoder::Decode(kind, files[i], {})) {
+            fprintf(stderr, "not decoded: %s\n", names[i].c_str());
+            ++failed;
+        }
+    }
+    _exit(failed == 0 ? 0 : 1);
+}
+
 TEST(Damaged, NothingIsOpenedAfterWarmingUp) {
+    // The child is the program started anew, so that nothing but warming up came before.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     const std::vector<std::string> names = SampleNames();
     std::vector<FileBytes> files;
     for (const std::string& name : names) {
         files.push_back(Sample(name));
     }
-    const pid_t child = fork();
-    if (child == 0) {
-        decoder::WarmUp();
-        const rlimit none = {0, 0};
-        setrlimit(RLIMIT_NOFILE, &none);
-        int failed = 0;
-        for (size_t i = 0; i < names.size(); ++i) {
-            const Kind kind = KindOfSample(names[i]);
-            if (kind != Kind::Eps && !decoder::Decode(kind, files[i], {})) {
-                fprintf(stderr, "not decoded: %s\n", names[i].c_str());
-                ++failed;
-            }
-        }
-        _exit(failed == 0 ? 0 : 1);
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+    EXPECT_EXIT(DecodeAllClosed(names, files), ::testing::ExitedWithCode(0), "");
 }
 
 }  // namespace
