@@ -176,7 +176,7 @@ TEST(Limits, ASpinDiesWhenItsTimeIsOver) {
         // The second time counts from itself on, so the first one is no promise.
         confine::AllowProcessorTime(100);
         confine::AllowProcessorTime(1);
-        static volatile int turns = 0;
+        static volatile unsigned turns = 0;
         while (true) {
             turns = turns + 1;
         }

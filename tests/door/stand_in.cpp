@@ -164,7 +164,7 @@ std::optional<door::Picture> DecodeWord(door::Kind, std::span<const uint8_t> fil
     if (word == "spin") {
         confine::AllowProcessorTime(1);
         while (true) {
-            static volatile int turns = 0;
+            static volatile unsigned turns = 0;
             turns = turns + 1;
         }
     } else if (word == "crash") {
