@@ -282,7 +282,11 @@ def make_toolkit_kinds():
     run("pamtotiff", "-g3", mono, to="toolkit/tif_fax3.tif")
     run("pamtotiff", "-g4", mono, to="toolkit/tif_fax4.tif")
     run("ffmpeg", "-v", "error", "-y", "-i", source("alpha.pam"), "toolkit/tif_alpha.tif")
-    # The toolkit's reader refuses plain ones of 24 bits, and tiles larger than the picture.
+    # The toolkit's reader refuses plain ones of 24 bits, and tiles larger than the picture: these
+    # two are read behind the door.
+    for name, side in (("plain", "16"), ("large", "128")):
+        run("tiffcp", "-c", "none", "-t", "-w", side, "-l", side, plain,
+            f"toolkit/tif_tiled_{name}.tif")
     for name in ("grey", "palette", "mono", "fax4", "16bit"):
         run("tiffcp", "-c", "lzw", "-t", "-w", "16", "-l", "16", f"toolkit/tif_{name}.tif",
             f"toolkit/tif_tiled_{name}.tif")

@@ -24,6 +24,8 @@ constexpr Row kRows[] = {
     {"tif_packbits.tif", "card"},
     {"tif_jpeg.tif", "card", kAny, 7},
     {"tif_big_endian.tif", "card"},
+    {"tif_tiled_plain.tif", "card"},
+    {"tif_tiled_large.tif", "card"},
     {"tif_tiled_grey.tif", "grey"},
     {"tif_tiled_palette.tif", "pal256"},
     {"tif_tiled_mono.tif", "mono"},
@@ -50,7 +52,7 @@ constexpr Row kRows[] = {
     {"bmp_runs8.bmp", "pal256"},
     {"bmp_runs4.bmp", "pal16"},
     // The toolkit's reader leaves the low three bits 0: white is 248.
-    {"bmp_16.bmp", "fivebit", 7},
+    {"bmp_16.bmp", "fivebit", kRounded},
     {"bmp_32.bmp", "card"},
     {"bmp_topdown.bmp", "card"},
     {"jpg_plain.jpg", "card", kAny, 7},

@@ -33,6 +33,8 @@ constexpr Row kDecoders[] = {
     {Kind::Pcd, [](Bytes file) { return DecodeByMagick("PCD", file); }},
     {Kind::Avif, [](Bytes file) { return DecodeByMagick("AVIF", file); }},
     {Kind::Heic, [](Bytes file) { return DecodeByMagick("HEIC", file); }},
+    {Kind::Tif, [](Bytes file) { return DecodeByMagick("TIFF", file); }},
+    {Kind::Bmp, [](Bytes file) { return DecodeByMagick("BMP", file); }},
     {Kind::Jxl, [](Bytes file) { return DecodeByMagick("JXL", file); }},
 };
 

@@ -25,8 +25,11 @@ enum class Kind : uint8_t {
     Heic = 14,
     Jxl = 15,
     Svg = 16,  // read by the toolkit, but not in the program's process; KindOf does not look for it
+    // What the toolkit reads wrongly or not at all of its own kinds.
+    Tif = 17,
+    Bmp = 18,
 };
-constexpr uint8_t kLastKind = 16;
+constexpr uint8_t kLastKind = 18;
 
 /// Bytes of a file's start and of its end that KindOf wants to see, fewer where it is shorter.
 constexpr size_t kStartBytes = 4096;

@@ -62,6 +62,12 @@ private:
     const ReadingContext& context_;
 };
 
+/// Pixels of 16 bits: the toolkit's reader makes their white a light grey.
+bool HasBmpWords(std::string_view start) {
+    constexpr size_t kBitsAt = 28;
+    return start.size() > kBitsAt + 1 && start[kBitsAt] == 16 && start[kBitsAt + 1] == 0;
+}
+
 /// Bits per pixel that a drawing has before it was drawn.
 constexpr int kDrawnDepth = 32;
 
@@ -120,6 +126,8 @@ public:
         if (kind_ == Kind::Svg) {
             // The toolkit's reader would hold up the program for hours, or open what is named.
             foreign_ = door::Kind::Svg;
+        } else if (kind_ == Kind::Bmp && HasBmpWords(ViewOf(start))) {
+            foreign_ = door::Kind::Bmp;
         } else if (kind_ == Kind::None) {
             foreign_ = door::KindOf(ViewOf(start), ViewOf(End()), path);
         } else {
@@ -134,7 +142,11 @@ public:
     door::Kind Foreign() const { return foreign_; }
 
     door::Result DecodeForeign(Size wanted, door::Client& decoder) {
-        return decoder.Decode(foreign_, file_.handle(), wanted);
+        return DecodeAs(foreign_, wanted, decoder);
+    }
+
+    door::Result DecodeAs(door::Kind kind, Size wanted, door::Client& decoder) {
+        return decoder.Decode(kind, file_.handle(), wanted);
     }
 
     void Identify(PictureFile& into) const {
@@ -266,7 +278,18 @@ BitmapPtr PictureFile::DecodeHere(Size size, int* depth, ReadingContext& context
         return nullptr;
     }
     QImage image = reader.Decode(*this, size);
-    if (image.isNull() || context.giveUp) {
+    if (context.giveUp) {
+        return nullptr;
+    }
+    if (image.isNull() && kind_ == Kind::Tiff) {
+        // Tiles larger than the picture, for one, are too much for the toolkit's reader.
+        const door::Result result = reader.DecodeAs(door::Kind::Tif, {}, context.decoder);
+        if (depth != nullptr) {
+            *depth = result.bitsPerPixel;
+        }
+        return result.pixels;
+    }
+    if (image.isNull()) {
         return nullptr;
     }
     if (depth != nullptr) {
