@@ -218,7 +218,7 @@ std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
     if (input.Get() < 0 || Nowhere() < 0 || pipe2(ends.data(), O_CLOEXEC) != 0) {
         return std::nullopt;
     }
-    const Descriptor result(ends[0]);
+    Descriptor result(ends[0]);
     Descriptor output(ends[1]);
     const pid_t pid = Start(CommandLine(*box, size), input.Get(), output.Get());
     output.Close();
@@ -226,6 +226,9 @@ std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
         return std::nullopt;
     }
     const std::vector<uint8_t> read = ReadPage(result.Get(), size, timeLimit);
+    // Behind the process's limits nobody can be killed: then the closed pipe ends the interpreter,
+    // or its processor time, or the program.
+    result.Close();
     kill(pid, SIGKILL);
     while (waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {
     }
