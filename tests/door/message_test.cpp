@@ -48,7 +48,7 @@ TEST(Requests, EveryFieldIsChecked) {
     request.mark = door::kAnswerMark;
     EXPECT_FALSE(Accepted(request));
     for (const auto& [kind, accepted] :
-         {std::pair(0u, false), {1u, true}, {16u, true}, {17u, false}, {0x101u, false}}) {
+         {std::pair(0u, false), {1u, true}, {18u, true}, {19u, false}, {0x101u, false}}) {
         request = GoodRequest();
         request.kind = kind;
         EXPECT_EQ(Accepted(request), accepted) << kind;

@@ -33,12 +33,13 @@ TEST_F(Damaged, WhatIsNoPictureIsRefused) {
          {folder_.Put("zero.jpg", ""), folder_.Put("text.jpg", "This is a text.\r\n"),
           folder_.Put("sound.jpg", QByteArray("RIFF\x24\0\0\0WAVEfmt ", 16)),
           folder_.Put("start.jpg", QByteArray("\xFF\xD8\xFF", 3)),
-          folder_.Put("bm.bmp", "BM is how this text begins"), folder_.Put("svg.svg", "<svg"),
+          folder_.Put("bm.bmp", "BM is how this text begins"),
           folder_.Folder().TextPath("fifo.jpg"), folder_.Folder().TextPath("folder.jpg"),
           folder_.Folder().TextPath("none.jpg"), Text(u"/dev/zero"), Text(u"")}) {
         EXPECT_FALSE(control_->ReadInformation(path)) << text::ToUtf8(path);
         EXPECT_FALSE(Loads(path)) << text::ToUtf8(path);
     }
+    EXPECT_FALSE(Loads(folder_.Put("svg.svg", "<svg"))) << "only drawing it shows that";
 }
 
 TEST_F(Damaged, HugeHeadersAreRefusedUndecoded) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -295,15 +296,65 @@ TEST_F(Prepared, AWholeDecodingAboveItsBoundIsNotBegun) {
     EXPECT_EQ(Ahead().HeldCount(), 1);
 }
 
-TEST_F(Prepared, DrawingsAndWhatIsNoPictureAreLeftOut) {
+TEST_F(Prepared, DrawingsAreDrawnAheadAndFailuresAreHeld) {
     const Text svg = folder_.Put("a.svg",
                                  "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='20'>"
                                  "<rect width='40' height='20' fill='red'/></svg>");
-    Prepare({{svg, Fit(80, 40)},
-             {folder_.Put("b.png", "no picture"), {}},
-             {folder_.Folder().TextPath("none.png"), {}}});
-    EXPECT_EQ(Ahead().HeldCount(), 0);
-    EXPECT_EQ(Ahead().DecodingsBegun(), 0);
+    const Text bad = folder_.Put("b.png", "no picture");
+    Prepare({{svg, Fit(80, 40)}, {bad, {}}, {folder_.Folder().TextPath("none.png"), {}}});
+    EXPECT_EQ(Ahead().HeldCount(), 2);
+    EXPECT_EQ(Ahead().HeldBytes(), 80 * 40 * 4);
+    EXPECT_FALSE(control_->Load(bad, {}));
+    ASSERT_TRUE(control_->Load(svg, Fit(80, 40)));
+    EXPECT_EQ(control_->HeldSize(), (Size{40, 20}));
+    control_->Resize(80, 40, 0);
+    EXPECT_EQ(control_->Picture()->pixels, std::vector<Pixel>(80 * 40, kRed));
+    EXPECT_EQ(Ahead().DecodingsBegun(), 2) << "neither was read again";
+}
+
+/// Pictures whose decoder does what they say.
+struct PreparedBehindDoor : ::testing::Test {
+    ImagingFolder folder{{PARAPICO_STAND_IN, {"limited"}, 60000}};
+    std::unique_ptr<platform::ImagingControl> control = folder.Control();
+
+    /// What the worker's process counted up to; the control's own process counts apart from it.
+    Pixel Counted(const Text& path) {
+        return control->Load(path, {}) ? control->Picture()->pixels[0] & 0xFFFFFFu : 0;
+    }
+};
+
+TEST_F(PreparedBehindDoor, TheWorkerHasAProcessOfItsOwn) {
+    const Text path = folder.Put("a.psd", "8BPScount");
+    EXPECT_EQ(Counted(path), 1u);
+    EXPECT_EQ(Counted(path), 2u);
+    folder.Imaging().Prepare({{path, {}}});
+    folder.Imaging().Prepared().Finish();
+    EXPECT_EQ(Counted(path), 1u) << "the worker's";
+    EXPECT_EQ(Counted(path), 1u) << "taken again as long as it is wanted";
+    folder.Imaging().Prepare({});
+    EXPECT_EQ(Counted(path), 3u);
+}
+
+TEST_F(PreparedBehindDoor, AFailureIsHeldUntilTheFileChanges) {
+    const Text path = folder.Put("a.psd", "8BPSthrow");
+    folder.Imaging().Prepare({{path, {}}});
+    folder.Imaging().Prepared().Finish();
+    EXPECT_EQ(folder.Imaging().Prepared().HeldCount(), 1);
+    EXPECT_EQ(Counted(path), 0u);
+    folder.Put("a.psd", "8BPScount");
+    EXPECT_EQ(Counted(path), 1u);
+}
+
+TEST(PreparedHanging, TheEndDoesNotWaitForADecoderThatHangs) {
+    const auto begun = std::chrono::steady_clock::now();
+    {
+        ImagingFolder folder({PARAPICO_STAND_IN, {"hang"}, 60000});
+        folder.Imaging().Prepare({{folder.Put("a.psd", "8BPSanything"), {}}});
+        while (folder.Imaging().Prepared().DecodingsBegun() == 0) {
+            std::this_thread::yield();
+        }
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(30));
 }
 
 TEST_F(Prepared, ALoadMeetsTheWorkerWhereverItIs) {
