@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "imaging/imaging_support.h"
@@ -309,7 +310,7 @@ TEST_F(Prepared, DrawingsAreDrawnAheadAndFailuresAreHeld) {
     EXPECT_EQ(control_->HeldSize(), (Size{40, 20}));
     control_->Resize(80, 40, 0);
     EXPECT_EQ(control_->Picture()->pixels, std::vector<Pixel>(80 * 40, kRed));
-    EXPECT_EQ(Ahead().DecodingsBegun(), 2) << "neither was read again";
+    EXPECT_EQ(Ahead().DecodingsBegun(), 1);
 }
 
 /// Pictures whose decoder does what they say.
@@ -345,16 +346,49 @@ TEST_F(PreparedBehindDoor, AFailureIsHeldUntilTheFileChanges) {
     EXPECT_EQ(Counted(path), 1u);
 }
 
+TEST_F(PreparedBehindDoor, WhatSaysNothingOfTheFileIsNotHeld) {
+    ImagingFolder nowhere({"/nonexistent", {}, 60000});
+    nowhere.Imaging().Prepare({{nowhere.Put("a.psd", "8BPSpicture"), {}}});
+    nowhere.Imaging().Prepared().Finish();
+    EXPECT_EQ(nowhere.Imaging().Prepared().HeldCount(), 0) << "no process is no failure";
+}
+
 TEST(PreparedHanging, TheEndDoesNotWaitForADecoderThatHangs) {
     const auto begun = std::chrono::steady_clock::now();
     {
         ImagingFolder folder({PARAPICO_STAND_IN, {"hang"}, 60000});
         folder.Imaging().Prepare({{folder.Put("a.psd", "8BPSanything"), {}}});
-        while (folder.Imaging().Prepared().DecodingsBegun() == 0) {
+        while (PreparingThreads() == 0) {
             std::this_thread::yield();
         }
+        LetOthersRun(20);
     }
     EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(30));
+}
+
+TEST_F(Prepared, ThePictureLeftBehindIsHeldWithoutDecoding) {
+    const FitFunction fit = Fit(20, 10);
+    const Text one = PutFlat("1.png", 40, 20, Qt::red), two = PutFlat("2.png", 40, 20, Qt::white),
+               three = PutFlat("3.png", 40, 20, Qt::red);
+    // Time stamps of files that are loaded at once must have settled.
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    ASSERT_TRUE(control_->Load(one, fit));
+    Prepare({{two, fit}});
+    EXPECT_EQ(Ahead().DecodingsBegun(), 1);
+    ASSERT_TRUE(control_->Load(two, fit));
+    Prepare({{three, fit}, {one, fit}});
+    EXPECT_EQ(Ahead().DecodingsBegun(), 2) << "the third only";
+    EXPECT_EQ(Ahead().HeldCount(), 2);
+    // Another size, and a file that changed, are decoded.
+    ASSERT_TRUE(control_->Load(one, fit));
+    Prepare({{two, Fit(10, 5)}});
+    EXPECT_EQ(Ahead().DecodingsBegun(), 3);
+    ASSERT_TRUE(control_->Load(two, Fit(10, 5)));
+    PutFlat("1.png", 40, 20, Qt::white);
+    Prepare({{one, fit}});
+    EXPECT_EQ(Ahead().DecodingsBegun(), 4);
+    ASSERT_TRUE(control_->Load(one, fit));
+    EXPECT_EQ(control_->Picture()->pixels[0], kWhite);
 }
 
 TEST_F(Prepared, ALoadMeetsTheWorkerWhereverItIs) {

@@ -46,23 +46,22 @@ Result Client::Ask(Request& request, int file) {
     } catch (const std::bad_alloc&) {
         result.outcome = Outcome::Lied;
     }
-    if (result.outcome != Outcome::Decoded && result.outcome != Outcome::Failed) {
+    if (result.outcome != Outcome::Decoded && result.outcome != Outcome::Failed &&
+        result.outcome != Outcome::Large) {
         Forget(RoleOf(static_cast<Kind>(request.kind)));
     }
     return result;
 }
 
-/// The answer, or nothing when the limit has passed or the caller gives up.
-Received Client::Wait(int socket) const {
-    if (giveUp_ == nullptr) {
-        return Receive(socket, options_.limitMilliseconds);
-    }
-    constexpr int kLookMilliseconds = 20;
+/// The answer, or nothing when the time has passed or the caller gives up.
+Received Client::Wait(int socket, int milliseconds) const {
+    // Looks in between only where somebody may give up.
+    const int most = giveUp_ == nullptr ? milliseconds : 20;
     Received received;
-    for (int left = options_.limitMilliseconds;
-         received.state == Received::State::Nothing && left > 0 && !*giveUp_;
-         left -= kLookMilliseconds) {
-        received = Receive(socket, std::min(left, kLookMilliseconds));
+    for (int left = milliseconds; received.state == Received::State::Nothing && left > 0 &&
+                                  !(giveUp_ != nullptr && *giveUp_);
+         left -= most) {
+        received = Receive(socket, std::min(left, most));
     }
     return received;
 }
@@ -73,7 +72,9 @@ Result Client::AnswerTo(const Request& request, int file) {
     if (!SendRequest(role, request, file)) {
         return result;
     }
-    const Received received = Wait(processes_[static_cast<int>(role)]->socket.Get());
+    const int limit =
+        request.task == kMeasure ? options_.limitMilliseconds / 3 : options_.limitMilliseconds;
+    const Received received = Wait(processes_[static_cast<int>(role)]->socket.Get(), limit);
     const auto answer = ParseAnswer(received.Bytes(), received.descriptors.size(), request);
     if (received.state != Received::State::Message) {
         const bool gone = received.state == Received::State::Gone;
@@ -86,7 +87,10 @@ Result Client::AnswerTo(const Request& request, int file) {
         result.outcome = Outcome::Decoded;
         result.size = {answer->width, answer->height};
         result.bitsPerPixel = static_cast<int>(answer->bitsPerPixel);
-        if (answer->what == kDecoded) {
+        if (int64_t{result.size.width} * result.size.height > options_.mostPixels &&
+            answer->what == kDecoded) {
+            result = {Outcome::Large, nullptr, 0, {}};
+        } else if (answer->what == kDecoded) {
             result.pixels = ReadPixels(received.descriptors[0].Get(), result.size);
             if (!result.pixels) {
                 result = {Outcome::Lied, nullptr, 0, {}};

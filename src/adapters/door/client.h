@@ -15,8 +15,10 @@ namespace door {
 struct ClientOptions {
     std::string program;                 // empty: each role's own
     std::vector<std::string> arguments;  // behind the role's name
-    /// For one picture, the start of the process included.
+    /// For one picture, the start of the process included. Measuring has a third of it.
     int limitMilliseconds = 10000;
+    /// Larger pictures are not taken over.
+    int64_t mostPixels = kMostPixels;
 };
 
 /// What became of a picture. All but Decoded mean an unreadable file.
@@ -27,6 +29,7 @@ enum class Outcome {
     Late,     // no answer within the limit
     Lied,     // an answer that is none
     Missing,  // no process can be started
+    Large,    // more than mostPixels
 };
 
 struct Result {
@@ -58,7 +61,7 @@ public:
 
 private:
     Result Ask(Request& request, int file);
-    Received Wait(int socket) const;
+    Received Wait(int socket, int milliseconds) const;
     Result AnswerTo(const Request& request, int file);
     bool SendRequest(Role role, const Request& request, int file);
     void Forget(Role role);

@@ -15,6 +15,7 @@
 
 #include "adapters/imaging/jpeg_header.h"
 #include "adapters/imaging/pixels.h"
+#include "adapters/posix/descriptor.h"
 
 namespace imaging {
 
@@ -48,19 +49,26 @@ int64_t PixelBytes(Size size) {
     return int64_t{size.width} * size.height * static_cast<int64_t>(sizeof(platform::Pixel));
 }
 
-/// A file that seems cut off as soon as its reader is to give up.
+/// A file that seems cut off as soon as its reader is to end.
 class ReadableFile : public QFile {
 public:
     explicit ReadableFile(const ReadingContext& context) : context_(context) {}
 
 protected:
     qint64 readData(char* data, qint64 most) override {
-        return context_.giveUp ? -1 : QFile::readData(data, most);
+        return context_.MustEnd() ? -1 : QFile::readData(data, most);
     }
 
 private:
     const ReadingContext& context_;
 };
+
+/// Of the calling thread's processor time.
+double ThreadSeconds() {
+    timespec used{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+    return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) / 1e9;
+}
 
 /// Pixels of 16 bits: the toolkit's reader makes their white a light grey.
 bool HasBmpWords(std::string_view start) {
@@ -91,6 +99,15 @@ int DepthOf(const QImage& image) {
 
 }  // namespace
 
+void ReadingContext::Begin() {
+    hindrance = Hindrance::None;
+    begunAt_ = ThreadSeconds();
+}
+
+bool ReadingContext::MustEnd() const {
+    return giveUp || ThreadSeconds() - begunAt_ > kMostSeconds;
+}
+
 bool FitsMemory(Size size) {
     return door::FitsBound(size);
 }
@@ -101,23 +118,24 @@ bool operator==(const FileIdentity& a, const FileIdentity& b) {
 }
 
 std::optional<FileIdentity> IdentityOf(const std::string& nativePath) {
+    // Opened, as a file from elsewhere may be asked for anew by that alone.
     struct stat status {};
-    if (stat(nativePath.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
-        return std::nullopt;
-    }
-    return MakeIdentity(status);
+    const posix_adapter::Descriptor file(OpenPlain(nativePath, status));
+    return file.Valid() ? std::optional(MakeIdentity(status)) : std::nullopt;
 }
 
 /// An open picture file with its reader set up.
 class PictureReader {
 public:
-    PictureReader(const std::string& path, const ReadingContext& context) : file_(context) {
+    PictureReader(const std::string& path, ReadingContext& context)
+        : context_(context), file_(context) {
         struct stat status {};
         const int fd = OpenPlain(path, status);
         if (fd < 0 || !file_.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
             if (fd >= 0) {
                 close(fd);
             }
+            context.hindrance = Hindrance::Passing;
             return;
         }
         identity_ = MakeIdentity(status);
@@ -141,12 +159,8 @@ public:
 
     door::Kind Foreign() const { return foreign_; }
 
-    door::Result DecodeForeign(Size wanted, door::Client& decoder) {
-        return DecodeAs(foreign_, wanted, decoder);
-    }
-
-    door::Result DecodeAs(door::Kind kind, Size wanted, door::Client& decoder) {
-        return decoder.Decode(kind, file_.handle(), wanted);
+    door::Result DecodeAs(door::Kind kind, Size wanted) {
+        return Noted(context_.decoder.Decode(kind, file_.handle(), wanted));
     }
 
     void Identify(PictureFile& into) const {
@@ -156,10 +170,11 @@ public:
     }
 
     /// The size of what is decoded elsewhere; the pixels too where nothing less tells it.
-    bool AskSize(PictureFile& into, door::Client& decoder) {
+    bool AskSize(PictureFile& into) {
         const bool measurable = door::RoleOf(foreign_) != door::Role::Raster;
-        const door::Result result =
-            measurable ? decoder.Measure(foreign_, file_.handle()) : DecodeForeign({}, decoder);
+        const door::Result result = measurable
+                                        ? Noted(context_.decoder.Measure(foreign_, file_.handle()))
+                                        : DecodeAs(foreign_, {});
         into.own_ = result.size;
         into.foreignDepth_ = measurable ? kDrawnDepth : result.bitsPerPixel;
         into.ready_ = result.pixels;
@@ -208,6 +223,17 @@ public:
     }
 
 private:
+    /// What hindered a decoding that said nothing of the file is noted.
+    door::Result Noted(door::Result result) {
+        if (result.outcome == door::Outcome::Large) {
+            context_.hindrance = Hindrance::Large;
+        } else if (result.outcome == door::Outcome::Missing ||
+                   result.outcome == door::Outcome::Lied) {
+            context_.hindrance = Hindrance::Passing;
+        }
+        return result;
+    }
+
     static std::string_view ViewOf(const QByteArray& bytes) {
         return {bytes.constData(), static_cast<size_t>(bytes.size())};
     }
@@ -218,6 +244,7 @@ private:
         return file_.read(kEnd);
     }
 
+    ReadingContext& context_;
     ReadableFile file_;
     QImageReader reader_;
     Kind kind_ = Kind::None;
@@ -242,11 +269,11 @@ std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath,
         result->path_ = nativePath;
         PictureReader reader(nativePath, context);
         reader.Identify(*result);
-        const bool read = reader.Foreign() == door::Kind::None
-                              ? reader.ReadHeader(*result)
-                              : reader.AskSize(*result, context.decoder);
+        const bool read = reader.Foreign() == door::Kind::None ? reader.ReadHeader(*result)
+                                                               : reader.AskSize(*result);
         return read ? result : nullptr;
     } catch (const std::bad_alloc&) {
+        context.hindrance = Hindrance::Passing;
         return nullptr;
     }
 }
@@ -278,12 +305,12 @@ BitmapPtr PictureFile::DecodeHere(Size size, int* depth, ReadingContext& context
         return nullptr;
     }
     QImage image = reader.Decode(*this, size);
-    if (context.giveUp) {
+    if (context.MustEnd()) {
         return nullptr;
     }
     if (image.isNull() && kind_ == Kind::Tiff) {
         // Tiles larger than the picture, for one, are too much for the toolkit's reader.
-        const door::Result result = reader.DecodeAs(door::Kind::Tif, {}, context.decoder);
+        const door::Result result = reader.DecodeAs(door::Kind::Tif, {});
         if (depth != nullptr) {
             *depth = result.bitsPerPixel;
         }
@@ -307,7 +334,7 @@ BitmapPtr PictureFile::DecodeForeign(Size size, ReadingContext& context) const {
     if (!reader.IsSameFile(*this)) {
         return nullptr;
     }
-    return reader.DecodeForeign(size == own_ ? Size() : size, context.decoder).pixels;
+    return reader.DecodeAs(foreign_, size == own_ ? Size() : size).pixels;
 }
 
 BitmapPtr PictureFile::Decode(Size size, int* depth, ReadingContext& context) const {
@@ -325,6 +352,7 @@ BitmapPtr PictureFile::Decode(Size size, int* depth, ReadingContext& context) co
         const bool asAsked = pixels && pixels->width == size.width && pixels->height == size.height;
         return asAsked || !pixels ? pixels : Smooth(*pixels, size);
     } catch (const std::bad_alloc&) {
+        context.hindrance = Hindrance::Passing;
         return nullptr;
     }
 }

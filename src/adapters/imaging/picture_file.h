@@ -33,14 +33,34 @@ struct FileIdentity {
 /// Nullopt where there is no plain file.
 std::optional<FileIdentity> IdentityOf(const std::string& nativePath);
 
+/// Why a picture was not read, where a file that cannot be read is not the reason.
+enum class Hindrance {
+    None,
+    Passing,  // memory, descriptors or processes are lacking at the moment
+    Large,    // beyond the context's bound
+};
+
 /// What each thread that reads pictures has of its own.
 struct ReadingContext {
     explicit ReadingContext(door::ClientOptions options = {})
         : decoder(std::move(options), &giveUp) {}
 
+    /// A picture begins: nothing hinders it yet, and it may take this thread's processor for
+    /// kMostSeconds.
+    void Begin();
+    /// Whether what is being read is to end: given up, or no end in sight.
+    bool MustEnd() const;
+
+    /// Less than any wait for a process, more than the largest picture takes.
+    static constexpr double kMostSeconds = 8;
+
     /// May be set by another thread: from then on reads fail, so that a decoder ends soon.
     std::atomic<bool> giveUp{false};
+    Hindrance hindrance = Hindrance::None;
     door::Client decoder;
+
+private:
+    double begunAt_ = 0;  // seconds of the thread's processor time
 };
 
 /// A file whose header was read. Immutable; stays usable when the file is gone, but for decoding.

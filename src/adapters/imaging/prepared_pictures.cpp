@@ -41,6 +41,7 @@ double SecondsUntilSettled(const FileIdentity& identity) {
 
 LoadedPicture LoadPicture(const std::string& nativePath, const FitFunction& fit,
                           ReadingContext& context) {
+    context.Begin();
     LoadedPicture loaded;
     loaded.file = PictureFile::Open(nativePath, context);
     if (loaded.file) {
@@ -49,6 +50,19 @@ LoadedPicture LoadPicture(const std::string& nativePath, const FitFunction& fit,
     }
     return loaded;
 }
+
+namespace {
+
+/// What is decoded whole behind the door comes whole into this process as well.
+door::ClientOptions Bounded(door::ClientOptions options) {
+    options.mostPixels = std::min<int64_t>(options.mostPixels, kMostWorkingBytes / 4);
+    return options;
+}
+
+}  // namespace
+
+PreparedPictures::PreparedPictures(door::ClientOptions decoder)
+    : context_(Bounded(std::move(decoder))) {}
 
 PreparedPictures::~PreparedPictures() {
     {
@@ -73,6 +87,9 @@ void PreparedPictures::Prepare(const std::vector<Wanted>& wanted) {
                 continue;
             }
             EntryPtr entry = Find(one.nativePath);
+            for (const EntryPtr& loaded : {before_, shown_}) {
+                entry = !entry && loaded && loaded->path == one.nativePath ? loaded : entry;
+            }
             if (!entry || (entry->stage != Stage::Waiting && !Serves(*entry, one.fit))) {
                 entry = std::make_shared<Entry>();
                 entry->path = one.nativePath;
@@ -81,6 +98,8 @@ void PreparedPictures::Prepare(const std::vector<Wanted>& wanted) {
             entries.push_back(std::move(entry));
         }
         entries_ = std::move(entries);
+        before_ = nullptr;
+        shown_ = wanted.empty() ? nullptr : shown_;
         if (working_ && !IsWanted(working_)) {
             context_.giveUp = true;
         }
@@ -103,7 +122,10 @@ std::optional<LoadedPicture> PreparedPictures::Take(const std::string& nativePat
         Drop(entry);
         return std::nullopt;
     }
-    changed_.wait(lock, [&] { return entry->stage == Stage::Done || !IsWanted(entry); });
+    changed_.wait(lock, [&] { return IsSettled(entry) || !IsWanted(entry); });
+    if (entry->stage == Stage::Refused) {
+        return std::nullopt;
+    }
     if (!IsWanted(entry) || !Serves(*entry, fit)) {
         Drop(entry);
         return std::nullopt;
@@ -111,12 +133,25 @@ std::optional<LoadedPicture> PreparedPictures::Take(const std::string& nativePat
     return entry->loaded;
 }
 
+void PreparedPictures::Remember(const std::string& nativePath, const FitFunction& fit,
+                                const LoadedPicture& loaded) {
+    const Lock lock(mutex_);
+    before_ = std::move(shown_);
+    shown_ = nullptr;
+    if (loaded.pixels && SecondsUntilSettled(loaded.file->Identity()) <= 0) {
+        shown_ = std::make_shared<Entry>();
+        shown_->path = nativePath;
+        shown_->fit = fit;
+        shown_->stage = Stage::Done;
+        shown_->identity = loaded.file->Identity();
+        shown_->size = SizeFor(*loaded.file, fit);
+        shown_->loaded = loaded;
+    }
+}
+
 void PreparedPictures::Finish() {
     Lock lock(mutex_);
-    changed_.wait(lock, [&] {
-        return std::all_of(entries_.begin(), entries_.end(),
-                           [](const EntryPtr& entry) { return entry->stage == Stage::Done; });
-    });
+    changed_.wait(lock, [&] { return std::all_of(entries_.begin(), entries_.end(), IsSettled); });
 }
 
 int PreparedPictures::HeldCount() {
@@ -161,6 +196,11 @@ bool PreparedPictures::IsWanted(const EntryPtr& entry) const {
     return std::find(entries_.begin(), entries_.end(), entry) != entries_.end();
 }
 
+/// Nothing more will come of it.
+bool PreparedPictures::IsSettled(const EntryPtr& entry) {
+    return entry->stage == Stage::Refused || entry->stage == Stage::Done;
+}
+
 void PreparedPictures::Drop(const EntryPtr& entry) {
     std::erase(entries_, entry);
     if (entry == working_) {
@@ -171,8 +211,8 @@ void PreparedPictures::Drop(const EntryPtr& entry) {
 int64_t PreparedPictures::BytesInUse() const {
     int64_t bytes = 0;
     for (const EntryPtr& entry : entries_) {
-        const bool failed = entry->stage == Stage::Done && !entry->loaded.pixels;
-        bytes += entry->stage >= Stage::Decoding && !failed ? Bytes(entry->size) : 0;
+        const bool holds = entry->stage == Stage::Decoding || entry->loaded.pixels;
+        bytes += holds ? Bytes(entry->size) : 0;
     }
     return bytes;
 }
@@ -200,7 +240,7 @@ void PreparedPictures::Run() {
         context_.giveUp = false;
         const EntryPtr entry = working_;
         Work(lock, entry);
-        if (entry->stage != Stage::Done) {
+        if (!IsSettled(entry)) {
             std::erase(entries_, entry);
         }
         working_ = nullptr;
@@ -208,7 +248,7 @@ void PreparedPictures::Run() {
     }
 }
 
-/// Leaves the entry at Done where its result, which may be a failure, is to be held.
+/// Leaves the entry settled where its result is to stay; a failure that may pass is not.
 void PreparedPictures::Work(Lock& lock, const EntryPtr& entry) {
     const std::optional<FileIdentity> identity = SettledIdentity(lock, entry);
     if (!identity || !IsWanted(entry)) {
@@ -216,36 +256,45 @@ void PreparedPictures::Work(Lock& lock, const EntryPtr& entry) {
     }
     entry->identity = *identity;
     entry->stage = Stage::Opening;
-    ++begun_;
     lock.unlock();
+    context_.Begin();
     const std::shared_ptr<PictureFile> file = PictureFile::Open(entry->path, context_);
     lock.lock();
-    if (!file) {
-        entry->stage = context_.giveUp ? Stage::Opening : Stage::Done;
-        return;
+    if (file) {
+        entry->size = SizeFor(*file, entry->fit);
+        entry->loaded.file = file;
+        if (!(file->Identity() == *identity)) {
+            return;
+        }
+        if (file->WorkingBytes(entry->size) > kMostWorkingBytes ||
+            BytesInUse() + Bytes(entry->size) > kMostHeldBytes) {
+            entry->loaded.file = nullptr;
+            entry->stage = Stage::Refused;
+            return;
+        }
+        entry->stage = Stage::Decoding;
+        ++begun_;
+        lock.unlock();
+        int depth = entry->loaded.bitsPerPixel;
+        platform::BitmapPtr pixels = file->Decode(entry->size, &depth, context_);
+        lock.lock();
+        entry->loaded.bitsPerPixel = depth;
+        entry->loaded.pixels = std::move(pixels);
     }
-    const Size size = SizeFor(*file, entry->fit);
-    if (!(file->Identity() == *identity) || file->WorkingBytes(size) > kMostWorkingBytes ||
-        BytesInUse() + Bytes(size) > kMostHeldBytes) {
-        return;
+    if (context_.hindrance == Hindrance::Large) {
+        entry->stage = Stage::Refused;
+    } else if (context_.hindrance == Hindrance::None && !context_.giveUp) {
+        entry->stage = Stage::Done;
     }
-    entry->size = size;
-    entry->loaded.file = file;
-    entry->stage = Stage::Decoding;
-    lock.unlock();
-    int depth = entry->loaded.bitsPerPixel;
-    platform::BitmapPtr pixels = file->Decode(size, &depth, context_);
-    lock.lock();
-    entry->loaded.bitsPerPixel = depth;
-    entry->loaded.pixels = std::move(pixels);
-    entry->stage = Stage::Done;
 }
 
 /// A file that was written a moment ago could change once more without another time stamp: it is
 /// given that moment, once.
 std::optional<FileIdentity> PreparedPictures::SettledIdentity(Lock& lock, const EntryPtr& entry) {
     for (const bool again : {true, false}) {
+        lock.unlock();
         const std::optional<FileIdentity> identity = IdentityOf(entry->path);
+        lock.lock();
         const double seconds = identity ? SecondsUntilSettled(*identity) : 0;
         if (seconds <= 0) {
             return identity;

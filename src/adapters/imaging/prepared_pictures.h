@@ -41,7 +41,7 @@ public:
         platform::FitFunction fit;  // called on the worker: a pure function of values it holds
     };
 
-    explicit PreparedPictures(const door::ClientOptions& decoder = {}) : context_(decoder) {}
+    explicit PreparedPictures(door::ClientOptions decoder = {});
     /// Waits for the worker, whose reader is told to give up.
     ~PreparedPictures();
     PreparedPictures(const PreparedPictures&) = delete;
@@ -57,6 +57,11 @@ public:
     std::optional<LoadedPicture> Take(const std::string& nativePath,
                                       const platform::FitFunction& fit);
 
+    /// The picture of a Load, whether taken from here or not: where it is wanted again by the first
+    /// Prepare behind the next Load, as the picture before that one, it is held without decoding.
+    void Remember(const std::string& nativePath, const platform::FitFunction& fit,
+                  const LoadedPicture& loaded);
+
     /// Waits until everything wanted is held or has turned out not to be held.
     void Finish();
 
@@ -67,13 +72,14 @@ public:
     int DecodingsBegun();
 
 private:
-    enum class Stage { Waiting, Opening, Decoding, Done };
+    /// Refused: not to be decoded ahead, as it is; it stays so that nobody tries again.
+    enum class Stage { Waiting, Opening, Decoding, Refused, Done };
     struct Entry {
         std::string path;
         platform::FitFunction fit;
         Stage stage = Stage::Waiting;
         FileIdentity identity;  // from Opening on
-        // From Decoding on; of a file that cannot be opened never.
+        // From Decoding on, where the file could be opened.
         platform::Size size;
         LoadedPicture loaded;
     };
@@ -84,6 +90,7 @@ private:
     EntryPtr Find(const std::string& nativePath) const;
     EntryPtr NextWaiting() const;
     bool IsWanted(const EntryPtr& entry) const;
+    static bool IsSettled(const EntryPtr& entry);
     void Drop(const EntryPtr& entry);
     int64_t BytesInUse() const;
     void StartWorker();
@@ -94,6 +101,7 @@ private:
     std::mutex mutex_;  // of all below
     std::condition_variable changed_;
     std::vector<EntryPtr> entries_;
+    EntryPtr shown_, before_;  // of the last Load and of the one before it
     EntryPtr working_;
     bool ending_ = false;
     int begun_ = 0;

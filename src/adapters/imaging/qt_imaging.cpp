@@ -1,6 +1,7 @@
 #include "adapters/imaging/qt_imaging.h"
 
 #include <QImageReader>
+#include <QLoggingCategory>
 #include <algorithm>
 #include <new>
 #include <utility>
@@ -27,8 +28,10 @@ bool Covers(Size outer, Size inner) {
 
 class QtImagingControl : public platform::ImagingControl {
 public:
-    QtImagingControl(platform::Files& files, ReadingContext& context, PreparedPictures& prepared)
-        : files_(files), context_(context), prepared_(prepared) {}
+    /// `remembers`: whether what is loaded may be wanted ahead of a later Load.
+    QtImagingControl(platform::Files& files, ReadingContext& context, PreparedPictures& prepared,
+                     bool remembers)
+        : files_(files), context_(context), prepared_(prepared), remembers_(remembers) {}
 
     bool ReadInformation(TextView path) override {
         const std::optional<std::string> found = files_.Find(path);
@@ -47,6 +50,9 @@ public:
         }
         if (!loaded->pixels) {
             return false;
+        }
+        if (remembers_) {
+            prepared_.Remember(*found, fit, *loaded);
         }
         state_.held = loaded->file->OwnSize();
         state_.bitsPerPixel = loaded->bitsPerPixel;
@@ -154,6 +160,7 @@ private:
     BitmapPtr Whole(Source& source, Size size) {
         BitmapPtr whole = source.whole.lock();
         if (!whole || !(SizeOf(*whole) == size)) {
+            context_.Begin();
             whole = source.file->Decode(size, nullptr, context_);
             source.whole = whole;
         }
@@ -165,6 +172,7 @@ private:
         const bool sharper = state_.source && (state_.source->file->IsDrawing() ||
                                                !Covers(SizeOf(*state_.pixels), size));
         if (sharper && state_.source->file->DecodesScaledTo(size)) {
+            context_.Begin();
             if (BitmapPtr decoded = state_.source->file->Decode(size, nullptr, context_)) {
                 return decoded;
             }
@@ -193,6 +201,7 @@ private:
     platform::Files& files_;
     ReadingContext& context_;
     PreparedPictures& prepared_;
+    bool remembers_;
     State state_;
 };
 
@@ -200,6 +209,8 @@ private:
 
 QtImaging::QtImaging(platform::Files& files, bool prepares, const door::ClientOptions& decoder)
     : files_(files), prepares_(prepares), context_(decoder), prepared_(decoder) {
+    // What a damaged file, or a decoding that was given up, lets the readers say is for nobody.
+    QLoggingCategory::setFilterRules("qt.gui.imageio*=false");
     QImageReader::setAllocationLimit(static_cast<int>(kMostBytes >> 20));
 }
 
@@ -208,7 +219,7 @@ Text QtImaging::VersionText() const {
 }
 
 std::unique_ptr<platform::ImagingControl> QtImaging::MakeControl() {
-    return std::make_unique<QtImagingControl>(files_, context_, prepared_);
+    return std::make_unique<QtImagingControl>(files_, context_, prepared_, prepares_);
 }
 
 void QtImaging::Prepare(const std::vector<platform::Wanted>& wanted) {
