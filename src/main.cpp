@@ -10,6 +10,7 @@
 #include "adapters/imaging/qt_imaging.h"
 #include "adapters/posix/iconv_code_page.h"
 #include "adapters/posix/json_trace.h"
+#include "adapters/posix/memory.h"
 #include "adapters/posix/posix_files.h"
 #include "adapters/posix/posix_system.h"
 #include "adapters/posix/settings_file.h"
@@ -126,6 +127,7 @@ gst_adapter::OpenDisc DiscReader() {
 }
 
 int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::string& document) {
+    posix_adapter::ReuseFreedPictures();
     qt_adapter::Desktop desktop(argc, argv, {});
     auto clock = std::make_shared<LateClock>();
     clock->loop = &desktop.Loop();

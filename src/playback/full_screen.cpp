@@ -98,6 +98,11 @@ bool StartShow(Application& app) {
     SetSlideInterval(app);
     app.windows.form1.Timer1.Enabled = false;
     state.ShowRunning = 1;
+    // The canvases take their memory here, while the first picture may still be being decoded.
+    for (const model::PictureBox* layer :
+         {&app.windows.slidescreen.P2, &app.windows.slidescreen.P4}) {
+        layer->canvas.Pixels();
+    }
     StartShowSound(app);
     RunSlideStep(app);
     if (state.StopRequest == 1 || state.ShowAbort == 1) {

@@ -1,7 +1,5 @@
 #include "adapters/gstreamer/gst_sound.h"
 
-#include <malloc.h>
-
 #include <utility>
 
 #include "adapters/gstreamer/library.h"
@@ -17,7 +15,6 @@ constexpr int kLooped = 8;
 constexpr int kPumpMs = 10;
 constexpr int kWarmUpAfterMs = 300;  // the main window comes first
 constexpr int kFarewellMs = 300;
-constexpr int kMemoryArenas = 2;  // more of them double the memory of the many short threads
 
 struct TypeRow {
     TextView type;
@@ -37,7 +34,6 @@ GstSound::GstSound(platform::Files& files, platform::EventLoop& loop,
       loop_(loop),
       output_(std::move(output)),
       cd_(std::move(openDisc), std::move(cdDevice), output_, loop) {
-    mallopt(M_ARENA_MAX, kMemoryArenas);
     loop_.SetTimer(this, kWarmUpAfterMs, [this] {
         loop_.CancelTimer(this);
         WarmUp();
