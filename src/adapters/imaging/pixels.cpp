@@ -53,9 +53,10 @@ BitmapPtr OverWhite(QImage image) {
     for (int y = 0; y < image.height(); ++y) {
         const Pixel* row = reinterpret_cast<const Pixel*>(image.constScanLine(y));
         result->pixels.insert(result->pixels.end(), row, row + image.width());
-    }
-    for (Pixel& p : result->pixels) {
-        p = alpha ? OverWhite(p) : p | kOpaque;
+        // While the row is at hand.
+        for (Pixel* p = result->Row(y); p != result->Row(y + 1); ++p) {
+            *p = alpha ? OverWhite(*p) : *p | kOpaque;
+        }
     }
     return result;
 }

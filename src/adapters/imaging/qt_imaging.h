@@ -8,10 +8,11 @@
 
 namespace imaging {
 
-/// PNG, JPEG, BMP, TIFF, GIF and WebP, told apart by content; SVG and what is none of these is
-/// decoded behind the door, in a process of its own. Pictures above 1 GiB of pixels are refused,
-/// but JPEG and drawings where the fitted size does. Everything runs on the caller's thread but
-/// what is prepared, which has one of its own; nothing throws.
+/// PNG, JPEG, BMP, TIFF, GIF and WebP, told apart by content. SVG, what is none of these, and what
+/// the toolkit reads wrongly of them (BMP of 16 bits, some tiled TIFFs) is decoded behind the door.
+/// Pictures above 1 GiB of pixels are refused, behind the door above half of it, but JPEG and
+/// drawings where the fitted size does. Everything runs on the caller's thread but what is
+/// prepared, which has one of its own; nothing throws.
 class QtImaging : public platform::Imaging {
 public:
     /// `files` must outlive this object, and this object its controls. With `prepares` false
