@@ -91,13 +91,13 @@ def tga_runs(pixels):
 
 
 def tga(rows, kind, bpp, palette=(), entry_bits=24, first=0, top_down=False, right_left=False,
-        alpha_bits=0, footer=False, note=b""):
+        alpha_bits=0, footer=False, note=b"", origin=0):
     """`rows` hold the bytes of every pixel, the palette those of every colour."""
     ordered = rows if top_down else rows[::-1]
     ordered = [row[::-1] for row in ordered] if right_left else ordered
     pixels = [p for row in ordered for p in row]
     head = bytes([len(note), 1 if palette else 0, kind]) + le16(first) + le16(len(palette))
-    head += bytes([entry_bits if palette else 0]) + le16(0) + le16(0)
+    head += bytes([entry_bits if palette else 0]) + le16(0) + le16(origin)
     head += le16(len(rows[0])) + le16(len(rows))
     head += bytes([bpp, alpha_bits | right_left << 4 | top_down << 5])
     data = tga_runs(pixels) if kind >= 8 else b"".join(pixels)
@@ -111,6 +111,11 @@ def bgr(pixel):
 
 def fifteen_bits(pixel):
     return le16(pixel[0] << 10 | pixel[1] << 5 | pixel[2])
+
+
+def sixteen_bits(pixel):
+    """Six bits of green."""
+    return le16(pixel[0] << 11 | pixel[1] << 5 | pixel[2])
 
 
 # ---- Paintbrush (little endian).
@@ -338,18 +343,20 @@ def dos_eps(postscript, preview):
 
 # ---- Bitmaps of the windows (little endian), rows a multiple of four bytes.
 
-def bmp_file(width, height, bpp, data, palette=(), packing=0):
-    colours = b"".join(bgr(p) + b"\0" for p in palette)
+def bmp_file(width, height, bpp, data, palette=(), packing=0, masks=()):
+    colours = b"".join(bgr(p) + b"\0" for p in palette) + b"".join(le32(m) for m in masks)
     start = 54 + len(colours)
     info = (le32(40) + le32(width) + le32(height & 0xFFFFFFFF) + le16(1) + le16(bpp) +
             le32(packing) + le32(len(data)) + le32(2835) + le32(2835) + le32(len(palette)) + le32(0))
     return b"BM" + le32(start + len(data)) + le32(0) + le32(start) + info + colours + data
 
 
-def bmp(rows, bpp, top_down=False):
+def bmp(rows, bpp, top_down=False, masks=()):
+    """`masks`: the bits of red, green and blue in a pixel, where they are told."""
     lines = [b"".join(row) for row in (rows if top_down else rows[::-1])]
     data = b"".join(line + bytes(-len(line) % 4) for line in lines)
-    return bmp_file(len(rows[0]), -len(rows) if top_down else len(rows), bpp, data)
+    return bmp_file(len(rows[0]), -len(rows) if top_down else len(rows), bpp, data,
+                    packing=3 if masks else 0, masks=masks)
 
 
 def bmp_runs4(indexes, palette):

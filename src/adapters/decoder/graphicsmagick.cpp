@@ -15,6 +15,7 @@ namespace decoder {
 namespace {
 
 using Bytes = std::span<const uint8_t>;
+using door::kPctHead;
 
 struct Free {
     void operator()(ImageInfo* info) const { DestroyImageInfo(info); }
@@ -47,6 +48,7 @@ void StartMagick() {
 }
 
 int BitsOf(const Image& image) {
+    fprintf(stderr,"DBG %s class %d colors %lu depth %u cs %d gray %d mono %d matte %d\n", image.magick, image.storage_class,image.colors,image.depth,image.colorspace,image.is_grayscale,image.is_monochrome,image.matte);
     constexpr int kMostSmallPalette = 16;
     if (image.storage_class == PseudoClass && image.matte == MagickFalse) {
         return image.colors <= 2 ? 1 : image.colors <= kMostSmallPalette ? 4 : 8;
@@ -78,16 +80,6 @@ std::optional<Picture> PixelsOf(const Image& image) {
         }
     }
     return picture;
-}
-
-constexpr size_t kPctHead = 512;
-
-/// The place of a version's mark, behind the size and the frame.
-bool HasPctVersion(Bytes file, size_t at) {
-    const auto byte = [&](size_t offset) {
-        return at + offset < file.size() ? file[at + offset] : 0;
-    };
-    return (byte(10) == 0x11 && byte(11) == 1) || (byte(11) == 0x11 && byte(12) == 2);
 }
 
 }  // namespace
@@ -126,8 +118,9 @@ std::optional<Picture> DecodeByMagick(const char* format, Bytes file) {
 }
 
 std::optional<Picture> DecodePct(Bytes file) {
+    const std::string_view data(reinterpret_cast<const char*>(file.data()), file.size());
     std::vector<uint8_t> headed;
-    if (!HasPctVersion(file, kPctHead) && HasPctVersion(file, 0)) {
+    if (!door::IsPctAt(data, kPctHead) && door::IsPctAt(data, 0)) {
         // As it lies on the clipboard, without the empty head of a file.
         headed.resize(kPctHead);
         headed.insert(headed.end(), file.begin(), file.end());
