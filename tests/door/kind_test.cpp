@@ -116,8 +116,7 @@ TEST(Kinds, TheTwoBytesOfAPctAreOthersByChance) {
     EXPECT_EQ(OfBytes(pct + At(20, "TRUEVISION-XFILE.\0"s)), Kind::Tga);
     EXPECT_EQ(OfBytes(At(512, pct), "a.pcx"), Kind::Pcx);
     // 274 rows, of which the last is row 273, or 11 01 with the small end first.
-    const std::string pcx =
-        "\x0A\5\1\x08\0\0\0\0\x2C\0\x11\x01"s + std::string(53, 0) + "\3"s;
+    const std::string pcx = "\x0A\5\1\x08\0\0\0\0\x2C\0\x11\x01"s + std::string(53, 0) + "\3"s;
     EXPECT_EQ(OfBytes(pcx), Kind::Pcx);
     // The same number as a row of the origin.
     const std::string tga = "\0\0\2\0\0\0\0\0\0\0\x11\x01\x2D\0\x1F\0\x18\0"s;

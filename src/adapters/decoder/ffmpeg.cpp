@@ -74,9 +74,7 @@ int BitsOf(AVPixelFormat format) {
 
 /// True where some pixel has alpha, its last byte, and is not wholly transparent.
 bool HasAlpha(const AVFrame& frame) {
-    const int bytes = frame.format == AV_PIX_FMT_BGRA  ? 4
-                      : frame.format == AV_PIX_FMT_YA8 ? 2
-                                                       : 0;
+    const int bytes = frame.format == AV_PIX_FMT_BGRA ? 4 : frame.format == AV_PIX_FMT_YA8 ? 2 : 0;
     for (int y = 0; y < frame.height && bytes > 0; ++y) {
         const uint8_t* row = frame.data[0] + ptrdiff_t{y} * frame.linesize[0];
         for (int x = 1; x <= frame.width; ++x) {

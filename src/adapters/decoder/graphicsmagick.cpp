@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "adapters/decoder/boxed_depth.h"
 #include "adapters/decoder/over_white.h"
 #include "adapters/decoder/pct_bitmap.h"
 
@@ -47,14 +48,28 @@ void StartMagick() {
     }
 }
 
+/// `bits` of a colour part, which are stored as 8 or 16.
+int BitsOf(int bits, bool grey, bool alpha) {
+    return ((grey ? 1 : 3) + (alpha ? 1 : 0)) * (bits > 8 ? 16 : 8);
+}
+
+bool IsGrey(const Image& image) {
+    if (std::string_view(image.magick) == "JXL" && image.depth > 8) {
+        // The library does not say it of these; their pixels do.
+        Report report;
+        return IsGrayImage(&image, &report.info) != MagickFalse;
+    }
+    return image.is_grayscale != MagickFalse;
+}
+
 int BitsOf(const Image& image) {
-    fprintf(stderr,"DBG %s class %d colors %lu depth %u cs %d gray %d mono %d matte %d\n", image.magick, image.storage_class,image.colors,image.depth,image.colorspace,image.is_grayscale,image.is_monochrome,image.matte);
     constexpr int kMostSmallPalette = 16;
     if (image.storage_class == PseudoClass && image.matte == MagickFalse) {
         return image.colors <= 2 ? 1 : image.colors <= kMostSmallPalette ? 4 : 8;
     }
-    const int channels = image.matte != MagickFalse ? 4 : 3;
-    return channels * (image.depth > 8 ? 16 : 8);
+    return image.depth == 1
+               ? 1
+               : BitsOf(static_cast<int>(image.depth), IsGrey(image), image.matte != MagickFalse);
 }
 
 std::optional<Picture> PixelsOf(const Image& image) {
@@ -114,7 +129,14 @@ std::optional<Picture> DecodeByMagick(const char* format, Bytes file) {
                    TransformColorspace(image.get(), RGBColorspace) == MagickFail)) {
         return std::nullopt;
     }
-    return PixelsOf(*image);
+    std::optional<Picture> picture = PixelsOf(*image);
+    const std::string_view kind = format;
+    if (picture && (kind == "HEIC" || kind == "AVIF")) {
+        const BoxedDepth stored = BoxedDepthOf(file);
+        picture->bitsPerPixel =
+            BitsOf(stored.bits, stored.bits > 0 && stored.grey, image->matte != MagickFalse);
+    }
+    return picture;
 }
 
 std::optional<Picture> DecodePct(Bytes file) {
@@ -126,11 +148,15 @@ std::optional<Picture> DecodePct(Bytes file) {
         headed.insert(headed.end(), file.begin(), file.end());
         file = headed;
     }
-    if (std::optional<Picture> bitmap =
-            DecodePctBitmap(file.subspan(std::min(kPctHead, file.size())))) {
+    const Bytes contents = file.subspan(std::min(kPctHead, file.size()));
+    if (std::optional<Picture> bitmap = DecodePctBitmap(contents)) {
         return bitmap;
     }
-    return DecodeByMagick("PICT", file);
+    std::optional<Picture> picture = DecodeByMagick("PICT", file);
+    if (const int bits = PctPaletteDepth(contents); picture && bits > 0) {
+        picture->bitsPerPixel = bits;
+    }
+    return picture;
 }
 
 }  // namespace decoder

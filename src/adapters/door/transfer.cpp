@@ -48,12 +48,11 @@ std::optional<std::vector<uint8_t>> ReadFile(int file) {
                                                      : std::nullopt;
 }
 
-Descriptor MakePixels(std::span<const uint32_t> pixels) {
-    Descriptor memory(memfd_create("picture", MFD_CLOEXEC));
-    const auto* bytes = reinterpret_cast<const uint8_t*>(pixels.data());
+Descriptor MakeMemory(const char* name, std::span<const uint8_t> content) {
+    Descriptor memory(memfd_create(name, MFD_CLOEXEC));
     size_t done = 0;
-    while (memory.Valid() && done < pixels.size_bytes()) {
-        const ssize_t put = pwrite(memory.Get(), bytes + done, pixels.size_bytes() - done,
+    while (memory.Valid() && done < content.size()) {
+        const ssize_t put = pwrite(memory.Get(), content.data() + done, content.size() - done,
                                    static_cast<off_t>(done));
         if (put > 0) {
             done += static_cast<size_t>(put);
@@ -62,6 +61,11 @@ Descriptor MakePixels(std::span<const uint32_t> pixels) {
         }
     }
     return memory;
+}
+
+Descriptor MakePixels(std::span<const uint32_t> pixels) {
+    return MakeMemory("picture",
+                      {reinterpret_cast<const uint8_t*>(pixels.data()), pixels.size_bytes()});
 }
 
 platform::BitmapPtr ReadPixels(int memory, platform::Size size) {
