@@ -224,7 +224,7 @@ TEST(Limits, AnAnswerIsBounded) {
 /// They bound what is held in memory that counts as files.
 TEST(Limits, OpenDescriptorsAreFew) {
     for (const auto& [role, most] :
-         {std::pair{Role::Raster, 8}, {Role::Eps, 32}, {Role::Svg, 24}}) {
+         {std::pair{Role::Raster, 8}, {Role::Eps, 24}, {Role::Svg, 16}}) {
         const int count = WEXITSTATUS(StatusOf(role, [] {
             close(STDIN_FILENO);
             int made = 0;

@@ -1,6 +1,7 @@
 // The real process for drawings, whose interpreter does not end by itself.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 
 #include "adapters/door/client.h"
@@ -41,6 +42,20 @@ TEST(DrawingProcess, ServesManyDrawings) {
         ExpectPage(client, kPage);
     }
     EXPECT_EQ(OnlyChild(), process);
+}
+
+TEST(DrawingProcess, FontsAreFoundBehindTheLimits) {
+    Client client;
+    for (const char* font : {"Helvetica", "Times-Roman", "Courier", "NoSuchFont"}) {
+        const std::string text = std::string("%!PS\n%%BoundingBox: 0 0 40 40\n/") + font +
+                                 " findfont 40 scalefont setfont 2 4 moveto (M) show showpage\n";
+        const Result result = client.Decode(Kind::Eps, FileOf(text).Get(), {});
+        ASSERT_EQ(result.outcome, Outcome::Decoded) << font;
+        // Stems of a letter, and paper between them.
+        const auto black = std::ranges::count(result.pixels->pixels, 0xFF000000u);
+        EXPECT_GT(black, 40) << font;
+        EXPECT_LT(black, 800) << font;
+    }
 }
 
 TEST(DrawingProcess, AnEndlessLoopBehindThePageIsNotWaitedFor) {

@@ -17,9 +17,10 @@ namespace confine {
 
 namespace {
 
-/// By role: a picture's file and its pixels beside the standard ones, the socket and what tells the
-/// memory; those of an interpreter and its fonts; those of a toolkit and its fonts.
-constexpr rlim_t kMostDescriptors[door::kRoles] = {8, 32, 24};
+/// By role. Raster needs each of them: the standard ones, the socket, what tells the memory, the
+/// empty device, a file and its pixels. Interpreter and toolkit need 10 and 9, more with more
+/// fonts.
+constexpr rlim_t kMostDescriptors[door::kRoles] = {8, 24, 16};
 
 #if defined(__SANITIZE_ADDRESS__)
 // Its shadow takes more addresses than any limit.

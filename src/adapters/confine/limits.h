@@ -26,7 +26,7 @@ void FollowProgram(door::Role role);
 /// file can be opened and no program started any more. Eps: Ghostscript can be started and can read
 /// what is installed with it; Svg: libraries and fonts can be read; neither can write. False when
 /// the system refuses what must be there; where the kernel cannot confine the files that are opened
-/// (before 5.13), drawings go on without that.
+/// (before 5.13), drawings go on and can read what the user can.
 bool LimitProcess(door::Role role);
 
 /// From now on the process has this much processor time; then it dies of SIGXCPU.
@@ -36,11 +36,11 @@ struct MemoryUse {
     uint64_t addresses = 0, resident = 0;  // bytes
 };
 
-/// Of this process. Nothing at all where WatchMemory was not called, or failed.
-MemoryUse UsedMemory();
-
-/// Opens what tells it, which cannot be opened behind the limits.
+/// Opens what tells the memory that is used, which cannot be opened behind the limits. Call once.
 void WatchMemory();
+
+/// Of this process now. Zeros where WatchMemory was not called, or failed.
+MemoryUse UsedMemory();
 
 /// Whether one of the bounds of what is kept is exceeded.
 bool HasGrown(const MemoryUse& from, const MemoryUse& to);
