@@ -148,6 +148,7 @@ constexpr Row kRows[] = {
     {"heic_grey.heic", "grey", 8, kAny, kFullColours},
     {"heic_alpha.heic", "alpha", 32, kAny, kHalfColours},
     {"heic_10bit.heic", "card", 48, kAny, kHalfColours},
+    {"heic_grid.heic", "tiles", 24, kAny, kFullColours},
     {"avif_card.avif", "evencard", 24, kAny, kHalfColours},
     {"avif_odd.avif", "card", 24, kAny, kHalfColours},
     {"avif_444.avif", "card", 24, kAny, kFullColours},

@@ -266,7 +266,24 @@ def make_new_kinds():
     # Three quarters to the left are one to the right.
     for kind in ("heic", "avif"):
         put(f"{kind}_turned.{kind}", by_hand.turned((out / f"{kind}_444.{kind}").read_bytes(), 3))
+    make_grid()
     run("gm", "convert", source("photo.ppm"), "pcd_gm.pcd")
+
+
+def make_grid():
+    """As cameras store large pictures; the last tiles stand over the edges."""
+    tile, tiles = (256, 256), []
+    for y in (0, 256):
+        for x in (0, 256, 512):
+            rows = [[src.PHOTO[j][i] for i in range(x, x + 256)] for j in range(y, y + 256)]
+            (sources / "tile.ppm").write_bytes(ppm(rows))
+            run("gm", "convert", source("tile.ppm"), source("tile.png"))
+            run("heif-enc", "-q", "95", "-p", "chroma=444", source("tile.png"), "-o",
+                source("tile.heic"))
+            tiles.append((sources / "tile.heic").read_bytes())
+    whole = (750, 500)
+    put("heic_grid.heic", by_hand.grid(tiles, 3, tile, whole))
+    (sources / "tiles.ppm").write_bytes(ppm([row[:750] for row in src.PHOTO[:500]]))
 
 
 def make_toolkit_kinds():

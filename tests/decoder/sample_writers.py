@@ -450,3 +450,47 @@ def turned(data, quarters):
     moved = len(meta(old, 0)) - len(old)
     return b"".join(box(name, meta(inner, moved) if name == b"meta" else inner)
                     for name, inner in boxes(data))
+
+
+def grid(files, columns, tile, whole):
+    """One picture of several, which stand in rows; all are coded alike. Sizes are (width, height)."""
+    def full(name, content, version=0, flags=0):
+        return box(name, bytes([version]) + flags.to_bytes(3, "big") + content)
+
+    def inside(data, *names):
+        for name in names:
+            data = next(inner for found, inner in boxes(data) if found == name)
+            data = data[4:] if name == b"meta" else data
+        return data
+
+    def size(pair):
+        return full(b"ispe", be32(pair[0]) + be32(pair[1]))
+
+    coded = [inside(data, b"mdat") for data in files]
+    numbers = range(1, len(files) + 1)
+    main = len(files) + 1
+    layout = bytes([0, 0, len(files) // columns - 1, columns - 1]) + be16(whole[0]) + be16(whole[1])
+    start = box(b"ftyp", b"heic" + be32(0) + b"mif1heic")
+
+    def meta(place):
+        items = b"".join(full(b"infe", be16(i) + be16(0) + b"hvc1\0", 2, 1) for i in numbers)
+        items += full(b"infe", be16(main) + be16(0) + b"grid\0", 2)
+        places = b""
+        for number, data in zip(numbers, coded):
+            places += be16(number) + be16(0) + be16(0) + be16(1) + be32(place) + be32(len(data))
+            place += len(data)
+        # Not in the file's data but in this box.
+        places += be16(main) + be16(1) + be16(0) + be16(1) + be32(0) + be32(len(layout))
+        common = box(b"hvcC", inside(files[0], b"meta", b"iprp", b"ipco", b"hvcC"))
+        uses = b"".join(be16(i) + b"\x02\x81\x02" for i in numbers) + be16(main) + b"\x01\x03"
+        return full(b"meta", full(b"hdlr", be32(0) + b"pict" + bytes(13)) +
+                    full(b"pitm", be16(main)) +
+                    full(b"iloc", b"\x44\0" + be16(main) + places, 1) +
+                    full(b"iinf", be16(main) + items) +
+                    full(b"iref", box(b"dimg", be16(main) + be16(len(files)) +
+                                      b"".join(be16(i) for i in numbers))) +
+                    box(b"iprp", box(b"ipco", common + size(tile) + size(whole)) +
+                        full(b"ipma", be32(main) + uses)) +
+                    box(b"idat", layout))
+
+    return (start + meta(len(start) + len(meta(0)) + 8) + box(b"mdat", b"".join(coded)))
