@@ -41,7 +41,7 @@ door::Descriptor MakeDescriptor(const Head& head) {
     if (head.kind == kDevice) {
         return door::Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC));
     }
-    door::Descriptor memory(memfd_create("fuzz", MFD_CLOEXEC));
+    door::Descriptor memory(memfd_create("fuzz", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     Require(ftruncate(memory.Get(), (head.kilobytes % 4096) * 1024 + head.remainder) == 0);
     return memory;
 }

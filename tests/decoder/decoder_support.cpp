@@ -51,9 +51,11 @@ door::Kind KindOfSample(const std::string& name) {
         {"psd", Kind::Psd},   {"tga", Kind::Tga},   {"pcx", Kind::Pcx}, {"cal", Kind::Cal},
         {"mac", Kind::Mac},   {"img", Kind::Img},   {"msp", Kind::Msp}, {"wpg", Kind::Wpg},
         {"ras", Kind::Ras},   {"pct", Kind::Pct},   {"eps", Kind::Eps}, {"pcd", Kind::Pcd},
-        {"avif", Kind::Avif}, {"heic", Kind::Heic}, {"jxl", Kind::Jxl},
+        {"avif", Kind::Avif}, {"heic", Kind::Heic}, {"jxl", Kind::Jxl}, {"bmp", Kind::Bmp},
+        {"tif", Kind::Tif},
     };
-    const std::string start = name.substr(0, name.find('_'));
+    const size_t bare = name.rfind('/') + 1;
+    const std::string start = name.substr(bare, name.find('_', bare) - bare);
     for (const auto& [known, kind] : kKinds) {
         if (start == known) {
             return kind;

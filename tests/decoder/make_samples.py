@@ -121,6 +121,12 @@ def make_tga():
     put("tga_rightleft_up.tga", by_hand.tga(card, 2, 24, right_left=True))
     put("tga_palette32.tga",
         by_hand.tga(indexes, 1, 8, [c + b"\xFF" for c in colours], entry_bits=32))
+    put("tga_palette15.tga",
+        by_hand.tga(indexes, 1, 8, [by_hand.fifteen_bits(p) for p in src.FIVE_BIT_PALETTE],
+                    entry_bits=15))
+    put("tga_grey_alpha.tga",
+        by_hand.tga([[bytes(p) for p in row] for row in src.ALPHA_GREYS], 3, 16, alpha_bits=8))
+    put("tga_origin273.tga", by_hand.tga(card, 2, 24, origin=273))
     put("tga_note_footer.tga", by_hand.tga(card, 10, 24, footer=True, note=b"a note"))
     put("tga_by_footer.dat", by_hand.tga(card, 10, 24, footer=True))
     run("ppmtotga", "-rgb", source("card.ppm"), to="tga_netpbm_rgb.tga")
@@ -146,6 +152,8 @@ def make_pcx():
                                           8, WIDTH, long_palette=colours(src.PALETTE256)))
     put("pcx_rgb.pcx", by_hand.pcx([[even(bytes(p[i] for p in row)) for i in range(3)]
                                     for row in src.card()], 8, WIDTH))
+    put("pcx_tall.pcx", by_hand.pcx([[even(bytes(p[i] for p in row)) for i in range(3)]
+                                     for row in src.TALL], 8, WIDTH))
     run("ppmtopcx", "-24bit", source("card.ppm"), to="pcx_netpbm_24.pcx")
     run("ppmtopcx", source("pal256.ppm"), to="pcx_netpbm_256.pcx")
     run("ppmtopcx", source("pal16.ppm"), to="pcx_netpbm_16.pcx")
@@ -258,7 +266,24 @@ def make_new_kinds():
     # Three quarters to the left are one to the right.
     for kind in ("heic", "avif"):
         put(f"{kind}_turned.{kind}", by_hand.turned((out / f"{kind}_444.{kind}").read_bytes(), 3))
+    make_grid()
     run("gm", "convert", source("photo.ppm"), "pcd_gm.pcd")
+
+
+def make_grid():
+    """As cameras store large pictures; the last tiles stand over the edges."""
+    tile, tiles = (256, 256), []
+    for y in (0, 256):
+        for x in (0, 256, 512):
+            rows = [[src.PHOTO[j][i] for i in range(x, x + 256)] for j in range(y, y + 256)]
+            (sources / "tile.ppm").write_bytes(ppm(rows))
+            run("gm", "convert", source("tile.ppm"), source("tile.png"))
+            run("heif-enc", "-q", "95", "-p", "chroma=444", source("tile.png"), "-o",
+                source("tile.heic"))
+            tiles.append((sources / "tile.heic").read_bytes())
+    whole = (750, 500)
+    put("heic_grid.heic", by_hand.grid(tiles, 3, tile, whole))
+    (sources / "tiles.ppm").write_bytes(ppm([row[:750] for row in src.PHOTO[:500]]))
 
 
 def make_toolkit_kinds():
@@ -299,6 +324,13 @@ def make_toolkit_kinds():
     put("toolkit/bmp_runs4.bmp", by_hand.bmp_runs4(src.INDEXES16, src.PALETTE16))
     put("toolkit/bmp_16.bmp", by_hand.bmp([[by_hand.fifteen_bits(p) for p in row]
                                            for row in src.FIVE_BITS], 16))
+    # Words of 16 bits whose bits are told: behind the door.
+    put("bmp_555.bmp", by_hand.bmp([[by_hand.fifteen_bits(p) for p in row]
+                                    for row in src.FIVE_BITS], 16,
+                                   masks=(0x7C00, 0x3E0, 0x1F)))
+    put("bmp_565.bmp", by_hand.bmp([[by_hand.sixteen_bits(p) for p in row]
+                                    for row in src.FIVE_SIX], 16,
+                                   masks=(0xF800, 0x7E0, 0x1F)))
     put("toolkit/bmp_32.bmp", by_hand.bmp([[by_hand.bgr(p + (0,)) for p in row]
                                            for row in src.card()], 32))
     put("toolkit/bmp_topdown.bmp", by_hand.bmp([[by_hand.bgr(p) for p in row]

@@ -74,6 +74,20 @@ def holes(rows):
 FIVE_BITS = [[tuple(v >> 3 for v in p) for p in row] for row in card()]
 FIVE_BIT_CARD = [[tuple((v * 255 + 15) // 31 for v in p) for p in row] for row in FIVE_BITS]
 
+# Five, six and five bits.
+FIVE_SIX = [[(p[0] >> 3, p[1] >> 2, p[2] >> 3) for p in row] for row in card()]
+FIVE_SIX_CARD = [[((p[0] * 255 + 15) // 31, (p[1] * 255 + 31) // 63, (p[2] * 255 + 15) // 31)
+                  for p in row] for row in FIVE_SIX]
+FIVE_BIT_PALETTE = [tuple(v >> 3 for v in p) for p in PALETTE256]
+FIVE_BIT_PALETTE_CARD = coloured(INDEXES256, [tuple((v * 255 + 15) // 31 for v in p)
+                                              for p in FIVE_BIT_PALETTE])
+# Greys with an alpha of their own, and what they are over white.
+ALPHA_GREYS = [[(GREYS[y][x], SEE_THROUGH[y][x][3]) for x in range(WIDTH)] for y in range(HEIGHT)]
+OVER_WHITE_GREYS = over_white([[(v, v, v, a) for v, a in row] for row in ALPHA_GREYS])
+
+# The number of its last row is a mark of other kinds, read from the small end.
+TALL = card(45, 274)
+
 # The page of the paint program that gave the kind its name has this size, always.
 MAC_PAGE = mono(576, 720)
 PHOTO = card(768, 512)
@@ -94,7 +108,8 @@ SOURCES = {
     "pal4": coloured(INDEXES4, PALETTE4), "pal16": coloured(INDEXES16, PALETTE16),
     "pal256": coloured(INDEXES256, PALETTE256), "alpha": over_white(SEE_THROUGH),
     "holes": over_white(holes(SEE_THROUGH)), "fivebit": FIVE_BIT_CARD, "mac": MAC_PAGE, "whitelines": WHITE_LINES,
-    "photo": PHOTO, "evencard": card(48, 32),
+    "photo": PHOTO, "evencard": card(48, 32), "tall": TALL, "fivepal": FIVE_BIT_PALETTE_CARD,
+    "opaquegreys": OVER_WHITE_GREYS, "fivesix": FIVE_SIX_CARD,
 }
 
 

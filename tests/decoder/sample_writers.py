@@ -91,13 +91,13 @@ def tga_runs(pixels):
 
 
 def tga(rows, kind, bpp, palette=(), entry_bits=24, first=0, top_down=False, right_left=False,
-        alpha_bits=0, footer=False, note=b""):
+        alpha_bits=0, footer=False, note=b"", origin=0):
     """`rows` hold the bytes of every pixel, the palette those of every colour."""
     ordered = rows if top_down else rows[::-1]
     ordered = [row[::-1] for row in ordered] if right_left else ordered
     pixels = [p for row in ordered for p in row]
     head = bytes([len(note), 1 if palette else 0, kind]) + le16(first) + le16(len(palette))
-    head += bytes([entry_bits if palette else 0]) + le16(0) + le16(0)
+    head += bytes([entry_bits if palette else 0]) + le16(0) + le16(origin)
     head += le16(len(rows[0])) + le16(len(rows))
     head += bytes([bpp, alpha_bits | right_left << 4 | top_down << 5])
     data = tga_runs(pixels) if kind >= 8 else b"".join(pixels)
@@ -111,6 +111,11 @@ def bgr(pixel):
 
 def fifteen_bits(pixel):
     return le16(pixel[0] << 10 | pixel[1] << 5 | pixel[2])
+
+
+def sixteen_bits(pixel):
+    """Six bits of green."""
+    return le16(pixel[0] << 11 | pixel[1] << 5 | pixel[2])
 
 
 # ---- Paintbrush (little endian).
@@ -338,18 +343,20 @@ def dos_eps(postscript, preview):
 
 # ---- Bitmaps of the windows (little endian), rows a multiple of four bytes.
 
-def bmp_file(width, height, bpp, data, palette=(), packing=0):
-    colours = b"".join(bgr(p) + b"\0" for p in palette)
+def bmp_file(width, height, bpp, data, palette=(), packing=0, masks=()):
+    colours = b"".join(bgr(p) + b"\0" for p in palette) + b"".join(le32(m) for m in masks)
     start = 54 + len(colours)
     info = (le32(40) + le32(width) + le32(height & 0xFFFFFFFF) + le16(1) + le16(bpp) +
             le32(packing) + le32(len(data)) + le32(2835) + le32(2835) + le32(len(palette)) + le32(0))
     return b"BM" + le32(start + len(data)) + le32(0) + le32(start) + info + colours + data
 
 
-def bmp(rows, bpp, top_down=False):
+def bmp(rows, bpp, top_down=False, masks=()):
+    """`masks`: the bits of red, green and blue in a pixel, where they are told."""
     lines = [b"".join(row) for row in (rows if top_down else rows[::-1])]
     data = b"".join(line + bytes(-len(line) % 4) for line in lines)
-    return bmp_file(len(rows[0]), -len(rows) if top_down else len(rows), bpp, data)
+    return bmp_file(len(rows[0]), -len(rows) if top_down else len(rows), bpp, data,
+                    packing=3 if masks else 0, masks=masks)
 
 
 def bmp_runs4(indexes, palette):
@@ -443,3 +450,47 @@ def turned(data, quarters):
     moved = len(meta(old, 0)) - len(old)
     return b"".join(box(name, meta(inner, moved) if name == b"meta" else inner)
                     for name, inner in boxes(data))
+
+
+def grid(files, columns, tile, whole):
+    """One picture of several, which stand in rows; all are coded alike. Sizes are (width, height)."""
+    def full(name, content, version=0, flags=0):
+        return box(name, bytes([version]) + flags.to_bytes(3, "big") + content)
+
+    def inside(data, *names):
+        for name in names:
+            data = next(inner for found, inner in boxes(data) if found == name)
+            data = data[4:] if name == b"meta" else data
+        return data
+
+    def size(pair):
+        return full(b"ispe", be32(pair[0]) + be32(pair[1]))
+
+    coded = [inside(data, b"mdat") for data in files]
+    numbers = range(1, len(files) + 1)
+    main = len(files) + 1
+    layout = bytes([0, 0, len(files) // columns - 1, columns - 1]) + be16(whole[0]) + be16(whole[1])
+    start = box(b"ftyp", b"heic" + be32(0) + b"mif1heic")
+
+    def meta(place):
+        items = b"".join(full(b"infe", be16(i) + be16(0) + b"hvc1\0", 2, 1) for i in numbers)
+        items += full(b"infe", be16(main) + be16(0) + b"grid\0", 2)
+        places = b""
+        for number, data in zip(numbers, coded):
+            places += be16(number) + be16(0) + be16(0) + be16(1) + be32(place) + be32(len(data))
+            place += len(data)
+        # Not in the file's data but in this box.
+        places += be16(main) + be16(1) + be16(0) + be16(1) + be32(0) + be32(len(layout))
+        common = box(b"hvcC", inside(files[0], b"meta", b"iprp", b"ipco", b"hvcC"))
+        uses = b"".join(be16(i) + b"\x02\x81\x02" for i in numbers) + be16(main) + b"\x01\x03"
+        return full(b"meta", full(b"hdlr", be32(0) + b"pict" + bytes(13)) +
+                    full(b"pitm", be16(main)) +
+                    full(b"iloc", b"\x44\0" + be16(main) + places, 1) +
+                    full(b"iinf", be16(main) + items) +
+                    full(b"iref", box(b"dimg", be16(main) + be16(len(files)) +
+                                      b"".join(be16(i) for i in numbers))) +
+                    box(b"iprp", box(b"ipco", common + size(tile) + size(whole)) +
+                        full(b"ipma", be32(main) + uses)) +
+                    box(b"idat", layout))
+
+    return (start + meta(len(start) + len(meta(0)) + 8) + box(b"mdat", b"".join(coded)))

@@ -14,6 +14,7 @@
 #include <thread>
 
 #include "adapters/door/transfer.h"
+#include "door/door_support.h"
 
 namespace {
 
@@ -29,58 +30,10 @@ door::ClientOptions StandIn(const std::string& manner, int limit = kLongLimit) {
     return {PARAPICO_STAND_IN, {manner}, limit};
 }
 
-/// An open file that holds this.
-door::Descriptor FileOf(const std::string& content) {
-    door::Descriptor file(memfd_create("file", MFD_CLOEXEC));
-    EXPECT_EQ(write(file.Get(), content.data(), content.size()),
-              static_cast<ssize_t>(content.size()));
-    return file;
-}
-
 Result Decode(Client& client, const std::string& content = "picture", Kind kind = Kind::Pcx,
               platform::Size wanted = {}) {
     const door::Descriptor file = FileOf(content);
     return client.Decode(kind, file.Get(), wanted);
-}
-
-int OpenDescriptors() {
-    int count = 0;
-    for ([[maybe_unused]] const auto& entry :
-         std::filesystem::directory_iterator("/proc/self/fd")) {
-        ++count;
-    }
-    return count;
-}
-
-/// The processes that this one started and that stand, zombies too.
-std::vector<pid_t> Children() {
-    std::vector<pid_t> result;
-    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
-        const std::string name = entry.path().filename();
-        if (name.find_first_not_of("0123456789") != std::string::npos) {
-            continue;
-        }
-        FILE* file = std::fopen((entry.path() / "stat").c_str(), "r");
-        int id = 0, parent = 0;
-        if (file != nullptr) {
-            if (std::fscanf(file, "%d (%*[^)]) %*c %d", &id, &parent) == 2 && parent == getpid()) {
-                result.push_back(id);
-            }
-            std::fclose(file);
-        }
-    }
-    return result;
-}
-
-/// Gone, or about to be: waits for the system, never for long.
-bool IsGone(pid_t process) {
-    for (int i = 0; i < 2000; ++i) {
-        if (kill(process, 0) != 0) {
-            return true;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    return false;
 }
 
 TEST(DoorClient, APictureComes) {
@@ -183,11 +136,45 @@ TEST(DoorClient, BadProcessesAreSeenThroughAndEnded) {
     }
 }
 
-TEST(DoorClient, AnotherFilesystemsFileIsNoPixels) {
-    // Where the folder for temporary files lies in memory itself, the file has seals as well.
+TEST(DoorClient, AFileWithANameIsNoPixels) {
     Client client(StandIn("plain file"));
-    const Result result = Decode(client);
-    EXPECT_TRUE(result.outcome == Outcome::Lied || result.outcome == Outcome::Decoded);
+    EXPECT_EQ(Decode(client).outcome, Outcome::Lied);
+}
+
+uint32_t FirstPixel(Client& client, const std::string& word, Kind kind = Kind::Pcx) {
+    const Result result = Decode(client, word, kind);
+    EXPECT_EQ(result.outcome, Outcome::Decoded) << word;
+    return result.pixels ? result.pixels->pixels[0] & 0xFFFFFFu : 0;
+}
+
+TEST(DoorClient, AProcessThatKeepsMuchMemoryEndsBehindItsAnswer) {
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "the sanitizer's own memory has no limit";
+#endif
+    Client client(StandIn("limited"));
+    EXPECT_EQ(FirstPixel(client, "count"), 1u);
+    Decode(client, "keep little");
+    EXPECT_EQ(FirstPixel(client, "count"), 3u);
+    for (const char* word : {"keep resident", "keep addresses"}) {
+        Decode(client, word);
+        EXPECT_EQ(FirstPixel(client, "count"), 1u) << word;
+        EXPECT_EQ(FirstPixel(client, "count"), 2u) << word;
+    }
+    // What adds up.
+    for (int i = 0; i < 5; ++i) {
+        Decode(client, "keep little");
+    }
+    EXPECT_LT(FirstPixel(client, "count"), 3u);
+}
+
+TEST(DoorClient, AHelperThatGoesOnEndsBehindTheAnswerWithItsProcess) {
+    Client client(StandIn("limited"));
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_EQ(FirstPixel(client, "count", Kind::Eps), 1u);
+        const auto helper = static_cast<pid_t>(FirstPixel(client, "helper", Kind::Eps));
+        ASSERT_GT(helper, 1);
+        EXPECT_TRUE(IsGone(helper));
+    }
 }
 
 TEST(DoorClient, AHangEndsAtTheLimit) {
@@ -275,14 +262,16 @@ TEST(DoorClient, TheProcessGetsNothingOfTheProgram) {
         const std::string process = "/proc/" + std::to_string(children[0]);
         // What belongs to the picture is closed a moment behind the answer.
         std::vector<std::string> open;
-        for (int i = 0; i < 2000 && open.size() != 4; ++i) {
+        for (int i = 0; i < 2000 && open.size() != 5; ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(i == 0 ? 0 : 1));
             open.clear();
             for (const auto& entry : std::filesystem::directory_iterator(process + "/fd")) {
                 open.push_back(entry.path().filename());
             }
         }
-        EXPECT_THAT(open, testing::UnorderedElementsAre("0", "1", "2", "3"));
+        EXPECT_THAT(open, testing::UnorderedElementsAre("0", "1", "2", "3", "4"));
+        // The one that it opened itself, of what it uses.
+        EXPECT_EQ(std::filesystem::read_symlink(process + "/fd/4"), process + "/statm");
         for (const char* standard : {"/fd/0", "/fd/1", "/fd/2"}) {
             EXPECT_EQ(std::filesystem::read_symlink(process + standard), "/dev/null");
         }

@@ -28,6 +28,7 @@ TEST(Kinds, EveryMark) {
     const std::string pcx = "\x0A\5\1\x08"s + std::string(61, 0) + "\3"s;
     const std::string img = "\0\1\0\x08\0\1\0\2\0\x55\0\x55\0\x2D\0\x1F"s;
     const std::string wpg = "\xFFWPC\x10\0\0\0\1\x16\1\0"s;
+    const std::string frame = "\x01\0\xFF\xF0\0\0\0\x05\0\x01"s;  // -16 to 5, 0 to 1
     const std::string version2 = "\0\x11\x02\xFF\x0C\0"s;
     const struct {
         std::string bytes;
@@ -46,8 +47,8 @@ TEST(Kinds, EveryMark) {
         {"PCD_OPA", Kind::Pcd},
         {At(2048, "PCD_IPI"), Kind::Pcd},
         {"srcdocid: NONE", Kind::Cal},
-        {At(10, "\x11\x01\x01"), Kind::Pct},
-        {At(522, "\x11\x01\x01"), Kind::Pct},
+        {frame + "\x11\x01\x01"s, Kind::Pct},
+        {At(512, frame + "\x11\x01\x01"s), Kind::Pct},
         {At(10, version2), Kind::Pct},
         {At(522, version2), Kind::Pct},
         {At(65, "PNTGMPNT"), Kind::Mac},
@@ -104,6 +105,26 @@ TEST(Kinds, WeakMarksNeedMoreThanOneByte) {
         std::string changed = pcx;
         changed[offset] = wrong;
         EXPECT_EQ(OfBytes(changed), Kind::None) << offset;
+    }
+}
+
+TEST(Kinds, TheTwoBytesOfAPctAreOthersByChance) {
+    const std::string pct = "\x01\0\0\0\0\0\0\x05\0\x07\x11\x01"s;
+    EXPECT_EQ(OfBytes(pct), Kind::Pct);
+    EXPECT_EQ(OfBytes(At(512, pct)), Kind::Pct);
+    EXPECT_EQ(OfBytes(pct, "a.tga"), Kind::Tga);
+    EXPECT_EQ(OfBytes(pct + At(20, "TRUEVISION-XFILE.\0"s)), Kind::Tga);
+    EXPECT_EQ(OfBytes(At(512, pct), "a.pcx"), Kind::Pcx);
+    // 274 rows, of which the last is row 273, or 11 01 with the small end first.
+    const std::string pcx = "\x0A\5\1\x08\0\0\0\0\x2C\0\x11\x01"s + std::string(53, 0) + "\3"s;
+    EXPECT_EQ(OfBytes(pcx), Kind::Pcx);
+    // The same number as a row of the origin.
+    const std::string tga = "\0\0\2\0\0\0\0\0\0\0\x11\x01\x2D\0\x1F\0\x18\0"s;
+    EXPECT_EQ(OfBytes(tga, "a.tga"), Kind::Tga);
+    EXPECT_EQ(OfBytes(tga), Kind::None);
+    EXPECT_EQ(OfBytes(At(522, "\x11\x01"), "a"), Kind::None);
+    for (const char* frame : {"\0\5\0\0\0\5\0\7", "\0\0\0\7\0\5\0\7", "\0\0\0\0\xFF\xFF\0\7"}) {
+        EXPECT_EQ(OfBytes("\1\0"s + std::string(frame, 8) + "\x11\x01"s), Kind::None);
     }
 }
 

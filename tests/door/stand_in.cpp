@@ -125,7 +125,7 @@ void Shrinking(const Request& request) {
     constexpr int kSide = 2000;
     Answer answer = GoodAnswer(request);
     answer.width = answer.height = kSide;
-    const Descriptor memory(memfd_create("shrinking", MFD_CLOEXEC));
+    const Descriptor memory(memfd_create("shrinking", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     bool going = ftruncate(memory.Get(), off_t{kSide} * kSide * 4) == 0;
     SendRaw(&answer, sizeof answer, {memory.Get()});
     for (int i = 0; going && i < 2000; ++i) {
@@ -152,6 +152,11 @@ void WithChild() {
     raise(SIGKILL);
 }
 
+constexpr size_t kMiB = size_t{1} << 20;
+
+/// A program that goes on behind its picture.
+pid_t helper = -1;
+
 /// The real frame around a decoder that does what the file says.
 std::optional<door::Picture> DecodeWord(door::Kind, std::span<const uint8_t> file,
                                         platform::Size wanted) {
@@ -161,7 +166,27 @@ std::optional<door::Picture> DecodeWord(door::Kind, std::span<const uint8_t> fil
     if (word.starts_with("8BPS")) {
         word.erase(0, 4);  // what makes it a picture's file
     }
-    if (word == "spin") {
+    if (word == "keep resident" || word == "keep addresses" || word == "keep little") {
+        const size_t bytes = word == "keep resident"    ? confine::kMostKept + kMiB
+                             : word == "keep addresses" ? confine::kMostKeptAddresses + kMiB
+                                                        : confine::kMostKept / 4;
+        void* const kept =
+            mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        if (kept == MAP_FAILED) {
+            return std::nullopt;
+        }
+        if (word != "keep addresses") {
+            std::memset(kept, 1, bytes);
+        }
+    } else if (word == "helper") {
+        helper = fork();
+        if (helper == 0) {
+            while (true) {
+                pause();
+            }
+        }
+        return door::Picture{{1, 1}, 24, {static_cast<uint32_t>(helper)}};
+    } else if (word == "spin") {
         confine::AllowProcessorTime(1);
         while (true) {
             static volatile unsigned turns = 0;
@@ -200,8 +225,10 @@ int Limited(const std::string& roleName) {
                             : roleName == "svg" ? door::Role::Svg
                                                 : door::Role::Raster;
     confine::FollowProgram(role);
+    confine::WatchMemory();
     return confine::LimitProcess(role)
-               ? confine::Serve(kProcessSocket, {role, {}, DecodeWord, MeasureWord})
+               ? confine::Serve(kProcessSocket,
+                                {role, {}, DecodeWord, MeasureWord, [] { return helper > 0; }})
                : 1;
 }
 

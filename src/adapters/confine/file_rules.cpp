@@ -47,7 +47,7 @@ constexpr Rule kEpsRules[] = {
     {"/usr/share/color", kRead},
     {"/etc/papersize", kReadFile},
     {"/etc/paperspecs", kReadFile},
-    {"/dev/null", kReadFile | LANDLOCK_ACCESS_FS_WRITE_FILE},
+    {"/dev/null", kReadFile},
     {"/dev/urandom", kReadFile},
 };
 

@@ -1,6 +1,7 @@
 #include "adapters/confine/serve.h"
 
 #include <fcntl.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <exception>
@@ -53,8 +54,7 @@ Descriptor Decode(const Request& request, std::span<const uint8_t> file, const S
     return pixels;
 }
 
-bool AnswerOne(int socket, const Request& request, int file, const Service& service) {
-    Answer answer;
+Descriptor AnswerOne(const Request& request, int file, const Service& service, Answer& answer) {
     answer.serial = request.serial;
     Descriptor pixels;
     try {
@@ -69,13 +69,14 @@ bool AnswerOne(int socket, const Request& request, int file, const Service& serv
         answer = Answer();
         answer.serial = request.serial;
     }
-    return door::Send(socket, door::BytesOf(answer), pixels.Get());
+    return pixels;
 }
 
 }  // namespace
 
 int Serve(int socket, const Service& service) {
     constexpr int kForever = -1;
+    const MemoryUse atFirst = UsedMemory();
     while (true) {
         const door::Received received = door::Receive(socket, kForever);
         if (received.state == door::Received::State::Gone) {
@@ -86,8 +87,23 @@ int Serve(int socket, const Service& service) {
             return 1;
         }
         AllowProcessorTime(kPictureSeconds);
-        if (!AnswerOne(socket, *request, received.descriptors[0].Get(), service)) {
+        Answer answer;
+        const Descriptor pixels =
+            AnswerOne(*request, received.descriptors[0].Get(), service, answer);
+        const bool helperLives = service.helperLives && service.helperLives();
+        const bool last = helperLives || HasGrown(atFirst, UsedMemory());
+        if (last) {
+            // Ahead of the answer: a request that came behind it would go down with the process.
+            shutdown(socket, SHUT_RD);
+        }
+        if (!door::Send(socket, door::BytesOf(answer), pixels.Get())) {
             return 1;
+        }
+        if (helperLives) {
+            EndGroup();
+        }
+        if (last) {
+            return 0;
         }
     }
 }
@@ -105,6 +121,7 @@ void RunService(int argc, char** argv, const std::vector<Service>& services) {
             if (service.warmUp) {
                 service.warmUp();
             }
+            WatchMemory();
             // Nothing is tidied up at the end: libraries would only want what they cannot have.
             _exit(LimitProcess(service.role) ? Serve(door::kProcessSocket, service) : 1);
         }

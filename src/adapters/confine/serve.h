@@ -22,9 +22,13 @@ struct Service {
         decode;
     /// A drawing's own size, however large. Empty where that takes drawing it.
     std::function<std::optional<platform::Size>(door::Kind, std::span<const uint8_t> file)> measure;
+    /// Whether a program that `decode` started still runs. May be empty where it starts none.
+    std::function<bool()> helperLives;
 };
 
-/// Answers on the socket until the program closes its end: 0, the exit status. Another one for a
+/// Answers on the socket until the program closes its end: 0, the exit status. Also ends behind an
+/// answer once a helper goes on or much memory did not come back: takes no more requests from
+/// before that answer on, and ends its whole group where there is a helper. Another status for a
 /// message that is none, or when no answer can be sent.
 int Serve(int socket, const Service& service);
 

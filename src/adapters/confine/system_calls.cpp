@@ -6,10 +6,13 @@
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <span>
+
+#include "adapters/door/process.h"
 
 namespace confine {
 
@@ -79,20 +82,19 @@ constexpr int kForAll[] = {
     SCMP_SYS(exit_group),
 };
 
-/// Reading files by name; which ones is up to the file rules.
-constexpr int kForOpening[] = {
-    SCMP_SYS(open),       SCMP_SYS(openat),     SCMP_SYS(access),   SCMP_SYS(faccessat),
-    SCMP_SYS(faccessat2), SCMP_SYS(stat),       SCMP_SYS(lstat),    SCMP_SYS(newfstatat),
-    SCMP_SYS(statx),      SCMP_SYS(statfs),     SCMP_SYS(fstatfs),  SCMP_SYS(readlink),
-    SCMP_SYS(readlinkat), SCMP_SYS(getdents64), SCMP_SYS(getcwd),   SCMP_SYS(fadvise64),
-    SCMP_SYS(fcntl),      SCMP_SYS(mmap),       SCMP_SYS(mprotect),
+/// Reading files by name, beside opening them; which ones is up to the file rules.
+constexpr int kForReading[] = {
+    SCMP_SYS(access),  SCMP_SYS(faccessat),  SCMP_SYS(faccessat2), SCMP_SYS(stat),
+    SCMP_SYS(lstat),   SCMP_SYS(newfstatat), SCMP_SYS(statx),      SCMP_SYS(statfs),
+    SCMP_SYS(fstatfs), SCMP_SYS(readlink),   SCMP_SYS(readlinkat), SCMP_SYS(getdents64),
+    SCMP_SYS(getcwd),  SCMP_SYS(fadvise64),  SCMP_SYS(mmap),       SCMP_SYS(mprotect),
 };
 
 /// Starting a program, and what a program does when it starts.
 constexpr int kForStarting[] = {
-    SCMP_SYS(dup),         SCMP_SYS(dup2),       SCMP_SYS(dup3),   SCMP_SYS(pipe), SCMP_SYS(pipe2),
-    SCMP_SYS(close_range), SCMP_SYS(arch_prctl), SCMP_SYS(clone),  SCMP_SYS(fork), SCMP_SYS(vfork),
-    SCMP_SYS(execve),      SCMP_SYS(wait4),      SCMP_SYS(waitid),
+    SCMP_SYS(dup),   SCMP_SYS(dup2),        SCMP_SYS(dup3),       SCMP_SYS(pipe),
+    SCMP_SYS(pipe2), SCMP_SYS(close_range), SCMP_SYS(arch_prctl), SCMP_SYS(fork),
+    SCMP_SYS(vfork), SCMP_SYS(execve),      SCMP_SYS(wait4),      SCMP_SYS(waitid),
 };
 
 constexpr int kForEvents[] = {
@@ -136,6 +138,14 @@ bool AllowForAll(scmp_filter_ctx filter) {
         // Signals to itself (abort, raise), and to its own group.
         {SCMP_SYS(tgkill), 1, {SCMP_A0_32(SCMP_CMP_EQ, self)}},
         {SCMP_SYS(kill), 1, {SCMP_A0_32(SCMP_CMP_EQ, 0)}},
+        // No more requests.
+        {SCMP_SYS(shutdown),
+         2,
+         {SCMP_A0_32(SCMP_CMP_EQ, door::kProcessSocket), SCMP_A1_32(SCMP_CMP_EQ, SHUT_RD)}},
+        // Flags of a descriptor, and a second one; no locks, no signals to an owner.
+        {SCMP_SYS(fcntl), 1, {SCMP_A1_32(SCMP_CMP_EQ, F_GETFD)}},
+        {SCMP_SYS(fcntl), 1, {SCMP_A1_32(SCMP_CMP_EQ, F_SETFD)}},
+        {SCMP_SYS(fcntl), 1, {SCMP_A1_32(SCMP_CMP_EQ, F_GETFL)}},
     };
     return Allow(filter, kForAll) && Allow(filter, rules) &&
            // The library of threads asks for this one first, and else takes clone, whose arguments
@@ -143,9 +153,22 @@ bool AllowForAll(scmp_filter_ctx filter) {
            seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
 }
 
-bool AllowThreads(scmp_filter_ctx filter) {
+/// Threads for CLONE_THREAD, processes too for 0; never in a namespace of their own.
+bool AllowClone(scmp_filter_ctx filter, scmp_datum_t flags) {
+    constexpr scmp_datum_t kNamespaces = CLONE_NEWNS | CLONE_NEWCGROUP | CLONE_NEWUTS |
+                                         CLONE_NEWIPC | CLONE_NEWUSER | CLONE_NEWPID | CLONE_NEWNET;
     return seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1,
-                            SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD)) == 0;
+                            SCMP_A0(SCMP_CMP_MASKED_EQ, kNamespaces | flags, flags)) == 0;
+}
+
+/// For reading alone, also where the kernel has no file rules.
+bool AllowReading(scmp_filter_ctx filter) {
+    constexpr scmp_datum_t kWriting = O_ACCMODE | O_CREAT | O_TRUNC;
+    const Allowed rules[] = {
+        {SCMP_SYS(open), 1, {SCMP_A1(SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY)}},
+        {SCMP_SYS(openat), 1, {SCMP_A2(SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY)}},
+    };
+    return Allow(filter, rules) && Allow(filter, kForReading);
 }
 
 bool AllowRaster(scmp_filter_ctx filter) {
@@ -155,11 +178,8 @@ bool AllowRaster(scmp_filter_ctx filter) {
         {SCMP_SYS(mprotect), 1, {SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0)}},
         // What fstat is in the C library.
         {SCMP_SYS(newfstatat), 1, {SCMP_A3(SCMP_CMP_MASKED_EQ, AT_EMPTY_PATH, AT_EMPTY_PATH)}},
-        {SCMP_SYS(fcntl), 1, {SCMP_A1(SCMP_CMP_EQ, F_GETFL)}},
-        {SCMP_SYS(fcntl), 1, {SCMP_A1(SCMP_CMP_EQ, F_GETFD)}},
-        {SCMP_SYS(fcntl), 1, {SCMP_A1(SCMP_CMP_EQ, F_SETFD)}},
     };
-    return Allow(filter, rules) && AllowThreads(filter);
+    return Allow(filter, rules) && AllowClone(filter, CLONE_THREAD);
 }
 
 bool AllowRole(scmp_filter_ctx filter, door::Role role) {
@@ -167,9 +187,10 @@ bool AllowRole(scmp_filter_ctx filter, door::Role role) {
         case door::Role::Raster:
             return AllowRaster(filter);
         case door::Role::Eps:
-            return Allow(filter, kForOpening) && Allow(filter, kForStarting);
+            return AllowReading(filter) && Allow(filter, kForStarting) && AllowClone(filter, 0);
         case door::Role::Svg:
-            return Allow(filter, kForOpening) && Allow(filter, kForEvents) && AllowThreads(filter);
+            return AllowReading(filter) && Allow(filter, kForEvents) &&
+                   AllowClone(filter, CLONE_THREAD);
     }
     return false;
 }

@@ -34,7 +34,7 @@ constexpr Row kDecoders[] = {
     {Kind::Avif, [](Bytes file) { return DecodeByMagick("AVIF", file); }},
     {Kind::Heic, [](Bytes file) { return DecodeByMagick("HEIC", file); }},
     {Kind::Tif, [](Bytes file) { return DecodeByMagick("TIFF", file); }},
-    {Kind::Bmp, [](Bytes file) { return DecodeByMagick("BMP", file); }},
+    {Kind::Bmp, DecodeBmp},
     {Kind::Jxl, [](Bytes file) { return DecodeByMagick("JXL", file); }},
 };
 

@@ -72,12 +72,13 @@ int BitsOf(AVPixelFormat format) {
     return 64;
 }
 
-/// True where some pixel of four parts is not wholly transparent.
+/// True where some pixel has alpha, its last byte, and is not wholly transparent.
 bool HasAlpha(const AVFrame& frame) {
-    for (int y = 0; y < frame.height && frame.format == AV_PIX_FMT_BGRA; ++y) {
+    const int bytes = frame.format == AV_PIX_FMT_BGRA ? 4 : frame.format == AV_PIX_FMT_YA8 ? 2 : 0;
+    for (int y = 0; y < frame.height && bytes > 0; ++y) {
         const uint8_t* row = frame.data[0] + ptrdiff_t{y} * frame.linesize[0];
-        for (int x = 0; x < frame.width; ++x) {
-            if (row[4 * x + 3] != 0) {
+        for (int x = 1; x <= frame.width; ++x) {
+            if (row[bytes * x - 1] != 0) {
                 return true;
             }
         }
@@ -168,9 +169,20 @@ std::optional<Picture> DecodePsd(Bytes file) {
 
 std::optional<Picture> DecodeTga(Bytes file) {
     const Owned<AVFrame> frame = DecodeFrame(AV_CODEC_ID_TARGA, file);
+    constexpr size_t kTypeAt = 2;
+    constexpr int kGrey = 3, kGreyRuns = 11;
+    if (frame && frame->format == AV_PIX_FMT_RGB555LE &&
+        (file[kTypeAt] == kGrey || file[kTypeAt] == kGreyRuns)) {
+        // The library takes every word for a colour; these are a grey and its alpha.
+        frame->format = AV_PIX_FMT_YA8;
+    }
     // Writers leave the number of alpha bits at 0 whether there is alpha or not; nothing but zeros
     // is what one writes that has none.
     return PictureOf(frame, frame && HasAlpha(*frame));
+}
+
+std::optional<Picture> DecodeBmp(Bytes file) {
+    return PictureOf(DecodeFrame(AV_CODEC_ID_BMP, file), false);
 }
 
 std::optional<Picture> DecodeRas(Bytes file) {

@@ -10,6 +10,7 @@ void WarmUpFfmpeg();
 
 std::optional<Picture> DecodePsd(std::span<const uint8_t> file);
 std::optional<Picture> DecodeTga(std::span<const uint8_t> file);
+std::optional<Picture> DecodeBmp(std::span<const uint8_t> file);
 std::optional<Picture> DecodeRas(std::span<const uint8_t> file);
 std::optional<Picture> DecodeImg(std::span<const uint8_t> file);
 

@@ -4,7 +4,6 @@
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
-#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -14,9 +13,11 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
+#include <ctime>
 #include <string>
+#include <utility>
 
-#include "adapters/door/message.h"
+#include "adapters/door/transfer.h"
 
 namespace decoder {
 
@@ -61,27 +62,6 @@ Size OwnSize(const Box& box) {
     return {pixels(box.right - box.left), pixels(box.top - box.bottom)};
 }
 
-/// A nameless file in memory, read from its start.
-int MemoryFile(Bytes content) {
-    const int fd = memfd_create("drawing", MFD_CLOEXEC);
-    size_t done = 0;
-    while (fd >= 0 && done < content.size()) {
-        const ssize_t count = write(fd, content.data() + done, content.size() - done);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count <= 0) {
-            close(fd);
-            return -1;
-        }
-        done += static_cast<size_t>(count);
-    }
-    if (fd >= 0) {
-        lseek(fd, 0, SEEK_SET);
-    }
-    return fd;
-}
-
 std::string Decimal(double value) {
     std::array<char, 64> digits{};
     const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
@@ -123,15 +103,19 @@ pid_t Start(std::vector<std::string> words, int input, int output) {
     std::array<char*, 4> environment = {settings[0].data(), settings[1].data(), settings[2].data(),
                                         nullptr};
     posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, Nowhere(), STDERR_FILENO);
+    if (posix_spawn_file_actions_init(&actions) != 0) {
+        return -1;
+    }
+    bool started = true;
+    for (const auto& [from, to] :
+         {std::pair{input, STDIN_FILENO}, {output, STDOUT_FILENO}, {Nowhere(), STDERR_FILENO}}) {
+        started = started && posix_spawn_file_actions_adddup2(&actions, from, to) == 0;
+    }
     pid_t pid = -1;
-    const int error =
-        posix_spawn(&pid, "/usr/bin/gs", &actions, nullptr, arguments.data(), environment.data());
+    started = started && posix_spawn(&pid, "/usr/bin/gs", &actions, nullptr, arguments.data(),
+                                     environment.data()) == 0;
     posix_spawn_file_actions_destroy(&actions);
-    return error == 0 ? pid : -1;
+    return started ? pid : -1;
 }
 
 /// The lines before the pixels, a comment among them.
@@ -144,13 +128,17 @@ size_t HeadEnd(Bytes output, Size size) {
     return at == std::string_view::npos ? 0 : at + last.size();
 }
 
-/// Reads the first page; less of it when the other side closes or time is up.
-std::vector<uint8_t> ReadPage(int fd, Size size, std::chrono::milliseconds timeLimit) {
+constexpr size_t kMostHead = 256;
+
+size_t PixelBytes(Size size) {
+    return 3 * static_cast<size_t>(size.width) * static_cast<size_t>(size.height);
+}
+
+/// Reads the first page into `data`, which has room for it and its head and is shortened to what
+/// came: less when the other side closes or time is up.
+void ReadPage(int fd, Size size, std::chrono::milliseconds timeLimit, std::vector<uint8_t>& data) {
     const auto deadline = steady_clock::now() + timeLimit;
-    const size_t pixelBytes =
-        3 * static_cast<size_t>(size.width) * static_cast<size_t>(size.height);
-    constexpr size_t kMostHead = 256;
-    std::vector<uint8_t> data(pixelBytes + kMostHead);
+    const size_t pixelBytes = PixelBytes(size);
     size_t filled = 0;
     size_t head = 0;
     while (filled < (head == 0 ? data.size() : head + pixelBytes)) {
@@ -172,7 +160,18 @@ std::vector<uint8_t> ReadPage(int fd, Size size, std::chrono::milliseconds timeL
         head = head == 0 ? HeadEnd(Bytes(data).first(filled), size) : head;
     }
     data.resize(filled);
-    return data;
+}
+
+/// The interpreter that was started last and has not been seen to end; -1 for none.
+pid_t running = -1;
+
+/// It mostly ends by itself behind its page, or when nobody reads on.
+void AwaitEnd() {
+    constexpr int kTurns = 50;
+    constexpr timespec kTurn{0, 1000000};
+    for (int i = 0; i < kTurns && InterpreterLives(); ++i) {
+        nanosleep(&kTurn, nullptr);
+    }
 }
 
 std::optional<Picture> PictureOf(Bytes output, Size size) {
@@ -197,6 +196,13 @@ void WarmUpGhostscript() {
     Nowhere();
 }
 
+bool InterpreterLives() {
+    if (running > 0 && waitpid(running, nullptr, WNOHANG) != 0) {
+        running = -1;
+    }
+    return running > 0;
+}
+
 std::optional<Size> MeasurePostScript(Bytes file) {
     const std::optional<Box> box = BoxOf(PostScriptOf(file));
     return box ? std::optional(OwnSize(*box)) : std::nullopt;
@@ -213,25 +219,26 @@ std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
     if (int64_t{size.width} * size.height > kMostPixels) {
         return std::nullopt;
     }
-    const Descriptor input(MemoryFile(postScript));
+    const Descriptor input = door::MakeMemory("drawing", postScript);
     std::array<int, 2> ends = {-1, -1};
     if (input.Get() < 0 || Nowhere() < 0 || pipe2(ends.data(), O_CLOEXEC) != 0) {
         return std::nullopt;
     }
     Descriptor result(ends[0]);
     Descriptor output(ends[1]);
-    const pid_t pid = Start(CommandLine(*box, size), input.Get(), output.Get());
+    // Had before there is an interpreter, whom nobody would wait for if it could not be had.
+    std::vector<uint8_t> read(PixelBytes(size) + kMostHead);
+    running = Start(CommandLine(*box, size), input.Get(), output.Get());
     output.Close();
-    if (pid < 0) {
+    if (running < 0) {
         return std::nullopt;
     }
-    const std::vector<uint8_t> read = ReadPage(result.Get(), size, timeLimit);
-    // Behind the process's limits nobody can be killed: then the closed pipe ends the interpreter,
-    // or its processor time, or the program.
+    ReadPage(result.Get(), size, timeLimit, read);
+    // Behind the process's limits no single process can be killed: one that goes on is left to the
+    // caller.
     result.Close();
-    kill(pid, SIGKILL);
-    while (waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {
-    }
+    kill(running, SIGKILL);
+    AwaitEnd();
     return PictureOf(read, size);
 }
 

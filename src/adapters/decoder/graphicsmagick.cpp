@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "adapters/decoder/boxed_depth.h"
 #include "adapters/decoder/over_white.h"
 #include "adapters/decoder/pct_bitmap.h"
 
@@ -15,6 +16,7 @@ namespace decoder {
 namespace {
 
 using Bytes = std::span<const uint8_t>;
+using door::kPctHead;
 
 struct Free {
     void operator()(ImageInfo* info) const { DestroyImageInfo(info); }
@@ -46,13 +48,28 @@ void StartMagick() {
     }
 }
 
+/// `bits` of a colour part, which are stored as 8 or 16.
+int BitsOf(int bits, bool grey, bool alpha) {
+    return ((grey ? 1 : 3) + (alpha ? 1 : 0)) * (bits > 8 ? 16 : 8);
+}
+
+bool IsGrey(const Image& image) {
+    if (std::string_view(image.magick) == "JXL" && image.depth > 8) {
+        // The library does not say it of these; their pixels do.
+        Report report;
+        return IsGrayImage(&image, &report.info) != MagickFalse;
+    }
+    return image.is_grayscale != MagickFalse;
+}
+
 int BitsOf(const Image& image) {
     constexpr int kMostSmallPalette = 16;
     if (image.storage_class == PseudoClass && image.matte == MagickFalse) {
         return image.colors <= 2 ? 1 : image.colors <= kMostSmallPalette ? 4 : 8;
     }
-    const int channels = image.matte != MagickFalse ? 4 : 3;
-    return channels * (image.depth > 8 ? 16 : 8);
+    return image.depth == 1
+               ? 1
+               : BitsOf(static_cast<int>(image.depth), IsGrey(image), image.matte != MagickFalse);
 }
 
 std::optional<Picture> PixelsOf(const Image& image) {
@@ -78,16 +95,6 @@ std::optional<Picture> PixelsOf(const Image& image) {
         }
     }
     return picture;
-}
-
-constexpr size_t kPctHead = 512;
-
-/// The place of a version's mark, behind the size and the frame.
-bool HasPctVersion(Bytes file, size_t at) {
-    const auto byte = [&](size_t offset) {
-        return at + offset < file.size() ? file[at + offset] : 0;
-    };
-    return (byte(10) == 0x11 && byte(11) == 1) || (byte(11) == 0x11 && byte(12) == 2);
 }
 
 }  // namespace
@@ -122,22 +129,34 @@ std::optional<Picture> DecodeByMagick(const char* format, Bytes file) {
                    TransformColorspace(image.get(), RGBColorspace) == MagickFail)) {
         return std::nullopt;
     }
-    return PixelsOf(*image);
+    std::optional<Picture> picture = PixelsOf(*image);
+    const std::string_view kind = format;
+    if (picture && (kind == "HEIC" || kind == "AVIF")) {
+        const BoxedDepth stored = BoxedDepthOf(file);
+        picture->bitsPerPixel =
+            BitsOf(stored.bits, stored.bits > 0 && stored.grey, image->matte != MagickFalse);
+    }
+    return picture;
 }
 
 std::optional<Picture> DecodePct(Bytes file) {
+    const std::string_view data(reinterpret_cast<const char*>(file.data()), file.size());
     std::vector<uint8_t> headed;
-    if (!HasPctVersion(file, kPctHead) && HasPctVersion(file, 0)) {
+    if (!door::IsPctAt(data, kPctHead) && door::IsPctAt(data, 0)) {
         // As it lies on the clipboard, without the empty head of a file.
         headed.resize(kPctHead);
         headed.insert(headed.end(), file.begin(), file.end());
         file = headed;
     }
-    if (std::optional<Picture> bitmap =
-            DecodePctBitmap(file.subspan(std::min(kPctHead, file.size())))) {
+    const Bytes contents = file.subspan(std::min(kPctHead, file.size()));
+    if (std::optional<Picture> bitmap = DecodePctBitmap(contents)) {
         return bitmap;
     }
-    return DecodeByMagick("PICT", file);
+    std::optional<Picture> picture = DecodeByMagick("PICT", file);
+    if (const int bits = PctPaletteDepth(contents); picture && bits > 0) {
+        picture->bitsPerPixel = bits;
+    }
+    return picture;
 }
 
 }  // namespace decoder

@@ -43,7 +43,11 @@ constexpr Silent kSilent[] = {
     {0x06, 4}, {0x07, 4},  {0x08, 2}, {0x09, 8}, {0x0A, 8}, {0x0B, 4},
     {0x0C, 4}, {0x0D, 2},  {0x0E, 4}, {0x0F, 4}, {0x10, 8}, {0xA0, 2},
 };
-constexpr int kBits = 0x90, kPackedBits = 0x98;
+constexpr int kBits = 0x90, kPartOfBits = 0x91, kPackedBits = 0x98, kPackedPart = 0x99;
+
+/// Of version 2 alone.
+constexpr Silent kLaterSilent[] = {{0x1A, 6}, {0x1B, 6}, {0x1C, 0},   {0x1D, 6},
+                                   {0x1E, 0}, {0x1F, 6}, {0x0C00, 24}};
 
 /// The first operation that draws.
 int SkipSilent(Reader& reader) {
@@ -55,6 +59,24 @@ int SkipSilent(Reader& reader) {
         }
         reader.at += known->bytes >= 0 ? static_cast<size_t>(known->bytes)
                                        : static_cast<size_t>(std::max(reader.Word() - 2, 0));
+    }
+    return -1;
+}
+
+/// The same in version 2, where operations are words and begin at even bytes.
+int SkipLaterSilent(Reader& reader) {
+    while (!reader.Ended()) {
+        const int operation = reader.Word();
+        const auto* known = std::ranges::find(kSilent, operation, &Silent::operation);
+        if (known == std::end(kSilent)) {
+            known = std::ranges::find(kLaterSilent, operation, &Silent::operation);
+            if (known == std::end(kLaterSilent)) {
+                return operation;
+            }
+        }
+        reader.at += known->bytes >= 0 ? static_cast<size_t>(known->bytes)
+                                       : static_cast<size_t>(std::max(reader.Word() - 2, 0));
+        reader.at += reader.at % 2;
     }
     return -1;
 }
@@ -117,6 +139,28 @@ std::optional<Picture> DecodePctBitmap(Bytes file) {
         }
     }
     return picture;
+}
+
+int PctPaletteDepth(Bytes file) {
+    Reader reader{file};
+    reader.Word();
+    FrameOf(reader);
+    if (reader.Word() != 0x0011 || reader.Word() != 0x02FF) {
+        return 0;
+    }
+    const int operation = SkipLaterSilent(reader);
+    if (operation != kBits && operation != kPartOfBits && operation != kPackedBits &&
+        operation != kPackedPart) {
+        return 0;
+    }
+    constexpr int kColours = 0x8000;
+    if ((reader.Word() & kColours) == 0) {
+        return 1;
+    }
+    // The bounds, version, packing, resolution and form of the pixels.
+    reader.at += 8 + 2 + 2 + 4 + 8 + 2;
+    const int bits = reader.Word();
+    return bits == 1 ? 1 : bits == 2 || bits == 4 ? 4 : bits == 8 ? 8 : 0;
 }
 
 }  // namespace decoder

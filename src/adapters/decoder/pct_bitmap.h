@@ -10,4 +10,8 @@ namespace decoder {
 /// Nothing for everything else.
 std::optional<Picture> DecodePctBitmap(std::span<const uint8_t> file);
 
+/// Bits per pixel (1, 4, 8) where the first thing that the contents of version 2 draw is a bitmap
+/// with a palette; else 0.
+int PctPaletteDepth(std::span<const uint8_t> file);
+
 }  // namespace decoder

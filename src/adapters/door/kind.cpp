@@ -15,6 +15,9 @@ struct Mark {
     size_t offset;
     std::string_view bytes;
 };
+/// Behind the size and the frame.
+constexpr size_t kPctMark = 10;
+constexpr std::string_view kSecondPct = "\0\x11\x02\xFF"sv;
 constexpr Mark kMarks[] = {
     {Kind::Psd, 0, "8BPS"},
     {Kind::Ras, 0, "\x59\xA6\x6A\x95"},
@@ -28,10 +31,8 @@ constexpr Mark kMarks[] = {
     {Kind::Pcd, 0, "PCD_OPA"},
     {Kind::Pcd, 2048, "PCD_IPI"},
     {Kind::Cal, 0, "srcdocid:"},
-    {Kind::Pct, 10, "\x11\x01"},
-    {Kind::Pct, 10, "\0\x11\x02\xFF"sv},
-    {Kind::Pct, 522, "\x11\x01"},
-    {Kind::Pct, 522, "\0\x11\x02\xFF"sv},
+    {Kind::Pct, kPctMark, kSecondPct},
+    {Kind::Pct, kPctHead + kPctMark, kSecondPct},
 };
 constexpr std::string_view kTgaFooter = "TRUEVISION-XFILE.\0"sv;
 
@@ -157,14 +158,29 @@ Kind KindOfName(std::string_view name) {
     return Kind::None;
 }
 
+/// Two bytes that many a file has by chance: only with a frame that encloses something.
+bool IsFirstPct(std::string_view start, size_t at) {
+    const auto side = [&](size_t offset) {
+        return static_cast<int16_t>(Big16(start, at + offset));
+    };
+    const int top = side(2), left = side(4), bottom = side(6), right = side(8);
+    return StandsAt(start, at + kPctMark, "\x11\x01") && top < bottom && left < right;
+}
+
 }  // namespace
+
+bool IsPctAt(std::string_view data, size_t at) {
+    return StandsAt(data, at + kPctMark, kSecondPct) || IsFirstPct(data, at);
+}
 
 Kind KindOf(std::string_view start, std::string_view end, std::string_view name) {
     if (start.empty()) {
         return Kind::None;
     }
-    const Kind kind = KindOfContent(start, end);
-    return kind != Kind::None ? kind : KindOfName(name);
+    Kind kind = KindOfContent(start, end);
+    kind = kind != Kind::None ? kind : KindOfName(name);
+    const bool weakPct = kind == Kind::None && (IsPctAt(start, 0) || IsPctAt(start, kPctHead));
+    return weakPct ? Kind::Pct : kind;
 }
 
 }  // namespace door

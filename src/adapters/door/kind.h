@@ -1,6 +1,7 @@
 // Kinds of pictures that are decoded in a process of their own.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -35,9 +36,16 @@ constexpr uint8_t kLastKind = 18;
 constexpr size_t kStartBytes = 4096;
 constexpr size_t kEndBytes = 64;
 
+/// Bytes of the empty head that a pct has as a file.
+constexpr size_t kPctHead = 512;
+
+/// Whether a pct's contents, of either version, begin at this byte: 0 as on the clipboard, kPctHead
+/// in a file.
+bool IsPctAt(std::string_view data, size_t at);
+
 /// By the content where the file has a mark; else, for the kinds whose files may be without one, by
-/// the name's extension, without case. `name` is a path or a bare name. An empty file is no
-/// picture.
+/// the name's extension, without case; last by a mark so short that others may have it by chance.
+/// `name` is a path or a bare name. An empty file is no picture.
 Kind KindOf(std::string_view start, std::string_view end, std::string_view name);
 
 }  // namespace door

@@ -47,32 +47,39 @@ std::vector<char*> Pointers(std::vector<std::string>& words) {
 
 /// How the process begins; frees itself.
 struct Start {
-    Start() {
-        posix_spawn_file_actions_init(&files);
-        posix_spawnattr_init(&attributes);
-    }
+    Start()
+        : hasFiles(posix_spawn_file_actions_init(&files) == 0),
+          hasAttributes(posix_spawnattr_init(&attributes) == 0) {}
     ~Start() {
-        posix_spawn_file_actions_destroy(&files);
-        posix_spawnattr_destroy(&attributes);
+        if (hasFiles) {
+            posix_spawn_file_actions_destroy(&files);
+        }
+        if (hasAttributes) {
+            posix_spawnattr_destroy(&attributes);
+        }
     }
     Start(const Start&) = delete;
     Start& operator=(const Start&) = delete;
 
     posix_spawn_file_actions_t files;
     posix_spawnattr_t attributes;
+    bool hasFiles, hasAttributes;
 };
 
 bool Prepare(Start& start, int socket) {
+    if (!start.hasFiles || !start.hasAttributes) {
+        return false;
+    }
     sigset_t all, none;
     sigfillset(&all);
     sigemptyset(&none);
-    posix_spawnattr_setsigdefault(&start.attributes, &all);
-    posix_spawnattr_setsigmask(&start.attributes, &none);
-    posix_spawnattr_setpgroup(&start.attributes, 0);
-    posix_spawnattr_setflags(
-        &start.attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETPGROUP);
+    constexpr short kFlags = POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETPGROUP;
     // The socket first: it may be one of the numbers that are taken next.
-    bool done = posix_spawn_file_actions_adddup2(&start.files, socket, kProcessSocket) == 0;
+    bool done = posix_spawnattr_setsigdefault(&start.attributes, &all) == 0 &&
+                posix_spawnattr_setsigmask(&start.attributes, &none) == 0 &&
+                posix_spawnattr_setpgroup(&start.attributes, 0) == 0 &&
+                posix_spawnattr_setflags(&start.attributes, kFlags) == 0 &&
+                posix_spawn_file_actions_adddup2(&start.files, socket, kProcessSocket) == 0;
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         done = done && posix_spawn_file_actions_addopen(&start.files, standard, "/dev/null", O_RDWR,
                                                         0) == 0;

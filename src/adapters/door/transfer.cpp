@@ -48,12 +48,11 @@ std::optional<std::vector<uint8_t>> ReadFile(int file) {
                                                      : std::nullopt;
 }
 
-Descriptor MakePixels(std::span<const uint32_t> pixels) {
-    Descriptor memory(memfd_create("picture", MFD_CLOEXEC));
-    const auto* bytes = reinterpret_cast<const uint8_t*>(pixels.data());
+Descriptor MakeMemory(const char* name, std::span<const uint8_t> content) {
+    Descriptor memory(memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING));
     size_t done = 0;
-    while (memory.Valid() && done < pixels.size_bytes()) {
-        const ssize_t put = pwrite(memory.Get(), bytes + done, pixels.size_bytes() - done,
+    while (memory.Valid() && done < content.size()) {
+        const ssize_t put = pwrite(memory.Get(), content.data() + done, content.size() - done,
                                    static_cast<off_t>(done));
         if (put > 0) {
             done += static_cast<size_t>(put);
@@ -64,10 +63,18 @@ Descriptor MakePixels(std::span<const uint32_t> pixels) {
     return memory;
 }
 
+Descriptor MakePixels(std::span<const uint32_t> pixels) {
+    return MakeMemory("picture",
+                      {reinterpret_cast<const uint8_t*>(pixels.data()), pixels.size_bytes()});
+}
+
 platform::BitmapPtr ReadPixels(int memory, platform::Size size) {
     const int64_t bytes = int64_t{size.width} * size.height * 4;
-    // Only files in memory have seals. Reading any other might wait for ever.
-    if (!FitsBound(size) || fcntl(memory, F_GET_SEALS) == -1 || PlainSize(memory) != bytes) {
+    // Only files in memory have seals, and only nameless ones may have more of them. Reading any
+    // other might wait for ever.
+    const int seals = fcntl(memory, F_GET_SEALS);
+    if (!FitsBound(size) || seals == -1 || (seals & F_SEAL_SEAL) != 0 ||
+        PlainSize(memory) != bytes) {
         return nullptr;
     }
     auto bitmap = std::make_shared<platform::Bitmap>(size.width, size.height);

@@ -18,6 +18,9 @@ constexpr int64_t kMostFileBytes = int64_t{512} << 20;
 /// kMostFileBytes, or one that shrinks meanwhile. May throw std::bad_alloc.
 std::optional<std::vector<uint8_t>> ReadFile(int file);
 
+/// Nameless memory that holds this, to be read from its start. Not valid where that cannot be had.
+Descriptor MakeMemory(const char* name, std::span<const uint8_t> content);
+
 /// Pixels 0xFFRRGGBB in nameless memory that can travel. Not valid where that cannot be had.
 Descriptor MakePixels(std::span<const uint32_t> pixels);
 

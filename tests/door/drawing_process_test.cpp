@@ -1,0 +1,85 @@
+// The real process for drawings, whose interpreter does not end by itself.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+
+#include "adapters/door/client.h"
+#include "door/door_support.h"
+
+namespace {
+
+using door::Client;
+using door::Kind;
+using door::Outcome;
+using door::Result;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+const std::string kPage =
+    "%!PS\n%%BoundingBox: 0 0 8 8\n1 0 0 setrgbcolor 0 0 8 8 rectfill showpage\n";
+const std::string kLoop = "{} loop\n";
+const std::string kEndless = "%!PS\n%%BoundingBox: 0 0 8 8\n" + kLoop;
+
+void ExpectPage(Client& client, const std::string& text) {
+    const Result result = client.Decode(Kind::Eps, FileOf(text).Get(), {});
+    ASSERT_EQ(result.outcome, Outcome::Decoded);
+    EXPECT_EQ(result.size, (platform::Size{8, 8}));
+    EXPECT_EQ(result.pixels->pixels[27], 0xFFFF0000u);
+}
+
+pid_t OnlyChild() {
+    const auto children = Children();
+    EXPECT_EQ(children.size(), 1u);
+    return children.empty() ? 0 : children[0];
+}
+
+TEST(DrawingProcess, ServesManyDrawings) {
+    Client client;
+    ExpectPage(client, kPage);
+    const pid_t process = OnlyChild();
+    for (int i = 0; i < 5; ++i) {
+        ExpectPage(client, kPage);
+    }
+    EXPECT_EQ(OnlyChild(), process);
+}
+
+TEST(DrawingProcess, FontsAreFoundBehindTheLimits) {
+    Client client;
+    for (const char* font : {"Helvetica", "Times-Roman", "Courier", "NoSuchFont"}) {
+        const std::string text = std::string("%!PS\n%%BoundingBox: 0 0 40 40\n/") + font +
+                                 " findfont 40 scalefont setfont 2 4 moveto (M) show showpage\n";
+        const Result result = client.Decode(Kind::Eps, FileOf(text).Get(), {});
+        ASSERT_EQ(result.outcome, Outcome::Decoded) << font;
+        // Stems of a letter, and paper between them.
+        const auto black = std::ranges::count(result.pixels->pixels, 0xFF000000u);
+        EXPECT_GT(black, 40) << font;
+        EXPECT_LT(black, 800) << font;
+    }
+}
+
+TEST(DrawingProcess, AnEndlessLoopBehindThePageIsNotWaitedFor) {
+    Client client;
+    for (int i = 0; i < 3; ++i) {
+        ExpectPage(client, kPage);
+        const pid_t process = OnlyChild();
+        const auto start = steady_clock::now();
+        ExpectPage(client, kPage + kLoop);
+        // The interpreter itself takes 9000.
+        EXPECT_LT(steady_clock::now() - start, milliseconds(4000));
+        ASSERT_GT(process, 1);
+        EXPECT_TRUE(GroupIsGone(process));
+    }
+}
+
+TEST(DrawingProcess, AnEndlessLoopWithoutAPageFailsInTime) {
+    Client client;
+    ExpectPage(client, kPage);
+    const pid_t process = OnlyChild();
+    EXPECT_EQ(client.Decode(Kind::Eps, FileOf(kEndless).Get(), {}).outcome, Outcome::Failed);
+    ASSERT_GT(process, 1);
+    EXPECT_TRUE(GroupIsGone(process));
+    ExpectPage(client, kPage);
+}
+
+}  // namespace
