@@ -5,6 +5,9 @@
 #include <chrono>
 #include <cstdio>
 #include <fstream>
+#include <optional>
+#include <string>
+#include <tuple>
 
 #include "imaging/imaging_support.h"
 
@@ -145,30 +148,36 @@ TEST(HostileDrawings, CostTheirSlideAndNoMore) {
     const std::string fifo = folder.Folder().Path("fifo.png");
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     const std::string image = "<image width='50' height='50' xlink:href='";
-    const std::pair<const char*, std::string> drawings[] = {
-        {"uses", NestedUses(10)},
-        {"entities", EntityBomb()},
-        {"stops", ManyStops()},
-        {"styles", kSvg + ("<style>" + Repeated("a b c d e f g {fill:red}", 20000)) + "</style>" +
-                       Repeated("<g class='x'>", 2000) + Repeated("</g>", 2000) + "</svg>"},
-        {"depth", kSvg + Repeated("<g>", 200000) + Repeated("</g>", 200000) + "</svg>"},
-        {"fifo", kSvg + image + fifo + "'/></svg>"},
-        {"device", kSvg + image + "/dev/zero'/></svg>"},
-        {"sizes", "<svg xmlns='http://www.w3.org/2000/svg' width='1e30' height='1e30'/>"},
-        {"filter", std::string(kSvg) + "<filter id='f' x='-1e9' y='-1e9' width='2e9' height='2e9'>"
-                                       "<feGaussianBlur stdDeviation='1e9'/></filter>"
-                                       "<rect filter='url(#f)' width='9' height='9'/></svg>"},
-        {"dashes", std::string(kSvg) +
-                       "<path d='M0 0L1e9 1e9' stroke='red' stroke-dasharray='1e-9'/></svg>"}};
-    for (const auto& [name, text] : drawings) {
+    // What is said of a drawing that takes no time is the reader's affair.
+    using Loads = std::optional<bool>;
+    const std::tuple<const char*, std::string, Loads> drawings[] = {
+        {"uses", NestedUses(10), {}},
+        {"entities", EntityBomb(), {}},
+        {"stops", ManyStops(), false},
+        {"styles",
+         kSvg + ("<style>" + Repeated("a b c d e f g {fill:red}", 20000)) + "</style>" +
+             Repeated("<g class='x'>", 2000) + Repeated("</g>", 2000) + "</svg>",
+         false},
+        {"depth", kSvg + Repeated("<g>", 200000) + Repeated("</g>", 200000) + "</svg>", {}},
+        {"fifo", kSvg + image + fifo + "'/></svg>", true},
+        {"device", kSvg + image + "/dev/zero'/></svg>", true},
+        {"sizes", "<svg xmlns='http://www.w3.org/2000/svg' width='1e30' height='1e30'/>", false},
+        {"filter",
+         std::string(kSvg) + "<filter id='f' x='-1e9' y='-1e9' width='2e9' height='2e9'>"
+                             "<feGaussianBlur stdDeviation='1e9'/></filter>"
+                             "<rect filter='url(#f)' width='9' height='9'/></svg>",
+         {}},
+        {"dashes",
+         std::string(kSvg) + "<path d='M0 0L1e9 1e9' stroke='red' stroke-dasharray='1e-9'/></svg>",
+         {}}};
+    for (const auto& [name, text, loads] : drawings) {
         SCOPED_TRACE(name);
         const Text path = folder.Put(std::string(name) + ".svg", QByteArray::fromStdString(text));
         const auto start = std::chrono::steady_clock::now();
-        if (control->ReadInformation(path)) {
-            control->Load(path, {});
-        }
-        // Measuring and drawing have a limit each; a busy machine some more.
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(20 * kLimit));
+        const bool loaded = control->ReadInformation(path) && control->Load(path, {});
+        EXPECT_EQ(loaded, loads.value_or(loaded));
+        // Measuring has a third of the limit, drawing the whole; a busy machine some more.
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(5 * kLimit));
     }
     const auto text = kSvg + std::string("<text y='80' font-size='80'>\xE5\xAD\x97</text></svg>");
     ASSERT_TRUE(control->Load(folder.Put("good.svg", QByteArray::fromStdString(text)), {}));
