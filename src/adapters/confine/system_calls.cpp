@@ -101,6 +101,14 @@ constexpr int kForEvents[] = {
     SCMP_SYS(eventfd2),
 };
 
+constexpr scmp_arg_cmp Equal(unsigned argument, scmp_datum_t value) {
+    return {argument, SCMP_CMP_EQ, value, 0};
+}
+
+constexpr scmp_arg_cmp Masked(unsigned argument, scmp_datum_t mask, scmp_datum_t value) {
+    return {argument, SCMP_CMP_MASKED_EQ, mask, value};
+}
+
 /// One call that is allowed where its arguments compare so.
 struct Allowed {
     int call;
@@ -131,21 +139,19 @@ bool AllowForAll(scmp_filter_ctx filter) {
     const auto self = static_cast<scmp_datum_t>(getpid());
     const Allowed rules[] = {
         // Its own limits can be read; that of the processor time is set for each picture.
-        {SCMP_SYS(prlimit64), 2, {SCMP_A0_32(SCMP_CMP_EQ, 0), SCMP_A1(SCMP_CMP_EQ, RLIMIT_CPU)}},
-        {SCMP_SYS(prlimit64), 2, {SCMP_A0_32(SCMP_CMP_EQ, 0), SCMP_A2(SCMP_CMP_EQ, 0)}},
-        {SCMP_SYS(setrlimit), 1, {SCMP_A0(SCMP_CMP_EQ, RLIMIT_CPU)}},
-        {SCMP_SYS(prctl), 1, {SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME)}},
+        {SCMP_SYS(prlimit64), 2, {Equal(0, 0), Equal(1, RLIMIT_CPU)}},
+        {SCMP_SYS(prlimit64), 2, {Equal(0, 0), Equal(2, 0)}},
+        {SCMP_SYS(setrlimit), 1, {Equal(0, RLIMIT_CPU)}},
+        {SCMP_SYS(prctl), 1, {Equal(0, PR_SET_NAME)}},
         // Signals to itself (abort, raise), and to its own group.
-        {SCMP_SYS(tgkill), 1, {SCMP_A0_32(SCMP_CMP_EQ, self)}},
-        {SCMP_SYS(kill), 1, {SCMP_A0_32(SCMP_CMP_EQ, 0)}},
+        {SCMP_SYS(tgkill), 1, {Equal(0, self)}},
+        {SCMP_SYS(kill), 1, {Equal(0, 0)}},
         // No more requests.
-        {SCMP_SYS(shutdown),
-         2,
-         {SCMP_A0_32(SCMP_CMP_EQ, door::kProcessSocket), SCMP_A1_32(SCMP_CMP_EQ, SHUT_RD)}},
+        {SCMP_SYS(shutdown), 2, {Equal(0, door::kProcessSocket), Equal(1, SHUT_RD)}},
         // Flags of a descriptor, and a second one; no locks, no signals to an owner.
-        {SCMP_SYS(fcntl), 1, {SCMP_A1_32(SCMP_CMP_EQ, F_GETFD)}},
-        {SCMP_SYS(fcntl), 1, {SCMP_A1_32(SCMP_CMP_EQ, F_SETFD)}},
-        {SCMP_SYS(fcntl), 1, {SCMP_A1_32(SCMP_CMP_EQ, F_GETFL)}},
+        {SCMP_SYS(fcntl), 1, {Equal(1, F_GETFD)}},
+        {SCMP_SYS(fcntl), 1, {Equal(1, F_SETFD)}},
+        {SCMP_SYS(fcntl), 1, {Equal(1, F_GETFL)}},
     };
     return Allow(filter, kForAll) && Allow(filter, rules) &&
            // The library of threads asks for this one first, and else takes clone, whose arguments
@@ -158,15 +164,15 @@ bool AllowClone(scmp_filter_ctx filter, scmp_datum_t flags) {
     constexpr scmp_datum_t kNamespaces = CLONE_NEWNS | CLONE_NEWCGROUP | CLONE_NEWUTS |
                                          CLONE_NEWIPC | CLONE_NEWUSER | CLONE_NEWPID | CLONE_NEWNET;
     return seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1,
-                            SCMP_A0(SCMP_CMP_MASKED_EQ, kNamespaces | flags, flags)) == 0;
+                            Masked(0, kNamespaces | flags, flags)) == 0;
 }
 
 /// For reading alone, also where the kernel has no file rules.
 bool AllowReading(scmp_filter_ctx filter) {
     constexpr scmp_datum_t kWriting = O_ACCMODE | O_CREAT | O_TRUNC;
     const Allowed rules[] = {
-        {SCMP_SYS(open), 1, {SCMP_A1(SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY)}},
-        {SCMP_SYS(openat), 1, {SCMP_A2(SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY)}},
+        {SCMP_SYS(open), 1, {Masked(1, kWriting, O_RDONLY)}},
+        {SCMP_SYS(openat), 1, {Masked(2, kWriting, O_RDONLY)}},
     };
     return Allow(filter, rules) && Allow(filter, kForReading);
 }
@@ -174,10 +180,10 @@ bool AllowReading(scmp_filter_ctx filter) {
 bool AllowRaster(scmp_filter_ctx filter) {
     const Allowed rules[] = {
         // Memory, but none that is made to run: all libraries are loaded.
-        {SCMP_SYS(mmap), 1, {SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0)}},
-        {SCMP_SYS(mprotect), 1, {SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0)}},
+        {SCMP_SYS(mmap), 1, {Masked(2, PROT_EXEC, 0)}},
+        {SCMP_SYS(mprotect), 1, {Masked(2, PROT_EXEC, 0)}},
         // What fstat is in the C library.
-        {SCMP_SYS(newfstatat), 1, {SCMP_A3(SCMP_CMP_MASKED_EQ, AT_EMPTY_PATH, AT_EMPTY_PATH)}},
+        {SCMP_SYS(newfstatat), 1, {Masked(3, AT_EMPTY_PATH, AT_EMPTY_PATH)}},
     };
     return Allow(filter, rules) && AllowClone(filter, CLONE_THREAD);
 }
