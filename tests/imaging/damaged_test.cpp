@@ -42,6 +42,27 @@ TEST_F(Damaged, WhatIsNoPictureIsRefused) {
     EXPECT_FALSE(Loads(folder_.Put("svg.svg", "<svg"))) << "only drawing it shows that";
 }
 
+TEST_F(Damaged, TheRowsThatACutBmpLacksAreWhiteOrItsFirstColour) {
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_Indexed8}) {
+        QImage image(40, 30, format);
+        if (format == QImage::Format_Indexed8) {
+            image.setColorTable({qRgb(255, 255, 255), qRgb(200, 0, 0)});
+        }
+        image.fill(format == QImage::Format_Indexed8 ? 1u : 0xFFC80000u);
+        const QByteArray whole = Encoded(image, "bmp");
+        const int rowBytes = format == QImage::Format_Indexed8 ? 40 : 3 * 40;
+        const Text path = folder_.Put("cut.bmp", whole.left(whole.size() - 10 * rowBytes));
+        // What the memory held before must not show.
+        for (int round = 0; round < 3; ++round) {
+            std::vector<char> dirt(40 * 30 * 4, static_cast<char>(0x55 + round));
+            dirt = {};
+            ASSERT_TRUE(control_->Load(path, {}));
+            EXPECT_EQ(control_->Picture()->Row(0)[20], 0xFFFFFFFFu) << "stored last";
+            EXPECT_EQ(control_->Picture()->Row(29)[20], 0xFFC80000u);
+        }
+    }
+}
+
 TEST_F(Damaged, HugeHeadersAreRefusedUndecoded) {
     EXPECT_FALSE(Loads(folder_.Put("huge.png", PngHeader(30000, 30000))));
     EXPECT_FALSE(Loads(folder_.Put("huge.png", PngHeader(2000000000, 2000000000))));

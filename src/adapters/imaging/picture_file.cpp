@@ -219,7 +219,13 @@ public:
             reader_.setScaledSize(file.sideways_ ? QSize(size.height, size.width)
                                                  : QSize(size.width, size.height));
         }
-        return reader_.read();
+        QImage image;
+        if (kind_ == Kind::Bmp) {
+            // Its reader leaves the rows that a cut file lacks as it finds them.
+            image = QImage(reader_.size(), reader_.imageFormat());
+            image.fill(image.depth() < 32 ? 0u : ~0u);
+        }
+        return reader_.read(&image) ? image : QImage();
     }
 
 private:
