@@ -21,7 +21,8 @@ using platform::Size;
 std::string Number(uint32_t value, int bytes) {
     std::string result;
     for (int i = 0; i < bytes; ++i) {
-        result.push_back(static_cast<char>(value >> (8 * i)));
+        result.push_back(static_cast<char>(value & 0xFF));
+        value >>= 8;
     }
     return result;
 }
