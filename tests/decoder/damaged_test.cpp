@@ -102,12 +102,9 @@ TEST(Damaged, OneKindIsNotReadAsAnother) {
 
 /// What the decoder's process does once it is warm: no file more, and 2 GiB of addresses.
 void DecodeAllClosed(const std::vector<std::string>& names, const std::vector<FileBytes>& files) {
-    const rlimit none = {0, 0};
-    [[maybe_unused]] const rlimit memory = {rlim_t{2} << 30, rlim_t{2} << 30};
+    const rlimit none = {0, 0}, memory = {rlim_t{2} << 30, rlim_t{2} << 30};
     setrlimit(RLIMIT_NOFILE, &none);
-#if !defined(__SANITIZE_ADDRESS__)  // whose shadow takes more addresses than any limit
     setrlimit(RLIMIT_AS, &memory);
-#endif
     int failed = 0;
     for (size_t i = 0; i < names.size(); ++i) {
         const Kind kind = KindOfSample(names[i]);
@@ -120,6 +117,9 @@ void DecodeAllClosed(const std::vector<std::string>& names, const std::vector<Fi
 }
 
 TEST(Damaged, NothingIsOpenedAfterWarmingUp) {
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "the sanitizers open pipes and take more addresses than any limit";
+#endif
     // The child is the program started anew, so that nothing but warming up came before.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const std::vector<std::string> names = SampleNames();

@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <time.h>
 
 #include <chrono>
 #include <filesystem>
@@ -434,6 +435,32 @@ TEST_F(Prepared, SwitchedOffNothingIsDecodedAhead) {
     imaging.Prepared().Finish();
     EXPECT_EQ(imaging.Prepared().HeldCount(), 0);
     EXPECT_EQ(PreparingThreads(), 0);
+}
+
+double ThreadSeconds() {
+    timespec used{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+    return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) / 1e9;
+}
+
+TEST_F(Prepared, APicturesTimeCountsFromItsOpening) {
+    PutFlat("a.png", 40, 20, Qt::red);
+    imaging::ReadingContext context;
+    context.mostSeconds = 0.2;
+    const auto spend = [&] {
+        for (const double until = ThreadSeconds() + 0.3; ThreadSeconds() < until;) {
+        }
+    };
+    spend();
+    EXPECT_TRUE(imaging::PictureFile::Recognises(Native("a.png"), context));
+    spend();
+    const auto file = imaging::PictureFile::Open(Native("a.png"), context);
+    ASSERT_TRUE(file);
+    EXPECT_TRUE(file->Decode(file->OwnSize(), nullptr, context));
+    spend();
+    EXPECT_FALSE(file->Decode(file->OwnSize(), nullptr, context)) << "its time is used up";
+    context.Begin();
+    EXPECT_TRUE(file->Decode(file->OwnSize(), nullptr, context));
 }
 
 TEST_F(Prepared, AReaderThatGaveUpEnds) {

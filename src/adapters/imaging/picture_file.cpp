@@ -105,7 +105,7 @@ void ReadingContext::Begin() {
 }
 
 bool ReadingContext::MustEnd() const {
-    return giveUp || ThreadSeconds() - begunAt_ > kMostSeconds;
+    return giveUp || ThreadSeconds() - begunAt_ > mostSeconds;
 }
 
 bool FitsMemory(Size size) {
@@ -259,6 +259,7 @@ private:
 };
 
 bool PictureFile::Recognises(const std::string& nativePath, ReadingContext& context) {
+    context.Begin();
     try {
         PictureReader reader(nativePath, context);
         PictureFile header;
@@ -270,6 +271,7 @@ bool PictureFile::Recognises(const std::string& nativePath, ReadingContext& cont
 
 std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath,
                                                ReadingContext& context) {
+    context.Begin();
     try {
         auto result = std::make_shared<PictureFile>();
         result->path_ = nativePath;

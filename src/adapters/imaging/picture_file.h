@@ -45,14 +45,14 @@ struct ReadingContext {
     explicit ReadingContext(door::ClientOptions options = {})
         : decoder(std::move(options), &giveUp) {}
 
-    /// A picture begins: nothing hinders it yet, and it may take this thread's processor for
-    /// kMostSeconds.
+    /// A picture begins, or a later decoding of it: nothing hinders it yet, and it may take this
+    /// thread's processor for mostSeconds. PictureFile does this when it opens a file.
     void Begin();
     /// Whether what is being read is to end: given up, or no end in sight.
     bool MustEnd() const;
 
     /// Less than any wait for a process, more than the largest picture takes.
-    static constexpr double kMostSeconds = 8;
+    double mostSeconds = 8;
 
     /// May be set by another thread: from then on reads fail, so that a decoder ends soon.
     std::atomic<bool> giveUp{false};

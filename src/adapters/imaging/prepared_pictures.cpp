@@ -41,7 +41,6 @@ double SecondsUntilSettled(const FileIdentity& identity) {
 
 LoadedPicture LoadPicture(const std::string& nativePath, const FitFunction& fit,
                           ReadingContext& context) {
-    context.Begin();
     LoadedPicture loaded;
     loaded.file = PictureFile::Open(nativePath, context);
     if (loaded.file) {
@@ -257,7 +256,6 @@ void PreparedPictures::Work(Lock& lock, const EntryPtr& entry) {
     entry->identity = *identity;
     entry->stage = Stage::Opening;
     lock.unlock();
-    context_.Begin();
     const std::shared_ptr<PictureFile> file = PictureFile::Open(entry->path, context_);
     lock.lock();
     if (file) {
