@@ -63,6 +63,22 @@ TEST_F(Damaged, TheRowsThatACutBmpLacksAreWhiteOrItsFirstColour) {
     }
 }
 
+TEST_F(Damaged, ACutBmpFromTheTopDownLacksItsLowestRows) {
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(0xFFC80000u);
+    QByteArray whole = Encoded(image, "bmp");
+    const int32_t height = -30;  // its place in the header
+    std::memcpy(whole.data() + 22, &height, sizeof height);
+    const Text path = folder_.Put("cut.bmp", whole.left(whole.size() - 10 * 3 * 40));
+    for (int round = 0; round < 3; ++round) {
+        std::vector<char> dirt(40 * 30 * 4, static_cast<char>(0x55 + round));
+        dirt = {};
+        ASSERT_TRUE(control_->Load(path, {}));
+        EXPECT_EQ(control_->Picture()->Row(0)[20], 0xFFC80000u);
+        EXPECT_EQ(control_->Picture()->Row(29)[20], 0xFFFFFFFFu);
+    }
+}
+
 TEST_F(Damaged, HugeHeadersAreRefusedUndecoded) {
     EXPECT_FALSE(Loads(folder_.Put("huge.png", PngHeader(30000, 30000))));
     EXPECT_FALSE(Loads(folder_.Put("huge.png", PngHeader(2000000000, 2000000000))));

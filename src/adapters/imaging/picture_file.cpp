@@ -124,6 +124,9 @@ std::optional<FileIdentity> IdentityOf(const std::string& nativePath) {
     return file.Valid() ? std::optional(MakeIdentity(status)) : std::nullopt;
 }
 
+// One look at the start serves both.
+static_assert(kSniffBytes == door::kStartBytes);
+
 /// An open picture file with its reader set up.
 class PictureReader {
 public:
@@ -221,8 +224,9 @@ public:
         }
         QImage image;
         if (kind_ == Kind::Bmp) {
-            // Its reader leaves the rows that a cut file lacks as it finds them.
-            image = QImage(reader_.size(), reader_.imageFormat());
+            // Its reader leaves the rows that a cut file lacks as it finds them. Of rows from the
+            // top down it would say a height below 0.
+            image = QImage(file.own_.width, file.own_.height, reader_.imageFormat());
             image.fill(image.depth() < 32 ? 0u : ~0u);
         }
         return reader_.read(&image) ? image : QImage();
