@@ -114,11 +114,11 @@ QFont ScreenFont(const platform::Font& font) {
 }
 
 const QFont& QtTextRenderer::Found(const platform::Font& font) {
-    if (font != last_) {
+    if (!found_ || font != last_) {
         last_ = font;
         found_ = ScreenFont(font);
     }
-    return found_;
+    return *found_;
 }
 
 platform::TextRenderer::Extent QtTextRenderer::Measure(const platform::Font& font, TextView text) {

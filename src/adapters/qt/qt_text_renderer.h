@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFont>
+#include <optional>
 
 #include "platform/canvas.h"
 
@@ -26,11 +27,11 @@ public:
 
 private:
     /// ScreenFont of the font that was asked for last is kept: finding one takes longer than
-    /// drawing a short text.
+    /// drawing a short text, and the first one of all longer than all else of the program's start.
     const QFont& Found(const platform::Font& font);
 
     platform::Font last_;
-    QFont found_ = ScreenFont(last_);
+    std::optional<QFont> found_;
 };
 
 }  // namespace qt_adapter
