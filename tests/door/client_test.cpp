@@ -237,6 +237,21 @@ TEST(DoorClient, WithoutAnExecutableNothingIsDecoded) {
     EXPECT_EQ(Decode(client, "picture", Kind::None).outcome, Outcome::Failed);
 }
 
+TEST(DoorClient, AnExecutableThatDoesNotStartIsToldOfOnce) {
+    const auto told = [](const char* program) {
+        Client client({program, {}, kLongLimit});
+        testing::internal::CaptureStderr();
+        Decode(client);
+        Decode(client);
+        return testing::internal::GetCapturedStderr();
+    };
+    EXPECT_EQ(told("/nonexistent/teller"),
+              "parapico: the decoder /nonexistent/teller cannot be started (No such file or "
+              "directory); pictures that need it are unreadable\n");
+    EXPECT_EQ(told("/nonexistent/teller"), "");
+    EXPECT_NE(told("/usr"), "");
+}
+
 TEST(DoorClient, ManyPicturesAndCrashesLeaveNothingBehind) {
     Client client(StandIn("limited"));
     ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);

@@ -1,12 +1,34 @@
 #include "adapters/door/client.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <mutex>
 #include <new>
+#include <set>
 #include <utility>
 
 #include "adapters/door/transfer.h"
 
 namespace door {
+
+namespace {
+
+/// Once for each executable: without it whole kinds of pictures seem damaged.
+void TellThatItDoesNotStart(const std::string& program, int error) {
+    static std::mutex mutex;
+    static std::set<std::string> told;
+    const std::lock_guard lock(mutex);
+    if (told.insert(program).second) {
+        std::fprintf(stderr,
+                     "parapico: the decoder %s cannot be started (%s); pictures that need it are "
+                     "unreadable\n",
+                     program.c_str(), std::strerror(error));
+    }
+}
+
+}  // namespace
 
 Client::Client(ClientOptions options, const std::atomic<bool>* giveUp)
     : options_(std::move(options)), giveUp_(giveUp) {}
@@ -109,8 +131,11 @@ bool Client::SendRequest(Role role, const Request& request, int file) {
     Forget(role);
     std::vector<std::string> arguments = {kRoleNames[static_cast<int>(role)]};
     arguments.insert(arguments.end(), options_.arguments.begin(), options_.arguments.end());
-    process =
-        StartProcess(options_.program.empty() ? ProgramOf(role) : options_.program, arguments);
+    const std::string program = options_.program.empty() ? ProgramOf(role) : options_.program;
+    process = StartProcess(program, arguments);
+    if (!process) {
+        TellThatItDoesNotStart(program, errno);
+    }
     return process && Send(process->socket.Get(), BytesOf(request), file);
 }
 

@@ -28,7 +28,7 @@ enum class Outcome {
     Died,     // its process crashed, ran out of time or memory, or closed
     Late,     // no answer within the limit
     Lied,     // an answer that is none
-    Missing,  // no process can be started
+    Missing,  // no process can be started; standard error is told once for each executable
     Large,    // more than mostPixels
 };
 

@@ -92,23 +92,20 @@ bool Prepare(Start& start, int socket) {
 std::string ProgramOf(Role role) {
     const std::string name = role == Role::Svg ? "parapico-svg" : "parapico-decoder";
     std::error_code error;
-    const fs::path own = fs::read_symlink("/proc/self/exe", error);
+    const fs::path own = fs::read_symlink("/proc/self/exe", error).parent_path();
     if (error) {
         return {};
     }
-    for (const char* folder : {".", "../libexec/parapico"}) {
-        const fs::path program = own.parent_path() / folder / name;
-        if (access(program.c_str(), X_OK) == 0) {
-            return program.lexically_normal().string();
-        }
-    }
-    return {};
+    const fs::path beside = own / name;
+    return access(beside.c_str(), X_OK) == 0
+               ? beside.string()
+               : (own / "../libexec/parapico" / name).lexically_normal().string();
 }
 
 std::optional<Process> StartProcess(const std::string& program,
                                     const std::vector<std::string>& arguments) {
     int ends[2] = {-1, -1};
-    if (program.empty() || socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0) {
+    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0) {
         return std::nullopt;
     }
     Process process{-1, Descriptor(ends[0])};
@@ -120,11 +117,9 @@ std::optional<Process> StartProcess(const std::string& program,
     std::vector<std::string> words = {program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<std::string> environment = Environment();
-    if (posix_spawn(&process.id, program.c_str(), &start.files, &start.attributes,
-                    Pointers(words).data(), Pointers(environment).data()) != 0) {
-        return std::nullopt;
-    }
-    return process;
+    errno = posix_spawn(&process.id, program.c_str(), &start.files, &start.attributes,
+                        Pointers(words).data(), Pointers(environment).data());
+    return errno == 0 ? std::optional(std::move(process)) : std::nullopt;
 }
 
 void EndProcess(const Process& process) {

@@ -20,12 +20,12 @@ struct Process {
 constexpr int kProcessSocket = 3;
 
 /// Path of the role's executable: beside the program's own, else in ../libexec/parapico/ from
-/// there. Empty when there is none.
+/// there, whether it is there or not.
 std::string ProgramOf(Role role);
 
 /// Starts the executable with these arguments. It gets one end of a new socket and nothing else of
 /// the program: no open file, no variable of the environment, no words on the terminal. Nothing
-/// when it cannot be started.
+/// when it cannot be started; errno tells why.
 std::optional<Process> StartProcess(const std::string& program,
                                     const std::vector<std::string>& arguments);
 
