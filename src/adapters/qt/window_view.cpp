@@ -1,6 +1,7 @@
 #include "adapters/qt/window_view.h"
 
 #include <QAbstractButton>
+#include <QBackingStore>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -9,6 +10,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QUrl>
 #include <QWindow>
@@ -43,6 +45,21 @@ bool Offscreen() {
 
 int ToPixels(int twips) {
     return twips / platform::kTwipsPerPixel;
+}
+
+/// What a window is painted in takes its memory now, while the picture that it will show is still
+/// being decoded, and not between the picture and the screen.
+void TakeMemory(QWidget& window) {
+    QBackingStore* store = window.backingStore();
+    if (!store || store->size() == window.size()) {
+        return;
+    }
+    store->resize(window.size());
+    store->beginPaint(window.rect());
+    if (QPaintDevice* memory = store->paintDevice()) {
+        QPainter(memory).fillRect(window.rect(), Qt::black);
+    }
+    store->endPaint();
 }
 
 bool HasFiles(const QDropEvent& event) {
@@ -322,6 +339,7 @@ void WindowView::ShowFullScreen() {
         root_->setScreen(screen);
         root_->setGeometry(screen->geometry());
         root_->showFullScreen();
+        TakeMemory(*root_);
     }
     root_->raise();
     root_->activateWindow();
