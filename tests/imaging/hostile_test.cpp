@@ -143,10 +143,11 @@ bool ShowsSomething(const platform::Bitmap& bitmap) {
 }
 
 TEST(HostileDrawings, CostTheirSlideAndNoMore) {
-    constexpr int kLimit = 1500;
-    ImagingFolder folder({"", {}, kLimit});
-    const auto control = folder.Control();
-    const std::string fifo = folder.Folder().Path("fifo.png");
+    // Short for those that may take for ever, and without haste for those that are to load.
+    constexpr int kLimit = 1500, kLongLimit = 60000;
+    ImagingFolder folder({"", {}, kLimit}), patient({"", {}, kLongLimit});
+    const auto control = folder.Control(), patientControl = patient.Control();
+    const std::string fifo = patient.Folder().Path("fifo.png");
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     const std::string image = "<image width='50' height='50' xlink:href='";
     // What is said of a drawing that takes no time is the reader's affair.
@@ -174,6 +175,10 @@ TEST(HostileDrawings, CostTheirSlideAndNoMore) {
     for (const auto& [name, text, loads] : drawings) {
         SCOPED_TRACE(name);
         const Text path = folder.Put(std::string(name) + ".svg", QByteArray::fromStdString(text));
+        if (loads == true) {
+            EXPECT_TRUE(patientControl->ReadInformation(path) && patientControl->Load(path, {}));
+            continue;
+        }
         const auto start = std::chrono::steady_clock::now();
         const bool loaded = control->ReadInformation(path) && control->Load(path, {});
         EXPECT_EQ(loaded, loads.value_or(loaded));
@@ -181,8 +186,8 @@ TEST(HostileDrawings, CostTheirSlideAndNoMore) {
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(5 * kLimit));
     }
     const auto text = kSvg + std::string("<text y='80' font-size='80'>\xE5\xAD\x97</text></svg>");
-    ASSERT_TRUE(control->Load(folder.Put("good.svg", QByteArray::fromStdString(text)), {}));
-    EXPECT_TRUE(ShowsSomething(*control->Picture()));
+    ASSERT_TRUE(patientControl->Load(folder.Put("good.svg", QByteArray::fromStdString(text)), {}));
+    EXPECT_TRUE(ShowsSomething(*patientControl->Picture()));
 }
 
 TEST(HostileDrawings, OpenNoFileThatTheyName) {
