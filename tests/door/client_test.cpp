@@ -24,7 +24,7 @@ using door::Outcome;
 using door::Result;
 
 /// Generous for those that are to answer; those that hang are given the short one.
-constexpr int kLongLimit = 60000, kShortLimit = 300;
+constexpr int kLongLimit = 600000, kShortLimit = 300;
 
 door::ClientOptions StandIn(const std::string& manner, int limit = kLongLimit) {
     return {PARAPICO_STAND_IN, {manner}, limit};

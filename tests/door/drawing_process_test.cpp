@@ -18,7 +18,7 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 /// Far behind the limits of the process itself, whose doing is looked at.
-const door::ClientOptions kPatient{"", {}, 60000};
+const door::ClientOptions kPatient{"", {}, 600000};
 const std::string kPage =
     "%!PS\n%%BoundingBox: 0 0 8 8\n1 0 0 setrgbcolor 0 0 8 8 rectfill showpage\n";
 const std::string kLoop = "{} loop\n";

@@ -144,7 +144,7 @@ bool ShowsSomething(const platform::Bitmap& bitmap) {
 
 TEST(HostileDrawings, CostTheirSlideAndNoMore) {
     // Short for those that may take for ever, and without haste for those that are to load.
-    constexpr int kLimit = 1500, kLongLimit = 60000;
+    constexpr int kLimit = 1500, kLongLimit = 600000;
     ImagingFolder folder({"", {}, kLimit}), patient({"", {}, kLongLimit});
     const auto control = folder.Control(), patientControl = patient.Control();
     const std::string fifo = patient.Folder().Path("fifo.png");
