@@ -15,7 +15,8 @@
 #include "adapters/gstreamer/worker.h"
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// The compiler comes without the header that has it.
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace gst_tests {
