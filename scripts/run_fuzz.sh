@@ -22,6 +22,6 @@ for source in "${targets[@]}"; do
     mkdir -p "$corpus" "$found"
     echo "== $name, $seconds s"
     QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 "build/fuzz/fuzz/$name" \
-        -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=65536 -verbosity=0 \
+        -max_total_time="$seconds" -timeout=30 -rss_limit_mb=2048 -max_len=65536 -verbosity=0 \
         -print_final_stats=1 -artifact_prefix=build/fuzz/findings/"$name"- "$found" "$corpus"
 done

@@ -37,7 +37,7 @@ void ForEachProcess(const std::function<void(const Standing&)>& see) {
 }
 
 bool Comes(const std::function<bool()>& condition) {
-    for (int i = 0; i < 2000; ++i) {
+    for (int i = 0; i < 20000; ++i) {
         if (condition()) {
             return true;
         }

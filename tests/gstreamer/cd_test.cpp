@@ -101,11 +101,26 @@ TEST(GstCd, TracksArePlayedAndTheDeviceStopsBehindThem) {
         EXPECT_EQ(Ask(studio, "number of tracks"), "3");
         EXPECT_EQ(Ask(studio, "mode"), "stopped");
         studio.Send("set cdaudio time format tmsf");
+        HoldTestSink(Hold::Buffers);
         studio.Send(std::string("play cdaudio from ") + row.range);
         EXPECT_EQ(Ask(studio, "mode"), "playing");
+        HoldTestSink(Hold::Nothing);
         ASSERT_TRUE(studio.Stops("cdaudio"));
         EXPECT_EQ(Heard(), row.heard) << row.range;
     }
+}
+
+TEST(GstCd, AVolumeSetBeforePlayIsThatOfTheFirstSample) {
+    Studio studio({"testsink"}, Holding({{0, 20000, true}, {20000, 30, true}}));
+    studio.Send("open cdaudio");
+    studio.Send("set cdaudio time format tmsf");
+    studio.Send("setaudio cdaudio volume to 500");
+    studio.Send("play cdaudio from 2");
+    ASSERT_TRUE(studio.Stops("cdaudio"));
+    const std::vector<float> samples = SeenByTestSink().samples;
+    ASSERT_FALSE(samples.empty());
+    EXPECT_EQ(samples.front(), 10000.0f / 32768);
+    EXPECT_EQ(samples[1], 10000.0f / 32768);
 }
 
 TEST(GstCd, PlacesBeyondTheDiscPlayNothing) {

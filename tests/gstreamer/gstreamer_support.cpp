@@ -1,18 +1,23 @@
 #include "gstreamer/gstreamer_support.h"
 
-#include <unistd.h>
+#include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <QCoreApplication>
 #include <chrono>
 #include <cmath>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <thread>
 
 #include "adapters/gstreamer/handles.h"
 #include "adapters/gstreamer/library.h"
+#include "adapters/gstreamer/worker.h"
+
+#ifdef __SANITIZE_ADDRESS__
+// The compiler comes without the header that has it.
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
+#endif
 
 namespace gst_tests {
 
@@ -57,8 +62,8 @@ double RealLoop::Milliseconds() {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-bool Eventually(const std::function<bool()>& condition, int limitMs) {
-    const auto limit = Clock::now() + std::chrono::milliseconds(limitMs);
+bool Eventually(const std::function<bool()>& condition) {
+    const auto limit = Clock::now() + std::chrono::milliseconds(kHangMs);
     while (!condition()) {
         if (Clock::now() > limit) {
             return false;
@@ -149,19 +154,30 @@ int Threads() {
     return count;
 }
 
-int64_t ResidentKiB() {
-    std::ifstream pages("/proc/self/statm");
-    int64_t total = 0, resident = 0;
-    pages >> total >> resident;
-    return resident * sysconf(_SC_PAGESIZE) / 1024;
+int64_t HeldKiB() {
+#ifdef __SANITIZE_ADDRESS__
+    return static_cast<int64_t>(__sanitizer_get_current_allocated_bytes()) / 1024;
+#else
+    const struct mallinfo2 all = mallinfo2();
+    return static_cast<int64_t>(all.uordblks + all.hblkhd) / 1024;
+#endif
 }
 
-Studio::Studio(std::vector<std::string> sinks, gst_adapter::OpenDisc openDisc, std::string cdDevice)
+Studio::Studio(std::vector<std::string> sinks, gst_adapter::OpenDisc openDisc, std::string cdDevice,
+               int searchLimitMs)
     : files(folder.Path()),
-      output(std::make_shared<gst_adapter::AudioOutput>(std::move(sinks))),
+      output(std::make_shared<gst_adapter::AudioOutput>(std::move(sinks),
+                                                        std::chrono::milliseconds(searchLimitMs))),
       sound(std::make_unique<gst_adapter::GstSound>(files, loop, output, std::move(openDisc),
                                                     std::move(cdDevice))) {
     ResetTestSink();
+}
+
+Studio::~Studio() {
+    HoldTestSink(Hold::Nothing);
+    sound.reset();
+    // A sink that is let go late would tell its samples to the next test.
+    EXPECT_TRUE(gst_adapter::WaitForThreads(kHangMs));
 }
 
 std::string Studio::Write(const std::string& name, const std::string& bytes) {

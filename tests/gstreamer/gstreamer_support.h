@@ -34,8 +34,12 @@ public:
     void RunUntil(const std::function<bool()>&) override {}
 };
 
-/// Waits for the condition, generously. False when it never came.
-bool Eventually(const std::function<bool()>& condition, int limitMs = 20000);
+/// Guards against hangs only: far above what any machine takes, and above the time after which
+/// the program itself gives up.
+constexpr int kHangMs = 100000;
+
+/// Waits for the condition. False when it never came.
+bool Eventually(const std::function<bool()>& condition);
 
 struct WaveForm {
     int rate = 8000;
@@ -57,7 +61,8 @@ bool RunPipeline(const std::string& description);
 
 int OpenDescriptors();
 int Threads();
-int64_t ResidentKiB();
+/// Memory that was asked for and not given back, however much of it the allocator keeps besides.
+int64_t HeldKiB();
 
 // What the sink "testsink" does and saw. Reset before use.
 struct TestSink {
@@ -65,20 +70,29 @@ struct TestSink {
     int channels = 0;
     int rate = 0;
     int breakAfterBuffers = -1;  // then it fails; -1: never
-    int stateChangeTakesMs = 0;  // to READY
     int bufferTakesMs = 0;
+    bool holdsOpening = false;  // like a server that hangs
+    bool holdsBuffers = false;  // each waits ahead of `samples`
     int opened = 0;
+    int stillOpening = 0;
+    int prerolled = 0;  // buffers it was given ahead of playing
+    int arrived = 0;    // buffers, held ones too
 };
 /// Registers the sink and clears what it saw.
 void ResetTestSink();
 /// A copy of what it saw.
 TestSink SeenByTestSink();
-void SetTestSink(int breakAfterBuffers, int stateChangeTakesMs, int bufferTakesMs = 0);
+void SetTestSink(int breakAfterBuffers, int bufferTakesMs = 0);
+enum class Hold { Nothing, Opening, Buffers };
+/// Whatever else was held goes on. ResetTestSink lets all go, too.
+void HoldTestSink(Hold what);
 
 /// A sound adapter in a folder of its own.
 struct Studio {
     explicit Studio(std::vector<std::string> sinks = {}, gst_adapter::OpenDisc openDisc = {},
-                    std::string cdDevice = {});
+                    std::string cdDevice = {}, int searchLimitMs = kHangMs);
+    /// Waits until nothing of it plays any more.
+    ~Studio();
 
     std::string Write(const std::string& name, const std::string& bytes);
     Text Send(const std::string& command);

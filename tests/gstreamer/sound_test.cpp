@@ -20,8 +20,10 @@ TestSink Played(const std::string& bytes, const std::string& type = "waveaudio",
     Studio studio({"testsink"});
     studio.Write(name, bytes);
     studio.Open(name, type, "wav");
+    HoldTestSink(Hold::Buffers);
     studio.Send("play wav from 1");
     EXPECT_EQ(studio.Mode("wav"), "playing");
+    HoldTestSink(Hold::Nothing);
     EXPECT_TRUE(studio.Stops("wav"));
     return SeenByTestSink();
 }
@@ -36,14 +38,17 @@ float Loudest(const std::vector<float>& samples) {
 
 TEST(GstSound, PlayingBeginsAtOnceAndTurnsIntoStoppedAtTheEnd) {
     Studio studio;
-    studio.Write("a.wav", WaveBytes(Tone(0.4)));
-    studio.Open("a.wav", "waveaudio", "wav");
+    studio.Write("long.wav", WaveBytes(Tone(60)));
+    studio.Open("long.wav", "waveaudio", "wav");
     EXPECT_EQ(studio.Mode("wav"), "stopped");
     studio.Send("set wav time format samples");
-    const double start = studio.loop.Milliseconds();
     studio.Send("play wav from 1");
     EXPECT_EQ(studio.Mode("wav"), "playing");
-    ASSERT_TRUE(studio.Stops("wav"));
+    studio.Write("short.wav", WaveBytes(Tone(0.4)));
+    studio.Open("short.wav", "waveaudio", "wav_ren");
+    const double start = studio.loop.Milliseconds();
+    studio.Send("play wav_ren from 1");
+    ASSERT_TRUE(studio.Stops("wav_ren"));
     EXPECT_GE(studio.loop.Milliseconds() - start, 380);
 }
 
@@ -77,7 +82,7 @@ TEST(GstSound, NothingIsOpenedByAMissingFileOrABadCommand) {
 
 TEST(GstSound, AnOpenAliasIsNotOpenedAgain) {
     Studio studio;
-    studio.Write("long.wav", WaveBytes(Tone(30)));
+    studio.Write("long.wav", WaveBytes(Tone(60)));
     studio.Write("short.wav", WaveBytes(Tone(0.05)));
     studio.Open("long.wav", "waveaudio", "wav");
     studio.Open("short.wav", "waveaudio", "wav");
@@ -99,9 +104,9 @@ TEST(GstSound, APieceCanBePlayedAgain) {
 
 TEST(GstSound, SeveralPlayAtOnce) {
     Studio studio;
-    studio.Write("long.wav", WaveBytes(Tone(30)));
+    studio.Write("long.wav", WaveBytes(Tone(60)));
     studio.Write("short.wav", WaveBytes(Tone(0.2)));
-    studio.Write("m.mid", MidiBytes(20000));
+    studio.Write("m.mid", MidiBytes(60000));
     studio.Open("long.wav", "waveaudio", "wav");
     studio.Open("short.wav", "waveaudio", "wav_ren");
     studio.Open("m.mid", "sequencer", "mid");
@@ -224,25 +229,31 @@ TEST(GstSoundFormats, GarbageStopsSoon) {
 
 TEST(GstSoundFormats, AbsurdRatesAreRefused) {
     for (const int rate : {1, 2000000000}) {
-        EXPECT_TRUE(
-            Played(WaveBytes(Tone(0.1), {8000, 1, 16})
-                       .replace(24, 4,
-                                std::string{static_cast<char>(rate), static_cast<char>(rate >> 8),
-                                            static_cast<char>(rate >> 16),
-                                            static_cast<char>(rate >> 24)}))
-                .samples.size() < 100000u);
+        Studio studio({"testsink"});
+        studio.Write("a.wav",
+                     WaveBytes(Tone(0.1), {8000, 1, 16})
+                         .replace(24, 4,
+                                  std::string{static_cast<char>(rate), static_cast<char>(rate >> 8),
+                                              static_cast<char>(rate >> 16),
+                                              static_cast<char>(rate >> 24)}));
+        studio.Open("a.wav", "waveaudio", "wav");
+        studio.Send("play wav from 1");
+        EXPECT_TRUE(studio.Stops("wav")) << rate;
+        EXPECT_LT(SeenByTestSink().samples.size(), 100000u) << rate;
     }
 }
 
 TEST(GstSound, AFileDeletedWhilePlayingPlaysOn) {
     Studio studio({"testsink"});
-    const std::string path = studio.Write("a.wav", WaveBytes(Tone(1)));
+    const std::string path = studio.Write("a.wav", WaveBytes(Tone(10)));
     studio.Open("a.wav", "waveaudio", "wav");
+    HoldTestSink(Hold::Buffers);
     studio.Send("play wav from 1");
-    ASSERT_TRUE(Eventually([] { return !SeenByTestSink().samples.empty(); }));
+    ASSERT_TRUE(Eventually([] { return SeenByTestSink().arrived > 0; }));
     std::filesystem::remove(path);
+    HoldTestSink(Hold::Nothing);
     ASSERT_TRUE(studio.Stops("wav"));
-    EXPECT_EQ(SeenByTestSink().samples.size(), 8000u);
+    EXPECT_EQ(SeenByTestSink().samples.size(), 80000u);
     // It is gone for the next time, which harms nothing.
     studio.Send("play wav from 1");
     EXPECT_TRUE(studio.Stops("wav"));
@@ -250,22 +261,42 @@ TEST(GstSound, AFileDeletedWhilePlayingPlaysOn) {
 
 TEST(GstSound, TheVolumeMovesWithoutSteps) {
     Studio studio({"testsink"});
-    SetTestSink(-1, 0, 2);
-    studio.Write("a.wav", WaveBytes(std::vector<float>(200000, 0.5f)));
+    studio.Write("a.wav", WaveBytes(std::vector<float>(20000, 0.5f)));
     studio.Open("a.wav", "waveaudio", "mp3");
     studio.Send("setaudio mp3 volume to 500");
+    HoldTestSink(Hold::Buffers);
     studio.Send("play mp3 from 1");
-    ASSERT_TRUE(Eventually([] { return !SeenByTestSink().samples.empty(); }));
+    ASSERT_TRUE(Eventually([] { return SeenByTestSink().arrived > 0; }));
     studio.Send("setaudio mp3 volume to 0");
     studio.Send("setaudio mp3 volume to-20");
     studio.Send("setaudio mp3 volume to 1001");
+    HoldTestSink(Hold::Nothing);
     ASSERT_TRUE(studio.Stops("mp3"));
     const std::vector<float> samples = SeenByTestSink().samples;
-    ASSERT_EQ(samples.size(), 200000u);
+    ASSERT_EQ(samples.size(), 20000u);
     EXPECT_NEAR(samples.front(), 0.25f, 0.003f);
     EXPECT_EQ(samples.back(), 0.0f);
     for (size_t i = 1; i < samples.size(); ++i) {
         ASSERT_LT(std::abs(samples[i] - samples[i - 1]), 0.003f) << i;
+    }
+}
+
+TEST(GstSound, AVolumeSetBeforePlayIsThatOfTheFirstSample) {
+    for (const char* type : {"waveaudio", "MPEGVideo"}) {  // read here, and by the decoder
+        Studio studio({"testsink"});
+        studio.Write("a.wav", WaveBytes(std::vector<float>(20000, 0.5f), {8000, 1, 32}));
+        studio.Open("a.wav", type, "mp3");
+        // The way to the sink stands, and the first samples are there to be asked for.
+        ASSERT_TRUE(Eventually([] { return SeenByTestSink().rate != 0; }));
+        studio.loop.Sleep(100);
+        EXPECT_EQ(SeenByTestSink().prerolled, 0) << type;
+        studio.Send("setaudio mp3 volume to 500");
+        studio.Send("play mp3 from 1");
+        ASSERT_TRUE(studio.Stops("mp3"));
+        const std::vector<float> samples = SeenByTestSink().samples;
+        ASSERT_EQ(samples.size(), 20000u) << type;
+        EXPECT_EQ(samples.front(), 0.25f) << type;
+        EXPECT_EQ(samples[1023], 0.25f) << type;
     }
 }
 
@@ -280,14 +311,26 @@ TEST(GstSound, AConstantVolumeScalesExactly) {
 }
 
 TEST(GstSound, SynchronousSoundPumpsUntilItsEnd) {
+    Studio studio({"testsink"});
+    studio.Write("a.wav", WaveBytes(Tone(0.3)));
+    HoldTestSink(Hold::Buffers);
+    int pumps = 0;
+    studio.loop.onPump = [&] {
+        if (++pumps == 3) {
+            HoldTestSink(Hold::Nothing);
+        }
+    };
+    studio.sound->SndPlaySound(studio.folder.TextPath("a.wav"), 2);
+    EXPECT_GE(pumps, 3);
+    EXPECT_EQ(SeenByTestSink().samples.size(), 2400u);
+}
+
+TEST(GstSound, SynchronousSoundTakesItsTime) {
     Studio studio;
     studio.Write("a.wav", WaveBytes(Tone(0.3)));
-    int pumps = 0;
-    studio.loop.onPump = [&] { ++pumps; };
     const double start = studio.loop.Milliseconds();
     studio.sound->SndPlaySound(studio.folder.TextPath("a.wav"), 2);
     EXPECT_GE(studio.loop.Milliseconds() - start, 280);
-    EXPECT_GT(pumps, 2);
 }
 
 TEST(GstSound, ASynchronousSoundIsEndedByAHandler) {
@@ -299,6 +342,7 @@ TEST(GstSound, ASynchronousSoundIsEndedByAHandler) {
 
 TEST(GstSound, ALoopedSoundHasNoGap) {
     Studio studio({"testsink"});
+    SetTestSink(-1, 1);  // not more than a test can keep
     std::vector<float> ramp;
     for (int i = 0; i < 1500; ++i) {
         ramp.push_back(static_cast<float>(i) / 1500);

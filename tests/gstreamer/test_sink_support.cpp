@@ -4,6 +4,7 @@
 #include <gst/base/gstbasesink.h>
 
 #include <chrono>
+#include <condition_variable>
 #include <mutex>
 #include <thread>
 
@@ -15,7 +16,12 @@ namespace gst_tests {
 namespace {
 
 std::mutex mutex;
+std::condition_variable changed;
 TestSink seen;
+
+void WaitWhile(std::unique_lock<std::mutex>& lock, const bool& held) {
+    changed.wait_for(lock, std::chrono::milliseconds(kHangMs), [&] { return !held; });
+}
 
 struct SinkElement {
     GstBaseSink parent;
@@ -35,7 +41,9 @@ int Pace() {
 GstFlowReturn Render(GstBaseSink* base, GstBuffer* buffer) {
     auto* self = reinterpret_cast<SinkElement*>(base);
     std::this_thread::sleep_for(std::chrono::milliseconds(Pace()));
-    const std::lock_guard lock(mutex);
+    std::unique_lock lock(mutex);
+    ++seen.arrived;
+    WaitWhile(lock, seen.holdsBuffers);
     if (seen.breakAfterBuffers >= 0 && ++self->buffers > seen.breakAfterBuffers) {
         GST_ELEMENT_ERROR(base, RESOURCE, WRITE, ("the device is gone"), (nullptr));
         return GST_FLOW_ERROR;
@@ -46,6 +54,12 @@ GstFlowReturn Render(GstBaseSink* base, GstBuffer* buffer) {
         seen.samples.insert(seen.samples.end(), samples, samples + map.size / sizeof(float));
         gst_buffer_unmap(buffer, &map);
     }
+    return GST_FLOW_OK;
+}
+
+GstFlowReturn Preroll(GstBaseSink*, GstBuffer*) {
+    const std::lock_guard lock(mutex);
+    ++seen.prerolled;
     return GST_FLOW_OK;
 }
 
@@ -61,13 +75,11 @@ gboolean SetCaps(GstBaseSink*, GstCaps* caps) {
 
 GstStateChangeReturn ChangeState(GstElement* element, GstStateChange change) {
     if (change == GST_STATE_CHANGE_NULL_TO_READY) {
-        int wait = 0;
-        {
-            const std::lock_guard lock(mutex);
-            ++seen.opened;
-            wait = seen.stateChangeTakesMs;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(wait));
+        std::unique_lock lock(mutex);
+        ++seen.opened;
+        ++seen.stillOpening;
+        WaitWhile(lock, seen.holdsOpening);
+        --seen.stillOpening;
     }
     return parentClass->change_state(element, change);
 }
@@ -82,6 +94,7 @@ void InitClass(gpointer data, gpointer) {
         element, gst_pad_template_new("sink", GST_PAD_SINK, GST_PAD_ALWAYS, caps));
     gst_caps_unref(caps);
     element->change_state = ChangeState;
+    GST_BASE_SINK_CLASS(data)->preroll = Preroll;
     GST_BASE_SINK_CLASS(data)->render = Render;
     GST_BASE_SINK_CLASS(data)->set_caps = SetCaps;
 }
@@ -114,6 +127,7 @@ void ResetTestSink() {
     Register();
     const std::lock_guard lock(mutex);
     seen = TestSink{};
+    changed.notify_all();
 }
 
 TestSink SeenByTestSink() {
@@ -121,11 +135,17 @@ TestSink SeenByTestSink() {
     return seen;
 }
 
-void SetTestSink(int breakAfterBuffers, int stateChangeTakesMs, int bufferTakesMs) {
+void SetTestSink(int breakAfterBuffers, int bufferTakesMs) {
     const std::lock_guard lock(mutex);
     seen.breakAfterBuffers = breakAfterBuffers;
-    seen.stateChangeTakesMs = stateChangeTakesMs;
     seen.bufferTakesMs = bufferTakesMs;
+}
+
+void HoldTestSink(Hold what) {
+    const std::lock_guard lock(mutex);
+    seen.holdsOpening = what == Hold::Opening;
+    seen.holdsBuffers = what == Hold::Buffers;
+    changed.notify_all();
 }
 
 }  // namespace gst_tests

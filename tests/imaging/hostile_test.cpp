@@ -1,8 +1,8 @@
 // Pictures that are small as files and huge, or endless, as work.
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <optional>
@@ -142,11 +142,20 @@ bool ShowsSomething(const platform::Bitmap& bitmap) {
                        [](platform::Pixel pixel) { return pixel != 0xFFFFFFFFu; });
 }
 
+/// Of the processor, not of the clock: a machine that stands still spends none.
+double SecondsOfEndedProcesses() {
+    rusage used{};
+    getrusage(RUSAGE_CHILDREN, &used);
+    return static_cast<double>(used.ru_utime.tv_sec + used.ru_stime.tv_sec) +
+           static_cast<double>(used.ru_utime.tv_usec + used.ru_stime.tv_usec) / 1e6;
+}
+
 TEST(HostileDrawings, CostTheirSlideAndNoMore) {
-    constexpr int kLimit = 1500;
-    ImagingFolder folder({"", {}, kLimit});
-    const auto control = folder.Control();
-    const std::string fifo = folder.Folder().Path("fifo.png");
+    // Short for those that may take for ever, and without haste for those that are to load.
+    constexpr int kLimit = 1500, kLongLimit = 600000;
+    ImagingFolder patient({"", {}, kLongLimit});
+    const auto patientControl = patient.Control();
+    const std::string fifo = patient.Folder().Path("fifo.png");
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     const std::string image = "<image width='50' height='50' xlink:href='";
     // What is said of a drawing that takes no time is the reader's affair.
@@ -173,16 +182,25 @@ TEST(HostileDrawings, CostTheirSlideAndNoMore) {
          {}}};
     for (const auto& [name, text, loads] : drawings) {
         SCOPED_TRACE(name);
-        const Text path = folder.Put(std::string(name) + ".svg", QByteArray::fromStdString(text));
-        const auto start = std::chrono::steady_clock::now();
-        const bool loaded = control->ReadInformation(path) && control->Load(path, {});
-        EXPECT_EQ(loaded, loads.value_or(loaded));
-        // Measuring has a third of the limit, drawing the whole; a busy machine some more.
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(5 * kLimit));
+        const Text path = patient.Put(std::string(name) + ".svg", QByteArray::fromStdString(text));
+        if (loads == true) {
+            EXPECT_TRUE(patientControl->ReadInformation(path) && patientControl->Load(path, {}));
+            continue;
+        }
+        const double before = SecondsOfEndedProcesses();
+        {
+            ImagingFolder folder({"", {}, kLimit});
+            const auto control = folder.Control();
+            const bool loaded = control->ReadInformation(path) && control->Load(path, {});
+            EXPECT_EQ(loaded, loads.value_or(loaded));
+        }
+        // Measuring has a third of the limit, drawing the whole; a busy machine some more. Without
+        // the limit it is what the process allows itself.
+        EXPECT_LT(SecondsOfEndedProcesses() - before, 5 * kLimit / 1000.0);
     }
     const auto text = kSvg + std::string("<text y='80' font-size='80'>\xE5\xAD\x97</text></svg>");
-    ASSERT_TRUE(control->Load(folder.Put("good.svg", QByteArray::fromStdString(text)), {}));
-    EXPECT_TRUE(ShowsSomething(*control->Picture()));
+    ASSERT_TRUE(patientControl->Load(patient.Put("good.svg", QByteArray::fromStdString(text)), {}));
+    EXPECT_TRUE(ShowsSomething(*patientControl->Picture()));
 }
 
 TEST(HostileDrawings, OpenNoFileThatTheyName) {

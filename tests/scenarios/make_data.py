@@ -6,6 +6,7 @@ wide (cyan) of 640x120, tall (grey) of 120x640, pattern (neighbouring pixels dif
 line (orange) of 40000x10, dot (white) of 1x1. text.jpg and zero.png are no pictures.
 Documents (3 s a slide, no effects, no sound, main window, unless said):
   five.kvs      a b c d e, stops at the end
+  five_slow.kvs the same, eight seconds a slide
   repeat.kvs    a b c, from the top again
   random.kvs    a b c d e in random order
   one.kvs       a alone
@@ -28,6 +29,7 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   refused.kvs   a tag that is none
   pieces.kvs    m1 m2 a: m1.txt shows six shapes, one of each, m2.txt a chosen jump and motion
   pieces_full.kvs the same in the full screen
+  pieces_slow.kvs the same, eight seconds a slide
   media.kvs     s1 a, c.mp3 behind them: s1.txt plays a wave, fades, shows a film, starts a program
   words.kvs     s2 s3 a in the full screen: s2.txt sets what the menus set, s3.txt filters and clears
 s1 (black), s2 (left half black, right half white), s3 (the same): 320x240.
@@ -271,6 +273,7 @@ def main():
 
     five = [f"{letter}.png" for letter in "abcde"]
     files["five.kvs"] = document(lines_of_show(five))
+    files["five_slow.kvs"] = document(lines_of_show(five, interval=8000))
     files["repeat.kvs"] = document(lines_of_show(five[:3], repeat=0))
     files["random.kvs"] = document(lines_of_show(five, repeat=0, random=0))
     files["one.kvs"] = document(lines_of_show(five[:1]))
@@ -360,6 +363,7 @@ def main():
     pieces = ["m1.png", "m2.png", "a.png"]
     files["pieces.kvs"] = document(lines_of_show(pieces))
     files["pieces_full.kvs"] = document(lines_of_show(pieces, always_full=0))
+    files["pieces_slow.kvs"] = document(lines_of_show(pieces, always_full=0, interval=8000))
 
     files["s1.png"] = png(320, 240, (0, 0, 0))
     files["s2.png"] = files["s3.png"] = png_of_rows(

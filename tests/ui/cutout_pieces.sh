@@ -9,7 +9,7 @@ ExpectOther() {
     LacksColor "$1" "$2" "$3" || Fail "$4"
 }
 
-StartProgram "$PARAPICO_DATA/pieces_full.kvs"
+StartProgram "$PARAPICO_DATA/pieces_slow.kvs"
 # Not focused: the keyboard belongs to the box above it.
 WaitFor 'the full screen' FindWindow 'パラピコ'
 # Return for the box that comes before the full screen; to the show it means nothing.

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""make_video.py FILE: a two-second video without sound, 15 pictures a second: one second blue, one
-second yellow. Uncompressed, so that the colours on the screen are exact."""
+"""make_video.py FILE: a video of twelve seconds without sound, 5 pictures a second: blue for the
+first half, yellow for the second. Uncompressed, so that the colours on the screen are exact."""
 
 import pathlib
 import struct
 import sys
 
-WIDTH, HEIGHT, RATE, FRAMES = 160, 120, 15, 30
+WIDTH, HEIGHT, RATE, FRAMES = 160, 120, 5, 60
 BLUE, YELLOW = b"\xff\x00\x00", b"\x00\xff\xff"  # bytes in the file are blue, green, red
 
 

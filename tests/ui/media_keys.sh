@@ -21,9 +21,9 @@ xdotool key --window "$window" alt+f
 sleep 0.3
 xdotool key o
 WaitForDialog
-xdotool type --delay 5 "$PARAPICO_DATA/five.kvs"
+xdotool type --delay 5 "$PARAPICO_DATA/five_slow.kvs"
 xdotool key Return
-WaitForWindow 'five.kvs'
+WaitForWindow 'five_slow.kvs'
 
 WaitFor 'a show that stands still' Says PlaybackStatus Stopped
 Key Play

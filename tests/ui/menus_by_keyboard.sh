@@ -14,7 +14,12 @@ Keys() {
 
 Shown() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
 Gone() { ! Shown "$1"; }
-ExpectBox() { WaitFor "a box titled $1" Shown "$1"; sleep 0.4; }
+# The keys that follow are for the box, however late it takes the focus by itself.
+ExpectBox() {
+    WaitFor "a box titled $1" Shown "$1"
+    xdotool windowfocus --sync "$(xdotool search --onlyvisible --name "$1" | head -n 1)" || true
+    sleep 0.4
+}
 ExpectGone() { WaitFor "the box $1 goes" Gone "$1"; }
 InTrace() { grep -qF -- "$1" "$trace"; }
 
@@ -52,14 +57,14 @@ WaitFor 'the note is traced' InTrace '"title":"繰り返し"'
 xdotool windowfocus --sync "$main" || true
 Keys ctrl+o
 WaitForDialog
-xdotool type --delay 5 "$PARAPICO_DATA/five.kvs"
+xdotool type --delay 5 "$PARAPICO_DATA/five_slow.kvs"
 xdotool key Return
-WaitForWindow 'five.kvs'
+WaitForWindow 'five_slow.kvs'
 Keys space
 WaitForColor 420 250 '#FF0000' 'space starts the show with the red picture'
 WaitForColor 420 250 '#00FF00' 'the second picture is green'
 Keys space
-sleep 4
+sleep 9
 ExpectColor 420 250 '#00FF00' 'space pauses it'
 Keys Left
 WaitForColor 420 250 '#FF0000' 'the left arrow goes back'

@@ -1,8 +1,9 @@
 # What the user-interface tests share: a program of one's own on the display, its window, colours of
-# the screen. Everything waits for what it expects, at most 20 seconds.
+# the screen. Everything waits for what it expects, and what changes by itself stands for some
+# seconds, so that a busy machine sees it, too.
 # Needs PARAPICO, PARAPICO_DATA, PARAPICO_SCRATCH. Sets `program` and `window`.
 
-limit=100  # tries of 0.2 s
+limit=600  # tries of 0.2 s and what they take themselves
 ground='#405060'  # of the screen where no window is
 
 # StartDisplay WxH: an X server of one's own, for what the common one cannot show.

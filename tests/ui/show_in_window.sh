@@ -13,15 +13,15 @@ xdotool key --window "$window" alt+f
 sleep 0.3
 xdotool key o
 WaitForDialog
-xdotool type --delay 5 "$PARAPICO_DATA/five.kvs"
+xdotool type --delay 5 "$PARAPICO_DATA/five_slow.kvs"
 xdotool key Return
-WaitForWindow 'five.kvs'
+WaitForWindow 'five_slow.kvs'
 
 Click 45 545    # START
 WaitForColor 420 250 '#FF0000' 'the first picture is red'
 WaitForColor 420 250 '#00FF00' 'the second picture is green'
 Click 124 545   # PAUSE
-sleep 4
+sleep 9
 ExpectColor 420 250 '#00FF00' 'a paused show stands still'
 Click 284 545   # previous
 WaitForColor 420 250 '#FF0000' 'the picture before is red'

@@ -16,7 +16,7 @@ sys.path.insert(0, sys.argv[1])
 import make_data
 slides = ["a.png", "clip.avi", "b.png"]
 pathlib.Path(sys.argv[2], "clip.kvs").write_bytes(
-    make_data.document(make_data.lines_of_show(slides)))
+    make_data.document(make_data.lines_of_show(slides, interval=8000)))
 PYTHON
 
 # The middle of the screen, counted from the main window.

@@ -17,6 +17,7 @@ struct AudioOutput::State {
     std::mutex mutex;
     std::condition_variable changed;
     std::vector<std::string> sinks;
+    std::chrono::milliseconds searchLimit{};
     std::string chosen;  // empty: silent
     bool searching = false;
     bool searched = false;
@@ -25,7 +26,6 @@ struct AudioOutput::State {
 
 namespace {
 
-constexpr auto kFirstSearchLimit = std::chrono::seconds(2);
 constexpr auto kSearchAgainAfter = std::chrono::seconds(10);
 
 GstElement* MakeSilentSink() {
@@ -51,8 +51,10 @@ bool Works(const std::string& name) {
 
 }  // namespace
 
-AudioOutput::AudioOutput(std::vector<std::string> sinks) : state_(std::make_shared<State>()) {
+AudioOutput::AudioOutput(std::vector<std::string> sinks, std::chrono::milliseconds searchLimit)
+    : state_(std::make_shared<State>()) {
     state_->sinks = std::move(sinks);
+    state_->searchLimit = searchLimit;
 }
 
 GstElement* AudioOutput::MakeSink(bool silent) {
@@ -82,8 +84,8 @@ GstElement* AudioOutput::MakeSink(bool silent) {
     }
     if (!state_->searched) {
         // A server that hangs is not waited for a second time.
-        const bool answered =
-            state_->changed.wait_for(lock, kFirstSearchLimit, [this] { return state_->searched; });
+        const bool answered = state_->changed.wait_for(lock, state_->searchLimit,
+                                                       [this] { return state_->searched; });
         if (!answered) {
             state_->searched = true;
             state_->lastSearch = Clock::now();

@@ -4,6 +4,7 @@
 
 #include <gst/gst.h>
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,11 +13,13 @@ namespace gst_adapter {
 
 class AudioOutput {
 public:
-    /// Names of sinks in order of choice.
-    explicit AudioOutput(std::vector<std::string> sinks = {"pulsesink", "alsasink"});
+    /// Names of sinks in order of choice. `searchLimit`: how long the first sink waits for a
+    /// server to answer.
+    explicit AudioOutput(std::vector<std::string> sinks = {"pulsesink", "alsasink"},
+                         std::chrono::milliseconds searchLimit = std::chrono::seconds(2));
 
     /// A new sink with a floating reference. From a worker only: the first call waits for the
-    /// search, at most two seconds, and until the search has an answer the sink is silent.
+    /// search, at most `searchLimit`, and until the search has an answer the sink is silent.
     /// `silent`: the silent one in any case.
     GstElement* MakeSink(bool silent = false);
 

@@ -15,7 +15,7 @@ constexpr std::string_view kSinkName = "device";
 constexpr float kRampSeconds = 0.03f;  // from silence to full volume
 
 void ApplyVolume(TailState& state, float* samples, size_t frames) {
-    const float target = state.volume.load(std::memory_order_relaxed);
+    const float target = state.volume->load(std::memory_order_relaxed);
     const float step = 1.0f / (kRampSeconds * static_cast<float>(state.rate));
     for (size_t frame = 0; frame < frames; ++frame) {
         state.gain += std::clamp(target - state.gain, -step, step);
@@ -28,9 +28,9 @@ void ApplyVolume(TailState& state, float* samples, size_t frames) {
 /// True when the samples stay as they are.
 bool AtFullVolume(TailState& state) {
     if (state.gain < 0) {
-        state.gain = state.volume.load(std::memory_order_relaxed);
+        state.gain = state.volume->load(std::memory_order_relaxed);
     }
-    return state.gain == 1.0f && state.volume.load(std::memory_order_relaxed) == 1.0f;
+    return state.gain == 1.0f && state.volume->load(std::memory_order_relaxed) == 1.0f;
 }
 
 void TakeBuffer(TailState& state, GstPadProbeInfo* info) {

@@ -14,8 +14,9 @@ namespace gst_adapter {
 
 /// Shared between the program and the threads of the stream.
 struct TailState {
-    /// Amplitude, 0 to 1. A change takes effect over some milliseconds, so that steps do not click.
-    std::atomic<float> volume{1.0f};
+    /// Amplitude, 0 to 1, of the whole piece, whose pipelines may follow each other. A change takes
+    /// effect over some milliseconds, so that steps do not click; the first sample has it at once.
+    std::shared_ptr<const std::atomic<float>> volume = std::make_shared<std::atomic<float>>(1.0f);
     /// Stream time in nanoseconds at which the last sample will have been heard; -1: not known yet.
     std::atomic<int64_t> endTime{-1};
     /// True once there was a sample.

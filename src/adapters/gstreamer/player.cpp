@@ -25,17 +25,18 @@ struct Player::Core : std::enable_shared_from_this<Player::Core> {
     // Any thread.
     const Media media;
     const std::shared_ptr<AudioOutput> output;
-    std::atomic<float> volume{1.0f};
+    const std::shared_ptr<std::atomic<float>> volume = std::make_shared<std::atomic<float>>(1.0f);
     std::atomic<double> position{0};
     std::mutex mutex;
     bool playing = false;
     int request = 0;  // counts Play and Stop: an end that comes late belongs to an older one
-    std::shared_ptr<TailState> sharedTail;
 
     // The worker's alone.
     ElementPtr pipeline;
     std::shared_ptr<TailState> tail;
-    int build = 0;  // counts pipelines: an event that comes late belongs to an older one
+    PadPtr gate;           // where samples are held back until Play
+    gulong gateProbe = 0;  // 0: open
+    int build = 0;         // counts pipelines: an event that comes late belongs to an older one
     bool started = false;
     bool silent = false;
     int startedRequest = 0;
@@ -49,6 +50,8 @@ struct Player::Core : std::enable_shared_from_this<Player::Core> {
 
     void Build(double from);
     bool AddSource(GstElement& entry, double from);
+    void CloseGate(GstElement& entry);
+    void OpenGate();
     void Drop();
     void Start(int forRequest);
     void Finish();
@@ -82,6 +85,25 @@ bool Player::Core::AddSource(GstElement& entry, double from) {
     });
 }
 
+/// A sink that pauses would ask for the first samples at once, and they would keep the volume of
+/// that moment however it is set before Play.
+void Player::Core::CloseGate(GstElement& entry) {
+    constexpr auto kSamples = static_cast<GstPadProbeType>(
+        GST_PAD_PROBE_TYPE_BLOCK | GST_PAD_PROBE_TYPE_BUFFER | GST_PAD_PROBE_TYPE_BUFFER_LIST);
+    gate.reset(gst_element_get_static_pad(&entry, "sink"));
+    gateProbe = gst_pad_add_probe(
+        gate.get(), kSamples, [](GstPad*, GstPadProbeInfo*, gpointer) { return GST_PAD_PROBE_OK; },
+        nullptr, nullptr);
+}
+
+void Player::Core::OpenGate() {
+    if (gateProbe != 0) {
+        gst_pad_remove_probe(gate.get(), gateProbe);
+        gateProbe = 0;
+    }
+    gate.reset();
+}
+
 void Player::Core::Build(double from) {
     EnsureLibrary();
     const int number = ++build;
@@ -93,17 +115,14 @@ void Player::Core::Build(double from) {
     };
     pipeline = MakePipeline(post);
     tail = std::make_shared<TailState>();
-    tail->volume = volume.load();
+    tail->volume = volume;
     tail->onEndKnown = [self] {
         if (const auto core = self.lock()) {
             core->worker.Post([core] { core->SetPolling(); });
         }
     };
-    {
-        const std::lock_guard lock(mutex);
-        sharedTail = tail;
-    }
     offset = 0;
+    lastPosition = -1;
     started = false;
     running = false;
     watch = {};
@@ -115,6 +134,9 @@ void Player::Core::Build(double from) {
         post(StreamEvent::Error);
         return;
     }
+    if (from == 0) {  // a seek needs the samples, and nothing is set ahead of going on
+        CloseGate(*entry);
+    }
     gst_element_set_state(pipeline.get(), GST_STATE_PAUSED);
     if (from > 0 && offset == 0) {
         SeekPaused(*pipeline, from);
@@ -125,6 +147,7 @@ void Player::Core::Drop() {
     ++build;
     worker.Poll(0, nullptr);
     DropPipeline(pipeline);
+    OpenGate();  // behind the pipeline's end: nothing of it is heard any more
 }
 
 void Player::Core::Start(int forRequest) {
@@ -135,6 +158,7 @@ void Player::Core::Start(int forRequest) {
     started = true;
     startedRequest = forRequest;
     stalled = 0;
+    OpenGate();
     gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
     SetPolling();
 }
@@ -260,11 +284,7 @@ void Player::Stop() {
 }
 
 void Player::SetVolume(double amplitude) {
-    core_->volume = static_cast<float>(amplitude);
-    const std::lock_guard lock(core_->mutex);
-    if (core_->sharedTail) {
-        core_->sharedTail->volume = static_cast<float>(amplitude);
-    }
+    *core_->volume = static_cast<float>(amplitude);
 }
 
 bool Player::Playing() const {

@@ -34,7 +34,7 @@ public:
     /// From the beginning, also while playing.
     void Play();
     void Stop();
-    /// Amplitude, 0 to 1.
+    /// Amplitude, 0 to 1. Set before Play, it is that of the first sample.
     void SetVolume(double amplitude);
 
     /// True from Play until Stop, the end, or a failure.
