@@ -178,12 +178,26 @@ pid_t Start(const std::string& words) {
     return pid;
 }
 
+/// Asks first; a viewer that is about to wait for input may overhear it.
 void Stop(pid_t& pid) {
-    if (pid > 0) {
-        kill(pid, SIGTERM);
-        waitpid(pid, nullptr, 0);
-        pid = -1;
+    constexpr auto kPause = std::chrono::milliseconds(10);
+    constexpr int kPauses = 200;
+    if (pid <= 0) {
+        return;
     }
+    kill(pid, SIGTERM);
+    bool ended = false;
+    for (int i = 0; i < kPauses && !ended; ++i) {
+        ended = waitpid(pid, nullptr, WNOHANG) != 0;
+        if (!ended) {
+            std::this_thread::sleep_for(kPause);
+        }
+    }
+    if (!ended) {
+        kill(pid, SIGKILL);
+        waitpid(pid, nullptr, 0);
+    }
+    pid = -1;
 }
 
 }  // namespace
