@@ -1,5 +1,5 @@
 // What makes all the fakes is compiled once, and not in every test.
-#include "support/fake_platform.h"
+#include "fake_platform.h"
 
 namespace fakes {
 
