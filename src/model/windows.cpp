@@ -51,6 +51,10 @@ std::array<Window*, 26> Windows::All() {
             &form22, &form23, &form24, &slidescreen, &slidescreen2};
 }
 
+Windows::Windows() = default;
+
+Windows::~Windows() = default;
+
 void Windows::SetPointer(MousePointerShape shape) {
     for (Window* window : {static_cast<Window*>(&form1), static_cast<Window*>(&slidescreen),
                            static_cast<Window*>(&slidescreen2)}) {

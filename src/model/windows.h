@@ -17,6 +17,10 @@
 namespace model {
 
 struct Windows {
+    // Of hundreds of controls: made in one place and not in every source that has windows.
+    Windows();
+    ~Windows();
+
     Form1 form1;
     Form2 form2;
     Form3 form3;

@@ -380,14 +380,8 @@ struct FakePlatform {
     Application app{platform::Platform{loop, files, dialogs, monitors, imaging, textRenderer, sound,
                                        video, system, trace, codePage}};
 
-    FakePlatform() {
-        model::ZeroReset(app.state);
-        model::SetStartDefaults(app.state);
-        app.state.AppFolder = system.appFolder;
-        for (model::LeadControl* lead : {&app.windows.form4.Lead1, &app.windows.form4.Lead2}) {
-            lead->imaging = imaging.MakeControl();
-        }
-    }
+    FakePlatform();
+    ~FakePlatform();
     FakePlatform(const FakePlatform&) = delete;
     FakePlatform& operator=(const FakePlatform&) = delete;
 
