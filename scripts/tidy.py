@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """tidy.py [BUILD]: clang-tidy with the list of .clang-tidy over the sources of a configured and
-built tree (default build/dev).
+built tree (default build/dev). A source that the tree does not build is a failure as well.
 
 The sources of a folder are looked at in one piece, since reading the headers is nearly all the work.
 A file that is blamed in such a piece, be it for a finding or because two files use one name, is

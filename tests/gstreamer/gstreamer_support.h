@@ -73,8 +73,10 @@ struct TestSink {
     int bufferTakesMs = 0;
     bool holdsOpening = false;  // like a server that hangs
     bool holdsBuffers = false;  // each waits ahead of `samples`
+    bool refusesFormat = false;
     int opened = 0;
     int stillOpening = 0;
+    int refused = 0;    // formats
     int prerolled = 0;  // buffers it was given ahead of playing
     int arrived = 0;    // buffers, held ones too
 };
@@ -83,6 +85,8 @@ void ResetTestSink();
 /// A copy of what it saw.
 TestSink SeenByTestSink();
 void SetTestSink(int breakAfterBuffers, int bufferTakesMs = 0);
+/// From the next format on.
+void MakeTestSinkRefuse();
 enum class Hold { Nothing, Opening, Buffers };
 /// Whatever else was held goes on. ResetTestSink lets all go, too.
 void HoldTestSink(Hold what);

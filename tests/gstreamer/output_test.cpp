@@ -67,6 +67,37 @@ TEST(GstOutput, ADeviceThatGoesAwayInMidPlayIsGoneOnWithoutFromThere) {
     }
 }
 
+TEST(GstOutput, ADeviceThatRefusesAheadOfPlayIsGoneOnWithout) {
+    Studio studio({"testsink"});
+    MakeTestSinkRefuse();
+    studio.Write("a.wav", WaveBytes(Tone(0.3)));
+    studio.Open("a.wav", "waveaudio", "wav");
+    ASSERT_TRUE(Eventually([] { return SeenByTestSink().refused > 0; }));
+    const double start = studio.loop.Milliseconds();
+    studio.Send("play wav from 1");
+    ASSERT_TRUE(studio.Stops("wav"));
+    EXPECT_GE(studio.loop.Milliseconds() - start, 280);
+    EXPECT_TRUE(SeenByTestSink().samples.empty());
+}
+
+TEST(GstOutput, APieceThatWaitsForPlayCanBeLeft) {
+    for (const char* leave : {"stop wav", "close wav"}) {
+        for (const char* kind : {"waveaudio", "sequencer"}) {
+            Studio studio({"testsink"});
+            studio.Write("a",
+                         kind == std::string("waveaudio") ? WaveBytes(Tone(60)) : MidiBytes(60000));
+            studio.Open("a", kind, "wav");
+            // Behind the format come the samples, which wait.
+            ASSERT_TRUE(Eventually([] { return SeenByTestSink().rate != 0; }));
+            studio.Send(leave);
+            studio.sound.reset();
+            EXPECT_TRUE(gst_adapter::WaitForThreads(kHangMs)) << leave << " " << kind;
+            EXPECT_EQ(SeenByTestSink().prerolled, 0);
+            EXPECT_TRUE(SeenByTestSink().samples.empty());
+        }
+    }
+}
+
 TEST(GstOutput, TwoHundredPiecesLeaveNothingBehind) {
     Studio studio;
     studio.Write("a.wav", WaveBytes(Tone(0.2)));

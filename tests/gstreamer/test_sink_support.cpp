@@ -63,10 +63,15 @@ GstFlowReturn Preroll(GstBaseSink*, GstBuffer*) {
     return GST_FLOW_OK;
 }
 
-gboolean SetCaps(GstBaseSink*, GstCaps* caps) {
+gboolean SetCaps(GstBaseSink* base, GstCaps* caps) {
     GstAudioInfo format;
+    const std::lock_guard lock(mutex);
+    if (seen.refusesFormat) {
+        GST_ELEMENT_ERROR(base, RESOURCE, OPEN_WRITE, ("the device is taken"), (nullptr));
+        ++seen.refused;
+        return FALSE;
+    }
     if (gst_audio_info_from_caps(&format, caps)) {
-        const std::lock_guard lock(mutex);
         seen.channels = format.channels;
         seen.rate = format.rate;
     }
@@ -133,6 +138,11 @@ void ResetTestSink() {
 TestSink SeenByTestSink() {
     const std::lock_guard lock(mutex);
     return seen;
+}
+
+void MakeTestSinkRefuse() {
+    const std::lock_guard lock(mutex);
+    seen.refusesFormat = true;
 }
 
 void SetTestSink(int breakAfterBuffers, int bufferTakesMs) {

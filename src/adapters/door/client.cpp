@@ -1,7 +1,6 @@
 #include "adapters/door/client.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <mutex>
@@ -22,8 +21,8 @@ void TellThatItDoesNotStart(const std::string& program, int error) {
     const std::lock_guard lock(mutex);
     if (told.insert(program).second) {
         std::fprintf(stderr,
-                     "parapico: the decoder %s cannot be started (%s); pictures that need it are "
-                     "unreadable\n",
+                     "parapico: the decoder %s could not be started (%s); pictures that need it "
+                     "are unreadable\n",
                      program.c_str(), std::strerror(error));
     }
 }
@@ -132,9 +131,10 @@ bool Client::SendRequest(Role role, const Request& request, int file) {
     std::vector<std::string> arguments = {kRoleNames[static_cast<int>(role)]};
     arguments.insert(arguments.end(), options_.arguments.begin(), options_.arguments.end());
     const std::string program = options_.program.empty() ? ProgramOf(role) : options_.program;
-    process = StartProcess(program, arguments);
+    int error = 0;
+    process = StartProcess(program, arguments, error);
     if (!process) {
-        TellThatItDoesNotStart(program, errno);
+        TellThatItDoesNotStart(program, error);
     }
     return process && Send(process->socket.Get(), BytesOf(request), file);
 }

@@ -103,23 +103,25 @@ std::string ProgramOf(Role role) {
 }
 
 std::optional<Process> StartProcess(const std::string& program,
-                                    const std::vector<std::string>& arguments) {
+                                    const std::vector<std::string>& arguments, int& error) {
     int ends[2] = {-1, -1};
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0) {
+        error = errno;
         return std::nullopt;
     }
     Process process{-1, Descriptor(ends[0])};
     const Descriptor theirs(ends[1]);
     Start start;
     if (!Prepare(start, theirs.Get())) {
+        error = ENOMEM;
         return std::nullopt;
     }
     std::vector<std::string> words = {program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<std::string> environment = Environment();
-    errno = posix_spawn(&process.id, program.c_str(), &start.files, &start.attributes,
+    error = posix_spawn(&process.id, program.c_str(), &start.files, &start.attributes,
                         Pointers(words).data(), Pointers(environment).data());
-    return errno == 0 ? std::optional(std::move(process)) : std::nullopt;
+    return error == 0 ? std::optional(std::move(process)) : std::nullopt;
 }
 
 void EndProcess(const Process& process) {

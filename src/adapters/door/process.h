@@ -25,9 +25,9 @@ std::string ProgramOf(Role role);
 
 /// Starts the executable with these arguments. It gets one end of a new socket and nothing else of
 /// the program: no open file, no variable of the environment, no words on the terminal. Nothing
-/// when it cannot be started; errno tells why.
+/// when it cannot be started; `error` then is the system's number for the reason.
 std::optional<Process> StartProcess(const std::string& program,
-                                    const std::vector<std::string>& arguments);
+                                    const std::vector<std::string>& arguments, int& error);
 
 /// Ends the process and all that it started, at once, and leaves no trace of it.
 void EndProcess(const Process& process);

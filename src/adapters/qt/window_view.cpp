@@ -336,10 +336,15 @@ void WindowView::ShowFullScreen() {
         root_->setGeometry(0, 0, ToPixels(window_.Width), ToPixels(window_.Height));
         root_->show();
     } else {
+        const bool appears = !root_->isVisible();
         root_->setScreen(screen);
         root_->setGeometry(screen->geometry());
         root_->showFullScreen();
-        TakeMemory(*root_);
+        // By the other size of its memory the toolkit sees what of a visible window is to be
+        // painted.
+        if (appears) {
+            TakeMemory(*root_);
+        }
     }
     root_->raise();
     root_->activateWindow();
