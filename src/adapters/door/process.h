@@ -20,7 +20,7 @@ struct Process {
 constexpr int kProcessSocket = 3;
 
 /// Path of the role's executable: beside the program's own, else in ../libexec/parapico/ from
-/// there, whether it is there or not.
+/// there, whether it is there or not. Empty when the program's own path cannot be read.
 std::string ProgramOf(Role role);
 
 /// Starts the executable with these arguments. It gets one end of a new socket and nothing else of

@@ -27,7 +27,7 @@ public:
 
 private:
     /// ScreenFont of the font that was asked for last is kept: finding one takes longer than
-    /// drawing a short text, and the first one of all longer than all else of the program's start.
+    /// drawing a short text, and for the first one of all the system's fonts are looked through.
     const QFont& Found(const platform::Font& font);
 
     platform::Font last_;
