@@ -8,6 +8,14 @@ namespace {
 
 using namespace gst_tests;
 
+/// Of the piece that is open as "wav", until it stops by itself.
+double MillisecondsOfPlaying(Studio& studio) {
+    const double start = studio.loop.Milliseconds();
+    studio.Send("play wav from 1");
+    EXPECT_TRUE(studio.Stops("wav"));
+    return studio.loop.Milliseconds() - start;
+}
+
 TEST(GstOutput, AServerThatHangsHoldsUpNobody) {
     // The window's thread is never in the server's hands: every call returns while it hangs.
     Studio studio({"testsink"});
@@ -30,10 +38,7 @@ TEST(GstOutput, WhileAServerHangsSilencePasses) {
     HoldTestSink(Hold::Opening);
     studio.Write("a.wav", WaveBytes(Tone(0.3)));
     studio.Open("a.wav", "waveaudio", "wav");
-    const double start = studio.loop.Milliseconds();
-    studio.Send("play wav from 1");
-    ASSERT_TRUE(studio.Stops("wav"));
-    EXPECT_GE(studio.loop.Milliseconds() - start, 280);
+    EXPECT_GE(MillisecondsOfPlaying(studio), 280);
     EXPECT_EQ(SeenByTestSink().opened, 1);
     EXPECT_EQ(SeenByTestSink().stillOpening, 1);
 }
@@ -42,10 +47,7 @@ TEST(GstOutput, WithoutAServerThatWorksASilentOneKeepsTheTime) {
     Studio studio({"no-such-sink"});
     studio.Write("a.wav", WaveBytes(Tone(0.3)));
     studio.Open("a.wav", "waveaudio", "wav");
-    const double start = studio.loop.Milliseconds();
-    studio.Send("play wav from 1");
-    ASSERT_TRUE(studio.Stops("wav"));
-    EXPECT_GE(studio.loop.Milliseconds() - start, 280);
+    EXPECT_GE(MillisecondsOfPlaying(studio), 280);
 }
 
 TEST(GstOutput, ADeviceThatGoesAwayInMidPlayIsGoneOnWithoutFromThere) {
@@ -54,11 +56,8 @@ TEST(GstOutput, ADeviceThatGoesAwayInMidPlayIsGoneOnWithoutFromThere) {
         SetTestSink(2);
         studio.Write("a", kind == std::string("waveaudio") ? WaveBytes(Tone(0.6)) : MidiBytes(600));
         studio.Open("a", kind, "wav");
-        const double start = studio.loop.Milliseconds();
-        studio.Send("play wav from 1");
-        ASSERT_TRUE(studio.Stops("wav"));
         // Two buffers ran without taking time; the rest is silent, in real time.
-        EXPECT_GE(studio.loop.Milliseconds() - start, 200) << kind;
+        EXPECT_GE(MillisecondsOfPlaying(studio), 200) << kind;
         EXPECT_EQ(SeenByTestSink().opened, 2) << kind;  // the search, and the one that broke
         // The next piece does not try the broken one again.
         studio.Send("play wav from 1");
@@ -73,10 +72,7 @@ TEST(GstOutput, ADeviceThatRefusesAheadOfPlayIsGoneOnWithout) {
     studio.Write("a.wav", WaveBytes(Tone(0.3)));
     studio.Open("a.wav", "waveaudio", "wav");
     ASSERT_TRUE(Eventually([] { return SeenByTestSink().refused > 0; }));
-    const double start = studio.loop.Milliseconds();
-    studio.Send("play wav from 1");
-    ASSERT_TRUE(studio.Stops("wav"));
-    EXPECT_GE(studio.loop.Milliseconds() - start, 280);
+    EXPECT_GE(MillisecondsOfPlaying(studio), 280);
     EXPECT_TRUE(SeenByTestSink().samples.empty());
 }
 
