@@ -18,6 +18,7 @@
 #include "adapters/qt/desktop.h"
 #include "adapters/robot/check_command.h"
 #include "adapters/robot/inspect.h"
+#include "adapters/robot/manual_command.h"
 #include "adapters/robot/options.h"
 #include "adapters/robot/robot.h"
 #include "adapters/robot/robot_sound.h"
@@ -41,6 +42,7 @@ constexpr const char* kUsage =
     "  parapico --inspect FILE\n"
     "  parapico --resave IN OUT [--distribution]\n"
     "  parapico --check [--json] FILE...\n"
+    "  parapico --manual [--code-page] [FILE]\n"
     "  parapico --robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N]\n"
     "           [--now \"YYYY-MM-DD hh:mm:ss\"] [--screen WxH[,WxH…]]\n"
     "           [--prepare on|off] [--title] [DOCUMENT]\n";
@@ -223,6 +225,9 @@ int main(int argc, char** argv) {
     }
     if (door == "--check") {
         return robot::RunCheckCommand(arguments, std::cout, std::cerr);
+    }
+    if (door == "--manual") {
+        return robot::RunManualCommand(arguments, std::cout, std::cerr);
     }
     for (const std::string& argument : arguments) {
         if (argument == "--robot") {

@@ -347,6 +347,7 @@ void ReadShowDocument(Application& app, TextView documentPath) {
     auto& pointer = app.windows.form1.MousePointer;
     pointer = model::kPointerBusy;
     app.state.RandomFlag = 1;
+    model::RestoreTextOrigin(app.state);
     app.windows.form3.Command16.Enabled = false;
     app.windows.form3.Command17.Enabled = false;
     ShowReader reader(app, std::move(*content));

@@ -88,8 +88,8 @@ void ShowWriter::WriteScreenSettings() {
     for (int i = 1; i <= state_.CdProgramCount; ++i) {
         lines_.Line(state_.CdProgram(i));
     }
-    for (int16_t value : {state_.TextOriginScreen, state_.CdPlusLinkedWav, state_.CdProgramStop,
-                          state_.OverlayBackColor, state_.PicturePosition}) {
+    for (int16_t value : {model::OwnTextOrigin(state_), state_.CdPlusLinkedWav,
+                          state_.CdProgramStop, state_.OverlayBackColor, state_.PicturePosition}) {
         lines_.Number(value);
     }
 }

@@ -14,7 +14,9 @@ constexpr int16_t kNoSound = 7;
 constexpr int16_t kMp3Sound = 8;
 
 void WriteField(LineWriter& lines, const ShowState& state, const model::FieldPointer& field) {
-    if (const auto* textField = std::get_if<Text ShowState::*>(&field)) {
+    if (field == model::FieldPointer(&ShowState::TextOriginScreen)) {
+        lines.Number(model::OwnTextOrigin(state));
+    } else if (const auto* textField = std::get_if<Text ShowState::*>(&field)) {
         lines.Line(state.**textField);
     } else {
         lines.Number(state.*std::get<int16_t ShowState::*>(field));

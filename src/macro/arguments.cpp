@@ -70,6 +70,15 @@ Text Unwrapped(TextView value) {
     return result;
 }
 
+Text QuotedField(TextView field, Text (*otherwise)(TextView)) {
+    const Text trimmed = text::Trim(field);
+    if (!trimmed.starts_with(u'"')) {
+        return otherwise(field);
+    }
+    const size_t closing = trimmed.find(u'"', 1);
+    return closing == Text::npos ? otherwise(field) : trimmed.substr(1, closing - 1);
+}
+
 double NumberField(const std::vector<TextView>& fields, size_t index) {
     return index < fields.size() ? text::SafeNumber(fields[index]) : 0;
 }

@@ -4,8 +4,8 @@
 
 #include "macro/arguments.h"
 #include "macro/cutouts.h"
+#include "macro/named_files.h"
 #include "text/numbers.h"
-#include "text/paths.h"
 
 namespace macro {
 
@@ -174,7 +174,8 @@ void CheckFiles(ArgumentCheck& check, const Keyword& keyword, TextView line) {
         }
     }
     for (const TextView part : QuotedParts(BeforeComment(line))) {
-        if (!part.empty() && !check.files.Exists(text::WithFolder(check.slide.folder, part))) {
+        const auto path = keyword.name == u"MOVIE" ? NamedVideo : NamedFile;
+        if (!part.empty() && !check.files.Exists(path(check.files, check.slide.folder, part))) {
             check.Add(ColumnOf(line, part), u"「" + Text(part) + u"」がありません",
                       u"表示も再生もされません");
         }

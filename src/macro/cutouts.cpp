@@ -5,6 +5,7 @@
 #include "document/cutout_points.h"
 #include "macro/arguments.h"
 #include "macro/buttons.h"
+#include "macro/named_files.h"
 #include "macro/shapes.h"
 #include "text/code_page.h"
 #include "text/numbers.h"
@@ -171,7 +172,7 @@ void ShowPiece(Run& run, int index, const PieceLine& piece) {
 
     const Text folder = SlideFolder(app);
     const auto i = static_cast<size_t>(index);
-    state.CutoutPicture[i] = text::WithFolder(folder, piece.picture);
+    state.CutoutPicture[i] = NamedFile(app.platform.files, folder, piece.picture);
     const platform::BitmapPtr picture = LoadPicture(app, state.CutoutPicture[i]);
     inWindow.SetPicture(picture);
     onScreen.SetPicture(picture);
@@ -181,7 +182,8 @@ void ShowPiece(Run& run, int index, const PieceLine& piece) {
     onScreen.Top = app.windows.slidescreen.P2.canvas.penY;
     state.CutoutJump[i] = piece.jump;
     state.CutoutActive[i] = 1;
-    state.CutoutAction[i] = piece.action.empty() ? Text() : text::WithFolder(folder, piece.action);
+    state.CutoutAction[i] =
+        piece.action.empty() ? Text() : NamedFile(app.platform.files, folder, piece.action);
     Shape(app, index);
     inWindow.Visible = true;
     onScreen.Visible = true;
@@ -229,9 +231,9 @@ Flow NameCutoutData(Run& run, double) {
     }
     run.state.PicPbType = kDataFileShape;
     if (*index >= 0) {
-        const Text name = fields.size() > 1 ? Unwrapped(fields[1]) : Text();
+        const Text name = fields.size() > 1 ? QuotedField(fields[1], Unwrapped) : Text();
         run.state.CutoutDataFile[static_cast<size_t>(*index)] =
-            name.empty() ? Text() : text::WithFolder(SlideFolder(run.app), name);
+            name.empty() ? Text() : NamedFile(run.app.platform.files, SlideFolder(run.app), name);
     }
     return Flow::GoOn;
 }

@@ -79,6 +79,7 @@ void ResetShowSettings(Application& app) {
     }
     state.OverlayBackText.clear();
     state.PictureScale = 0;
+    model::RestoreTextOrigin(state);
 }
 
 }  // namespace macro

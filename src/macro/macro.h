@@ -14,7 +14,7 @@ void RunTextMacro(Application& app);
 void ClearMacroObjects(Application& app);
 
 /// What words set for the whole show goes back: outline colour, line space, frame and ground of
-/// overlaid pictures, scale and place of pictures, volume.
+/// overlaid pictures, scale and place of pictures, volume, text origin.
 void ResetShowSettings(Application& app);
 
 /// Text file of the slide in force: its path, or its name in the linked folder, with ".txt" in

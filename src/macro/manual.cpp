@@ -59,7 +59,7 @@ const char16_t* HowRounded(Number number) {
         case Number::Down:
             return u"（小数は切り捨て）";
         case Number::Whole:
-            return u"（小数は四捨五入）";
+            return u"（小数は近いほうの整数）";
     }
     return u"";
 }

@@ -4,11 +4,11 @@
 
 #include "macro/arguments.h"
 #include "macro/cutouts.h"
+#include "macro/named_files.h"
 #include "picture/video_window.h"
 #include "sound/sound.h"
 #include "sound/volume.h"
 #include "text/numbers.h"
-#include "text/paths.h"
 
 namespace macro {
 
@@ -59,15 +59,17 @@ int FadeStep(double seconds) {
 
 Flow ShowMovie(Run& run, double) {
     const FileCall call = ReadFileCall(run.MacroLineUpper);
-    picture::ShowMacroMovie(run.app, call.file, call.mode);
+    picture::ShowMacroMovie(
+        run.app, NamedVideo(run.app.platform.files, SlideFolder(run.app), call.file), call.mode);
     return Flow::GoOn;
 }
 
 Flow PlayWave(Run& run, double) {
     const FileCall call = ReadFileCall(run.MacroLineUpper);
     if (call.mode >= 0) {
-        run.app.platform.sound.SndPlaySound(text::WithFolder(SlideFolder(run.app), call.file),
-                                            kWaveFlags[call.mode]);
+        run.app.platform.sound.SndPlaySound(
+            NamedFile(run.app.platform.files, SlideFolder(run.app), call.file),
+            kWaveFlags[call.mode]);
     }
     return Flow::GoOn;
 }

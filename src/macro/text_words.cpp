@@ -109,7 +109,7 @@ Flow MoveY(Run& run, double pixels) {
 Flow SetTextOrigin(Run& run, double origin) {
     model::ShowState& state = run.state;
     if (origin == 0 || origin == 1) {
-        state.TextOriginScreen = static_cast<int16_t>(origin);
+        model::SetTextOriginOfRun(state, static_cast<int16_t>(origin));
         state.TextOriginX = origin == 0 ? state.PictureX : 0;
         state.TextOriginY = origin == 0 ? state.PictureY : 0;
     }

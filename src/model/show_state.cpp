@@ -129,6 +129,7 @@ void SetStartDefaults(ShowState& state) {
     for (const Setting& setting : Settings()) {
         WriteField(state, setting.field, setting.start);
     }
+    state.TextOriginByMacro = 0;
 }
 
 void SetNewDefaults(ShowState& state) {
@@ -137,6 +138,7 @@ void SetNewDefaults(ShowState& state) {
             WriteField(state, setting.field, setting.fresh);
         }
     }
+    state.TextOriginByMacro = 0;
 }
 
 void ZeroReset(ShowState& state) {
@@ -156,6 +158,21 @@ void ZeroReset(ShowState& state) {
     state.ShowEffectSpeed = -30;
     state.EraseEffectSpeed = -30;
     state.ListShowPicture = 1;
+}
+
+void SetTextOriginOfRun(ShowState& state, int16_t origin) {
+    state.TextOriginOwn = OwnTextOrigin(state);
+    state.TextOriginByMacro = 1;
+    state.TextOriginScreen = origin;
+}
+
+void RestoreTextOrigin(ShowState& state) {
+    state.TextOriginScreen = OwnTextOrigin(state);
+    state.TextOriginByMacro = 0;
+}
+
+int16_t OwnTextOrigin(const ShowState& state) {
+    return state.TextOriginByMacro == 1 ? state.TextOriginOwn : state.TextOriginScreen;
 }
 
 Text ScheduleFromOfRow(TextView row) {

@@ -125,6 +125,13 @@ void SetNewDefaults(ShowState& state);
 /// What becomes zero at the very start of the main window, before the start defaults.
 void ZeroReset(ShowState& state);
 
+/// TextOriginScreen as a macro sets it: until RestoreTextOrigin, and never saved.
+void SetTextOriginOfRun(ShowState& state, int16_t origin);
+/// The setting's own value comes back after what a macro set.
+void RestoreTextOrigin(ShowState& state);
+/// The value to save.
+int16_t OwnTextOrigin(const ShowState& state);
+
 /// Start and end of a schedule row of 30 columns: "date time" of columns 1-15 and 16-30.
 Text ScheduleFromOfRow(TextView row);
 Text ScheduleToOfRow(TextView row);

@@ -202,6 +202,7 @@ void ResetRun(Application& app) {
 
 void ClearRun(Application& app) {
     model::ShowState& state = app.state;
+    model::RestoreTextOrigin(state);
     state.CdPaused = 0;
     state.SoundPaused = 0;
     state.SoundListPos = 0;

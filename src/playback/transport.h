@@ -21,7 +21,7 @@ void EnableShowMenus(Application& app, bool enabled);
 /// What START and the full screen reset before a run.
 void ResetRun(Application& app);
 
-/// Everything STOP clears of the run: flags, indexes, Timer1, preview.
+/// Everything STOP clears of the run: flags, indexes, a macro's text origin, Timer1, preview.
 void ClearRun(Application& app);
 
 /// Timer1's interval to SlideIntervalSec.

@@ -32,11 +32,15 @@ Text DecodeHandWrittenFile(std::string_view bytes, const CodePage& codePage) {
     return DecodeFile(bytes, codePage);
 }
 
+std::string MarkedUtf8(TextView value) {
+    return std::string(kByteOrderMark) + ToUtf8(value);
+}
+
 std::string EncodeFile(TextView value, const CodePage& codePage) {
     if (auto encoded = codePage.Encode(value)) {
         return std::move(*encoded);
     }
-    return std::string(kByteOrderMark) + ToUtf8(value);
+    return MarkedUtf8(value);
 }
 
 }  // namespace text

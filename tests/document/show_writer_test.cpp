@@ -21,6 +21,20 @@ void AddSlide(Program& program, const char16_t* path, const Text& row = kBlankRo
     program.app.windows.form3.List2.AddItem(row);
 }
 
+TEST(ShowWriter, TextOriginIsTheSettingsOwn) {
+    Program program;
+    AddSlide(program, u"C:\\pic\\a.jpg");
+    document::WriteShowDocument(program.app, kTarget);
+    const std::string before = Written(program);
+    model::SetTextOriginOfRun(program.app.state, 1);
+    document::WriteShowDocument(program.app, kTarget);
+    EXPECT_EQ(Written(program), before);
+    // The next document's own.
+    document::ReadShowDocument(program.app, kTarget);
+    EXPECT_EQ(program.app.state.TextOriginScreen, 0);
+    EXPECT_EQ(program.app.state.TextOriginByMacro, 0);
+}
+
 TEST(ShowWriter, WritesStartDefaultsByteForByte) {
     Program program;
     AddSlide(program, u"C:\\pic\\a.jpg");

@@ -20,6 +20,15 @@ void ExpectFields(const Program& program, const StateLines& lines) {
     }
 }
 
+TEST(StateFile, TextOriginIsTheSettingsOwn) {
+    StateProgram program;
+    EXPECT_TRUE(document::WriteStateFile(program.app));
+    const std::string before = program.Written();
+    model::SetTextOriginOfRun(program.app.state, 1);
+    EXPECT_TRUE(document::WriteStateFile(program.app));
+    EXPECT_EQ(program.Written(), before);
+}
+
 TEST(StateFile, StartDefaultsAreWrittenByteForByte) {
     StateProgram program;
     program.app.windows.form3.List1.AddItem(u"C:\\pic\\a.jpg");

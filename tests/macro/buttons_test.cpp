@@ -140,6 +140,27 @@ TEST_F(Buttons, MenusWaitAtTheEndAndJump) {
     EXPECT_EQ(state.MacroButtonsShown, 0);
 }
 
+TEST_F(Buttons, CaptionEndsAtItsQuoteWhateverACommentHolds) {
+    const struct {
+        const char16_t* line;
+        const char16_t* caption;
+    } rows[] = {
+        {u"Menu1(1,\"スキップ\")  //メニュー番号(画面移動数)", u"スキップ"},
+        {u"Menu1(1, \"a(b)\" ) (x)", u"a(b)"},
+        {u"Menu1(1,\"\")  //x)", u""},
+        // Without a closing quote: up to the last ')', less the last character.
+        {u"Menu1(1,\"ab)", u"a"},
+        {u"Menu1(1,ab)", u"ab"},
+    };
+    for (const auto& row : rows) {
+        fake.loop.After(100, [&] {
+            EXPECT_EQ(form1.menu1.Caption(), row.caption);
+            form1.menu1.Click();
+        });
+        Play(Text(row.line) + u"\r\n");
+    }
+}
+
 TEST_F(Buttons, MenuJumpOfZeroShowsTheSlideAgainAndFarJumpsLandOnTheLast) {
     fake.loop.At(100, [&] { form1.menu1.Click(); });
     Play(u"Menu1(0,\"again\")\r\n");

@@ -44,6 +44,19 @@ struct Cutouts : testing::Test, MacroShow {
 using Bounds = std::array<int, 4>;
 constexpr Bounds kNoBounds = {9999, 9999, 0, 0};
 
+TEST_F(Cutouts, FilesInAFolderBesideTheSlideAreFound) {
+    fake.files.Put(u"C:\\show\\parts\\star.bmp", "PIC 7 8 0000ff");
+    fake.files.Put(u"C:\\show\\parts\\a.wav", "");
+    PutPoints(u"C:\\show\\parts\\p.dat", "0,0\r\n5,0\r\n5,6\r\n");
+    Play(
+        u"PicPBData(3,\"parts\\p.dat\")\r\n"
+        u"PicPB03(0,\"parts\\star.bmp\",\"parts\\a.gif\")\r\n");
+    EXPECT_EQ(state.CutoutPicture[3], u"C:\\show\\PARTS\\STAR.BMP");
+    EXPECT_EQ(state.CutoutAction[3], u"PARTS\\A.GIF") << "none beside the slide: as it stands";
+    EXPECT_EQ(form1.Picture2(3).ScaleWidth(), 7);
+    EXPECT_EQ(Box(3), (std::array<int, 4>{0, 0, 5, 6}));
+}
+
 TEST_F(Cutouts, APieceStandsInBothWindowsWhereThePensAre) {
     GoFullScreen();
     Play(u"CurrentX=15\r\nCurrentY=20\r\nPicPB03(0,\"star.bmp\",\"\")  //星\r\n");

@@ -40,6 +40,18 @@ TEST_F(Rotated, NumbersAreClipped) {
     EXPECT_EQ(drawn[0].text, u"あ") << "a wide character needs no blank";
 }
 
+TEST_F(Rotated, TextEndsAtItsQuoteWhateverACommentHolds) {
+    Play(
+        u"TextOut(12,6,20,\"絵\")  //(文字高さ,文字幅,回転角度,文字列)\n"
+        u"TextOut(1,1,1,\"図\") (x)\nTextOut(1,1,1, \"a\"b\")\nTextOut(1,1,1,\"絵)\n");
+    ASSERT_EQ(drawn.size(), 8u);
+    EXPECT_EQ(drawn[0].text, u"絵");
+    EXPECT_EQ(drawn[0].turn, (Turn{12, 6, 200}));
+    EXPECT_EQ(drawn[2].text, u"図");
+    EXPECT_EQ(drawn[4].text, u"a ");
+    EXPECT_EQ(drawn[6].text, u"絵") << "up to the last ')' where no quote closes it";
+}
+
 TEST_F(Rotated, TextMayHaveCommasAndNoQuotes) {
     Play(u"TextOut(1,1,1,a,b)\n");
     EXPECT_EQ(drawn.at(0).text, u"a,b   ");

@@ -181,6 +181,25 @@ TEST_F(SettingWords, SizeAdjustmentCountsOtherwiseThanItsMenu) {
     EXPECT_EQ(app.windows.form4.Lead2.imaging->HeldSize().width, 30);
 }
 
+TEST_F(SettingWords, TextOriginOfTheRunKeepsTheSettingsOwn) {
+    for (const int16_t own : {int16_t(0), int16_t(1)}) {
+        state.TextOriginScreen = own;
+        Play(u"ScreenXY=1\r\nScreenXY=0\r\nScreenXY=1\r\n");
+        EXPECT_EQ(state.TextOriginScreen, 1);
+        EXPECT_EQ(model::OwnTextOrigin(state), own);
+        Play(u"ScreenXY=7\r\nScreenXY=0\r\n");
+        EXPECT_EQ(state.TextOriginScreen, 0);
+        EXPECT_EQ(model::OwnTextOrigin(state), own);
+        macro::ResetShowSettings(app);
+        EXPECT_EQ(state.TextOriginScreen, own);
+        EXPECT_EQ(model::OwnTextOrigin(state), own);
+    }
+    Play(u"ScreenXY=1\r\n");
+    model::SetNewDefaults(state);
+    EXPECT_EQ(state.TextOriginScreen, 0);
+    EXPECT_EQ(model::OwnTextOrigin(state), 0);
+}
+
 TEST_F(SettingWords, SettingsOfTheShowGoBackTogether) {
     Play(
         u"BorderColor=3\r\nLineSpace=7\r\nBorderless=1\r\nBackColor=\"112233\"\r\n"
@@ -194,7 +213,7 @@ TEST_F(SettingWords, SettingsOfTheShowGoBackTogether) {
     EXPECT_EQ(state.PictureScale, 0);
     EXPECT_EQ(state.Mp3VolumeOffset, 0);
     EXPECT_EQ(state.PicturePositionFixed, 0);
-    EXPECT_EQ(state.TextOriginScreen, 1) << "this is a setting of the program";
+    EXPECT_EQ(state.TextOriginScreen, 0) << "the setting's own value";
     EXPECT_EQ(state.MacroWaitClick, 1);
 }
 

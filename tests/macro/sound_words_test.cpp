@@ -83,6 +83,30 @@ TEST_F(SoundWords, MovieOfAnotherNumberOnlyLoads) {
     EXPECT_THAT(fake.dialogs.messages, IsEmpty());
 }
 
+TEST_F(SoundWords, FilesBesideTheSlideComeFirst) {
+    fake.files.Put(u"C:\\show\\film.mp4", "");
+    fake.files.Put(u"C:\\show\\parts\\m.mp4", "");
+    fake.files.Put(u"C:\\show\\parts\\a.wav", "");
+    const struct {
+        const char16_t* line;
+        const char16_t* opened;
+    } films[] = {
+        {u"Movie(\"film.mp4\",3)", u"C:\\show\\FILM.MP4"},
+        {u"Movie(\"parts\\m.mp4\",3)", u"C:\\show\\PARTS\\M.MP4"},
+        // Nothing beside the slide: as it stands.
+        {u"Movie(\"gone.mp4\",3)", u"GONE.MP4"},
+        {u"Movie(\"x\\gone.mp4\",3)", u"X\\GONE.MP4"},
+        {u"Movie(\"C:\\v\\m.mp4\",3)", u"C:\\V\\M.MP4"},
+    };
+    for (const auto& row : films) {
+        Play(row.line);
+        EXPECT_EQ(app.windows.form24.WindowsMediaPlayer1.URL(), row.opened);
+    }
+    EXPECT_EQ(Waves(u"PlayWav(\"parts\\a.wav\",0)\r\n"),
+              (Plays{{Text(u"C:\\show\\PARTS\\A.WAV"), 3}}));
+    EXPECT_EQ(Waves(u"PlayWav(\"parts\\b.wav\",0)\r\n"), (Plays{{Text(u"PARTS\\B.WAV"), 3}}));
+}
+
 TEST_F(SoundWords, WavesPlayOnceWaitOrRepeat) {
     const Text mine = u"C:\\show\\A.WAV";
     EXPECT_EQ(Waves(u"PlayWav(\"a.wav\",0)\r\n"), (Plays{{mine, 3}}));

@@ -8,6 +8,15 @@
 namespace playback_tests {
 namespace {
 
+TEST(Transport, StopBringsTheTextOriginBack) {
+    Show show;
+    show.form1.Command1.Click();
+    model::SetTextOriginOfRun(show.state, 1);
+    show.form1.Command3.Click();
+    EXPECT_EQ(show.state.TextOriginScreen, 0);
+    EXPECT_EQ(show.state.TextOriginByMacro, 0);
+}
+
 TEST(TransportStates, IdleWithAnEmptyAndAFilledList) {
     Show empty(0);
     EXPECT_EQ(empty.Buttons(), "");
