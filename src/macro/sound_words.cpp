@@ -15,8 +15,6 @@ namespace macro {
 namespace {
 
 constexpr int kVolumeStep = 100;  // of 1000
-constexpr int kFadePassMs = 100;
-constexpr int kListMode = 6;
 
 /// sndPlaySound's flags for n = 0, 1, 2: play and go on, wait, repeat; none with a default sound.
 constexpr int kWaveFlags[] = {3, 2, 11};
@@ -94,22 +92,9 @@ Flow RaiseVolume(Run& run, double) {
 
 Flow FadeOut(Run& run, double seconds) {
     model::ShowState& state = run.state;
-    const int step = FadeStep(seconds);
-    const TextView question =
-        state.SoundMode == kListMode ? u"status wav mode" : u"status mp3 mode";
-    if (sound::Reports(run.app, question, u"playing")) {
-        int level = sound::kFullVolume - state.Mp3VolumeOffset;
-        while (level >= 0 && state.SoundOpen == 1) {
-            level -= step;
-            sound::SendVolume(run.app, level);
-            run.app.platform.loop.Sleep(kFadePassMs);
-            run.app.platform.loop.PumpEvents();
-            if (Stopping(state)) {
-                return Flow::Stop;
-            }
-        }
+    if (!sound::FadeOut(run.app, FadeStep(seconds))) {
+        return Flow::Stop;
     }
-    sound::StopSound(run.app);
     state.SoundVolumeRestart = 1;
     state.RestartSoundMacro = 1;
     return Flow::GoOn;

@@ -1,6 +1,7 @@
 #include "playback/full_screen.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "macro/macro.h"
 #include "macro/telop.h"
@@ -44,6 +45,18 @@ void FitToScreenAnew(Application& app) {
     picture::ReleaseEffectContext(app);
     picture::RefitHeldPicture(app, true);
     picture::CreateEffectContext(app);
+}
+
+/// Sound plays on without a gap; that of a running show stays as macros and videos left it.
+void ResetRunUnderSound(Application& app) {
+    model::ShowState& state = app.state;
+    const auto kept = std::make_tuple(state.RestartSoundFlag, state.RestartSoundMacro,
+                                      state.Mp3VolumeOffset, state.SoundListStarted);
+    ResetRunFields(app);
+    if (state.ShowRunning == 1) {
+        std::tie(state.RestartSoundFlag, state.RestartSoundMacro, state.Mp3VolumeOffset,
+                 state.SoundListStarted) = kept;
+    }
 }
 
 /// A show that ran in the main window, running or paused, moves to the full screen.
@@ -335,8 +348,12 @@ void Command4_Click(Application& app) {
     }
     ShowFileEntries(app, false);
     app.windows.form1.Timer1.Enabled = false;
-    ResetRun(app);
     const bool idle = state.SlideIndex == 0;
+    if (idle) {
+        ResetRun(app);
+    } else {
+        ResetRunUnderSound(app);
+    }
     if (!idle && state.ShowRunning == 0) {
         state.StartLatch = 0;  // a paused show stays paused: START must work when it comes back
     }

@@ -23,6 +23,10 @@ bool LoadLinkEntry(Application& app) {
     macro::ResetShowSettings(app);
     state.SlideIndex = 0;
     state.ShowRunning = 0;
+    // The document's own sound begins with it: what the one before left to be started anew would
+    // be started twice.
+    state.RestartSoundFlag = 0;
+    state.RestartSoundMacro = 0;
     state.SlideList.Erase();
     const model::ListBox& list = app.windows.form3.List1;
     for (int row = 0; row < list.ListCount(); ++row) {

@@ -248,7 +248,7 @@ Next ShowEntry(Application& app) {
     const bool isVideo = text::IsVideoKind(path);
     state.LinkedMediaPath = document::LinkedName(app, path, u"mp3");
     if (!FadeBeforeLinkedMedia(app, isVideo)) {
-        return Next::Leave;
+        return Next::End;
     }
     return isVideo ? ShowVideo(app) : ShowPicture(app);
 }

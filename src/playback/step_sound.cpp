@@ -10,7 +10,6 @@ namespace playback {
 namespace {
 
 constexpr int kSyncPollMs = 10;
-constexpr int kFadePollMs = 100;
 constexpr int kFadeStep = 20;
 
 /// The default sound's path, empty where none is set.
@@ -67,12 +66,13 @@ void StartMainChannel(Application& app) {
             break;
     }
     if (!app.platform.files.Exists(path)) {
+        // A later picture with the linked sound of before starts it again, and the default sound
+        // is heard at every picture.
+        state.LastSoundFile.clear();
         const bool takesDefault = state.SoundMode == 1 || state.SoundMode == 2;
         path = takesDefault ? DefaultSound(state) : Text();
         if (path.empty() || !app.platform.files.Exists(path)) {
-            // What plays goes on; a later picture with the same sound starts it again.
-            state.LastSoundFile.clear();
-            return;
+            return;  // what plays goes on
         }
     }
     if (state.SoundMode != 0 && path == state.LastSoundFile) {
@@ -129,20 +129,12 @@ bool FadeBeforeLinkedMedia(Application& app, bool isVideo) {
     if (!beforeMp3 && !beforeVideo) {
         return true;
     }
-    const TextView question = state.SoundMode == 6 ? u"status wav mode" : u"status mp3 mode";
-    if (sound::Reports(app, question, u"playing")) {
-        int volume = sound::kFullVolume - state.Mp3VolumeOffset;
-        while (volume >= 0 && state.SoundOpen == 1) {
-            volume -= kFadeStep;
-            sound::SendVolume(app, volume);
-            app.platform.loop.Sleep(kFadePollMs);
-            app.platform.loop.PumpEvents();
-            if (state.StopRequest == 1 || state.FullScreenClosed == 1) {
-                return false;
-            }
-        }
+    if (!sound::FadeOut(app, kFadeStep)) {
+        return false;
     }
-    sound::StopSound(app);
+    if (beforeVideo) {
+        state.RestartSoundFlag = 1;
+    }
     return true;
 }
 
@@ -190,6 +182,8 @@ void RestartBackgroundSound(Application& app) {
     const bool background = mode == 3 || mode == 4 || mode == 6 || mode == 8;
     const bool wanted =
         state.SoundPlaying == 1 || state.RestartSoundFlag == 1 || state.RestartSoundMacro == 1;
+    // The second channel's sound must not hide that an entry of the list could not be played.
+    const bool nextOfList = mode == 6 && state.SoundListNext == 1;
     if (background && wanted && state.SoundPaused == 0) {
         state.SoundListNext = 0;
         if (RunsForward(app)) {
@@ -199,7 +193,8 @@ void RestartBackgroundSound(Application& app) {
             // Kept: the first letter is not compared.
             const bool ended =
                 text::Mid(app.platform.sound.MciSendString(question), 2, 6) == u"topped";
-            if (ended || state.RestartSoundFlag == 1 || state.RestartSoundMacro == 1) {
+            if (ended || nextOfList || state.RestartSoundFlag == 1 ||
+                state.RestartSoundMacro == 1) {
                 sound::StopSound(app);
                 sound::StartSound(app);
                 state.RestartSoundFlag = 0;
@@ -230,7 +225,7 @@ void StartShowSound(Application& app) {
         return;
     }
     state.SkipSyncWaitOnce = 1;
-    if (state.SoundMode != 0) {
+    if (!sound::PlaysPerPicture(state)) {
         sound::StartSound(app);
     }
 }

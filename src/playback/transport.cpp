@@ -182,7 +182,7 @@ void EnableShowMenus(Application& app, bool enabled) {
     }
 }
 
-void ResetRun(Application& app) {
+void ResetRunFields(Application& app) {
     model::ShowState& state = app.state;
     state.LinkedWavPath.clear();
     state.LinkedMediaPath.clear();
@@ -197,6 +197,10 @@ void ResetRun(Application& app) {
     macro::ResetShowSettings(app);
     TakeShowDate(app);
     state.StartLatch = 1;
+}
+
+void ResetRun(Application& app) {
+    ResetRunFields(app);
     sound::StopSound(app);
 }
 

@@ -18,7 +18,9 @@ void ShowFileEntries(Application& app, bool visible);
 /// The menus that are off while a show runs.
 void EnableShowMenus(Application& app, bool enabled);
 
-/// What START and the full screen reset before a run.
+/// What START and the full screen reset before a run, sound aside.
+void ResetRunFields(Application& app);
+/// The same, and stops all sound.
 void ResetRun(Application& app);
 
 /// Everything STOP clears of the run: flags, indexes, a macro's text origin, Timer1, preview.

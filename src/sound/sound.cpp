@@ -62,19 +62,28 @@ Text NextOfList(Application& app) {
     return state.SoundList(state.SoundListPos);
 }
 
+bool OnVideo(const model::ShowState& state) {
+    return text::IsVideoKind(state.SlideList(state.SlideIndex));
+}
+
+/// Beside a video the sound list and the background MP3 give way to its linked sound.
+bool GivesWayToVideo(const model::ShowState& state) {
+    return (state.SoundMode == 6 || state.SoundMode == 8) && OnVideo(state);
+}
+
 Text FileOfMode(Application& app) {
     model::ShowState& state = app.state;
     const int16_t mode = state.SoundMode;
-    const bool video = text::IsVideoKind(state.SlideList(state.SlideIndex));
-    if (video && (mode == 1 || mode == 6 || mode == 8)) {
+    if (GivesWayToVideo(state)) {
         return state.LinkedWavPath;
     }
     switch (mode) {
         case 0:
             return state.AppFolder + u"vue1.wav";
         case 1:
+            return state.LinkedWavPath;
         case 2:
-            return video ? Text() : state.LinkedWavPath;
+            return OnVideo(state) ? Text() : state.LinkedWavPath;
         case 3:
             return state.WavFile;
         case 4:
@@ -109,13 +118,13 @@ void Complain(Application& app, const Text& path) {
     }
 }
 
-/// A file of another kind opens nothing. `alias` empty: the kind's own.
-void Open(Application& app, const Text& path, const Text& alias) {
+/// False for a file of another kind, which opens nothing. `alias` empty: the kind's own.
+bool Open(Application& app, const Text& path, const Text& alias) {
     const Text extension = text::KindOf(path);
     const auto* kind = std::find_if(std::begin(kKinds), std::end(kKinds),
                                     [&](const Kind& one) { return extension == one.extension; });
     if (kind == std::end(kKinds)) {
-        return;
+        return false;
     }
     const Text name = alias.empty() ? Text(kind->alias) : alias;
     platform::Sound& device = app.platform.sound;
@@ -130,6 +139,7 @@ void Open(Application& app, const Text& path, const Text& alias) {
                              text::Str(kFullVolume - app.state.Mp3VolumeOffset));
     }
     app.state.SoundOpen = 1;
+    return true;
 }
 
 void ClearTelop(Application& app) {
@@ -172,10 +182,14 @@ void StartSound(Application& app) {
     state.SoundPreviewFlag = 0;
     state.LinkedWavPath.clear();
     state.LinkedMediaPath.clear();
-    const bool fromList = state.SoundMode == 6 && !preview;
+    const bool givesWay = !preview && GivesWayToVideo(state);
+    if (givesWay) {
+        state.RestartSoundFlag = 1;
+    }
+    // What cannot be played of the list costs one picture.
+    const bool fromList = state.SoundMode == 6 && !preview && !givesWay && state.SoundListCount > 0;
     if (path.empty() || !app.platform.files.Exists(path)) {
-        // The list goes on with the next picture.
-        state.SoundListNext = fromList && !path.empty() ? 1 : 0;
+        state.SoundListNext = fromList ? 1 : 0;
         return;
     }
     if (!CanBeRead(app, path)) {
@@ -190,7 +204,10 @@ void StartSound(Application& app) {
     }
     state.SoundPlaying = 1;
     // Whoever previews asks "wav", whatever the mode.
-    Open(app, path, preview || state.SoundMode == 6 ? Text(u"wav") : Text());
+    const Text alias = preview || state.SoundMode == 6 ? Text(u"wav") : Text();
+    if (!Open(app, path, alias) && fromList) {
+        state.SoundListNext = 1;
+    }
 }
 
 void StopSound(Application& app) {

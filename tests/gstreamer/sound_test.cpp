@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "gstreamer/gstreamer_support.h"
+#include "support/sound_files.h"
 
 namespace {
 
@@ -225,6 +226,31 @@ TEST(GstSoundFormats, GarbageStops) {
     studio.Open("a.mp3", "MPEGVideo", "mp3");
     studio.Send("play mp3 from 1");
     EXPECT_TRUE(Eventually([&] { return studio.Mode("mp3") != "playing"; }));
+}
+
+media::Fate FateOf(const media::SoundFile& file, const std::string& type) {
+    Studio studio({"testsink"});
+    if (file.name == std::string("folder")) {
+        std::filesystem::create_directory(studio.folder.Path(file.name));
+    } else if (file.name != std::string("gone")) {
+        studio.Write(file.name, file.bytes);
+    }
+    studio.Open(file.name, type, "wav");
+    if (studio.Mode("wav").empty()) {
+        return media::Fate::NotOpened;
+    }
+    studio.Send("play wav from 1");
+    EXPECT_TRUE(studio.Stops("wav"));
+    return SeenByTestSink().samples.empty() ? media::Fate::Stopped : media::Fate::Plays;
+}
+
+TEST(GstSoundFormats, WhatBecomesOfDamagedFiles) {
+    for (const media::SoundFile& file : media::SoundFiles()) {
+        SCOPED_TRACE(file.name);
+        EXPECT_EQ(FateOf(file, "waveaudio"), file.waveaudio);
+        EXPECT_EQ(FateOf(file, "sequencer"), file.sequencer);
+        EXPECT_EQ(FateOf(file, "MPEGVideo"), file.mpegVideo);
+    }
 }
 
 TEST(GstSoundFormats, AbsurdRatesAreRefused) {

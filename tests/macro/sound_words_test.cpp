@@ -215,6 +215,7 @@ TEST_F(SoundWords, FadeGivesUpWhenTheShowStops) {
         EXPECT_EQ(Now(), start + 300);
         EXPECT_EQ(state.RestartSoundMacro, 0);
         EXPECT_EQ(state.SoundOpen, 1) << "whoever stops the show stops it";
+        EXPECT_EQ(fake.sound.commands.back(), u"setaudio mp3 volume to 1000");
         EXPECT_EQ(form1.Picture1.canvas.penX, 0);
         state.*flag = 0;
     }

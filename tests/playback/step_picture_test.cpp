@@ -281,8 +281,8 @@ TEST(StepVideo, LinkedSoundBesideIt) {
         int16_t restart;
     };
     for (const Setting& setting : {Setting{1, 0, 0, u"wav", 0},
-                                   {6, 1, 0, u"wav", 0},
-                                   {8, 0, 1, u"wav", 0},
+                                   {6, 1, 0, u"wav", 1},
+                                   {8, 0, 1, u"wav", 1},
                                    {9, 0, 0, u"mp3", 0},
                                    {6, 0, 0, nullptr, 1},
                                    {8, 0, 0, nullptr, 1},

@@ -120,7 +120,10 @@ TEST(StepFade, AStopOrAClosedScreenLeavesAtOnce) {
         FadeShow show;
         show.loop.At(250, [&] { show.state.*flag = 1; });
         show.Step(2);
-        EXPECT_EQ(show.CommandsFrom(u"setaudio").size(), 3u);
+        // Three steps down; what still plays has its volume back.
+        const Texts sent = show.CommandsFrom(u"setaudio");
+        ASSERT_EQ(sent.size(), 4u);
+        EXPECT_EQ(sent.back(), u"setaudio mp3 volume to 1000");
         EXPECT_EQ(show.Shown(), Numbers{});
         EXPECT_TRUE(show.imaging.log.empty());
     }
@@ -462,6 +465,21 @@ TEST(StepMainChannel, TwoPicturesWithTheSameSoundPlayItOnce) {
     show.Step(3);
     EXPECT_TRUE(show.sound.commands.empty()) << "it is not even stopped";
     EXPECT_EQ(show.state.SoundPlaying, 1);
+}
+
+TEST(StepMainChannel, TheDefaultSoundIsHeardAtEveryPicture) {
+    for (const int16_t mode : {1, 2}) {
+        Show show;
+        show.state.SoundMode = mode;
+        show.state.CdPlusLinkedWav = 0;
+        show.state.DefaultEffectSound = u"ding.wav";
+        show.files.Put(u"C:\\app\\ding.wav", "sound");
+        for (int slide = 1; slide <= 3; ++slide) {
+            show.Step(slide);
+            EXPECT_EQ(Opened(show), static_cast<size_t>(slide)) << mode;
+            EXPECT_EQ(show.CommandsFrom(u"play wav from 1").size(), static_cast<size_t>(slide));
+        }
+    }
 }
 
 TEST(StepMainChannel, BehindAPictureWithoutOneTheSameSoundPlaysAgain) {

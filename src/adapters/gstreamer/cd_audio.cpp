@@ -106,7 +106,7 @@ CdAudio::CdAudio(OpenDisc openDisc, std::string device, std::shared_ptr<AudioOut
       output_(std::move(output)),
       loop_(loop) {}
 
-Text CdAudio::Send(const Command& command) {
+Text CdAudio::Send(const platform::SoundCommand& command) {
     if (command.verb == u"open") {
         Open();
     } else if (!shared_) {
@@ -116,7 +116,7 @@ Text CdAudio::Send(const Command& command) {
     } else if (command.verb == u"set") {
         byTracks_ = command.rest == u"time format tmsf";
     } else if (command.verb == u"setaudio" && command.rest.starts_with(u"volume to ")) {
-        const int volume = WholeNumber(TextView(command.rest).substr(10), -1);
+        const int volume = platform::WholeNumber(TextView(command.rest).substr(10), -1);
         if (volume >= 0 && volume <= kFullVolume) {
             volume_ = static_cast<double>(volume) / kFullVolume;
             if (player_) {
@@ -212,7 +212,7 @@ int CdAudio::SectorOf(TextView position) const {
     Text rest = text::Trim(position);
     for (int part = first; part < 4; ++part) {
         const size_t colon = rest.find(u':');
-        parts[part] = WholeNumber(rest.substr(0, colon), -1);
+        parts[part] = platform::WholeNumber(rest.substr(0, colon), -1);
         if (parts[part] < 0 || parts[part] > 99) {
             return -1;
         }

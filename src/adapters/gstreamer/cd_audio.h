@@ -5,10 +5,10 @@
 #include <string>
 
 #include "adapters/gstreamer/audio_output.h"
-#include "adapters/gstreamer/command.h"
 #include "adapters/gstreamer/disc.h"
 #include "adapters/gstreamer/player.h"
 #include "platform/event_loop.h"
+#include "platform/sound_command.h"
 
 namespace gst_adapter {
 
@@ -20,7 +20,7 @@ public:
             platform::EventLoop& loop);
 
     /// A command whose device is cdaudio; answers its status text, or nothing.
-    Text Send(const Command& command);
+    Text Send(const platform::SoundCommand& command);
 
 private:
     struct Shared;

@@ -49,7 +49,7 @@ GstSound::~GstSound() {
 }
 
 Text GstSound::MciSendString(TextView text) {
-    const Command command = ParseCommand(text);
+    const platform::SoundCommand command = platform::ParseSoundCommand(text);
     if (command.device == u"cdaudio" && command.file.empty()) {
         return cd_.Send(command);
     }
@@ -68,7 +68,7 @@ Text GstSound::MciSendString(TextView text) {
     return Send(*found->second, command);
 }
 
-void GstSound::Open(const Command& command) {
+void GstSound::Open(const platform::SoundCommand& command) {
     for (const TypeRow& row : kTypes) {
         if (command.type != row.type || command.device.empty() ||
             players_.contains(command.device)) {
@@ -83,14 +83,14 @@ void GstSound::Open(const Command& command) {
     }
 }
 
-Text GstSound::Send(Player& player, const Command& command) {
+Text GstSound::Send(Player& player, const platform::SoundCommand& command) {
     if (command.verb == u"play" && command.rest.starts_with(u"from ")) {
         // The only place that is ever asked for is 1, the first sample or millisecond.
         player.Play();
     } else if (command.verb == u"stop") {
         player.Stop();
     } else if (command.verb == u"setaudio" && command.rest.starts_with(u"volume to ")) {
-        const int volume = WholeNumber(TextView(command.rest).substr(10), -1);
+        const int volume = platform::WholeNumber(TextView(command.rest).substr(10), -1);
         if (volume >= 0 && volume <= kFullVolume) {
             player.SetVolume(static_cast<double>(volume) / kFullVolume);
         }

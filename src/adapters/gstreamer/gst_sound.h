@@ -42,8 +42,8 @@ public:
     void SndPlaySound(const std::optional<Text>& file, int flags) override;
 
 private:
-    void Open(const Command& command);
-    Text Send(Player& player, const Command& command);
+    void Open(const platform::SoundCommand& command);
+    Text Send(Player& player, const platform::SoundCommand& command);
 
     platform::Files& files_;
     platform::EventLoop& loop_;

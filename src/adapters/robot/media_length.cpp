@@ -177,7 +177,7 @@ double MidiMilliseconds(std::string_view bytes) {
 }
 
 struct Mp3Frame {
-    size_t bytes = 0;  // 0: no frame
+    size_t bytes = 0;  // 0: no whole frame
     double milliseconds = 0;
 };
 
@@ -207,8 +207,10 @@ Mp3Frame FrameAt(std::string_view bytes, size_t at) {
     const int samples = layer == 1 ? 384 : layer == 3 && !first ? 576 : 1152;
     const int padding = static_cast<int>(head >> 9 & 1) * (layer == 1 ? 4 : 1);
     const int length =
-        layer == 1 ? samples / 32 * rate / 8 / hertz * 4 : samples / 8 * rate / hertz;
-    return {static_cast<size_t>(length + padding), 1000.0 * samples / hertz};
+        (layer == 1 ? samples / 32 * rate / 8 / hertz * 4 : samples / 8 * rate / hertz) + padding;
+    const auto frameBytes = static_cast<size_t>(length);
+    return frameBytes <= bytes.size() - at ? Mp3Frame{frameBytes, 1000.0 * samples / hertz}
+                                           : Mp3Frame{};
 }
 
 /// A tag in front: its length stands in four times seven bits.

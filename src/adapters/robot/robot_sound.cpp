@@ -13,80 +13,49 @@ using TraceValue = decltype(platform::TraceField::value);
 constexpr int kAsynchronous = 1;
 constexpr int kWaitPollMs = 10;
 
-/// Words parted by blanks; what stands in quotes is one word, without them.
-std::vector<Text> WordsOf(TextView command) {
-    std::vector<Text> words;
-    size_t at = 0;
-    while (at < command.size()) {
-        if (command[at] == u' ') {
-            ++at;
-            continue;
-        }
-        const bool quoted = command[at] == u'"';
-        const size_t first = quoted ? at + 1 : at;
-        const size_t last = std::min(command.find(quoted ? u'"' : u' ', first), command.size());
-        words.emplace_back(command.substr(first, last - first));
-        at = last + (quoted ? 1 : 0);
-    }
-    return words;
-}
-
-bool Fits(const Text& type, MediaKind kind) {
-    return type == u"WAVEAUDIO"   ? kind == MediaKind::Wav
-           : type == u"SEQUENCER" ? kind == MediaKind::Midi
-                                  : type == u"MPEGVIDEO" && kind != MediaKind::Midi;
-}
+constexpr TextView kMidiType = u"sequencer";
+constexpr TextView kTypes[] = {u"waveaudio", kMidiType, u"MPEGVideo"};
 
 }  // namespace
 
 Text RobotSound::MciSendString(TextView command) {
-    const Text result = Answer(WordsOf(command));
+    const Text result = Answer(platform::ParseSoundCommand(command));
     trace_.Event("mci", {{"command", Text(command)}, {"result", result}});
     return result;
 }
 
-Text RobotSound::Answer(const std::vector<Text>& words) {
-    if (words.size() < 2) {
+Text RobotSound::Answer(const platform::SoundCommand& command) {
+    if (command.verb == u"open") {
+        Open(command);
         return {};
     }
-    const Text verb = text::Upper(words[0]);
-    if (verb == u"OPEN") {
-        Open(words);
-        return {};
-    }
-    const auto found = pieces_.find(text::Upper(words[1]));
+    const auto found = pieces_.find(command.device);
     if (found == pieces_.end()) {
         return {};
     }
     Piece& piece = found->second;
-    if (verb == u"PLAY") {
-        const bool fromStart = words.size() > 3 && text::Upper(words[2]) == u"FROM";
-        piece.started = loop_.Milliseconds() - (fromStart ? 0 : piece.position);
-        piece.playing = true;
-    } else if (verb == u"STOP" && piece.playing) {
-        piece.position = std::min(loop_.Milliseconds() - piece.started, piece.milliseconds);
-        piece.playing = false;
-    } else if (verb == u"CLOSE") {
+    if (command.verb == u"play" && command.rest.starts_with(u"from ")) {
+        piece.ends = loop_.Milliseconds() + piece.milliseconds;
+    } else if (command.verb == u"stop") {
+        piece.ends = 0;
+    } else if (command.verb == u"close") {
         pieces_.erase(found);
-    } else if (verb == u"STATUS" && words.size() > 2 && text::Upper(words[2]) == u"MODE") {
-        return StillPlays(piece) ? u"playing" : u"stopped";
+    } else if (command.verb == u"status" && command.rest == u"mode") {
+        return loop_.Milliseconds() < piece.ends ? u"playing" : u"stopped";
     }
     return {};
 }
 
-/// open FILE type TYPE alias NAME
-void RobotSound::Open(const std::vector<Text>& words) {
-    if (words.size() != 6 || !files_ || pieces_.contains(text::Upper(words[5]))) {
+void RobotSound::Open(const platform::SoundCommand& command) {
+    const bool known =
+        std::find(std::begin(kTypes), std::end(kTypes), command.type) != std::end(kTypes);
+    if (!known || command.device.empty() || !files_ || !files_->Find(command.file) ||
+        pieces_.contains(command.device)) {
         return;
     }
-    const std::optional<MediaLength> length = LengthOfMediaFile(*files_, words[1]);
-    if (length && Fits(text::Upper(words[3]), length->kind)) {
-        pieces_[text::Upper(words[5])].milliseconds = length->milliseconds;
-    }
-}
-
-bool RobotSound::StillPlays(const Piece& piece) const {
-    return piece.playing && loop_.Milliseconds() - piece.started < piece.milliseconds;
+    const std::optional<MediaLength> length = LengthOfMediaFile(*files_, command.file);
+    const bool plays = length && (command.type != kMidiType || length->kind == MediaKind::Midi);
+    pieces_[command.device].milliseconds = plays ? length->milliseconds : 0;
 }
 
 void RobotSound::SndPlaySound(const std::optional<Text>& file, int flags) {

@@ -6,13 +6,15 @@
 #include "platform/event_loop.h"
 #include "platform/files.h"
 #include "platform/sound.h"
+#include "platform/sound_command.h"
 #include "platform/trace.h"
 
 namespace robot {
 
 /// Traces every command (event "mci": command, result; "sndPlaySound": file or null, flags).
-/// Understood are: open "FILE" type TYPE alias NAME (a file that is of the type and tells its
-/// length), play NAME [from N], stop NAME, close NAME, status NAME mode ("playing" or "stopped").
+/// Understood are: open "FILE" type TYPE alias NAME, play NAME from 1, stop NAME, close NAME,
+/// status NAME mode ("playing" or "stopped"). Every file that exists can be opened; what cannot be
+/// played, or does not tell its length, is "stopped" as soon as it plays.
 /// Everything else answers with the empty text, as there is no CD drive. A sound that is played
 /// synchronously lets its length pass, with the loop pumping.
 class RobotSound : public platform::Sound {
@@ -28,19 +30,16 @@ public:
 private:
     struct Piece {
         double milliseconds = 0;
-        double position = 0;  // ms from the beginning, where it stood when it was stopped
-        double started = 0;   // ms of the loop, where it plays
-        bool playing = false;
+        double ends = 0;  // ms of the loop; over: it does not play
     };
 
-    Text Answer(const std::vector<Text>& words);
-    void Open(const std::vector<Text>& words);
-    bool StillPlays(const Piece& piece) const;
+    Text Answer(const platform::SoundCommand& command);
+    void Open(const platform::SoundCommand& command);
 
     platform::Trace& trace_;
     platform::EventLoop& loop_;
     platform::Files* files_ = nullptr;
-    std::map<Text, Piece> pieces_;  // by alias, in upper case
+    std::map<Text, Piece> pieces_;  // by alias
     int played_ = 0;                // sounds that SndPlaySound has begun or ended
 };
 

@@ -1,6 +1,6 @@
-#include "adapters/gstreamer/command.h"
+#include "platform/sound_command.h"
 
-namespace gst_adapter {
+namespace platform {
 
 namespace {
 
@@ -15,12 +15,12 @@ Text TakeWord(TextView& rest) {
 }
 
 /// `"file" type T alias A`, the quotes included.
-Command ParseFileOpening(TextView rest) {
-    const size_t quote = rest.find(u'"', 1);
-    if (quote == TextView::npos) {
+SoundCommand ParseFileOpening(TextView rest) {
+    const size_t quote = rest.rfind(u'"');
+    if (quote == 0) {
         return {};
     }
-    Command command;
+    SoundCommand command;
     command.verb = u"open";
     command.file = Text(rest.substr(1, quote - 1));
     rest.remove_prefix(quote + 1);
@@ -37,8 +37,8 @@ Command ParseFileOpening(TextView rest) {
 
 }  // namespace
 
-Command ParseCommand(TextView text) {
-    Command command;
+SoundCommand ParseSoundCommand(TextView text) {
+    SoundCommand command;
     command.verb = TakeWord(text);
     const Text rest = text::Trim(text);
     if (command.verb == u"open" && rest.starts_with(u'"')) {
@@ -65,4 +65,4 @@ int WholeNumber(TextView value, int otherwise) {
     return number;
 }
 
-}  // namespace gst_adapter
+}  // namespace platform

@@ -1,13 +1,11 @@
-// The command strings, taken apart.
+// The command strings of platform::Sound, taken apart for its devices.
 #pragma once
-
-#include <string>
 
 #include "text/text.h"
 
-namespace gst_adapter {
+namespace platform {
 
-struct Command {
+struct SoundCommand {
     Text verb;    // open, set, setaudio, play, status, stop, close
     Text device;  // the alias; of an opening, the alias that it gives
     Text rest;    // what follows the alias, without blanks around it
@@ -16,12 +14,13 @@ struct Command {
     Text type;  // waveaudio, sequencer, MPEGVideo
 };
 
-/// Words are compared as they stand, capitals included. An opening that is not of the known form,
-/// or is without a closing quote, gives an empty verb.
-Command ParseCommand(TextView command);
+/// Words are compared as they stand, capitals included. A file's name ends at the last quote, as it
+/// may hold quotes itself. An opening that is not of the known form, or is without a closing quote,
+/// gives an empty verb.
+SoundCommand ParseSoundCommand(TextView command);
 
 /// A whole number that is all of `value` but blanks ahead of it; `otherwise` where it is none or
 /// does not fit.
 int WholeNumber(TextView value, int otherwise);
 
-}  // namespace gst_adapter
+}  // namespace platform
