@@ -51,6 +51,9 @@ Documents with sound (all without repetition):
   mp3.kvs       a b c, linked MP3
   list.kvs      a b c d e, sound list b.wav, gone.wav, a.mid
   over.kvs      a b, MP3 c.mp3 with linked WAV on top
+  over_list.kvs a b c d, sound list b.wav, gone.wav, back.wav, linked WAV on top, does not wait
+  over_fade.kvs as fade.kvs, linked WAV on top
+  quoted.kvs    quo"te.png b, linked WAV, waits for its end; quo"te.wav has 5000 ms
   garbled.kvs   a b, no_sound.wav behind them
   film.kvs      a film.mp4 b
   no_film.kvs   a gone.mp4 b
@@ -130,7 +133,7 @@ def mp4(milliseconds):
 
 def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1,
                   effects=(11, 12), sound=7, wav_file="", midi_file="", mp3_file="", sync=0,
-                  sounds=(), over_mp3=0):
+                  sounds=(), over_mp3=0, over_list=0):
     """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
     def number(value):
         return (f" {value}" if value >= 0 else str(value)) + " "
@@ -145,7 +148,7 @@ def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_f
     # mode, always full screen (0 is on), speed, load mode, two linked WAV options.
     after = ["480", *map(number, (0, 0, 0, 0, 1, 0, 0, 0, 1 if sounds else 0)),
              *([number(len(sounds)), *sounds] if sounds else []), number(0), mp3_file,
-             *map(number, (1 if sound == 8 else 0, always_full, 0, 0, over_mp3, 0))]
+             *map(number, (1 if sound == 8 else 0, always_full, 0, 0, over_mp3, over_list))]
     return before + list(slides) + after + ["-" + row for row in rows]
 
 
@@ -325,6 +328,7 @@ def main():
     files["a.mid"] = midi(4)
     files["a.mp3"] = files["c.mp3"] = mp3(768)
     files["no_sound.wav"] = files["bad.mp4"] = files["text.jpg"]
+    files["quo\"te.png"], files["quo\"te.wav"] = files["a.png"], files["a.wav"]
     files["film.mp4"] = mp4(2500)
     shows = {
         "common": (five[:3], {"sound": 0}),
@@ -339,6 +343,11 @@ def main():
         "film": (["a.png", "film.mp4", "b.png"], {}),
         "no_film": (["a.png", "gone.mp4", "b.png"], {}),
         "bad_film": (["a.png", "bad.mp4", "b.png"], {}),
+        "over_list": (five[:4], {"sound": 6, "sync": 1, "over_list": 1,
+                                 "sounds": ["b.wav", "gone.wav", "back.wav"]}),
+        "over_fade": (["a.png", "film.mp4", "b.png"],
+                      {"sound": 6, "sync": 1, "over_list": 1, "sounds": ["c.mp3"]}),
+        "quoted": (["quo\"te.png", "b.png"], {"sound": 1}),
         "fade": (["a.png", "film.mp4", "b.png"], {"sound": 6, "sync": 1, "sounds": ["c.mp3"]}),
     }
     for name, (slides, settings) in shows.items():
