@@ -235,6 +235,21 @@ TEST(SoundWalk, AFilmFirstInTheWindowAndInTheFullScreen) {
     }
 }
 
+TEST(SoundWalk, TheBoxStartsOntoAFilm) {
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.mode);
+        SoundShow show(row.mode);
+        show.MakeFilm(2);
+        show.state.ControlBoxFlag = 0;
+        show.Start();
+        show.form1.Command4.Click();
+        show.box.Command3.Click();
+        show.box.Command2.Click();
+        show.RunTo(3);
+        EXPECT_EQ(show.HeardNow(), row.afterFilm);
+    }
+}
+
 TEST(SoundWalk, RoundAgainAfterTheLastSlide) {
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.mode);
@@ -361,9 +376,11 @@ TEST(SoundWalk, EscapeInAFadeGivesThePieceItsVolumeBack) {
 /// Two documents in a chain, with sounds beside every slide.
 class ChainShow : public SoundShow {
 public:
-    ChainShow(const std::string& mode, const Texts& firstSlides) : SoundShow(mode, 0) {
+    ChainShow(const std::string& mode, const Texts& firstSlides,
+              const Texts& secondSlides = {u"1.png"})
+        : SoundShow(mode, 0) {
         PutDocument(u"a", firstSlides);
-        PutDocument(u"b", {u"1.png"});
+        PutDocument(u"b", secondSlides);
         state.LinkEnd = 3;
         state.LinkRunning = 1;
         state.ControlBoxFlag = 0;
@@ -377,6 +394,10 @@ public:
             loop.Run(100);
         }
         ASSERT_EQ(state.BaseFolder, u"C:\\b\\");
+    }
+    /// The list goes on with its next entry.
+    std::string InSecond(const std::string& heard) const {
+        return state.SoundMode == 6 ? "l2" + heard.substr(2) : heard;
     }
 
 private:
@@ -408,12 +429,20 @@ TEST(SoundWalk, OverTheBorderOfAChain) {
             ASSERT_EQ(show.state.BaseFolder, u"C:\\a\\");
             EXPECT_EQ(show.HeardNow(), row.first);
             show.RunToSecond();
-            // The list goes on with its next entry.
-            const std::string heard =
-                show.state.SoundMode == 6 ? "l2" + std::string(row.first).substr(2) : row.first;
-            EXPECT_EQ(show.HeardNow(), heard);
+            EXPECT_EQ(show.HeardNow(), show.InSecond(row.first));
             EXPECT_EQ(show.state.SoundListPos, show.state.SoundMode == 6 ? 2 : 0);
         }
+    }
+}
+
+TEST(SoundWalk, OverTheBorderOfAChainOntoAFilm) {
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.mode);
+        ChainShow show(row.mode, {u"1.png"}, {u"1.mp4", u"2.png"});
+        show.Run();
+        show.RunToSecond();
+        show.RunTo(2);
+        EXPECT_EQ(show.HeardNow(), show.InSecond(row.afterFirst));
     }
 }
 
