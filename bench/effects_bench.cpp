@@ -15,6 +15,7 @@
 namespace {
 
 constexpr platform::Size kFullHd{1920, 1080};
+constexpr platform::Rect kWholeScreen{0, 0, kFullHd.width, kFullHd.height};
 constexpr double kAllowedLengthRatio = 1.02;
 constexpr double kAllowedWipeCores = 0.5;
 
@@ -79,8 +80,9 @@ int main(int argc, char** argv) {
     double worstWipe = 0;
     for (int number = 0; number < picture::kEffectCount; ++number) {
         const double cores = CoresOf(app, number, trace);
-        const double nominal =
-            picture::PlanEffect(number, {}, false, kFullHd, [] { return 0.0; }).Length();
+        const double nominal = picture::PlanEffect(number, {}, false, kFullHd, kWholeScreen, [] {
+                                   return 0.0;
+                               }).Length();
         const double ratio = trace.milliseconds / nominal;
         std::printf("effect %d: %.0f ms of %.0f nominal (%.4f), %.2f cores\n", number,
                     trace.milliseconds, nominal, ratio, cores);

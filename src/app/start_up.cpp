@@ -136,7 +136,7 @@ bool StartsByItself(const Application& app) {
 
 void StartInFullScreen(Application& app) {
     model::ShowState& state = app.state;
-    state.SlideListEnd = static_cast<int16_t>(app.windows.form3.List1.ListCount() + 1);
+    state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
     state.SplashDone = 1;
     picture::SizePreview(app);
     app.windows.form1.Hide();
@@ -163,11 +163,10 @@ void Form1_Load(Application& app, bool roomy) {
     }
     ReadCommandLineDocument(app);
     document::FollowAllSettings(app);
-    const int slides = app.windows.form3.List1.ListCount();
-    if (slides > 0) {
+    if (app.windows.form3.List1.ListCount() > 0) {
         app.windows.form1.Command1.Enabled = true;
         app.windows.form1.Command4.Enabled = true;
-        state.SlideListEnd = static_cast<int16_t>(slides + 1);
+        state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
     }
     TakeLinkListAtStart(app);
     // Decoded while the windows are built.

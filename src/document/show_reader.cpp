@@ -65,7 +65,7 @@ private:
     LineReader reader_;
     Text tag_;
     int32_t slideCount_ = 0;
-    // For each slide of the file its row in the window's lists; -1 for one that was dropped.
+    // For each slide of the file its row in the window's lists; -1 for one that they leave out.
     std::vector<int> rowOfSlide_;
     bool carriedSoundList_ = false;
 };
@@ -183,7 +183,7 @@ void ShowReader::ReadSlides() {
         if (!state_.SlideList.Set(i, path)) {
             throw ReadFailure{};
         }
-        // Kept: dropped from the windows' lists only, the array and its end still count them.
+        // Kept: left out of the window's lists only, the array and its end still count them.
         if (text::KindOf(path) == u"AVI") {
             rowOfSlide_.push_back(-1);
             continue;
@@ -199,7 +199,6 @@ void ShowReader::ReadOverlay() {
         ConvertOldSpeeds();
         state_.OverlayMode = 0;
         state_.OverlaySize = 0;
-        app_.windows.slidescreen.P2.BackColor = 0;
         return;
     }
     reader_.Number();  // always 480
@@ -241,9 +240,12 @@ void ShowReader::ReadScreenSettings() {
 
 void ShowReader::LayScreenGround() {
     auto& screen = app_.windows.slidescreen;
+    state_.PreviousPictureOnScreen = 0;
     if (state_.OverlayMode == 0) {
-        screen.P2.BackColor = 0;
-        screen.P2.Cls();
+        for (model::PictureBox* layer : {&screen.P2, &screen.P3, &screen.P4}) {
+            layer->BackColor = 0;
+            layer->Cls();
+        }
         return;
     }
     screen.P2.Cls();
@@ -320,7 +322,13 @@ void ShowReader::ReadRows(TextView firstRow) {
     for (int32_t i = 0; i < slideCount_; ++i) {
         TextView row = i == 0 && !firstRow.empty() ? firstRow : reader_.Item();
         row.remove_prefix(std::min<size_t>(1, row.size()));
-        app_.windows.form3.List2.SetRow(rowOfSlide_[static_cast<size_t>(i)], Text(row));
+        const int listRow = rowOfSlide_[static_cast<size_t>(i)];
+        if (listRow >= 0) {
+            app_.windows.form3.List2.SetRow(listRow, Text(row));
+        } else {
+            state_.ScheduleFrom.Set(i + 1, model::ScheduleFromOfRow(row));
+            state_.ScheduleTo.Set(i + 1, model::ScheduleToOfRow(row));
+        }
     }
 }
 

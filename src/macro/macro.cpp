@@ -57,9 +57,16 @@ void RunTextMacro(Application& app) {
     if (path.empty() || !app.platform.files.Read(path, bytes, error)) {
         return;
     }
+    KeepBackground(app);
     run.source = text::DecodeHandWrittenFile(bytes, app.platform.codePage);
     if (ReadLines(run) == Flow::Jump) {
         LeaveSlide(run);
+    }
+}
+
+void KeepBackground(Application& app) {
+    if (InFullScreen(app.state)) {
+        CopyLayer(app.windows.slidescreen.P3, app.windows.slidescreen.P4);
     }
 }
 

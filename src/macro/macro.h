@@ -10,6 +10,10 @@ namespace macro {
 /// SlideIndex one before the slide chosen, MacroEndShow 1 and Timer1 of Form1 at 100 ms.
 void RunTextMacro(Application& app);
 
+/// What pieces and buttons of the full screen uncover is from now on the clean picture that stands
+/// there: P3 becomes P4.
+void KeepBackground(Application& app);
+
 /// Hides the macro buttons and menu entries of both windows and clears the 63 picture slots.
 void ClearMacroObjects(Application& app);
 

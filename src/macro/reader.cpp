@@ -44,9 +44,7 @@ void BeginText(Run& run) {
         "macro", {{"line", double(run.lineNumber)}, {"keyword", Text(kTextSection)}});
     run.TextMode = 1;
     if (InFullScreen(run.state)) {
-        model::Slidescreen& screen = run.app.windows.slidescreen;
-        screen.P3.canvas.BitBlt(0, 0, screen.P2.ScaleWidth(), screen.P2.ScaleHeight(),
-                                &screen.P2.canvas.Pixels(), 0, 0);
+        CopyLayer(run.app.windows.slidescreen.P3, run.app.windows.slidescreen.P2);
     }
 }
 

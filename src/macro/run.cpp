@@ -44,6 +44,11 @@ void ShowPointer(Application& app) {
     app.state.MacroCursorHidden = 0;
 }
 
+void CopyLayer(model::PictureBox& target, const model::PictureBox& source) {
+    target.canvas.BitBlt(0, 0, source.ScaleWidth(), source.ScaleHeight(), &source.canvas.Pixels(),
+                         0, 0);
+}
+
 void RestoreBackground(Application& app, const platform::Rect& area) {
     model::Slidescreen& screen = app.windows.slidescreen;
     screen.P2.canvas.BitBlt(area.x, area.y, area.width, area.height, &screen.P3.canvas.Pixels(),

@@ -73,6 +73,9 @@ void WaitSeconds(Run& run, double seconds);
 /// The pointer is seen again, and clicks on the screen close the show again.
 void ShowPointer(Application& app);
 
+/// Copies one layer of the full screen onto another of the same size.
+void CopyLayer(model::PictureBox& target, const model::PictureBox& source);
+
 /// Copies the area (pixels of the full-screen canvas) from the background P3 back to P2.
 void RestoreBackground(Application& app, const platform::Rect& area);
 

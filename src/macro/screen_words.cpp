@@ -25,11 +25,6 @@ Flow Filter(Run& run, Operation operation) {
     return Flow::GoOn;
 }
 
-void CopyWhole(model::PictureBox& target, const model::PictureBox& source) {
-    target.canvas.BitBlt(0, 0, source.ScaleWidth(), source.ScaleHeight(), &source.canvas.Pixels(),
-                         0, 0);
-}
-
 /// The layers take what shows where the box stood, or its place would come back with the box in
 /// it; one pixel more on each side.
 void CoverBoxPlace(Application& app) {
@@ -105,7 +100,7 @@ Flow SavePicture(Run& run, double) {
         screen.Label1.Visible = false;
         run.app.platform.loop.PumpEvents();
     }
-    CopyWhole(screen.P3, screen.P2);
+    CopyLayer(screen.P3, screen.P2);
     // The text may have run out in the pump.
     if (scrolling && screen.Timer1.Enabled) {
         screen.Label1.Visible = true;
@@ -122,8 +117,8 @@ Flow ClearScreen(Run& run, double) {
         if (state.OverlayMode == 0 && state.TextOriginScreen == 1) {
             screen.P2.Cls();
         }
-        CopyWhole(screen.P2, screen.P4);
-        CopyWhole(screen.P3, screen.P4);
+        CopyLayer(screen.P2, screen.P4);
+        CopyLayer(screen.P3, screen.P4);
         FocusScreen(run.app);
     }
     ReturnPens(run);

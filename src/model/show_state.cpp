@@ -45,6 +45,20 @@ bool TextArray::Set(int index, Text value) {
     return true;
 }
 
+int TextArray::Count() const {
+    int count = Used();
+    while (count > 0 && values_[static_cast<size_t>(count)].empty()) {
+        --count;
+    }
+    return count;
+}
+
+void TextArray::Remove(int index) {
+    if (index >= 0 && static_cast<size_t>(index) < values_.size()) {
+        values_.erase(values_.begin() + index);
+    }
+}
+
 const std::vector<Setting>& Settings() {
     static const std::vector<Setting> table{
 #define SETTING(type, name, start, fresh, kept, lowest, highest)                                \

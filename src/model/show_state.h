@@ -34,6 +34,10 @@ public:
     int Last() const { return last_; }
     /// Highest index that was set, 0 when none.
     int Used() const { return values_.empty() ? 0 : static_cast<int>(values_.size()) - 1; }
+    /// Highest index whose text is not empty, 0 when none.
+    int Count() const;
+    /// Takes one element out; those above it come down by one.
+    void Remove(int index);
 
 private:
     int last_;

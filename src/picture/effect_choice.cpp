@@ -52,6 +52,9 @@ void PlacePicture(Application& app) {
     }
     state.PictureX = Offset(monitor.width, picture.Width, xFactor);
     state.PictureY = Offset(monitor.height, picture.Height, yFactor);
+    state.PlacedWidthPx = picture.ScaleWidth();
+    state.PlacedHeightPx = picture.ScaleHeight();
+    state.PreviousPictureOnScreen = 1;
 }
 
 void ChooseShowEffect(Application& app) {

@@ -10,7 +10,8 @@ constexpr int kSequentialEffect = 10;
 
 /// Sets PictureX and PictureY (pixels, also negative) for the picture of Form4 on the monitor in
 /// use: by the place that a macro gave (PicturePositionFixed), in the middle, or by lot (two random
-/// numbers, x first).
+/// numbers, x first). From here on it counts as the one on the screen (PlacedWidthPx,
+/// PlacedHeightPx, PreviousPictureOnScreen).
 void PlacePicture(Application& app);
 
 /// Effect of the picture that comes, into CurrentShowEffect: ShowEffect with random and sequential

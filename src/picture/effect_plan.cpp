@@ -25,10 +25,15 @@ struct Making {
     EffectSettings settings;
     bool erasing;
     platform::Size size;
+    Rect canvas;  // in pixels of the picture
     const std::function<double()>& random;
     int step;      // pixels a band
     double pause;  // ms
     EffectPlan plan;
+
+    bool Sees(const Rect& area) const { return !platform::Intersection(area, canvas).Empty(); }
+    /// What a band costs: nothing where nobody sees it.
+    double PauseFor(const Rect& area) const { return Sees(area) ? pause : 0; }
 };
 
 /// How an effect walks: its geometry, and at which speeds bands become wider than a pixel.
@@ -58,13 +63,16 @@ void WalkStrips(Making& making) {
     const int extent = Extent(making);
     for (int i = 0; i <= extent; i += making.step) {
         const int place = making.row.backwards ? extent - i : i;
-        making.plan.bands.push_back({Strip(making, place, making.step), 0, making.pause});
+        const Rect band = Strip(making, place, making.step);
+        making.plan.bands.push_back({band, 0, making.PauseFor(band)});
     }
 }
 
-/// Four bands that are drawn together.
+/// Four bands that are drawn together, behind one pause.
 void AddCycle(Making& making, const std::array<Rect, 4>& areas) {
-    double before = making.pause;
+    const bool seen = std::any_of(areas.begin(), areas.end(),
+                                  [&](const Rect& area) { return making.Sees(area); });
+    double before = seen ? making.pause : 0;
     for (const Rect& area : areas) {
         making.plan.bands.push_back({area, before, 0, false});
         before = 0;
@@ -131,7 +139,8 @@ int PartWidth(int extent, int count) {
     return std::max(kThinnestPart, extent / count);
 }
 
-/// Every pass goes over all slits and adds a band to each.
+/// Every pass goes over all slits and adds a band to each. Its own pause comes ahead of the first
+/// band that is seen.
 void WalkSlits(Making& making) {
     const int slit = PartWidth(Extent(making), making.settings.slits);
     const int count = Extent(making) / slit;
@@ -139,9 +148,10 @@ void WalkSlits(Making& making) {
         const int within = making.erasing ? slit - pass : pass;
         double before = making.settings.fixedSpeed ? 0 : making.pause;
         for (int i = 0; i <= count; ++i) {
-            making.plan.bands.push_back(
-                {Strip(making, i * slit + within, making.step), before + making.pause});
-            before = 0;
+            const Rect band = Strip(making, i * slit + within, making.step);
+            const bool seen = making.Sees(band);
+            making.plan.bands.push_back({band, seen ? before + making.pause : 0});
+            before = seen ? 0 : before;
         }
     }
 }
@@ -160,8 +170,9 @@ void ScatterBlocks(Making& making) {
     for (int i = 0; i < 4 * blocks * blocks; ++i) {
         const int x = place(columns, width);
         const int y = place(rows, height);
+        const Rect block{x, y, width, height};
         const bool pauses = !making.settings.fixedSpeed || i < blocks * blocks;
-        making.plan.bands.push_back({{x, y, width, height}, pauses ? making.pause : 0});
+        making.plan.bands.push_back({block, pauses ? making.PauseFor(block) : 0});
     }
     making.plan.wholeAtEnd = true;
 }
@@ -178,6 +189,11 @@ constexpr std::array<EffectRow, kEffectCount> kEffects{{
     {WalkSlits, true, false, 8, 6, 1, {6, 1, 1}},
     {ScatterBlocks, false, false, 0, 0, 1, {kMosaicWeight, 1, 1}},
 }};
+
+/// By the lines of the canvas.
+double PauseFactor(int lines) {
+    return lines > kFullPauseLines ? double(kFullPauseLines) / lines : 1;
+}
 
 int StepOf(const EffectRow& row, int speed) {
     const int step = speed >= row.fastFrom ? speed - row.fastLess : 1;
@@ -202,7 +218,8 @@ double EffectPlan::Length() const {
 }
 
 EffectPlan PlanEffect(int number, const EffectSettings& settings, bool erasing,
-                      platform::Size picture, const std::function<double()>& random) {
+                      platform::Size picture, const Rect& canvas,
+                      const std::function<double()>& random) {
     if (number < 0 || number >= kEffectCount || picture.Empty()) {
         return {};
     }
@@ -212,9 +229,10 @@ EffectPlan PlanEffect(int number, const EffectSettings& settings, bool erasing,
                   drawable,
                   erasing,
                   picture,
+                  canvas,
                   random,
                   StepOf(row, drawable.speed),
-                  PauseOf(row.pauses, drawable),
+                  PauseOf(row.pauses, drawable) * PauseFactor(canvas.height),
                   {}};
     row.walk(making);
     return std::move(making.plan);

@@ -24,6 +24,10 @@ struct EffectSettings {
     int mosaicDelay = 0;      // shortens the pauses of the mosaic
 };
 
+/// A canvas of so many lines has pauses of full length; on a taller one they are shorter, so that
+/// an effect takes no longer.
+constexpr int kFullPauseLines = 1080;
+
 /// One rectangle that is copied or blackened.
 struct EffectBand {
     platform::Rect area;    // pixels of the picture; may lie beyond its edges
@@ -44,7 +48,10 @@ struct EffectPlan {
 /// effect and for an empty picture. `erasing` turns the order of slits around. Only the mosaic
 /// draws random numbers (0 <= r < 1): two a block, column first. Counts and speeds beyond what
 /// the dialogs allow, which a document may hold, are taken as the nearest that can be drawn.
+/// `canvas` is the canvas in pixels of the picture: its height says how long pauses are, and bands
+/// that lie wholly off it cost none.
 EffectPlan PlanEffect(int number, const EffectSettings& settings, bool erasing,
-                      platform::Size picture, const std::function<double()>& random);
+                      platform::Size picture, const platform::Rect& canvas,
+                      const std::function<double()>& random);
 
 }  // namespace picture

@@ -33,8 +33,12 @@ bool EffectScene::Stopped() const {
 }
 
 platform::Size EffectScene::PictureSize() const {
-    const model::PictureBox& picture = app_.windows.form4.Picture1;
-    return {picture.ScaleWidth(), picture.ScaleHeight()};
+    return {app_.state.PlacedWidthPx, app_.state.PlacedHeightPx};
+}
+
+platform::Rect EffectScene::CanvasArea() const {
+    const model::PictureBox& canvas = app_.windows.slidescreen.P2;
+    return {-app_.state.PictureX, -app_.state.PictureY, canvas.ScaleWidth(), canvas.ScaleHeight()};
 }
 
 void EffectScene::Draw(const platform::Rect& area, platform::RasterOp operation) {
@@ -54,8 +58,8 @@ void EffectScene::DrawWhole(platform::RasterOp operation) {
 void RunEffect(Application& app, EffectScene& scene, const EffectTask& task) {
     const bool erasing = task.operation == platform::RasterOp::Blackness;
     const auto random = [&app] { return app.platform.loop.Rnd(); };
-    const EffectPlan plan =
-        PlanEffect(task.number, task.settings, erasing, scene.PictureSize(), random);
+    const EffectPlan plan = PlanEffect(task.number, task.settings, erasing, scene.PictureSize(),
+                                       scene.CanvasArea(), random);
     if (plan.bands.empty()) {
         return;
     }

@@ -17,8 +17,10 @@ public:
     bool Gone() const;
     /// EffectStop was set, or the scene is gone.
     bool Stopped() const;
-    /// Size of the picture of Form4, in pixels.
+    /// Size of the picture that stands there or comes, in pixels.
     platform::Size PictureSize() const;
+    /// The canvas in pixels of the picture: where it stands begins at (0, 0).
+    platform::Rect CanvasArea() const;
     /// Copies or blackens a rectangle of the picture at its place on P2.
     void Draw(const platform::Rect& area, platform::RasterOp operation);
     void DrawWhole(platform::RasterOp operation);

@@ -3,6 +3,7 @@
 #include "picture/effect_choice.h"
 #include "picture/effect_run.h"
 #include "picture/overlay.h"
+#include "picture/screen.h"
 
 namespace picture {
 
@@ -28,7 +29,8 @@ EffectSettings EraseSettings(const model::ShowState& state) {
 }
 
 bool ErasesNothing(const model::ShowState& state) {
-    return state.FullScreenActive != 1 || (state.SlideIndex == 1 && state.EraseSkipOnce == 1) ||
+    return state.FullScreenActive != 1 || state.PreviousPictureOnScreen != 1 ||
+           (state.SlideIndex == 1 && state.EraseSkipOnce == 1) ||
            state.EraseEffect == kNoEraseEffect || state.LastWasVideo == 1;
 }
 
@@ -42,7 +44,7 @@ void ErasePicture(Application& app) {
         {u"erase", state.CurrentEraseEffect, platform::RasterOp::Blackness, EraseSettings(state)});
     app.platform.loop.PumpEvents();
     if (!scene.Gone()) {
-        app.windows.slidescreen.P2.Cls();
+        ClearCanvas(app);
     }
     state.EffectStop = 0;
 }

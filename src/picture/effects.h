@@ -15,8 +15,9 @@ void RunShowEffect(Application& app);
 void ShowAtOnce(Application& app);
 
 /// Takes the picture off P2 by the effect that EraseEffect asks for (CurrentEraseEffect), clears
-/// P2 and gives up the effect context. Only the latter outside full screen, before the first
-/// slide of a window (EraseSkipOnce), for EraseEffect 12 and after a video. Runs handlers
+/// P2 and gives up the effect context. Only the latter outside full screen, where no picture stands
+/// on the screen (PreviousPictureOnScreen), before slide 1 of a new window (EraseSkipOnce), for
+/// EraseEffect 12 and after a video. Runs handlers
 /// meanwhile; EffectStop clears at once.
 void RunEraseEffect(Application& app);
 

@@ -1,5 +1,6 @@
 #include "picture/load.h"
 
+#include "document/show_schedule.h"
 #include "picture/effects.h"
 #include "picture/overlay.h"
 #include "picture/screen.h"
@@ -45,46 +46,40 @@ void FitIntoHolder(Application& app, bool fullScreen) {
 }
 
 void ClearCanvasForPicture(Application& app) {
-    model::PictureBox& canvas = app.windows.slidescreen.P2;
     if (app.state.OverlayMode != 0) {
         ReleaseEffectContext(app);
         return;
     }
-    if (app.state.PreviousPictureOnScreen == 1 && app.state.ResetScreenOnce == 0) {
+    if (app.state.ResetScreenOnce == 0) {
         RunEraseEffect(app);
     }
     ReleaseEffectContext(app);
-    canvas.SetPicture(nullptr);
+    ClearCanvas(app);
 }
 
 void ResetScreen(Application& app) {
-    app.windows.slidescreen.P2.SetPicture(nullptr);
+    ClearCanvas(app);
     ResetCanvasGround(app);
     SizeLayers(app);
     app.state.ResetScreenOnce = 0;
 }
 
-/// Takes the failing slide out of the window lists and rebuilds the mirrors behind it.
+/// Takes the failing slide and its schedule out of the lists and their mirrors.
 void RemoveFailingEntry(Application& app) {
     model::ShowState& state = app.state;
     model::Form3& form3 = app.windows.form3;
-    form3.List1.RemoveItem(state.SlideIndex - 1);
-    form3.List2.RemoveItem(state.SlideIndex - 1);
-    const int count = form3.List1.ListCount();
-    for (int i = state.SlideIndex; i <= count; ++i) {
-        state.SlideList.Set(i, form3.List1.List(i - 1));
-        state.ScheduleFrom.Set(i, model::ScheduleFromOfRow(form3.List2.List(i - 1)));
-        state.ScheduleTo.Set(i, model::ScheduleToOfRow(form3.List2.List(i - 1)));
+    if (const auto row = document::RowOfSlide(app, state.SlideIndex)) {
+        form3.List1.RemoveItem(*row);
+        form3.List2.RemoveItem(*row);
     }
     for (model::TextArray* array : {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo}) {
-        for (int i = count + 1; i <= array->Used(); ++i) {
-            array->Set(i, {});
-        }
+        array->Remove(state.SlideIndex);
     }
-    state.SlideListEnd = static_cast<int16_t>(count + 1);
+    document::RebuildSchedule(app);
+    state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
     state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
     state.ResumeIndex = static_cast<int16_t>(state.SlideIndex - 1);
-    form3.Label4.Caption = text::FromUtf8(std::to_string(count));
+    form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
 }
 
 }  // namespace

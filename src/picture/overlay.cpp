@@ -66,6 +66,15 @@ void Mute(platform::ImagingControl& lead, Muting muting) {
     }
 }
 
+void LayGround(Application& app, platform::Color color) {
+    model::Slidescreen& slidescreen = app.windows.slidescreen;
+    for (model::PictureBox* layer : {&slidescreen.P2, &slidescreen.P3, &slidescreen.P4}) {
+        layer->BackColor = static_cast<int>(color);
+        layer->Cls();
+    }
+    app.state.PreviousPictureOnScreen = 0;
+}
+
 }  // namespace
 
 platform::Color OverlayBackground(const model::ShowState& state) {
@@ -81,21 +90,11 @@ platform::Color OverlayBackground(const model::ShowState& state) {
 }
 
 void ApplyOverlayBackground(Application& app) {
-    const auto color = static_cast<int>(OverlayBackground(app.state));
-    model::Slidescreen& slidescreen = app.windows.slidescreen;
-    for (model::PictureBox* layer : {&slidescreen.P2, &slidescreen.P3, &slidescreen.P4}) {
-        layer->BackColor = color;
-        layer->Cls();
-    }
+    LayGround(app, OverlayBackground(app.state));
 }
 
 void ResetCanvasGround(Application& app) {
-    if (app.state.OverlayMode == 0) {
-        app.windows.slidescreen.P2.BackColor = 0;
-        app.windows.slidescreen.P2.Cls();
-    } else {
-        ApplyOverlayBackground(app);
-    }
+    LayGround(app, app.state.OverlayMode == 0 ? 0 : OverlayBackground(app.state));
 }
 
 void ReprocessPreviousPicture(Application& app) {

@@ -9,10 +9,11 @@ namespace picture {
 /// OverlayBackColor; black for an index that has none.
 platform::Color OverlayBackground(const model::ShowState& state);
 
-/// Gives P2, P3 and P4 of Slidescreen that back colour and fills them with it.
+/// Gives P2, P3 and P4 of Slidescreen that back colour and fills them with it: no picture stands on
+/// the screen any more.
 void ApplyOverlayBackground(Application& app);
 
-/// Ground of the canvas by the overlay mode: black for none, else the overlay background.
+/// The same by the overlay mode: black for none, else the overlay background.
 void ResetCanvasGround(Application& app);
 
 /// Mutes the picture that stands on the screen before the next one is loaded, by OverlayMode:

@@ -66,6 +66,11 @@ void SizePreview(Application& app) {
         std::max(0, form1.Height - kPreviewFrameTwips - app.state.MainBottomMargin));
 }
 
+void ClearCanvas(Application& app) {
+    app.windows.slidescreen.P2.SetPicture(nullptr);
+    app.state.PreviousPictureOnScreen = 0;
+}
+
 void SizeLayers(Application& app) {
     model::Slidescreen& slidescreen = app.windows.slidescreen;
     for (model::PictureBox* layer : {&slidescreen.P2, &slidescreen.P3, &slidescreen.P4}) {

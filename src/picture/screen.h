@@ -23,6 +23,9 @@ platform::Size MonitorSizeTwips(Application& app);
 /// and MainBottomMargin.
 void SizePreview(Application& app);
 
+/// Empties P2: its picture is dropped, and no picture stands on it any more.
+void ClearCanvas(Application& app);
+
 /// Gives P2, P3 and P4 the size of the Slidescreen window, at its top left.
 void SizeLayers(Application& app);
 

@@ -41,7 +41,7 @@ int ShownIndex(const model::ShowState& state) {
 
 /// Clears the canvas and makes the picture on show ready for it at the size of its monitor.
 void FitToScreenAnew(Application& app) {
-    app.windows.slidescreen.P2.SetPicture(nullptr);
+    picture::ClearCanvas(app);
     picture::ReleaseEffectContext(app);
     picture::RefitHeldPicture(app, true);
     picture::CreateEffectContext(app);
@@ -63,7 +63,6 @@ void ResetRunUnderSound(Application& app) {
 void TakeOverRunningShow(Application& app) {
     app.windows.SetPointer(model::kPointerArrowBusy);
     FitToScreenAnew(app);
-    app.state.PreviousPictureOnScreen = 1;
     picture::RunShowEffect(app);
     CopyCanvasForMacros(app);
     app.windows.SetPointer(model::kPointerNormal);
@@ -200,7 +199,7 @@ void EndShowOnUnload(Application& app) {
     ShowFileEntries(app, true);
     EnableShowMenus(app, true);
     SetButtons(app, Buttons::Idle);
-    state.SlideListEnd = static_cast<int16_t>(app.windows.form3.List1.ListCount() + 1);
+    state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
     sound::RestoreCaption(app);
     sound::StopCd(app);
     sound::StopSound(app);
@@ -232,7 +231,7 @@ void Form_Unload(Application& app) {
     windows.slidescreen2.Hide();
     state.JumpRequested = 0;
     state.FullScreenActive = 0;
-    windows.slidescreen.P2.SetPicture(nullptr);
+    picture::ClearCanvas(app);
     windows.form4.Picture3.SetPicture(nullptr);
     picture::ReleaseEffectContext(app);
     state.FullScreenClosed = 1;
@@ -310,6 +309,7 @@ void FollowMonitors(Application& app) {
         FitToScreenAnew(app);
         picture::ShowAtOnce(app);
         CopyCanvasForMacros(app);
+        macro::KeepBackground(app);
         PrepareAround(app, ShownIndex(state));
     }
 }

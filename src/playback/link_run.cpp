@@ -1,6 +1,7 @@
 #include "playback/link_run.h"
 
 #include "document/show_document.h"
+#include "document/show_schedule.h"
 #include "macro/macro.h"
 #include "playback/slide_step.h"
 #include "playback/step_sound.h"
@@ -32,6 +33,7 @@ bool LoadLinkEntry(Application& app) {
     for (int row = 0; row < list.ListCount(); ++row) {
         state.SlideList.Set(row + 1, list.List(row));
     }
+    document::RebuildSchedule(app);
     state.SlideListEnd = static_cast<int16_t>(list.ListCount() + 1);
     state.LinkIndex = static_cast<int16_t>(state.LinkIndex + 1);
     return true;

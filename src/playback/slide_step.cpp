@@ -128,7 +128,6 @@ void ShowInFullScreen(Application& app) {
     if (state.ControlBoxFlag == 0) {
         app.windows.slidescreen2.Show();
     }
-    state.PreviousPictureOnScreen = 1;
     picture::ReleaseEffectContext(app);
     picture::CreateEffectContext(app);
     picture::RunShowEffect(app);

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "document/show_schedule.h"
 #include "document_support.h"
 
 namespace document_tests {
@@ -372,14 +373,35 @@ TEST(ShowReader, AviSlidesStayOutOfTheLists) {
     Program program;
     Lines lines = With(FullDocument(), 26, {u" 3 "});
     lines = With(lines, 27, {u"C:\\a.jpg", u"C:\\b.aVi", u"C:\\c.jpg"});
-    lines = With(lines, 49, {u"-" + kBlankRow, u"-" + kBlankRow, u"-" + kRow});
+    const Text ownRow = u"2030/02/0304:052031/06/0708:09";
+    lines = With(lines, 49, {u"-" + kBlankRow, u"-" + ownRow, u"-" + kRow});
     program.Read(lines);
     ASSERT_TRUE(program.Accepted());
     EXPECT_THAT(program.List1(), ElementsAre(u"C:\\a.jpg", u"C:\\c.jpg"));
     EXPECT_EQ(program.State().SlideList(2), u"C:\\b.aVi");
     EXPECT_EQ(program.State().SlideListEnd, 4);
     EXPECT_THAT(program.List2(), ElementsAre(kBlankRow, kRow));  // rows stay with their slides
-    EXPECT_EQ(program.State().ScheduleFrom(2), u"2026/01/02 10:30");
+    const Text none(16, u' ');
+    const Text from[]{none, u"2030/02/03 04:05", u"2026/01/02 10:30", u""};
+    const Text to[]{none, u"2031/06/07 08:09", u"2026/12/31 23:59", u""};
+    for (int i = 1; i <= 4; ++i) {
+        EXPECT_EQ(program.State().ScheduleFrom(i), from[i - 1]) << i;
+        EXPECT_EQ(program.State().ScheduleTo(i), to[i - 1]) << i;
+    }
+    EXPECT_EQ(document::RowOfSlide(program.app, 1), 0);
+    EXPECT_EQ(document::RowOfSlide(program.app, 2), std::nullopt);
+    EXPECT_EQ(document::RowOfSlide(program.app, 3), 1);
+    EXPECT_EQ(document::RowOfSlide(program.app, 4), std::nullopt);
+}
+
+TEST(ShowReader, AviSlidesOfAnOldDocumentHaveNoSchedule) {
+    Program program;
+    Lines lines = With(FullDocument(), 26, {u" 2 "});
+    lines = With(lines, 27, {u"C:\\b.avi", u"C:\\c.jpg"});
+    program.Read(UpTo(lines, 48));
+    ASSERT_TRUE(program.Accepted());
+    EXPECT_EQ(program.State().ScheduleFrom(1), Text(16, u' '));
+    EXPECT_EQ(program.State().ScheduleTo(2), Text(16, u' '));
 }
 
 TEST(ShowReader, Mp3IsModeSevenWithAMark) {
@@ -484,9 +506,20 @@ TEST(ShowReader, LaysTheFullScreensGround) {
     p2.SetSize(30, 30);
     p2.BackColor = 0xFF;
     p2.canvas.Fill(0xFF);
+    auto& p3 = plain.app.windows.slidescreen.P3;
+    auto& p4 = plain.app.windows.slidescreen.P4;
+    for (auto* layer : {&p3, &p4}) {
+        layer->SetSize(30, 30);
+        layer->BackColor = 0xFF;
+        layer->canvas.Fill(0xFF);
+    }
+    plain.app.state.PreviousPictureOnScreen = 1;
     plain.Read(With(FullDocument(), 29, {u" 0 "}));
-    EXPECT_EQ(p2.BackColor, 0);
-    EXPECT_EQ(p2.canvas.Point(1, 1), 0u);
+    for (auto* layer : {&p2, &p3, &p4}) {
+        EXPECT_EQ(layer->BackColor, 0);
+        EXPECT_EQ(layer->canvas.Point(1, 1), 0u);
+    }
+    EXPECT_EQ(plain.app.state.PreviousPictureOnScreen, 0) << "nothing is left to be erased";
 
     Program overlaid;
     auto& screen = overlaid.app.windows.slidescreen;
@@ -495,8 +528,10 @@ TEST(ShowReader, LaysTheFullScreensGround) {
     screen.P2.Left = 15;
     int applied = 0;
     screen.ApplyOverlayBackground = [&] { ++applied; };
+    overlaid.app.state.PreviousPictureOnScreen = 1;
     overlaid.Read(FullDocument());
     EXPECT_EQ(applied, 1);
+    EXPECT_EQ(overlaid.app.state.PreviousPictureOnScreen, 0);
     EXPECT_EQ(screen.P2.Left, 0);
     EXPECT_EQ(screen.P2.canvas.Width(), 10);
     EXPECT_EQ(screen.P2.canvas.Height(), 5);

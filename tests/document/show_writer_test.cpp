@@ -164,6 +164,35 @@ TEST(ShowWriter, TakesTheIdentityAndRebuildsTheSchedule) {
     EXPECT_EQ(program.State().ResumeIndex, 5);
 }
 
+TEST(ShowWriter, SlidesBehindAnAviKeepTheirSchedule) {
+    Program program;
+    const Text filmRow = u"2030/02/0304:05" + Text(15, u' ');
+    Lines lines = With(FullDocument(), 26, {u" 3 "});
+    lines = With(lines, 27, {u"C:\\b.avi", u"C:\\a.jpg", u"C:\\c.jpg"});
+    program.Read(With(lines, 49, {u"-" + filmRow, u"-" + kBlankRow, u"-" + kRow}));
+    document::WriteShowDocument(program.app, kTarget);
+    lines = With(lines, 2, {kTarget});
+    lines = With(lines, 26, {u" 2 "});
+    lines = With(lines, 27, {u"C:\\a.jpg", u"C:\\c.jpg"});
+    lines = With(lines, 49, {u"-" + kBlankRow, u"-" + kRow});
+    EXPECT_EQ(Written(program), text::EncodeFile(TextOf(lines), program.codePage));
+    EXPECT_EQ(program.State().ScheduleFrom(1), u"2030/02/03 04:05");
+    EXPECT_EQ(program.State().ScheduleFrom(2), Text(16, u' '));
+    EXPECT_EQ(program.State().ScheduleFrom(3), u"2026/01/02 10:30");
+    EXPECT_EQ(program.State().SlideList(1), u"C:\\b.avi");
+}
+
+TEST(ShowWriter, ListsThatWereEditedGiveTheirRowsInOrder) {
+    Program program;
+    program.app.state.SlideList.Set(1, u"C:\\old.avi");
+    AddSlide(program, u"C:\\a.jpg", kBlankRow);
+    AddSlide(program, u"C:\\b.jpg", kRow);
+    document::WriteShowDocument(program.app, kTarget);
+    EXPECT_EQ(program.State().ScheduleFrom(1), Text(16, u' '));
+    EXPECT_EQ(program.State().ScheduleFrom(2), u"2026/01/02 10:30");
+    EXPECT_EQ(program.State().ScheduleFrom(3), u"");
+}
+
 TEST(ShowWriter, AddsTheExtensionOnlyWhereNoneStands) {
     Program program;
     for (const char16_t* path : {u"C:\\s\\a.kvs", u"C:\\s\\b.x", u"C:\\s\\c.txt"}) {

@@ -38,7 +38,8 @@ TEST_F(Buttons, YesAndNoStandSideBySideOnBothWindows) {
         EXPECT_EQ(state.MacroCursorHidden, 0);
         state.MacroBackPressed = 1;
     });
-    screen.P3.canvas.Fill(0x445566);
+    screen.P3.canvas.Fill(0x999999);  // of an earlier slide
+    screen.P4.canvas.Fill(0x445566);
     Play(u"CurrentX=15\r\nCurrentY=20\r\nYesNoPB(2,0)\r\nCurrentX=33\r\n");
     EXPECT_TRUE(seen);
     EXPECT_EQ(form1.Picture1.canvas.penX, 33) << "No with 0 goes on";

@@ -17,9 +17,9 @@ struct Cutouts : testing::Test, MacroShow {
     Cutouts() {
         fake.files.Put(u"C:\\show\\star.bmp", "PIC 30 20 ff0000");
         fake.files.Put(u"C:\\show\\moon.bmp", "PIC 10 12 00ff00");
-        // P2 and P3 differ, so that a restored place tells itself.
+        // The canvas and its clean copy differ, so that a restored place tells itself.
         screen.P2.canvas.Fill(kPaper);
-        screen.P3.canvas.Fill(kGround);
+        screen.P4.canvas.Fill(kGround);
     }
     /// Exactly the pixels of these rectangles came back from the background.
     void ExpectRestored(const std::vector<Rect>& places) {

@@ -16,7 +16,7 @@ struct Motion : testing::Test, MacroShow {
     Motion() {
         fake.files.Put(u"C:\\show\\box.bmp", "PIC 4 3 ff0000");
         screen.P2.canvas.Fill(kPaper);
-        screen.P3.canvas.Fill(kGround);
+        screen.P4.canvas.Fill(kGround);
         state.TextOriginScreen = 1;
         macro::ClearMacroObjects(app);  // as every slide step begins
     }

@@ -130,6 +130,16 @@ TEST_F(Reader, TextBeginsBehindItsMark) {
     }
 }
 
+TEST_F(Reader, BackgroundIsTheCleanPictureFromTheFirstLineOn) {
+    GoFullScreen();
+    screen.P2.canvas.Fill(0x123456);
+    screen.P3.canvas.Fill(0x999999);  // of an earlier slide
+    screen.P4.canvas.Fill(0x445566);
+    Play(u"CurrentX=1\r\n");
+    EXPECT_EQ(screen.P3.canvas.Point(0, 0), 0x445566u);
+    EXPECT_EQ(screen.P3.canvas.Point(799, 599), 0x445566u);
+}
+
 TEST_F(Reader, FullScreenBackgroundIsKeptOnlyInFullScreen) {
     screen.P2.canvas.Fill(0x123456);
     Play(u"[テキスト]\r\n");

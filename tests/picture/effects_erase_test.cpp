@@ -56,7 +56,7 @@ TEST(EraseEffect, BlackensTheRulesRectanglesAlsoBeyondThePicture) {
 TEST(EraseEffect, SlitsGoBackwardsInTime) {
     // Slits of 3 rows in 30: passes over the rows 3, 2, 1, 0 of each, 11 bands and a pause more,
     // 1.11 ms each.
-    Erasing at(6, {40, 32}, {8, 30});
+    Erasing at(6, {40, 40}, {8, 30});
     std::vector<Rect> areas = RuleAreas(6, 1, true, {8, 30}, 10);
     int wrong = 0;
     at.loop.onPump = [&] {
@@ -143,6 +143,7 @@ TEST(EraseEffect, SkippedItOnlyGivesUpTheContext) {
         [](model::ShowState& state) { state.SlideIndex = 1, state.EraseSkipOnce = 1; },
         [](model::ShowState& state) { state.EraseEffect = 12; },
         [](model::ShowState& state) { state.LastWasVideo = 1; },
+        [](model::ShowState& state) { state.PreviousPictureOnScreen = 0; },
     };
     for (const auto& reason : reasons) {
         Erasing at(0, {64, 48}, {61, 43});
@@ -172,6 +173,24 @@ TEST(EraseEffect, TheSkipCountsForSlideOneOnly) {
     again.state.SlideIndex = 1;
     RunEraseEffect(again.app);
     EXPECT_EQ(again.trace.Of("effect").size(), 1u) << "slide 1 of the next pass";
+}
+
+TEST(EraseEffect, LeavesNothingToBeErased) {
+    Erasing at(0, {64, 48}, {61, 43});
+    EXPECT_EQ(at.state.PreviousPictureOnScreen, 1);
+    RunEraseEffect(at.app);
+    EXPECT_EQ(at.state.PreviousPictureOnScreen, 0);
+    RunEraseEffect(at.app);
+    EXPECT_EQ(at.trace.Of("effect").size(), 1u);
+}
+
+TEST(EraseEffect, HasThePlaceOfThePictureThatStandsWhateverTheHolderHolds) {
+    Erasing at(0, {64, 48}, {20, 10});
+    at.app.windows.form4.Picture1.SetPicture(nullptr);
+    ReleaseEffectContext(at.app);
+    RunEraseEffect(at.app);
+    EXPECT_NEAR(at.loop.Milliseconds(), 11 * 1.85, 1);
+    EXPECT_TRUE(at.Clean());
 }
 
 TEST(EraseEffect, AValueBeyondTheEffectsOnlyClears) {

@@ -20,8 +20,11 @@ double NoRandom() {
     return 0;
 }
 
+/// On which every band of a picture of a few hundred pixels lies.
+constexpr Rect kCanvas{-200, -200, 1920, 1080};
+
 EffectPlan Plan(int number, const EffectSettings& settings, Size size, bool erasing = false) {
-    return PlanEffect(number, settings, erasing, size, NoRandom);
+    return PlanEffect(number, settings, erasing, size, kCanvas, NoRandom);
 }
 
 /// Numbers from a list, then 0.
@@ -166,7 +169,7 @@ TEST(EffectPlan, MosaicBlocksByLot) {
     // 20 by 33 in fives: blocks of 4 by 6, 5 columns and 5 rows, and one more of each by lot.
     Numbers numbers{{0, 0, 0.999, 0.999, 0.5, 0.34, 0.166, 0.167}};
     const EffectPlan plan =
-        PlanEffect(8, {.blocks = 5}, false, {20, 33}, [&numbers] { return numbers(); });
+        PlanEffect(8, {.blocks = 5}, false, {20, 33}, kCanvas, [&numbers] { return numbers(); });
     ASSERT_EQ(plan.bands.size(), 100u);
     EXPECT_EQ(numbers.drawn, 200);
     EXPECT_EQ(plan.bands[0].area, (Rect{0, 0, 4, 6}));
@@ -180,7 +183,7 @@ TEST(EffectPlan, MosaicOfAPictureSmallerThanItsBlocks) {
     // Blocks of 2 by 2; 3 / 2 = 1 column and 7 / 2 = 3 rows, and one more of each.
     Numbers numbers{{0.49, 0.99, 0.5, 0.74}};
     const EffectPlan plan =
-        PlanEffect(8, {.blocks = 100}, true, {3, 7}, [&numbers] { return numbers(); });
+        PlanEffect(8, {.blocks = 100}, true, {3, 7}, kCanvas, [&numbers] { return numbers(); });
     ASSERT_EQ(plan.bands.size(), 40000u);
     EXPECT_EQ(plan.bands[0].area, (Rect{0, 6, 2, 2}));
     EXPECT_EQ(plan.bands[1].area, (Rect{2, 4, 2, 2}));
@@ -198,8 +201,9 @@ TEST(EffectPlan, WhatIsNoEffectDrawsNothing) {
 TEST(EffectPlan, SettingsBeyondTheirRangeAreTakenAsTheNearest) {
     Numbers numbers;
     const auto random = [&numbers] { return numbers(); };
-    EXPECT_EQ(PlanEffect(8, {.blocks = 32767}, false, {90, 90}, random).bands.size(), 40000u);
-    EXPECT_EQ(PlanEffect(8, {.blocks = -5}, false, {90, 90}, random).bands.size(), 4u);
+    EXPECT_EQ(PlanEffect(8, {.blocks = 32767}, false, {90, 90}, kCanvas, random).bands.size(),
+              40000u);
+    EXPECT_EQ(PlanEffect(8, {.blocks = -5}, false, {90, 90}, kCanvas, random).bands.size(), 4u);
     EXPECT_EQ(Areas(Plan(6, {.slits = 0}, {3, 30})), Areas(Plan(6, {.slits = 1}, {3, 30})));
     EXPECT_EQ(Areas(Plan(6, {.slits = 9999}, {3, 500})), Areas(Plan(6, {.slits = 100}, {3, 500})));
     EXPECT_EQ(Plan(0, {.speed = -32768}, {3, 3}).bands[0].after,
@@ -211,7 +215,7 @@ TEST(EffectPlan, SettingsBeyondTheirRangeAreTakenAsTheNearest) {
 std::pair<double, double> FirstPauses(int number, const EffectSettings& settings) {
     Numbers numbers;
     const EffectPlan plan =
-        PlanEffect(number, settings, false, {100, 100}, [&numbers] { return numbers(); });
+        PlanEffect(number, settings, false, {100, 100}, kCanvas, [&numbers] { return numbers(); });
     return {plan.bands.at(0).before, plan.bands.at(0).after};
 }
 
@@ -262,22 +266,91 @@ TEST(EffectPauses, InFixedMode) {
 
 TEST(EffectPauses, OfTheFixedMosaicEndAfterAQuarter) {
     Numbers numbers;
-    const EffectPlan plan =
-        PlanEffect(8, {.fixedSpeed = true}, false, {100, 100}, [&numbers] { return numbers(); });
+    const EffectPlan plan = PlanEffect(8, {.fixedSpeed = true}, false, {100, 100}, kCanvas,
+                                       [&numbers] { return numbers(); });
     ASSERT_EQ(plan.bands.size(), 400u);
     EXPECT_EQ(plan.bands[99].before, 1);
     EXPECT_EQ(plan.bands[100].before, 0);
     EXPECT_EQ(plan.Length(), 100);
 }
 
+double LengthOn(Size screen, int number, Size picture, const EffectSettings& settings = {}) {
+    const Rect canvas{(picture.width - screen.width) / 2, (picture.height - screen.height) / 2,
+                      screen.width, screen.height};
+    return PlanEffect(number, settings, false, picture, canvas, NoRandom).Length();
+}
+
 TEST(EffectPlan, NominalLengths) {
     const Size fullHd{1920, 1080};
-    EXPECT_NEAR(Plan(0, {}, fullHd).Length(), 1081 * 1.85, 1e-6);
-    EXPECT_NEAR(Plan(2, {}, fullHd).Length(), 1921 * 1.295, 1e-6);
+    // The last band lies below the screen, or beside it.
+    EXPECT_NEAR(LengthOn(fullHd, 0, fullHd), 1080 * 1.85, 1e-6);
+    EXPECT_NEAR(LengthOn(fullHd, 1, fullHd), 1080 * 1.85, 1e-6);
+    EXPECT_NEAR(LengthOn(fullHd, 2, fullHd), 1920 * 1.295, 1e-6);
     // 1920 / 1080 is one column a cycle: 960 moves and the cycle that moves nothing.
-    EXPECT_NEAR(Plan(5, {}, fullHd).Length(), (960 + 1) * 2.775, 1e-6);
-    // 109 passes over 11 slits, each pass with a pause of its own.
-    EXPECT_NEAR(Plan(6, {}, fullHd).Length(), 109 * 12 * 1.11, 1e-6);
+    EXPECT_NEAR(LengthOn(fullHd, 4, fullHd), (960 + 1) * 2.775, 1e-6);
+    EXPECT_NEAR(LengthOn(fullHd, 5, fullHd), (960 + 1) * 2.775, 1e-6);
+    // 109 passes, each with a pause of its own, over 10 slits and one below the screen; the last
+    // band of the tenth lies there as well.
+    EXPECT_NEAR(LengthOn(fullHd, 6, fullHd), (109 * 11 - 1) * 1.11, 1e-6);
+}
+
+TEST(EffectPlan, ATallScreenTakesNoLonger) {
+    // Twice the lines of half the pause, in either speed mode.
+    const Size tall{3840, 2160};
+    EXPECT_NEAR(LengthOn(tall, 0, tall), 2160 * 0.925, 1e-6);
+    EXPECT_NEAR(LengthOn(tall, 3, tall), 3840 * 0.6475, 1e-6);
+    EXPECT_NEAR(LengthOn(tall, 4, tall), (1920 + 1) * 1.3875, 1e-6);
+    EXPECT_NEAR(LengthOn(tall, 0, tall, {.fixedSpeed = true}), 2160 * 0.5, 1e-6);
+    EXPECT_NEAR(LengthOn(tall, 5, tall, {.fixedSpeed = true}), (1920 + 1) * 1.0, 1e-6);
+    // A small picture as well: relative speeds stay.
+    EXPECT_NEAR(LengthOn(tall, 0, {100, 50}), 51 * 0.925, 1e-6);
+    Numbers numbers;
+    EXPECT_NEAR(
+        PlanEffect(8, {}, false, {100, 100}, {0, 0, 3840, 2160}, [&numbers] { return numbers(); })
+            .Length(),
+        400 * 3.0175 / 2, 1e-6);
+}
+
+TEST(EffectPlan, ALowScreenHasFullPauses) {
+    const Size low{1280, 720};
+    EXPECT_NEAR(LengthOn(low, 0, low), 720 * 1.85, 1e-6);
+    EXPECT_NEAR(LengthOn(low, 2, low), 1280 * 1.295, 1e-6);
+    EXPECT_NEAR(LengthOn({1280, 1079}, 0, {10, 10}), 11 * 1.85, 1e-6);
+    EXPECT_NEAR(LengthOn({1280, 1081}, 0, {10, 10}), 11 * 1.85 * 1080 / 1081, 1e-6);
+}
+
+TEST(EffectPlan, RowsBeyondTheScreenCostNothing) {
+    // A picture of 3:4 fitted to the width: 2560 rows, of which 1080 are on the screen.
+    const Size fullHd{1920, 1080};
+    const Size high{1920, 2560};
+    EXPECT_NEAR(LengthOn(fullHd, 0, high), 1080 * 1.85, 1e-6);
+    EXPECT_NEAR(LengthOn(fullHd, 1, high), 1080 * 1.85, 1e-6);
+    EXPECT_NEAR(LengthOn(fullHd, 2, high), 1920 * 1.295, 1e-6);
+    // Slits of 256 rows, 257 passes with a pause each. Rows 740 to 1819 are on the screen; those
+    // where a slit begins (768, 1024, 1280, 1536, 1792) are drawn twice, as the last row of the
+    // slit above as well.
+    EXPECT_NEAR(LengthOn(fullHd, 6, high), (1080 + 5 + 257) * 1.11, 1e-6);
+    // Where the whole cycle is off the screen: a picture beside it.
+    EXPECT_EQ(PlanEffect(4, {}, false, {10, 10}, {50, 0, 1920, 1080}, NoRandom).Length(), 0);
+    EXPECT_EQ(PlanEffect(6, {}, false, {10, 10}, {50, 0, 1920, 1080}, NoRandom).Length(), 0);
+}
+
+TEST(EffectPlan, BandsBeyondTheScreenAreDrawnAllTheSame) {
+    EXPECT_EQ(Areas(PlanEffect(0, {}, false, {5, 40}, {0, 10, 5, 20}, NoRandom)),
+              Areas(Plan(0, {}, {5, 40})));
+}
+
+TEST(EffectPlan, BlocksBeyondTheScreenCostNothing) {
+    // Blocks of 10 by 10; numbers alternate between the first column and the last one, off the
+    // screen, in the first row.
+    Numbers numbers{{0, 0, 0.999, 0, 0, 0, 0.999, 0}};
+    const EffectPlan plan =
+        PlanEffect(8, {}, false, {100, 100}, {0, 0, 100, 100}, [&numbers] { return numbers(); });
+    EXPECT_NEAR(plan.bands[0].before, 3.0175, 1e-9);
+    EXPECT_EQ(plan.bands[1].before, 0);
+    EXPECT_NEAR(plan.bands[2].before, 3.0175, 1e-9);
+    EXPECT_EQ(plan.bands[3].before, 0);
+    EXPECT_NEAR(plan.Length(), 398 * 3.0175, 1e-6);
 }
 
 }  // namespace

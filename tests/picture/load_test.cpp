@@ -336,6 +336,23 @@ struct Failing : Loading {
     }
 };
 
+/// Slides f.avi, 1, 2, g.AVI, 3, each with a day of its own, as a document leaves them: the lists
+/// know nothing of the films.
+void AviFirst(Loading& at) {
+    for (const char16_t day : {u'1', u'2', u'3'}) {
+        at.AddSlide(u"C:\\pic\\" + Text(1, day) + u".png",
+                    u"2026/0" + Text(1, day) + u"/01" + Text(20, u' '));
+    }
+    const Text slides[]{u"f.avi", u"1.png", u"2.png", u"g.AVI", u"3.png"};
+    const Text days[]{u"2020/01", u"2026/01", u"2026/02", u"2021/01", u"2026/03"};
+    for (int i = 1; i <= 5; ++i) {
+        at.state.SlideList.Set(i, u"C:\\pic\\" + slides[i - 1]);
+        at.state.ScheduleFrom.Set(i, days[i - 1] + u"/01      ");
+        at.state.ScheduleTo.Set(i, Text(16, u' '));
+    }
+    at.state.SlideListEnd = 6;
+}
+
 TEST(LoadFailure, AsksAndRemovesOnYes) {
     Failing at;
     at.dialogs.answers = {platform::Answer::Yes};
@@ -348,6 +365,47 @@ TEST(LoadFailure, AsksAndRemovesOnYes) {
     EXPECT_EQ(at.dialogs.messages[0].flags, 36);
     EXPECT_EQ(at.dialogs.messages[0].title, u"画像ファイル読込エラー");
     at.ExpectEntryRemoved();
+}
+
+TEST(LoadFailure, TakesItsOwnRowsFromBehindAFilmThatTheListsLeaveOut) {
+    Loading at;
+    AviFirst(at);
+    at.state.SlideIndex = 3;
+    at.state.ListErrorDelete = 1;
+    HandleLoadFailure(at.app);
+    EXPECT_EQ(at.windows.form3.List1.ListCount(), 2);
+    EXPECT_EQ(at.windows.form3.List1.List(0), u"C:\\pic\\1.png");
+    EXPECT_EQ(at.windows.form3.List1.List(1), u"C:\\pic\\3.png");
+    EXPECT_EQ(at.windows.form3.List2.List(1), u"2026/03/01" + Text(20, u' '));
+    const Text slides[]{u"C:\\pic\\f.avi", u"C:\\pic\\1.png", u"C:\\pic\\g.AVI", u"C:\\pic\\3.png",
+                        u""};
+    const Text blank(6, u' ');
+    const Text from[]{u"2020/01/01" + blank, u"2026/01/01" + blank, u"2021/01/01" + blank,
+                      u"2026/03/01" + blank, u""};
+    for (int i = 1; i <= 5; ++i) {
+        EXPECT_EQ(at.state.SlideList(i), slides[i - 1]) << i;
+        EXPECT_EQ(at.state.ScheduleFrom(i), from[i - 1]) << i;
+    }
+    EXPECT_EQ(at.state.SlideListEnd, 5);
+    EXPECT_EQ(at.state.SlideIndex, 2);
+    EXPECT_EQ(at.state.ResumeIndex, 1);
+    EXPECT_EQ(at.windows.form3.Label4.Caption(), u"2");
+    EXPECT_EQ(at.state.ShowAbort, 0);
+}
+
+TEST(LoadFailure, FilmsThatAreLeftGoOn) {
+    Loading at;
+    AviFirst(at);
+    at.state.ListErrorDelete = 1;
+    for (const int16_t slide : {2, 2, 3}) {  // those behind move up
+        at.state.SlideIndex = slide;
+        HandleLoadFailure(at.app);
+    }
+    EXPECT_TRUE(at.dialogs.messages.empty());
+    EXPECT_EQ(at.state.ShowAbort, 0);
+    EXPECT_EQ(at.state.SlideListEnd, 3);
+    EXPECT_EQ(at.state.SlideList(2), u"C:\\pic\\g.AVI");
+    EXPECT_EQ(at.windows.form3.List1.ListCount(), 0);
 }
 
 TEST(LoadFailure, EndsTheShowOnNo) {

@@ -41,6 +41,21 @@ TEST(OverlayGround, LiesOnAllThreeLayers) {
     }
 }
 
+TEST(OverlayGround, WithoutOverlapAllThreeLayersAreBlackAndEmpty) {
+    Collage collage(1);
+    collage.Add(20, 20, "FF0000");
+    collage.Step(1);
+    EXPECT_EQ(collage.state.PreviousPictureOnScreen, 1);
+    collage.state.OverlayMode = 0;
+    ResetCanvasGround(collage.app);
+    for (model::PictureBox* layer : collage.Layers()) {
+        EXPECT_EQ(layer->BackColor(), 0);
+        EXPECT_EQ(collage.At(*layer, 0, 0), kBlack);
+        EXPECT_EQ(collage.At(*layer, 50, 30), kBlack);
+    }
+    EXPECT_EQ(collage.state.PreviousPictureOnScreen, 0);
+}
+
 TEST(OverlayGround, NothingIsErasedWhateverTheEraseEffect) {
     for (int16_t effect = 0; effect <= 12; ++effect) {
         Collage collage(1);

@@ -463,7 +463,20 @@ TEST(FullScreenLoad, PreparesLayersAndObjects) {
     show.screen.Unload();
     show.state.OverlayMode = 0;
     show.screen.Load();
-    EXPECT_EQ(show.screen.P2.BackColor, 0);
+    for (const model::PictureBox* layer : {&show.screen.P2, &show.screen.P3, &show.screen.P4}) {
+        EXPECT_EQ(layer->BackColor, 0);
+    }
+}
+
+TEST(FullScreenUnload, FilmsThatTheListLeavesOutStillCount) {
+    Show show;
+    show.state.AlwaysFullFlag = 0;
+    show.state.SlideList.Set(4, u"C:\\pic\\f.avi");
+    show.state.SlideListEnd = 5;
+    StartInScreen(show);
+    show.screen.Unload();
+    EXPECT_EQ(show.state.SlideIndex, 0);
+    EXPECT_EQ(show.state.SlideListEnd, 5);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // A run over a link list: from document to document, back over a border, and its ends.
 #include <gtest/gtest.h>
 
+#include "document/show_document.h"
 #include "show_support.h"
 
 namespace playback_tests {
@@ -101,6 +102,23 @@ TEST(LinkRun, EveryDocumentBeginsWithoutWhatMacrosSetBefore) {
     EXPECT_EQ(show.state.OverlayFrameOff, 0);
     EXPECT_EQ(show.state.PicturePositionFixed, 0);
     EXPECT_EQ(show.state.Mp3VolumeOffset, 0);
+}
+
+TEST(LinkRun, SlidesBehindAFilmThatTheListLeavesOutKeepTheirSchedule) {
+    LinkShow show({u"x"});
+    Show other(0);
+    for (const char16_t* name : {u"f.avi", u"1.png", u"2.png"}) {
+        other.AddSlide(Text(u"C:\\x\\") + name);
+        show.PutPicture(Text(u"C:\\x\\") + name, 10, 10);
+    }
+    other.form3.List2.SetRow(1, Text(15, u' ') + u"2000/01/0100:00");  // over
+    document::WriteShowDocument(other.app, u"C:\\x\\x.kvs");
+    show.files.Put(u"C:\\x\\x.kvs", other.files.Get(u"C:\\x\\x.kvs")->content);
+    show.Run();
+    show.loop.Run(1);
+    EXPECT_EQ(show.Skipped(), Numbers{1});
+    EXPECT_EQ(show.Names(), "2");
+    EXPECT_EQ(show.state.ScheduleFrom(3), u"");
 }
 
 TEST(LinkRun, ReturnsToTheLinkWindow) {

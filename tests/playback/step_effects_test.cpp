@@ -1,6 +1,9 @@
 // Effects within slide steps: what is erased, and a full screen that is left in the midst of one.
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include "document/show_document.h"
 #include "show_support.h"
 
 namespace playback_tests {
@@ -48,6 +51,78 @@ TEST(StepEffects, ANewFullScreenSkipsTheEraseAndBeginsTheSequenceAnew) {
     show.state.StopRequest = 0;
     show.Step(1);
     EXPECT_EQ(show.Effects(), (Effects{"show 0", "erase 0", "show 1", "show 0"}));
+}
+
+TEST(StepEffects, AnEmptyScreenIsNotErased) {
+    struct Case {
+        const char* what;
+        std::function<void(EffectShow&)> empties;
+    };
+    const Case cases[] = {
+        {"closed and opened",
+         [](EffectShow& show) {
+             show.screen.Unload();
+             show.GoFullScreen();
+             show.state.StopRequest = 0;
+         }},
+        {"a document was read",
+         [](EffectShow& show) {
+             document::WriteShowDocument(show.app, u"C:\\show\\a.kvs");
+             document::ReadShowDocument(show.app, u"C:\\show\\a.kvs");
+             show.state.EraseEffect = 0;
+         }},
+        {"a macro asked for a clean screen",
+         [](EffectShow& show) { show.state.ResetScreenOnce = 1; }},
+        {"the picture was erased ahead of a missing film",
+         [](EffectShow& show) {
+             show.AddSlide(u"C:\\pic\\gone.mp4");
+             show.Step(4);
+             show.state.StepBusy = 0;
+             EXPECT_EQ(show.Effects(), Effects{"erase 0"});
+             EXPECT_EQ(show.state.PreviousPictureOnScreen, 0);
+             show.Step(4);
+             show.state.StepBusy = 0;
+             show.trace.lines.clear();
+         }},
+    };
+    for (const Case& one : cases) {
+        EffectShow show;
+        show.GoFullScreen();
+        show.Step(2);
+        EXPECT_EQ(show.state.PreviousPictureOnScreen, 1) << one.what;
+        one.empties(show);
+        show.Step(3);
+        EXPECT_EQ(show.Effects(), Effects{}) << one.what;
+        EXPECT_EQ(show.state.PreviousPictureOnScreen, 1) << one.what;
+        show.Step(2);
+        EXPECT_EQ(show.Effects(), Effects{"erase 0"}) << one.what;
+    }
+}
+
+TEST(StepEffects, BehindAFailingPictureTheOldOneIsErasedAsItStood) {
+    EffectShow show;
+    show.Break(2);
+    show.state.ListErrorDelete = 1;
+    show.GoFullScreen();
+    show.Step(1);
+    show.Step(2);
+    EXPECT_EQ(show.Effects(), Effects{}) << "the old picture stays";
+    EXPECT_EQ(show.screen.P2.canvas.Point(960, 540), 0x808080u);
+    show.Step(2);
+    EXPECT_EQ(show.Effects(), Effects{"erase 0"});
+    EXPECT_NEAR(show.loop.Milliseconds(), 11 * 1.85, 1) << "of 10 rows and one below";
+}
+
+TEST(StepEffects, APictureThatComesWithAnotherModeIsNotMutedOntoCleanGround) {
+    EffectShow show;
+    show.state.OverlayMode = 2;
+    show.GoFullScreen();
+    show.Step(1);
+    document::WriteShowDocument(show.app, u"C:\\show\\a.kvs");
+    document::ReadShowDocument(show.app, u"C:\\show\\a.kvs");
+    show.imaging.log.clear();
+    show.Step(2);
+    EXPECT_EQ(std::count(show.imaging.log.begin(), show.imaging.log.end(), "gray"), 0);
 }
 
 TEST(StepEffects, BehindAVideoNothingIsErased) {

@@ -1,8 +1,8 @@
 # A line of 40000 pixels, a single pixel and a usual picture in full screen with effects in turn: each
 # stands, and no question comes up. The line becomes one of 800 by 1: 2 bands of 1.85 ms from the top,
-# 801 of 1.295 ms from the left; the last picture has 321 of these.
+# 800 of 1.295 ms from the left, one of them off the screen and for nothing; the last picture has 321.
 # args: --screen 800x600 extremes.kvs
-# slides: 4 line.png 3012 dot.png 7054 line.png 11508 e.png
+# slides: 4 line.png 3012 dot.png 7052 line.png 11504 e.png
 # no trace: 読み込めません
 # trace: line.png","x":0,"y":300,"width":800,"height":1}
 # trace: dot.png","x":400,"y":300,"width":1,"height":1}

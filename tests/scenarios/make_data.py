@@ -21,6 +21,13 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   still.kvl     still.kvs
   extremes.kvs  line dot line e, in full screen, effects in turn
   effects.kvs   a b c as full.kvs, effects in turn, erased as shown
+  late_start.kvs  a until 2020, b c as full.kvs, erased from the top
+  gone_films.kvs  a gone.mp4 gone.mp4 b, likewise
+  bad_middle.kvs  a text.jpg b, likewise
+  erased.kvs    a b, likewise
+  erased.kvl    erased.kvs twice
+  high.kvs      tall in full screen, shown from the top
+  avi.kvs       clip.avi until 2020; text.jpg; clip.avi; a; b from 2030; c until 2030
   failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
   hostile.kvs   a, endless.svg, garbage.psd, bomb.png, bar.svg (a blue bar at the top), b
   names.kvs     絵１, wide, tall
@@ -41,7 +48,7 @@ State files, for the program folder:
   autstart.dat  of the oldest form: auto start and nothing else
 
 Sounds: a.wav 5000 ms, b.wav 1000 ms, back.wav 4000 ms, a.mid 2000 ms, a.mp3 and c.mp3 of 20062 ms,
-no_sound.wav (text). Films: film.mp4 2500 ms, bad.mp4 (text); gone.mp4 is missing.
+no_sound.wav (text). Films: film.mp4 2500 ms, clip.avi 2000 ms, bad.mp4 (text); gone.mp4 is missing.
 Documents with sound (all without repetition):
   common.kvs    a b c, common sound (vue1.wav)
   linked.kvs    a b c, linked WAV, waits for its end
@@ -293,6 +300,21 @@ def main():
     files["only_bad.kvs"] = document(lines_of_show(["text.jpg"]))
     files["full.kvs"] = document(lines_of_show(five[:3], always_full=0))
     files["effects.kvs"] = document(lines_of_show(five[:3], always_full=0, effects=(10, 11)))
+    erased = {
+        "late_start": (five[:3], [row("", "", "2020/01/01", "00:00"), BLANK_ROW, BLANK_ROW]),
+        "gone_films": (["a.png", "gone.mp4", "gone.mp4", "b.png"], None),
+        "bad_middle": (["a.png", "text.jpg", "b.png"], None),
+        "erased": (five[:2], None),
+    }
+    for name, (slides, rows) in erased.items():
+        files[name + ".kvs"] = document(lines_of_show(slides, rows, always_full=0, effects=(11, 0)))
+    files["erased.kvl"] = document(["1vue3167", "erased.kvl", " 2 ", "erased.kvs", "erased.kvs"])
+    files["high.kvs"] = document(lines_of_show(["tall.png"], always_full=0, effects=(0, 12)))
+    files["clip.avi"] = b"RIFF" + struct.pack("<I", 4) + b"AVI "
+    files["avi.kvs"] = document(lines_of_show(
+        ["clip.avi", "text.jpg", "clip.avi", "a.png", "b.png", "c.png"],
+        [row("", "", "2020/01/01", "00:00"), BLANK_ROW, BLANK_ROW, BLANK_ROW,
+         row("2030/01/01", "00:00"), row("", "", "2030/01/01", "00:00")]))
     files["still.kvs"] = document(lines_of_show(["pattern.png"], interval=60000, always_full=0))
     files["still.kvl"] = document(["1vue3167", "still.kvl", " 1 ", "still.kvs"])
     files["extremes.kvs"] = document(lines_of_show(
