@@ -54,6 +54,7 @@ TEST(Monitors, OneUnpluggedInMidShowHandsItOver) {
     Show show;
     UseSecondMonitor(show);
     show.state.ControlBoxFlag = 0;
+    show.state.TextMacroFlag = 0;
     show.files.Put(Show::PathOf(1), "PIC 3000 1500 FF0000");
     StartInScreen(show);
     EXPECT_EQ(show.windows.form4.Picture1.ScaleWidth(), 1280);
@@ -68,6 +69,9 @@ TEST(Monitors, OneUnpluggedInMidShowHandsItOver) {
     EXPECT_EQ(show.state.PictureY, 60);
     EXPECT_EQ(show.screen.P2.canvas.Point(1919, 60), 0x0000FFu);
     EXPECT_EQ(show.screen.P2.canvas.Point(1919, 59), 0u);
+    EXPECT_EQ(show.screen.P3.canvas.Point(1919, 60), 0x0000FFu) << "what pieces uncover";
+    EXPECT_EQ(show.state.PreviousPictureOnScreen, 1);
+    EXPECT_EQ(show.state.PlacedWidthPx, 1920);
     EXPECT_EQ(show.windows.slidescreen2.Left, 28800 - show.windows.slidescreen2.Width);
     show.screen.Unload();
     show.monitors.onChanged();
