@@ -41,7 +41,7 @@ constexpr const char* kUsage =
     "  parapico [--trace FILE] [DOCUMENT]\n"
     "  parapico --inspect FILE\n"
     "  parapico --resave IN OUT [--distribution]\n"
-    "  parapico --check [--json] FILE...\n"
+    "  parapico --check [--json] [--screen WxH] FILE...\n"
     "  parapico --manual [--code-page] [FILE]\n"
     "  parapico --robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N]\n"
     "           [--now \"YYYY-MM-DD hh:mm:ss\"] [--screen WxH[,WxH…]]\n"

@@ -1,12 +1,11 @@
 #include "macro/check.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "macro/arguments.h"
+#include "macro/call_shape.h"
 #include "macro/check_arguments.h"
-#include "macro/keywords.h"
-#include "text/paths.h"
+#include "macro/check_course.h"
 
 namespace macro {
 
@@ -74,9 +73,8 @@ bool WrittenAsWord(const Keyword& keyword, TextView upper) {
     switch (keyword.form) {
         case Form::Number:
         case Form::Quoted:
-            return rest.starts_with(u"=");
         case Form::Call:
-            return rest.starts_with(u"(");
+            return rest.starts_with(u"=") || rest.starts_with(u"(");
         case Form::Bare:
             return rest.empty() || rest.starts_with(u"//");
         case Form::Comment:
@@ -85,9 +83,21 @@ bool WrittenAsWord(const Keyword& keyword, TextView upper) {
     return true;
 }
 
+/// True for a text that somebody surely meant as a word: it goes on as one and is nearly spelt so.
+bool NearlyWord(TextView line, TextView upper, TextView nearest) {
+    const TextView word = FirstWord(upper);
+    const TextView rest = Bare(line.substr(word.size()));
+    const bool letters =
+        word.find_first_not_of(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789") == TextView::npos;
+    return letters && word.size() > 3 && !nearest.empty() &&
+           Distance(word, nearest) <= word.size() / 4 &&
+           (rest.starts_with(u"=") || rest.starts_with(u"("));
+}
+
 class Checker {
 public:
-    Checker(platform::Files& files, const CheckedSlide& slide) : arguments_{files, slide, {}} {}
+    Checker(platform::Files& files, const CheckedSlide& slide)
+        : files_(files), slide_(slide), course_(found_, slide_) {}
 
     std::vector<Finding> Check(TextView source) {
         int number = 0;
@@ -95,47 +105,37 @@ public:
             const size_t end = source.find(u'\n');
             const TextView line = source.substr(0, end);
             source.remove_prefix(end == TextView::npos ? source.size() : end + 1);
-            arguments_.line = ++number;
+            found_.line = ++number;
             Line(WithoutLineEnd(line));
         }
-        if (openLoop_ != 0) {
-            arguments_.line = openLoop_;
-            arguments_.Add(1, u"LOOPにENDLOOPがありません", u"繰り返しません");
-        }
-        std::stable_sort(arguments_.findings.begin(), arguments_.findings.end(),
+        course_.End();
+        std::stable_sort(found_.rows.begin(), found_.rows.end(),
                          [](const Finding& a, const Finding& b) { return a.line < b.line; });
-        return std::move(arguments_.findings);
+        return std::move(found_.rows);
     }
 
 private:
     void Line(TextView line) {
         const Text upper = text::Upper(line);
-        if (const Keyword* keyword = FindKeyword(upper)) {
-            if (text_ && !WrittenAsWord(*keyword, upper)) {
-                arguments_.Add(1, u"「" + Text(keyword->name) + u"」で始まる文です",
-                               u"命令として扱われ、文字は表示されません");
-                return;
-            }
-            Word(*keyword, line, upper);
-        } else if (line.starts_with(kTextSection)) {
-            text_ = true;
-        } else {
+        const Keyword* keyword = FindKeyword(upper);
+        if (keyword != nullptr && text_ && !WrittenAsWord(*keyword, upper)) {
+            found_.Add(Flaw::Swallowed, 1, u"「" + Text(keyword->name) + u"」で始まる文です",
+                       u"命令として扱われ、文字は表示されません");
+        } else if (keyword != nullptr) {
+            CheckArguments(found_, files_, slide_, *keyword, line, upper);
+        } else if (!line.starts_with(kTextSection)) {
             Unknown(line, upper);
         }
-    }
-
-    void Word(const Keyword& keyword, TextView line, TextView upper) {
-        if (keyword.name == u"LOOP") {
-            openLoop_ = arguments_.line;
-        } else if (keyword.name == u"ENDLOOP") {
-            if (openLoop_ == 0) {
-                arguments_.Add(1, u"ENDLOOPの前にLOOPがありません", u"何もしません");
-            }
-            openLoop_ = 0;
+        const int number = found_.line;
+        course_.Line(keyword, line, upper);
+        found_.line = number;
+        if (keyword == nullptr && line.starts_with(kTextSection)) {
+            course_.BeginText();
+            text_ = true;
         }
-        arguments_.Check(keyword, line, upper);
     }
 
+    /// A line that is no word: a text, or nothing.
     void Unknown(TextView line, TextView upper) {
         const size_t first = line.find_first_not_of(u" \t　");
         if (first == TextView::npos) {
@@ -144,31 +144,48 @@ private:
         const int column = static_cast<int>(first) + 1;
         const TextView rest = upper.substr(first);
         const Keyword* indented = first > 0 ? FindKeyword(rest) : nullptr;
+        const bool comment = indented != nullptr && indented->form == Form::Comment;
         const Text effect = text_ ? u"命令ではなく文字として表示されます" : u"この行は無視されます";
-        if (indented != nullptr && indented->form != Form::Comment &&
-            WrittenAsWord(*indented, rest)) {
-            arguments_.Add(column, u"「" + Text(indented->name) + u"」の前に空白があります",
-                           effect);
-            return;
+        if (indented != nullptr && !comment && WrittenAsWord(*indented, rest)) {
+            found_.Add(Flaw::Indent, column,
+                       u"「" + Text(indented->name) + u"」の前に空白があります", effect);
+        } else if (text_) {
+            TextOnly(line, upper);
+        } else if (!comment) {
+            NoWord(line.substr(first), rest, column, effect);
         }
-        if (text_ || (indented != nullptr && indented->form == Form::Comment)) {
-            return;
-        }
-        const TextView word = FirstWord(rest);
+    }
+
+    void NoWord(TextView line, TextView upper, int column, const Text& effect) {
+        const TextView word = FirstWord(upper);
         const TextView nearest = Nearest(word);
-        const bool mark = rest.find(u"テキスト") != TextView::npos;
-        Text wrong = u"「" + Text(line.substr(first, word.size())) + u"」は命令ではありません";
-        if (mark) {
+        Text wrong = u"「" + Text(line.substr(0, word.size())) + u"」は命令ではありません";
+        if (upper.find(u"テキスト") != TextView::npos) {
             wrong += u"（もしかして: " + Text(kTextSection) + u"）";
         } else if (!nearest.empty()) {
             wrong += u"（もしかして: " + Text(nearest) + u"）";
         }
-        arguments_.Add(column, wrong, effect);
+        found_.Add(Flaw::Word, column, wrong, effect);
     }
 
-    ArgumentCheck arguments_;
+    /// What in a text was not meant to be seen.
+    void TextOnly(TextView line, TextView upper) {
+        const TextView nearest = Nearest(FirstWord(upper));
+        const size_t comment = line.find(u"//");
+        if (NearlyWord(line, upper, nearest)) {
+            NoWord(line, upper, 1, u"命令ではなく文字として表示されます");
+        } else if (comment != TextView::npos && comment > 0 &&
+                   TextView(u" \t　").find(line[comment - 1]) != TextView::npos) {
+            found_.Add(Flaw::Comment, static_cast<int>(comment) + 1, u"文の中の「//」です",
+                       u"注釈にならず、そのまま表示されます");
+        }
+    }
+
+    platform::Files& files_;
+    const CheckedSlide slide_;
+    FindingList found_;
+    Course course_;
     bool text_ = false;
-    int openLoop_ = 0;  // its line; 0 none
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/imaging.h"
 #include "text/text.h"
 
 namespace macro {
@@ -14,12 +15,15 @@ struct Finding {
     int line = 0, column = 0;  // from 1; a column is a character
     Text wrong;                // what is wrong
     Text effect;               // what will happen
+    Text remedy;               // what to do about it
+    const char* kind = "";     // name of the kind of mistake, for programs
 };
 
 /// The slide that the macro belongs to.
 struct CheckedSlide {
-    Text folder;               // in front of names without one
-    int index = 0, count = 0;  // its place, from 1, among how many; 0, 0: not known
+    Text folder;                        // in front of names without one
+    int index = 0, count = 0;           // its place, from 1, among how many; 0, 0: not known
+    platform::Size screen{1920, 1080};  // pixels: where texts have to stay
 };
 
 /// Findings in the order of their lines. Reads no file but asks whether named ones exist.

@@ -1,7 +1,6 @@
 #include "macro/keywords.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "macro/buttons.h"
 #include "macro/cutouts.h"
@@ -20,46 +19,14 @@ namespace macro {
 
 namespace {
 
-/// The number as the row's columns make it; nullopt: it does not fit, `ignored`: not to be used.
-std::optional<double> Value(const Keyword& keyword, const Run& run, bool& ignored) {
-    if (keyword.form != Form::Number) {
-        return 0;
-    }
-    double value = NumberArgument(run, keyword.digits);
-    if (keyword.number == Number::Down) {
-        value = text::Int(value + 0.1);
-    } else if (keyword.number == Number::Whole) {
-        value = text::RoundHalfEven(value);
-    }
-    const bool outside = value < keyword.range.lowest || value > keyword.range.highest;
-    switch (keyword.badValue.kind) {
-        case BadValue::Unbounded:
-            break;
-        case BadValue::Clipped:
-            value = std::clamp(value, keyword.range.lowest, keyword.range.highest);
-            break;
-        case BadValue::Ignored:
-            ignored = outside;
-            break;
-        case BadValue::Replaced:
-            value = outside ? keyword.badValue.replacement : value;
-            break;
-    }
-    if (keyword.number != Number::Real && !text::ToInt16(value)) {
-        return std::nullopt;
-    }
-    return value;
-}
-
 Flow RunKeyword(const Keyword& keyword, Run& run) {
     run.app.platform.trace.Event(
         "macro", {{"line", double(run.lineNumber)}, {"keyword", Text(keyword.name)}});
-    bool ignored = false;
-    const auto value = Value(keyword, run, ignored);
-    if (!value) {
+    const NumberRead number = ReadNumber(keyword, run.MacroLineUpper, run.ArgStart);
+    if (number.fails) {
         return Flow::Failed;
     }
-    const Flow flow = ignored ? Flow::GoOn : keyword.handler(run, *value);
+    const Flow flow = number.ignored ? Flow::GoOn : keyword.handler(run, number.value);
     if (!keyword.setsLine) {
         ClearLine(run);
     }
@@ -80,6 +47,36 @@ const std::vector<Keyword>& Keywords() {
 #undef WORD
     };
     return keywords;
+}
+
+NumberRead ReadNumber(const Keyword& keyword, TextView upperLine, size_t argStart) {
+    NumberRead read;
+    if (keyword.form != Form::Number) {
+        return read;
+    }
+    double& value = read.value;
+    value = text::SafeNumber(text::Mid(upperLine, argStart, keyword.digits));
+    if (keyword.number == Number::Down) {
+        value = text::Int(value + 0.1);
+    } else if (keyword.number == Number::Whole) {
+        value = text::RoundHalfEven(value);
+    }
+    const bool outside = value < keyword.range.lowest || value > keyword.range.highest;
+    switch (keyword.badValue.kind) {
+        case BadValue::Unbounded:
+            break;
+        case BadValue::Clipped:
+            value = std::clamp(value, keyword.range.lowest, keyword.range.highest);
+            break;
+        case BadValue::Ignored:
+            read.ignored = outside;
+            break;
+        case BadValue::Replaced:
+            value = outside ? keyword.badValue.replacement : value;
+            break;
+    }
+    read.fails = keyword.number != Number::Real && !text::ToInt16(value);
+    return read;
 }
 
 double NumberArgument(const Run& run, size_t digits) {

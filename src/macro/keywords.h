@@ -70,6 +70,16 @@ const std::vector<Keyword>& Keywords();
 /// A number beyond its word's 16 bits fails.
 Flow RunKeywords(Run& run);
 
+/// The number behind '=' as the columns make it; 0 for other forms.
+struct NumberRead {
+    double value = 0;
+    bool ignored = false;  // the word does nothing
+    bool fails = false;    // it does not fit into 16 bits
+};
+
+/// `argStart`: place behind the first '=', from 1; 1 without one.
+NumberRead ReadNumber(const Keyword& keyword, TextView upperLine, size_t argStart);
+
 /// Number of a line for a word: its `digits` characters from the place behind the first '=', or
 /// from the beginning of the line without one.
 double NumberArgument(const Run& run, size_t digits);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "macro/check_arguments.h"
+#include "macro/check_numbers.h"
 #include "macro/keywords.h"
 #include "macro/manual_prose.h"
 #include "text/numbers.h"
@@ -62,10 +62,6 @@ const char16_t* HowRounded(Number number) {
             return u"（小数は近いほうの整数）";
     }
     return u"";
-}
-
-Text Shown(double value) {
-    return text::Trim(text::Str(value));
 }
 
 Text WhatOtherValuesDo(const Keyword& keyword) {

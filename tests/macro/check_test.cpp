@@ -75,8 +75,8 @@ TEST_F(Check, NumbersOutsideTheirRanges) {
               "1:12 FONTITALICの値が大きすぎます → "
               "[テキスト] の前ではマクロがここで終わり、後ではこの行が捨てられます");
     EXPECT_EQ(One(u"GRAD(300,2,3,4,5,-6,\"x\")\r\nCls\r\n"), "2 findings");
-    EXPECT_EQ(One(u"TextOut(20,10,361,\"x\")\r\n"),
-              "1:15 TEXTOUTの値 361 が範囲（0～360）の外です → 360 になります");
+    EXPECT_EQ(One(u"TextOut(20,10,380,\"x\")\r\n"),
+              "1:15 TEXTOUTの値 380 が範囲（0～360）の外です → 360 になります");
 }
 
 TEST_F(Check, NumbersThatAreReadOtherwise) {
@@ -117,7 +117,7 @@ TEST_F(Check, NumbersOfPiecesAndMenus) {
 
 TEST_F(Check, JumpsOutOfTheList) {
     // Slide 2 of 5: 3 slides ahead is the last one; SKIP goes one further than its number.
-    EXPECT_THAT(Of(u"Menu1(3,\"x\")\r\nSkip=2\r\nYesNoPB(-1,3)\r\n"), IsEmpty());
+    EXPECT_THAT(Of(u"Menu1(3,\"x\")\r\nYesNoPB(-1,0)\r\nYesNoPB(0,3)\r\nSkip=2\r\n"), IsEmpty());
     EXPECT_EQ(One(u"Menu1(4,\"x\")\r\n"),
               "1:7 MENUの移動先がスライドリストの外です → 最後のスライドへ移ります");
     EXPECT_EQ(One(u"Skip=3\r\n"),

@@ -52,7 +52,9 @@ TEST_F(CheckCommand, SoundMacroFileIsStatusZeroAndSaysNothing) {
 TEST_F(CheckCommand, FindingIsALineWithFileLineAndColumn) {
     const std::string file = Put("umi.txt", u"Tab=8\r\n\r\nQBColor=16\r\n");
     EXPECT_EQ(Run({file}), 1);
-    EXPECT_EQ(out.str(), file + ":3:9: QBCOLORの値 16 が範囲（0～15）の外です → 10 になります\n");
+    EXPECT_EQ(out.str(), file +
+                             ":3:9: QBCOLORの値 16 が範囲（0～15）の外です → 10 になります（0～15 "
+                             "の数にしてください）\n");
     EXPECT_EQ(err.str(), "");
 }
 
@@ -66,15 +68,30 @@ TEST_F(CheckCommand, JsonHoldsTheSameFieldsWhateverTheNames) {
     EXPECT_EQ(first["line"].toInt(), 1);
     EXPECT_EQ(first["column"].toInt(), 9);
     EXPECT_EQ(first["effect"].toString(), QStringLiteral("10 になります"));
+    EXPECT_EQ(first["remedy"].toString(), QStringLiteral("0～15 の数にしてください"));
+    EXPECT_EQ(first["kind"].toString(), QStringLiteral("range"));
     EXPECT_TRUE(first["wrong"].toString().startsWith(QStringLiteral("QBCOLOR")));
     EXPECT_EQ(rows[1].toObject()["line"].toInt(), 2);
+}
+
+TEST_F(CheckCommand, ScreenOfTextsCanBeNamed) {
+    const std::string file = Put("umi.txt", u"QBColor=15\r\nCurrentY=1500\r\n[テキスト]\r\n海\r\n");
+    EXPECT_EQ(Run({file}), 1);
+    EXPECT_NE(out.str().find("1920×1080"), std::string::npos);
+    EXPECT_EQ(Run({"--screen", "3840x2160", file}), 0);
+    for (const char* size : {"", "3840", "0x0", "3840x2160x", "ax1"}) {
+        EXPECT_EQ(Run({"--screen", size, file}), 2) << size;
+    }
+    EXPECT_EQ(Run({file, "--screen"}), 2);
 }
 
 TEST_F(CheckCommand, SeveralFilesAreOneReport) {
     const std::string sound = Put("a.txt", u"Tab=8\r\n");
     const std::string odd = Put("b.txt", u"Tab=1\r\n");
     EXPECT_EQ(Run({sound, odd, odd}), 1);
-    const std::string line = odd + ":1:5: TABの値 1 が範囲（2～10）の外です → 2 になります\n";
+    const std::string line =
+        odd +
+        ":1:5: TABの値 1 が範囲（2～10）の外です → 2 になります（2～10 の数にしてください）\n";
     EXPECT_EQ(out.str(), line + line);
 }
 
@@ -117,11 +134,16 @@ TEST_F(CheckCommand, ShowLooksThroughEverySlidesMacroWithItsPlace) {
     const std::string second = Put("b.txt", u"PlayWav(\"x.wav\",0)\r\nMenu1(1,\"次\")\r\n");
     const std::string show = PutShow(u"a.png\r\nb.png\r\n", 2);
     EXPECT_EQ(Run({show}), 1);
-    EXPECT_EQ(out.str(),
-              first +
-                  ":2:11: YESNOPBの移動先がスライドリストの外です → 最初のスライドへ移ります\n" +
-                  second + ":1:10: 「x.wav」がありません → 表示も再生もされません\n" + second +
-                  ":2:7: MENUの移動先がスライドリストの外です → 最後のスライドへ移ります\n");
+    EXPECT_EQ(out.str(), first +
+                             ":2:11: YESNOPBの移動先がスライドリストの外です → "
+                             "最初のスライドへ移ります（移動数を直してください）\n" +
+                             second +
+                             ":1:10: 「x.wav」がありません → "
+                             "表示も再生もされません（名前を直すか、ファイルを画像と同じフォルダに"
+                             "置いてください）\n" +
+                             second +
+                             ":2:7: MENUの移動先がスライドリストの外です → "
+                             "最後のスライドへ移ります（移動数を直してください）\n");
     // Outside a show nobody knows where the jumps lead.
     EXPECT_EQ(Run({first}), 0);
 }

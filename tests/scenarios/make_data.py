@@ -243,6 +243,7 @@ def edge_macros():
         # The screen.
         "e_clear.txt": macro("SavePic", "[テキスト]", "一", "Cls", "二", "Sleep=1", "Reverse", "Reverse",
                              "三"),
+        "e_origin.txt": macro("ScreenXY=1", "[テキスト]", "原点"),
         "e_percent.txt": macro("Position=50.50", "[テキスト]", "座標"),
         "e_corner.txt": macro("Position=100.0", "[テキスト]", "座標"),
         "e_random.txt": macro("Position=1", "[テキスト]", "座標"),
@@ -255,6 +256,7 @@ def edge_macros():
         "motion": ["bounds", "dot", "plain"],
         "stop": ["plain", "stop", "plain"],
         "buttons": ["first", "yes_no", "menu", "plain", "menu6"],
+        "origin": ["origin", "plain"],
         "screen": ["clear", "corner", "percent", "random", "centre", "plain"],
     }
     for name, slides in shows.items():

@@ -1,5 +1,6 @@
 #include "adapters/robot/check_command.h"
 
+#include <cstdio>
 #include <ostream>
 
 #include "adapters/posix/json.h"
@@ -24,6 +25,7 @@ struct FileFinding {
 };
 
 struct Report {
+    platform::Size screen = macro::CheckedSlide{}.screen;
     std::vector<FileFinding> findings;
     std::vector<std::string> unreadable;
 
@@ -81,8 +83,8 @@ void CheckMacroFile(Report& report, const Text& path) {
         report.unreadable.push_back(text::ToUtf8(path));
         return;
     }
-    report.Take(path, macro::CheckMacro(program.app.platform.files, {text::FolderPart(path), 0, 0},
-                                        source));
+    report.Take(path, macro::CheckMacro(program.app.platform.files,
+                                        {text::FolderPart(path), 0, 0, report.screen}, source));
 }
 
 void CheckShow(Report& report, const Text& path) {
@@ -96,7 +98,8 @@ void CheckShow(Report& report, const Text& path) {
     }
     document::ReadShowDocument(app, path);
     if (state.ShowAbort == 1) {
-        report.Take(path, {{1, 1, u"この文書は読めません", u"開くことができません"}});
+        report.Take(path, {{1, 1, u"この文書は読めません", u"開くことができません",
+                            u"パラピコの文書か確かめてください", "document"}});
         return;
     }
     SlideLines lines(content);
@@ -109,13 +112,15 @@ void CheckShow(Report& report, const Text& path) {
         if (!app.platform.files.Exists(slide)) {
             report.Take(path, {{line, 1, u"「" + slide + u"」がありません",
                                 text::IsVideoKind(slide) ? u"知らせたあと次へ進みます"
-                                                         : u"続けるかどうかを尋ねます"}});
+                                                         : u"続けるかどうかを尋ねます",
+                                u"ファイルを戻すか、スライドを消してください", "file"}});
         }
         const Text macroFile = macro::MacroFile(app);
         Text source;
         if (!macroFile.empty() && ReadText(app, macroFile, source, true)) {
-            report.Take(macroFile, macro::CheckMacro(app.platform.files,
-                                                     {text::FolderPart(slide), i, count}, source));
+            report.Take(macroFile, macro::CheckMacro(
+                                       app.platform.files,
+                                       {text::FolderPart(slide), i, count, report.screen}, source));
         }
     }
 }
@@ -124,7 +129,9 @@ std::string JsonFinding(const FileFinding& row) {
     return "{\"file\":" + JsonUtf8(row.file) + ",\"line\":" + JsonNumber(row.finding.line) +
            ",\"column\":" + JsonNumber(row.finding.column) +
            ",\"wrong\":" + posix_adapter::JsonText(row.finding.wrong) +
-           ",\"effect\":" + posix_adapter::JsonText(row.finding.effect) + "}";
+           ",\"effect\":" + posix_adapter::JsonText(row.finding.effect) +
+           ",\"remedy\":" + posix_adapter::JsonText(row.finding.remedy) + ",\"kind\":\"" +
+           row.finding.kind + "\"}";
 }
 
 void Print(const Report& report, bool json, std::ostream& out) {
@@ -132,7 +139,7 @@ void Print(const Report& report, bool json, std::ostream& out) {
         for (const FileFinding& row : report.findings) {
             out << row.file << ":" << row.finding.line << ":" << row.finding.column << ": "
                 << text::ToUtf8(row.finding.wrong) << " → " << text::ToUtf8(row.finding.effect)
-                << "\n";
+                << "（" << text::ToUtf8(row.finding.remedy) << "）\n";
         }
         return;
     }
@@ -143,27 +150,41 @@ void Print(const Report& report, bool json, std::ostream& out) {
     out << "]\n";
 }
 
+/// "WIDTHxHEIGHT" in pixels.
+bool ReadSize(const std::string& words, platform::Size& size) {
+    char more = 0;
+    return std::sscanf(words.c_str(), "%5dx%5d%c", &size.width, &size.height, &more) == 2 &&
+           size.width > 0 && size.height > 0;
+}
+
+int TellUsage(std::ostream& err) {
+    err << "usage: parapico --check [--json] [--screen WxH] FILE…\n";
+    return kWrongUsage;
+}
+
 }  // namespace
 
 int RunCheckCommand(const std::vector<std::string>& arguments, std::ostream& out,
                     std::ostream& err) {
     bool json = false;
+    Report report;
     std::vector<std::string> files;
     for (size_t i = 1; i < arguments.size(); ++i) {
         if (arguments[i] == "--json") {
             json = true;
+        } else if (arguments[i] == "--screen") {
+            if (++i == arguments.size() || !ReadSize(arguments[i], report.screen)) {
+                return TellUsage(err);
+            }
         } else if (arguments[i].empty() || arguments[i].starts_with("--")) {
-            files.clear();
-            break;
+            return TellUsage(err);
         } else {
             files.push_back(arguments[i]);
         }
     }
     if (files.empty()) {
-        err << "usage: parapico --check [--json] FILE…\n";
-        return kWrongUsage;
+        return TellUsage(err);
     }
-    Report report;
     for (const std::string& file : files) {
         const Text path = AbsolutePath(file);
         (text::KindOf(path) == u"KVS" ? CheckShow : CheckMacroFile)(report, path);
