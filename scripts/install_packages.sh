@@ -22,7 +22,7 @@ run_packages=(
 test_packages=(
     libgtest-dev libgmock-dev git
     clang clang-tidy clang-format libclang-rt-14-dev llvm
-    xvfb xauth xdotool x11-xserver-utils weston imagemagick dbus-daemon
+    xvfb xauth xdotool x11-xserver-utils openbox weston imagemagick dbus-daemon
     # To check what is installed, and the package.
     desktop-file-utils appstream shared-mime-info libglib2.0-bin man-db groff-base lintian
     # Make pictures of every kind for the tests.

@@ -4,8 +4,10 @@
 #include "app/open_window.h"
 #include "app/radio_choices.h"
 #include "app/sound_menu.h"
+#include "authoring/link_list.h"
 #include "authoring/slide_list.h"
 #include "document/settings_to_controls.h"
+#include "document/state_files.h"
 #include "picture/overlay.h"
 #include "picture/screen.h"
 #include "playback/control_box.h"
@@ -136,7 +138,7 @@ void OpenFourPictures(Application& app) {
     } else if (app.state.LinkWindowOpen == 1) {
         refuse(u"ＫＶＳリンクを終了させてから行って下さい。");
     } else {
-        OpenWindow(app.windows.form5);
+        OpenWindow(app, app.windows.form5);
     }
 }
 
@@ -154,7 +156,10 @@ void AttachFileMenu(Application& app) {
         if (app.state.FourViewOpen == 1) {
             app.windows.form5.Unload();
         }
-        authoring::NewDocument(app);
+        if (authoring::NewDocument(app)) {
+            authoring::ClearLinkList(app);
+            document::WriteLinkStateFile(app);
+        }
     };
     form1.mnuOPEN.Click = [&app] { OpenFromMenu(app); };
     form1.mnuSAVE.Click = [&app] { authoring::SaveDocument(app); };
@@ -174,20 +179,24 @@ void AttachDialogs(Application& app) {
     form1.mnuSUB.Click = [&app] { OpenHelp(app, u"マクロ.txt"); };
 }
 
-void AttachWindows(Application& app) {
+void OpenSchedule(Application& app) {
     model::Windows& windows = app.windows;
-    model::Form1& form1 = windows.form1;
-    form1.mnuWAVLIST.Click = [&windows] { OpenWindow(windows.form10); };
-    form1.mnuRENF.Click = [&windows] { OpenWindow(windows.form12); };
-    form1.mnuICHI.Click = [&app] { OpenFourPictures(app); };
-    form1.mnuURU.Click = [&windows] { OpenInstead(windows.form9, windows.form1); };
-    form1.Command6.Click = [&windows] { OpenWindow(windows.form3); };
-    form1.Command10.Click = [&windows] { OpenWindow(windows.form10); };
-    form1.Command11.Click = [&windows] {
+    if (CanOpen(app, windows.form22)) {
         windows.SetPointer(model::kPointerBusy);
-        OpenInstead(windows.form22, windows.form1);
+        OpenInstead(app, windows.form22);
         windows.SetPointer(model::kPointerNormal);
-    };
+    }
+}
+
+void AttachWindows(Application& app) {
+    model::Form1& form1 = app.windows.form1;
+    form1.mnuWAVLIST.Click = [&app] { OpenWindow(app, app.windows.form10); };
+    form1.mnuRENF.Click = [&app] { OpenWindow(app, app.windows.form12); };
+    form1.mnuICHI.Click = [&app] { OpenFourPictures(app); };
+    form1.mnuURU.Click = [&app] { OpenInstead(app, app.windows.form9); };
+    form1.Command6.Click = [&app] { OpenWindow(app, app.windows.form3); };
+    form1.Command10.Click = [&app] { OpenWindow(app, app.windows.form10); };
+    form1.Command11.Click = [&app] { OpenSchedule(app); };
 }
 
 }  // namespace

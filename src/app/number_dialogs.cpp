@@ -62,7 +62,10 @@ Text Shown(double number) {
 /// The number entered; nullopt for an empty entry or a cancel.
 std::optional<double> Entered(Application& app, TextView prompt, TextView title, TextView initial) {
     const std::optional<Text> entry = app.platform.dialogs.Input(prompt, title, initial);
-    return entry && !entry->empty() ? std::optional(text::SafeNumber(*entry)) : std::nullopt;
+    if (!entry || entry->empty()) {
+        return std::nullopt;
+    }
+    return text::SafeNumber(text::HalfWidthNumber(*entry));
 }
 
 void Ask(Application& app, const NumberQuestion& question) {

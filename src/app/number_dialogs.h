@@ -1,5 +1,6 @@
 // Input boxes of the menus that ask for a number. An empty entry or a cancel leaves everything as
-// it was; what lies outside the range is told. All but the slide interval then ask again.
+// it was; what lies outside the range is told. All but the slide interval then ask again. Digits,
+// sign and point may be full-width ones, as a Japanese keyboard gives them.
 #pragma once
 
 #include "model/application.h"

@@ -1,23 +1,17 @@
 // Windows that menus and buttons of the main window open.
 #pragma once
 
-#include "model/window.h"
+#include "model/application.h"
 
 namespace app {
 
-/// Shows the window. One that nobody could see stays closed.
-inline void OpenWindow(model::Window& window) {
-    if (window.HasView) {
-        window.Show();
-    }
-}
+/// False for a window that this version does not have, after a box that says so.
+bool CanOpen(Application& application, const model::Window& window);
+
+/// Shows the window if it can be opened.
+void OpenWindow(Application& application, model::Window& window);
 
 /// The same in place of the main window.
-inline void OpenInstead(model::Window& window, model::Window& mainWindow) {
-    if (window.HasView) {
-        mainWindow.Hide();
-        window.Show();
-    }
-}
+void OpenInstead(Application& application, model::Window& window);
 
 }  // namespace app

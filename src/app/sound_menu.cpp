@@ -91,15 +91,15 @@ bool PrepareSoundMode(Application& app, int mode) {
             break;
         case kWav:
             app.state.SoundPaused = 0;
-            OpenWindow(windows.form2);
+            OpenWindow(app, windows.form2);
             break;
         case kMidi:
             app.state.SoundPaused = 0;
-            OpenWindow(windows.form8);
+            OpenWindow(app, windows.form8);
             break;
         case kMp3:
             app.state.SoundPaused = 0;
-            OpenWindow(windows.form17);
+            OpenWindow(app, windows.form17);
             break;
         case kSoundList:
             app.state.SoundPaused = 0;
@@ -122,7 +122,7 @@ void FollowCdOrder(Application& app, int16_t orderBefore) {
         state.CdTrackSetting = u"1";
     }
     if (state.CdOrder == kProgrammeOrder) {
-        OpenWindow(app.windows.form14);
+        OpenWindow(app, app.windows.form14);
     } else if (orderBefore == kProgrammeOrder && state.CdProgramCount > 0) {
         app.platform.dialogs.Message(u"ＣＤプログラム選択の曲順リストは消去されます。",
                                      platform::kPlain, u"曲順リスト消去");

@@ -9,12 +9,12 @@ namespace app {
 
 namespace {
 
+using model::kWindowMaximised;
+using model::kWindowNormal;
 using platform::kTwipsPerPixel;
 
 constexpr TextView kTag = u"window1";
 constexpr size_t kLongestFile = 1000;  // bytes
-constexpr int kNormal = 0;
-constexpr int kMaximised = 2;
 
 // In pixels. A window that is smaller was not meant.
 constexpr platform::Size kSmallest{400, 300};
@@ -27,7 +27,7 @@ constexpr double kHeightShare = 0.92;
 /// What is kept, in pixels.
 struct Kept {
     platform::Size size;
-    int windowState = kNormal;
+    int windowState = kWindowNormal;
 };
 
 Text FilePath(const Application& app) {
@@ -49,7 +49,7 @@ std::optional<Kept> ReadKept(Application& app) {
         Kept kept;
         kept.size.width = reader.Int16();
         kept.size.height = reader.Int16();
-        kept.windowState = reader.Int16() == kMaximised ? kMaximised : kNormal;
+        kept.windowState = reader.Int16() == kWindowMaximised ? kWindowMaximised : kWindowNormal;
         return kept;
     } catch (const document::ReadFailure&) {
         return std::nullopt;
@@ -101,7 +101,7 @@ void NoteWindowSize(Application& app) {
     // Of maximising, the new size may be told before the new state.
     const bool fills =
         form1.Width / kTwipsPerPixel >= room.width && form1.Height / kTwipsPerPixel >= room.height;
-    if (form1.WindowState == kNormal && !fills) {
+    if (form1.WindowState == kWindowNormal && !fills) {
         app.state.NormalWidth = form1.Width;
         app.state.NormalHeight = form1.Height;
     }
@@ -109,7 +109,8 @@ void NoteWindowSize(Application& app) {
 
 void KeepWindowSize(Application& app) {
     const model::ShowState& state = app.state;
-    const int windowState = app.windows.form1.WindowState == kMaximised ? kMaximised : kNormal;
+    const int windowState =
+        app.windows.form1.WindowState == kWindowMaximised ? kWindowMaximised : kWindowNormal;
     if (state.NormalWidth == state.StartWidth && state.NormalHeight == state.StartHeight &&
         windowState == state.StartWindowState) {
         return;

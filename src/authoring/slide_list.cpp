@@ -1,5 +1,6 @@
 #include "authoring/slide_list.h"
 
+#include "authoring/sound_list.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
 #include "document/state_files.h"
@@ -16,18 +17,19 @@ constexpr TextView kAnyName = u"*.kvs";
 constexpr size_t kCaptionPathStart = 9;  // behind "ｽﾗｲﾄﾞ - "
 constexpr int kNewIntervalMs = 3000;
 
-void ClearLists(model::Windows& windows, model::ShowState& state) {
-    windows.form3.List1.Clear();
-    windows.form3.List2.Clear();
-    windows.form3.Label4.Caption = u"0";
-    windows.form10.List1.Clear();
-    windows.form10.Label4.Caption = u"0";
-    for (model::TextArray* array : {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo,
-                                    &state.CdProgram, &state.SoundList}) {
+void ClearLists(Application& app) {
+    model::ShowState& state = app.state;
+    model::Form3& form3 = app.windows.form3;
+    form3.List1.Clear();
+    form3.List2.Clear();
+    form3.Label4.Caption = u"0";
+    for (model::TextArray* array :
+         {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo, &state.CdProgram}) {
         array->Erase();
     }
     state.CdProgramCount = 0;
-    state.SoundListCount = 0;
+    state.SlideListDirty = 0;
+    ClearSoundList(app);
 }
 
 /// They work on the selected slide, and nothing is selected in a list that was just filled.
@@ -63,15 +65,15 @@ void SaveAs(Application& app, TextView title, int16_t distribution) {
 
 }  // namespace
 
-void NewDocument(Application& app) {
+bool NewDocument(Application& app) {
     if (app.platform.dialogs.Message(u"スライドリストとすべての設定を初期状態にしますか ?",
                                      platform::kYesNoQuestion,
                                      u"新規作成") != platform::Answer::Yes) {
-        return;
+        return false;
     }
     model::ShowState& state = app.state;
     app.windows.SetPointer(model::kPointerBusy);
-    ClearLists(app.windows, state);
+    ClearLists(app);
     model::SetNewDefaults(state);
     state.DocumentPath.clear();
     state.DocumentName.clear();
@@ -87,11 +89,13 @@ void NewDocument(Application& app) {
     // the old settings: they must not come back.
     if (document::WriteStateFile(app)) {
         document::ReadStateFile(app);
+        document::WriteSoundListFile(app);
     } else {
         document::FollowAllSettings(app);
     }
     playback::SetButtons(app, playback::Buttons::Idle);
     app.windows.SetPointer(model::kPointerNormal);
+    return true;
 }
 
 bool OpenDocument(Application& app) {

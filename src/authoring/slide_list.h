@@ -5,8 +5,9 @@
 
 namespace authoring {
 
-/// Asks, then clears lists and settings: a new document.
-void NewDocument(Application& app);
+/// Asks, then clears slide list, sound list and settings, and keeps that in their files at once: a
+/// new document. False, and nothing changed, on a no.
+bool NewDocument(Application& app);
 
 /// Asks for a show document and reads it. False on cancel: then nothing has changed. True tells
 /// that one was chosen; a refused one leaves ShowAbort at 1 and perhaps an empty list.

@@ -179,8 +179,13 @@ void StateReader::ReadLinkedWavFlagsAndRows() {
 }
 
 /// On the monitor that the main window was on. Kept: one whose left edge is 0 counts with the
-/// primary monitor's size, and so does one that is gone.
+/// primary monitor's size, and so does one that is gone. A window that stands there maximised or
+/// minimised has its place already.
 void CentreMainWindow(Application& app) {
+    auto& form1 = app.windows.form1;
+    if (form1.Visible && form1.WindowState != model::kWindowNormal) {
+        return;
+    }
     const std::vector<platform::Rect> monitors = app.platform.monitors.Enumerate();
     const int index = app.state.MonitorIndex;
     const int count = std::min(static_cast<int>(monitors.size()), model::kMonitorsMost);
@@ -193,7 +198,6 @@ void CentreMainWindow(Application& app) {
         monitor.height = monitors.front().height;
     }
     constexpr int k = platform::kTwipsPerPixel;
-    auto& form1 = app.windows.form1;
     form1.Left = monitor.x * k + (monitor.width * k - form1.Width) / 2;
     form1.Top = monitor.y * k + (monitor.height * k - form1.Height) / 2;
 }

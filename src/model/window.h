@@ -13,12 +13,15 @@ namespace model {
 /// Mouse pointers that mean something to the logic.
 enum MousePointerShape : int { kPointerNormal = 0, kPointerBusy = 11, kPointerArrowBusy = 13 };
 
+/// Values of a window's WindowState.
+enum WindowStates : int { kWindowNormal = 0, kWindowMinimised = 1, kWindowMaximised = 2 };
+
 class Window : public VisibleControl {
 public:
     explicit Window(std::string name, Text caption = {});
 
     Property<Text> Caption;
-    Property<int> WindowState{*this, "WindowState"};  // 0 normal, 1 minimised, 2 maximised
+    Property<int> WindowState{*this, "WindowState"};  // one of WindowStates
     Property<int> MousePointer{*this, "MousePointer"};
     Property<int> CursorCount{*this, "CursorCount"};  // below 0 no pointer is seen over the window
     Property<int> BackColor{*this, "BackColor"};

@@ -227,6 +227,19 @@ double SafeNumber(TextView value) {
     return read ? *read : ReadDigits(value);
 }
 
+Text HalfWidthNumber(TextView value) {
+    constexpr TextView kWide = u"０１２３４５６７８９＋－−ー．。　";
+    constexpr TextView kNarrow = u"0123456789+---.. ";
+    static_assert(kWide.size() == kNarrow.size());
+    Text result(value);
+    for (char16_t& c : result) {
+        if (const size_t at = kWide.find(c); at != TextView::npos) {
+            c = kNarrow[at];
+        }
+    }
+    return result;
+}
+
 double RoundHalfEven(double value) {
     const double below = std::floor(value);
     const double rest = value - below;

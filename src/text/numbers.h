@@ -17,6 +17,11 @@ std::optional<double> Val(TextView value);
 /// Val, and where Val fails a digit reader: see the function for its arithmetic. Never fails.
 double SafeNumber(TextView value);
 
+/// The text with its full-width digits, signs, point and blanks as ASCII has them, and all else as
+/// it was. For numbers that a person typed: 「－」 and 「ー」 are the minus of a Japanese keyboard,
+/// 「．」 and 「。」 its point.
+Text HalfWidthNumber(TextView value);
+
 /// Nearest whole number, ties to even.
 double RoundHalfEven(double value);
 

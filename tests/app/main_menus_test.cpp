@@ -153,6 +153,56 @@ TEST(FileMenu, NewClosesTheFourPictureViewFirst) {
     EXPECT_EQ(menus.dialogs.messages[0].title, u"新規作成");
 }
 
+struct LinkedMenus : Menus {
+    model::Form9& form9 = app.windows.form9;
+    LinkedMenus() {
+        form9.List1.AddItem(u"C:\\show\\two.kvs");
+        form9.Label4.Caption = u"1";
+        form9.Caption = u"ＫＶＳリンク - C:\\show\\chain.kvl";
+        state.LinkDocumentName = u"C:\\show\\chain.kvl";
+        state.LinkList.Set(1, u"C:\\show\\two.kvs");
+        state.LinkEnd = 2;
+        state.LinkAutoFlag = 1;
+        state.LinkListDirty = 1;
+        state.SoundListCount = 1;
+        state.SoundList.Set(1, u"C:\\s.mp3");
+        app.windows.form10.List1.AddItem(u"C:\\s.mp3");
+    }
+    std::string Kept(TextView name) {
+        const auto* file = files.Get(u"C:\\app\\" + Text(name));
+        return file ? file->content : "none";
+    }
+};
+
+TEST(FileMenu, NewEmptiesSoundListAndLinkListAfterItsOneQuestion) {
+    LinkedMenus menus;
+    menus.form1.mnuNEW.Click();
+    menus.ExpectMessage(u"スライドリストとすべての設定を初期状態にしますか ?", 36, u"新規作成");
+    EXPECT_EQ(menus.form9.List1.ListCount(), 0);
+    EXPECT_EQ(menus.form9.Label4.Caption(), u"0");
+    EXPECT_EQ(menus.form9.Caption(), u"ＫＶＳリンク（＊．ｋｖｓ ファイルを選択して下さい）");
+    EXPECT_EQ(menus.form9.Check1.Value, 0);
+    EXPECT_EQ(menus.state.LinkDocumentName, u"");
+    EXPECT_EQ(menus.state.LinkList(1), u"");
+    EXPECT_EQ(menus.state.LinkEnd, 0);
+    EXPECT_EQ(menus.state.LinkListDirty, 0);
+    EXPECT_EQ(menus.app.windows.form10.List1.ListCount(), 0);
+    EXPECT_EQ(menus.state.SoundListCount, 0);
+    // At once, so that nothing of it comes back whatever happens to the program.
+    EXPECT_EQ(menus.Kept(u"uautst.dat"), "KVSV3\r\n 0 \r\n 1 \r\n 0 \r\n\r\n 0 \r\n");
+    EXPECT_EQ(menus.Kept(u"wavlist.dat"), "WAV3.4\r\n 0 \r\n");
+}
+
+TEST(FileMenu, NoToNewKeepsSoundListAndLinkList) {
+    LinkedMenus menus;
+    menus.dialogs.answers = {platform::Answer::No};
+    menus.form1.mnuNEW.Click();
+    EXPECT_EQ(menus.form9.List1.ListCount(), 1);
+    EXPECT_EQ(menus.state.LinkList(1), u"C:\\show\\two.kvs");
+    EXPECT_EQ(menus.app.windows.form10.List1.ListCount(), 1);
+    EXPECT_TRUE(menus.files.written.empty());
+}
+
 TEST(FileMenu, SaveEntriesReachTheirDialogs) {
     Menus menus;
     menus.app.windows.form3.List1.AddItem(u"C:\\show\\a.png");

@@ -126,6 +126,7 @@ TEST(RadioMenus, EveryEntrySetsItsFieldMovesItsCheckAndSaysItsNote) {
         const int count = static_cast<int>(row.captions.size());
         for (int chosen = count - 1; chosen >= 0; --chosen) {
             Menus menus;
+            menus.app.windows.form14.HasView = true;  // of the programme order
             model::MenuArray& array = menus.form1.*row.menu;
             SCOPED_TRACE(array.Name() + " " + std::to_string(chosen));
             ASSERT_EQ(array.Count(), count);
@@ -254,21 +255,30 @@ TEST(HelpMenu, OpensTheProgramsOwnTexts) {
     }
 }
 
-TEST(OpenedWindows, OneWithoutAViewStaysClosedAndTheMainWindowStays) {
+TEST(OpenedWindows, OneThatThisVersionLacksIsToldOfAndTheMainWindowStays) {
     Menus menus;
     model::Windows& windows = menus.app.windows;
-    menus.form1.Show();
-    for (auto* entry : {&menus.form1.mnuWAVLIST, &menus.form1.mnuRENF, &menus.form1.mnuICHI,
-                        &menus.form1.mnuURU}) {
-        entry->Click();
+    model::Form1& form1 = menus.form1;
+    form1.Show();
+    // The pointer is not busy while somebody reads.
+    menus.dialogs.whileOpen = [&](const auto&) {
+        EXPECT_EQ(windows.Pointer(), model::kPointerNormal);
+    };
+    for (const model::Event<>* press :
+         {&form1.mnuWAVLIST.Click, &form1.mnuRENF.Click, &form1.mnuICHI.Click, &form1.mnuURU.Click,
+          &form1.Command6.Click, &form1.Command10.Click, &form1.Command11.Click,
+          &form1.mnuKOU(3).Click, &form1.mnuKOU(4).Click, &form1.mnuKOU(8).Click,
+          &form1.mnuCDRND(2).Click}) {
+        menus.dialogs.messages.clear();
+        (*press)();
+        menus.ExpectMessage(u"この版にはまだありません。", 0, u"");
+        for (model::Window* window : windows.All()) {
+            EXPECT_EQ(window->Visible, window == &form1) << window->Name();
+        }
     }
-    for (auto* button : {&menus.form1.Command6, &menus.form1.Command10, &menus.form1.Command11}) {
-        button->Click();
-    }
-    for (model::Window* window : windows.All()) {
-        EXPECT_EQ(window->Visible, window == &menus.form1) << window->Name();
-    }
-    EXPECT_TRUE(menus.dialogs.messages.empty());
+    EXPECT_EQ(menus.state.SoundMode, 8) << "the choice itself stands";
+    EXPECT_EQ(menus.state.CdOrder, 2);
+    EXPECT_TRUE(form1.mnuCDRND(2).Checked);
 }
 
 TEST(OpenedWindows, EachEntryOpensItsOwn) {
@@ -320,6 +330,13 @@ TEST(FourPictures, RefusedWhileAListIsOpen) {
     menus.state.LinkWindowOpen = 0;
     menus.form1.mnuICHI.Click();
     EXPECT_TRUE(menus.app.windows.form5.Visible);
+}
+
+TEST(FourPictures, TheRefusalsComeFirstWhereTheWindowIsLacking) {
+    Menus menus;
+    menus.state.LinkWindowOpen = 1;
+    menus.form1.mnuICHI.Click();
+    menus.ExpectMessage(u"ＫＶＳリンクを終了させてから行って下さい。", 48, u"４画面表示");
 }
 
 }  // namespace

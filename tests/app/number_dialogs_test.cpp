@@ -43,6 +43,25 @@ TEST(IntervalDialog, TakesFractionsForTheNextTickAndWholeSecondsForTheSetting) {
     }
 }
 
+TEST(IntervalDialog, TakesFullWidthDigits) {
+    const struct {
+        Text entry;
+        int seconds, interval;
+    } rows[] = {{u"５", 5, 5000}, {u"３．５", 4, 3500}, {u"　１　２秒", 12, 12000}};
+    for (const auto& row : rows) {
+        Menus menus;
+        menus.dialogs.inputAnswers = {row.entry};
+        menus.form1.mnuTIME.Click();
+        EXPECT_TRUE(menus.dialogs.messages.empty());
+        EXPECT_EQ(menus.state.SlideIntervalSec, row.seconds);
+        EXPECT_EQ(menus.form1.Timer1.Interval, row.interval);
+    }
+    Menus menus;
+    menus.dialogs.inputAnswers = {Text(u"６１")};
+    menus.form1.mnuTIME.Click();
+    menus.ExpectMessage(u"設定が不適切です", 48, u"ｽﾗｲﾄﾞ間隔");
+}
+
 TEST(IntervalDialog, OutsideTheRangeNothingChangesAndNothingIsAskedAgain) {
     for (const Text entry : {u"0", u"0.9", u"60.1", u"61", u"-3", u"abc", u" ", u"1e400"}) {
         Menus menus;
@@ -156,6 +175,19 @@ TEST(NumberBoxes, StoreTheWholePart) {
     }
 }
 
+TEST(NumberBoxes, TakeFullWidthDigits) {
+    for (const Repeating& box : Boxes()) {
+        Menus menus;
+        menus.dialogs.inputAnswers = {Text(u"１０")};
+        Open(menus, box);
+        EXPECT_EQ(menus.state.*box.field, 10);
+        EXPECT_TRUE(menus.dialogs.messages.empty());
+        menus.dialogs.inputAnswers = {Text(u"－３０"), Text(u"８．９")};
+        Open(menus, box);
+        EXPECT_EQ(menus.state.*box.field, box.lowest < 0 ? -30 : 8);
+    }
+}
+
 TEST(NumberBoxes, EmptyAndCancelKeepTheOldValueAlsoAfterABadEntry) {
     for (const Repeating& box : Boxes()) {
         for (const std::optional<Text>& last : Entries{Text(), std::nullopt}) {
@@ -222,7 +254,11 @@ TEST(TrackDialog, AsksForATrackOfTheDisc) {
               u"プログラムの場合は無効です。）");
     EXPECT_EQ(menus.dialogs.initials[0], u"4");
     EXPECT_EQ(menus.state.CdTrackSetting, u"12");
-    for (const Text entry : {u"13", u"0", u"x"}) {
+    menus.dialogs.inputAnswers = {Text(u"１１")};
+    menus.form1.mnuCD.Click();
+    EXPECT_EQ(menus.state.CdTrackSetting, u"11");
+    menus.state.CdTrackSetting = u"12";
+    for (const Text entry : {u"13", u"０", u"0", u"x"}) {
         menus.dialogs.messages.clear();
         menus.dialogs.inputAnswers = {entry};
         menus.form1.mnuCD.Click();

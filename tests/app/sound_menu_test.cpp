@@ -44,6 +44,8 @@ TEST(SoundModeMenu, EveryModeIsChosenWithItsBoxFirst) {
                                      u"画像連動(MP３)再生"};
     for (int mode = 0; mode < 10; ++mode) {
         Menus menus;
+        model::Windows& windows = menus.app.windows;
+        windows.form2.HasView = windows.form8.HasView = windows.form17.HasView = true;
         SCOPED_TRACE(mode);
         const int16_t before = mode == 7 ? 6 : 7;
         menus.state.SoundMode = before;
@@ -65,8 +67,8 @@ TEST(SoundModeMenu, EveryModeIsChosenWithItsBoxFirst) {
         }
         EXPECT_EQ(menus.dialogs.inputs.size(), mode == 1 ? 1u : 0u);
         EXPECT_EQ(menus.form1.mnuCDM.Visible, mode == 2);
-        EXPECT_EQ(menus.app.windows.form13.Option1.Value, mode != 9);
-        EXPECT_EQ(menus.app.windows.form13.Option2.Value, mode == 9);
+        EXPECT_EQ(windows.form13.Option1.Value, mode != 9);
+        EXPECT_EQ(windows.form13.Option2.Value, mode == 9);
     }
 }
 

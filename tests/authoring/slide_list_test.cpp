@@ -186,7 +186,7 @@ TEST(New, AsksBeforeItForgets) {
     Desk desk;
     desk.Open(u"C:\\show\\two.kvs");
     desk.dialogs.answers = {Answer::No};
-    NewDocument(desk.app);
+    EXPECT_FALSE(NewDocument(desk.app));
     ASSERT_EQ(desk.dialogs.messages.size(), 1u);
     EXPECT_EQ(desk.dialogs.messages[0].text, u"スライドリストとすべての設定を初期状態にしますか ?");
     EXPECT_EQ(desk.dialogs.messages[0].title, u"新規作成");
@@ -200,9 +200,9 @@ TEST(New, WritesTheStateAndReadsItBack) {
     desk.Open(u"C:\\show\\two.kvs");
     desk.state.ReservedStateText = u"kept";
     desk.files.read.clear();
-    NewDocument(desk.app);
+    EXPECT_TRUE(NewDocument(desk.app));
     const Text path = u"C:\\app\\autstart.dat";
-    EXPECT_EQ(desk.files.written, std::vector<Text>{path});
+    EXPECT_EQ(desk.files.written, (std::vector<Text>{path, u"C:\\app\\wavlist.dat"}));
     EXPECT_EQ(desk.files.read, std::vector<Text>{path});
     EXPECT_EQ(desk.LineOf(path, 1), u"V2.1a3567893sp6");
     EXPECT_EQ(desk.LineOf(path, 37), u"");     // no document
@@ -213,6 +213,20 @@ TEST(New, WritesTheStateAndReadsItBack) {
     // The window goes back to the middle of its monitor.
     EXPECT_EQ(desk.windows.form1.Left, (1920 * 15 - desk.windows.form1.Width) / 2);
     EXPECT_TRUE(desk.windows.form1.mnuKOU(6).Checked);
+}
+
+TEST(New, LeavesAWindowThatIsMaximisedOrMinimisedWhereItIs) {
+    for (const int state : {model::kWindowMinimised, model::kWindowMaximised}) {
+        Desk desk;
+        model::Form1& form1 = desk.windows.form1;
+        form1.Left = 15;
+        form1.Top = 30;
+        form1.Show();
+        form1.WindowState = state;
+        NewDocument(desk.app);
+        EXPECT_EQ(form1.Left, 15);
+        EXPECT_EQ(form1.Top, 30);
+    }
 }
 
 TEST(New, OldStateThatCouldNotBeReplacedStaysAway) {
@@ -233,8 +247,8 @@ TEST(New, OldStateThatCouldNotBeReplacedStaysAway) {
 TEST(New, ForgetsTheDocument) {
     Desk desk;
     desk.Open(u"C:\\show\\two.kvs");
-    desk.windows.form9.List1.AddItem(u"C:\\show\\two.kvs");
-    desk.state.LinkList.Set(1, u"C:\\show\\two.kvs");
+    desk.state.SlideListDirty = 1;
+    desk.state.SoundList.Set(1, u"C:\\s.mp3");
     desk.windows.form10.List1.AddItem(u"C:\\s.mp3");
     desk.windows.form10.Label4.Caption = u"1";
     desk.state.SoundListCount = 1;
@@ -245,14 +259,15 @@ TEST(New, ForgetsTheDocument) {
     EXPECT_EQ(desk.form3.List1.ListCount(), 0);
     EXPECT_EQ(desk.form3.List2.ListCount(), 0);
     EXPECT_EQ(desk.form3.Label4.Caption(), u"0");
-    EXPECT_EQ(desk.windows.form9.List1.ListCount(), 1);  // the chain of shows is no setting
-    EXPECT_EQ(desk.state.LinkList(1), u"C:\\show\\two.kvs");
     EXPECT_EQ(desk.windows.form10.List1.ListCount(), 0);
     EXPECT_EQ(desk.windows.form10.Label4.Caption(), u"0");
     EXPECT_EQ(desk.state.SlideList(1), u"");
     EXPECT_EQ(desk.state.CdProgram(1), u"");
     EXPECT_EQ(desk.state.CdProgramCount, 0);
     EXPECT_EQ(desk.state.SoundListCount, 0);
+    EXPECT_EQ(desk.state.SoundList(1), u"");
+    EXPECT_EQ(desk.LineOf(u"C:\\app\\wavlist.dat", 2), u" 0 ");
+    EXPECT_EQ(desk.state.SlideListDirty, 0);
     EXPECT_EQ(desk.state.SlideListEnd, 0);
     EXPECT_EQ(desk.state.DocumentPath, u"");
     EXPECT_EQ(desk.state.DocumentName, u"");

@@ -95,6 +95,26 @@ TEST(FullScreenShow, MakesNoMainWindow) {
     desktop.UnmakeViews();
 }
 
+TEST_F(Views, AMaximisedWindowStaysInItsPlaceAndGoesBackToItsOwnSize) {
+    model::Form1& form1 = windows.form1;
+    constexpr int k = platform::kTwipsPerPixel;
+    form1.Width = 900 * k;
+    form1.Height = 640 * k;
+    form1.Left = 30 * k;
+    form1.Top = 40 * k;
+    form1.WindowState = model::kWindowMaximised;
+    form1.Show();
+    QWidget* widget = desktop.WidgetOf(form1);
+    ASSERT_NE(widget, nullptr);
+    EXPECT_TRUE(widget->isMaximized());
+    const QPoint place = widget->pos();
+    form1.Left = 300 * k;
+    form1.Top = -200 * k;
+    EXPECT_EQ(widget->pos(), place);
+    form1.WindowState = model::kWindowNormal;
+    EXPECT_EQ(widget->size(), QSize(900, 640));
+}
+
 TEST_F(Views, WindowsOfThisStageHaveForms) {
     std::set<std::string> names;
     for (model::Window* window : Shown()) {

@@ -1,12 +1,41 @@
-# Entries whose windows are not built yet leave the main window where it is.
-# no trace: "event":"message"
-menu mnuWAVLIST
-menu mnuRENF
-menu mnuICHI
-menu mnuURU
-click Form1.Command10
-click Form1.Command11
-menu mnuKOU 3
+# Entries and buttons whose windows are not built yet say so at each press, stay enabled, and leave the
+# main window where it is. A choice stands all the same.
+# trace: "t":100,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":200,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":300,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":400,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":500,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":600,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":700,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":800,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":900,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":1000,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":1100,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# trace: "t":1200,"event":"message","title":"","text":"この版にはまだありません。","flags":0
+# no trace: "unheard"
+@100 menu mnuWAVLIST
+@200 menu mnuRENF
+@300 menu mnuICHI
+@400 menu mnuURU
+@500 click Form1.Command6
+@600 click Form1.Command10
+@700 click Form1.Command11
+@800 menu mnuSCHEDULE
+@900 menu mnuKOU 3
 expect SoundMode 3
+@1000 menu mnuKOU 4
+expect SoundMode 4
+@1100 menu mnuKOU 8
+expect SoundMode 8
+menu mnuKOU 2
+@1200 menu mnuCDRND 2
+expect CdOrder 2
+expect Form1.Command6.Enabled true
+expect Form1.Command10.Enabled true
+expect Form1.Command11.Enabled true
+expect Form1.mnuWAVLIST.Enabled true
+expect Form1.mnuRENF.Enabled true
+expect Form1.mnuICHI.Enabled true
+expect Form1.mnuURU.Enabled true
 expect Form1.Visible true
 expect Form9.Visible false

@@ -8,6 +8,7 @@
 
 namespace {
 
+using text::HalfWidthNumber;
 using text::SafeNumber;
 using text::Str;
 using text::Val;
@@ -80,6 +81,22 @@ TEST(SafeNumber, NeverFails) {
     EXPECT_TRUE(std::isfinite(SafeNumber(Text(500, u'9'))));
     EXPECT_TRUE(std::isfinite(SafeNumber(Text(500, u'9') + u"." + Text(500, u'9'))));
     EXPECT_EQ(SafeNumber(Text(500, u'9') + u"-"), -std::numeric_limits<double>::max());
+}
+
+TEST(HalfWidthNumber, BringsTypedNumbersIntoAscii) {
+    EXPECT_EQ(HalfWidthNumber(u"０１２３４５６７８９"), u"0123456789");
+    EXPECT_EQ(HalfWidthNumber(u"－９９９"), u"-999");
+    EXPECT_EQ(HalfWidthNumber(u"−９"), u"-9");
+    EXPECT_EQ(HalfWidthNumber(u"ー３０"), u"-30");
+    EXPECT_EQ(HalfWidthNumber(u"＋２．５"), u"+2.5");
+    EXPECT_EQ(HalfWidthNumber(u"２。５"), u"2.5");
+    EXPECT_EQ(HalfWidthNumber(u"　１ ２秒"), u" 1 2秒");
+    EXPECT_EQ(HalfWidthNumber(u""), u"");
+}
+
+TEST(HalfWidthNumber, IsNoAffairOfSafeNumber) {
+    EXPECT_EQ(SafeNumber(u"１２"), 0);
+    EXPECT_EQ(SafeNumber(HalfWidthNumber(u"１２")), 12);
 }
 
 TEST(Rounding, TiesGoToEven) {

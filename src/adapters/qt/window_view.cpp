@@ -28,8 +28,6 @@ namespace {
 
 constexpr QRgb kShapeOnStage = 0xFF5F6368;  // grey that is seen on black without shouting
 
-enum WindowStates : int { kNormal = 0, kMinimised = 1, kMaximised = 2 };
-
 QStringList Words(const QObject& object, const char* property) {
     return object.property(property).toString().split(' ', Qt::SkipEmptyParts);
 }
@@ -159,7 +157,10 @@ void WindowView::Build() {
         window_.Height = root_->height() * platform::kTwipsPerPixel;
     }
     FollowCaption();
-    FollowSize();
+    if (!fullScreen_) {
+        // Also of one that comes up maximised: the size that it goes back to.
+        root_->resize(ToPixels(window_.Width), ToPixels(window_.Height));
+    }
     if (window_.Left != 0 || window_.Top != 0) {
         FollowPlace();
     }
@@ -360,6 +361,9 @@ void WindowView::FollowPlace() {
         }
         return;
     }
+    if (root_->isVisible() && window_.WindowState != model::kWindowNormal) {
+        return;  // its place is the window system's affair
+    }
     const int x = ToPixels(window_.Left);
     const int y = ToPixels(window_.Top);
     QPoint place = FromPhysical(x, y);
@@ -386,16 +390,16 @@ void WindowView::FollowPlace() {
 void WindowView::FollowSize() {
     if (fullScreen_) {
         FollowPlace();
-    } else if (window_.WindowState == kNormal) {
+    } else if (window_.WindowState == model::kWindowNormal) {
         root_->resize(ToPixels(window_.Width), ToPixels(window_.Height));
     }
 }
 
 void WindowView::FollowState() {
     Qt::WindowStates states = root_->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
-    if (window_.WindowState == kMinimised) {
+    if (window_.WindowState == model::kWindowMinimised) {
         states |= Qt::WindowMinimized;
-    } else if (window_.WindowState == kMaximised) {
+    } else if (window_.WindowState == model::kWindowMaximised) {
         states |= Qt::WindowMaximized;
     }
     if (states != root_->windowState()) {
@@ -507,7 +511,9 @@ void WindowView::TakeNewColors() {
 }
 
 void WindowView::StateChangedByPerson() {
-    const int state = root_->isMinimized() ? kMinimised : root_->isMaximized() ? kMaximised : 0;
+    const int state = root_->isMinimized()   ? model::kWindowMinimised
+                      : root_->isMaximized() ? model::kWindowMaximised
+                                             : 0;
     if (root_->isVisible() && !fullScreen_ && state != window_.WindowState) {
         gate_.Guarded([&] { window_.WindowState = state; });
     }

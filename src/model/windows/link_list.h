@@ -6,7 +6,11 @@
 namespace model {
 
 struct Form9 : Window {
-    Form9() : Window("Form9", u"ＫＶＳリンク（＊．ｋｖｓ ファイルを選択して下さい）") {}
+    /// While no link document has been opened or saved.
+    static constexpr TextView kFirstCaption =
+        u"ＫＶＳリンク（＊．ｋｖｓ ファイルを選択して下さい）";
+
+    Form9() : Window("Form9", Text(kFirstCaption)) {}
 
     ListBox List1{this, "List1"};
     Label Label4{this, "Label4", u"0"};

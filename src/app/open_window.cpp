@@ -1,0 +1,25 @@
+#include "app/open_window.h"
+
+namespace app {
+
+bool CanOpen(Application& app, const model::Window& window) {
+    if (!window.HasView) {
+        app.platform.dialogs.Message(u"この版にはまだありません。", platform::kPlain, u"");
+    }
+    return window.HasView;
+}
+
+void OpenWindow(Application& app, model::Window& window) {
+    if (CanOpen(app, window)) {
+        window.Show();
+    }
+}
+
+void OpenInstead(Application& app, model::Window& window) {
+    if (CanOpen(app, window)) {
+        app.windows.form1.Hide();
+        window.Show();
+    }
+}
+
+}  // namespace app
