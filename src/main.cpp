@@ -45,7 +45,9 @@ constexpr const char* kUsage =
     "  parapico --manual [--code-page] [FILE]\n"
     "  parapico --robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N]\n"
     "           [--now \"YYYY-MM-DD hh:mm:ss\"] [--screen WxH[,WxH…]]\n"
-    "           [--prepare on|off] [--title] [DOCUMENT]\n";
+    "           [--prepare on|off] [--title] [DOCUMENT]\n"
+    "画面がなくても動くもの / need no display: --inspect --resave --check --manual --robot\n"
+    "詳しくは / more: man parapico\n";
 
 /// Nobody listens.
 class NoTrace : public platform::Trace {
