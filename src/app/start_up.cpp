@@ -129,6 +129,10 @@ void TakeLinkListAtStart(Application& app) {
 
 bool StartsByItself(const Application& app) {
     const model::ShowState& state = app.state;
+    if (state.CommandLineKind == 2 && state.LinkRunning != 1 &&
+        app.windows.form3.List1.ListCount() > 0) {
+        return false;  // a list without shows does not start that of the last session
+    }
     return (app.windows.form3.List1.ListCount() > 0 && state.AutoStartFlag == 0) ||
            (app.windows.form9.List1.ListCount() > 0 && state.LinkAutoFlag == 1) ||
            state.CommandLineKind > 0;

@@ -2,11 +2,18 @@
 
 namespace document {
 
+namespace {
+
+constexpr int kNoDocument = 1;  // exit status
+
+}  // namespace
+
 std::optional<Text> OpenDocument(Application& app, TextView path) {
     std::string bytes;
     platform::FileError error;
     if (!app.platform.files.Read(path, bytes, error)) {
         app.platform.dialogs.Message(error.message, platform::kPlain, u"");
+        EndIfLoadingFromStart(app);
         return std::nullopt;
     }
     return text::DecodeFile(bytes, app.platform.codePage);
@@ -32,7 +39,7 @@ void RefuseDocument(Application& app, TextView path) {
 
 void EndIfLoadingFromStart(const Application& app) {
     if (app.state.LoadingFromStart == 1) {
-        throw platform::ProgramEnd{};
+        throw platform::ProgramEnd{kNoDocument};
     }
 }
 

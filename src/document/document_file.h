@@ -8,7 +8,7 @@
 namespace document {
 
 /// Decoded text of the file. Nullopt where it cannot be opened, after showing the platform's words
-/// in a box without title.
+/// in a box without title; at program start that ends the program (EndIfLoadingFromStart).
 std::optional<Text> OpenDocument(Application& app, TextView path);
 
 /// Writes the text, whole or not at all. False after showing the platform's words: in a plain box
@@ -18,7 +18,8 @@ bool SaveDocumentFile(Application& app, TextView path, TextView content);
 /// Tells the user that the file does not suit.
 void RefuseDocument(Application& app, TextView path);
 
-/// Throws ProgramEnd while the document that was named at program start is being read.
+/// Throws ProgramEnd with status 1 while the document that was named at program start is being
+/// read.
 void EndIfLoadingFromStart(const Application& app);
 
 }  // namespace document

@@ -8,9 +8,9 @@ namespace document {
 /// Reads a document of any version into the show state, the lists of Form3 and Form10, and the
 /// controls and menu checks that follow the settings. The caller sets BaseFolder first.
 /// Failing: a file that cannot be opened shows the platform's words and changes nothing; a refused
-/// tag or a failure half-way shows a message, sets ShowAbort to 1 and leaves what was read; both
-/// end the program (ProgramEnd) when LoadingFromStart is 1 and the file was refused.
-void ReadShowDocument(Application& app, TextView path);
+/// tag or a failure half-way shows a message, sets ShowAbort to 1 and leaves what was read. Either
+/// ends the program (ProgramEnd) when LoadingFromStart is 1. False where it cannot be opened.
+bool ReadShowDocument(Application& app, TextView path);
 
 /// Writes the newest form, whole or not at all; names without folders when DistributionSaveFlag
 /// is 1. Adds ".kvs" to a path without extension. Rebuilds ScheduleFrom and ScheduleTo, sets the

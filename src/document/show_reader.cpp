@@ -346,11 +346,11 @@ void TakeIdentity(Application& app, TextView path) {
 
 }  // namespace
 
-void ReadShowDocument(Application& app, TextView documentPath) {
+bool ReadShowDocument(Application& app, TextView documentPath) {
     const Text path(documentPath);  // the caller may pass a field that reading changes
     auto content = OpenDocument(app, path);
     if (!content) {
-        return;
+        return false;
     }
     auto& pointer = app.windows.form1.MousePointer;
     pointer = model::kPointerBusy;
@@ -367,7 +367,7 @@ void ReadShowDocument(Application& app, TextView documentPath) {
         pointer = model::kPointerNormal;
         app.state.ShowAbort = 1;
         EndIfLoadingFromStart(app);
-        return;
+        return true;
     }
     FollowDocumentSettings(app);
     TakeIdentity(app, path);
@@ -375,6 +375,7 @@ void ReadShowDocument(Application& app, TextView documentPath) {
         WriteSoundListFile(app);
     }
     pointer = model::kPointerNormal;
+    return true;
 }
 
 }  // namespace document

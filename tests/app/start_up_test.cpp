@@ -218,7 +218,7 @@ TEST(StartUp, ComingBackFromTheFullScreenBringsNoTitle) {
 
 TEST(StartUp, RefusedDocumentEndsTheProgramAfterTheMessage) {
     Program program;
-    EXPECT_EQ(program.Run(u"C:\\show\\refused.kvs", true), 0);
+    EXPECT_EQ(program.Run(u"C:\\show\\refused.kvs", true), 1);
     ASSERT_EQ(program.around.dialogs.messages.size(), 1u);
     EXPECT_EQ(program.around.dialogs.messages[0].text,
               u"C:\\show\\refused.kvs\r\nこのファイル名は適合しません。");
@@ -232,21 +232,34 @@ TEST(StartUp, RefusedDocumentEndsTheProgramAfterTheMessage) {
 TEST(StartUp, RefusedLinkDocumentEndsTheProgramToo) {
     Program program;
     program.around.PutText(u"C:\\show\\bad.kvl", u"none\r\nx\r\n 0 \r\n");
-    EXPECT_EQ(program.Run(u"C:\\show\\bad.kvl"), 0);
+    EXPECT_EQ(program.Run(u"C:\\show\\bad.kvl"), 1);
     EXPECT_EQ(program.around.dialogs.messages.size(), 1u);
     EXPECT_FALSE(program.windows.slidescreen.Visible);
 }
 
-TEST(StartUp, MissingDocumentIsToldAndTheScreenStaysEmpty) {
-    Program program;
-    EXPECT_EQ(program.Run(u"C:\\show\\missing.kvs"), Program::kTimeOut);
-    ASSERT_FALSE(program.around.dialogs.messages.empty());
-    EXPECT_EQ(program.around.dialogs.messages[0].text, u"ファイルが見つかりません。");
-    EXPECT_EQ(program.around.dialogs.messages[0].title, u"");
-    EXPECT_TRUE(program.windows.slidescreen.Visible);
-    EXPECT_EQ(program.state.SlideIndex, 0);
-    EXPECT_EQ(program.state.ShowRunning, 0);
-    EXPECT_EQ(program.state.SlideListEnd, 1);
+TEST(StartUp, AMissingDocumentEndsTheProgramAfterTheMessage) {
+    for (const char16_t* path : {u"C:\\show\\missing.kvs", u"C:\\show\\missing.kvl"}) {
+        Program program;
+        program.PutState(program.around, {.autoStart = 0, .slides = {u"C:\\show\\a.png"}});
+        EXPECT_EQ(program.Run(path), 1);
+        ASSERT_EQ(program.around.dialogs.messages.size(), 1u);
+        EXPECT_EQ(program.around.dialogs.messages[0].text, u"ファイルが見つかりません。");
+        EXPECT_EQ(program.around.dialogs.messages[0].title, u"");
+        EXPECT_FALSE(program.form1.Visible);
+        EXPECT_FALSE(program.windows.slidescreen.Visible);
+        EXPECT_TRUE(program.around.files.written.empty());
+    }
+}
+
+TEST(StartUp, AnEmptyLinkDocumentDoesNotPlayTheLastShow) {
+    for (const int16_t autoStart : {0, 1}) {
+        Program program;
+        program.around.PutText(u"C:\\show\\none.kvl", u"1vue3167\r\nnone.kvl\r\n 0 \r\n");
+        program.PutState(program.around, {.autoStart = autoStart, .slides = {u"C:\\show\\a.png"}});
+        EXPECT_EQ(program.Run(u"C:\\show\\none.kvl"), Program::kTimeOut);
+        EXPECT_TRUE(program.around.trace.Of("slide").empty());
+        EXPECT_TRUE(program.form1.Visible);
+    }
 }
 
 TEST(StartUp, OtherFilesLoadNothing) {

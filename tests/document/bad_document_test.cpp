@@ -155,9 +155,8 @@ TEST(BadDocument, AFileThatCannotBeOpenedChangesNothing) {
     unreadable.files.MakeUnreadable(kPath);
     for (Program* program : {&missing, &unreadable}) {
         program->app.state.RandomFlag = 0;
-        program->app.state.LoadingFromStart = 1;
         program->app.windows.form3.Command16.Enabled = true;
-        document::ReadShowDocument(program->app, kPath);
+        EXPECT_FALSE(document::ReadShowDocument(program->app, kPath));
         ASSERT_EQ(program->dialogs.messages.size(), 1u);
         EXPECT_NE(program->dialogs.messages[0].text, u"");
         EXPECT_EQ(program->dialogs.messages[0].title, u"");
@@ -166,6 +165,13 @@ TEST(BadDocument, AFileThatCannotBeOpenedChangesNothing) {
         EXPECT_TRUE(program->app.windows.form3.Command16.Enabled);
         EXPECT_EQ(program->app.windows.form1.MousePointer, model::kPointerNormal);
     }
+}
+
+TEST(BadDocument, AMissingFileEndsAProgramThatWasStartedWithIt) {
+    Program program;
+    program.app.state.LoadingFromStart = 1;
+    EXPECT_THROW(document::ReadShowDocument(program.app, kPath), platform::ProgramEnd);
+    EXPECT_EQ(program.dialogs.messages.size(), 1u);
 }
 
 TEST(BadDocument, ARefusedFileEndsAProgramThatWasStartedWithIt) {
