@@ -35,7 +35,8 @@ Flow SleepFor(Run& run, double seconds) {
 
 Flow EndAfter(Run& run, double seconds) {
     WaitSeconds(run, seconds);
-    run.clampsJump = false;
+    // The end of the time may run off the list's end, a choice during it may not.
+    run.clampsJump = run.state.MacroJumpChosen == 1;
     return Flow::Jump;
 }
 

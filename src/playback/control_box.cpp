@@ -1,5 +1,7 @@
 #include "playback/control_box.h"
 
+#include <algorithm>
+
 #include "picture/load.h"
 #include "picture/screen.h"
 #include "playback/full_screen.h"
@@ -49,6 +51,7 @@ void StartAtEnd(Application& app) {
         return;
     }
     SetRunning(app);
+    SkipFirstSyncWait(app);
     StartShowSound(app);
     SetSlideInterval(app);
     app.windows.form1.Timer1.Enabled = true;
@@ -81,20 +84,21 @@ void Start_Click(Application& app) {
     app.windows.form1.Timer1.Enabled = false;
     // The step reads START's state: it must know that the show runs forward.
     SetRunning(app);
+    // Not behind the step, which leaves a shorter one where the next slide follows at once.
+    SetSlideInterval(app);
+    SkipFirstSyncWait(app);
     RunSlideStep(app);
     if (state.ShowAbort == 1) {
         state.ShowAbort = 0;
         CloseShow(app);
         return;
     }
-    // Closed, stopped or paused while the step waited.
-    if (state.FullScreenClosed == 1 || state.StopRequest == 1 || state.ShowRunning == 0) {
+    // Stopped or paused while the step waited.
+    if (state.StopRequest == 1 || state.ShowRunning == 0) {
         return;
     }
     StartShowSound(app);
-    SetSlideInterval(app);
-    app.windows.form1.Timer1.Enabled = true;
-    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    Advance(app);
 }
 
 bool HasDocumentBefore(const model::ShowState& state) {
@@ -128,68 +132,51 @@ void Pause_Click(Application& app) {
     FollowPlace(app);
 }
 
-void StepInBox(Application& app) {
-    app.windows.SetPointer(model::kPointerArrowBusy);
-    app.state.ScheduleSkipped = 0;
-    RunSlideStep(app);
-    app.windows.SetPointer(model::kPointerNormal);
+/// Shows slides until one is not passed over by its schedule. `next` moves to a slide, or tells
+/// that there is none.
+template <class Next>
+void StepInBox(Application& app, Next next) {
+    model::ShowState& state = app.state;
+    NoteInput(app);
+    if (Refused(app) || state.StepBusy == 1) {
+        return;
+    }
+    while (state.ShowRunning == 0 && next()) {
+        RunStepByHand(app);
+        if (state.ScheduleSkipped != 1) {
+            break;
+        }
+    }
+    if (state.StopRequest != 1) {
+        FollowPlace(app);
+    }
+}
+
+/// Before the first slide of all there is place 0, where nothing is shown.
+bool MoveBack(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.SlideIndex <= 1 && HasDocumentBefore(state)) {
+        return TurnToDocument(app, -1);
+    }
+    state.SlideIndex = static_cast<int16_t>(std::max(state.SlideIndex - 1, 0));
+    return state.SlideIndex > 0;
+}
+
+bool MoveOn(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.SlideIndex >= state.SlideListEnd - 1) {
+        return HasDocumentBehind(state) && TurnToDocument(app, 1);
+    }
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    return true;
 }
 
 void Previous_Click(Application& app) {
-    model::ShowState& state = app.state;
-    NoteInput(app);
-    if (Refused(app) || state.StepBusy == 1) {
-        return;
-    }
-    while (state.ShowRunning == 0 && (state.SlideIndex > 0 || HasDocumentBefore(state))) {
-        state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
-        if (state.SlideIndex < 1) {
-            if (!HasDocumentBefore(state)) {
-                break;
-            }
-            state.LinkIndex = static_cast<int16_t>(state.LinkIndex - 2);
-            if (!LoadLinkEntry(app)) {
-                return;
-            }
-            state.SlideIndex = static_cast<int16_t>(state.SlideListEnd - 1);
-        }
-        StepInBox(app);
-        if (state.FullScreenClosed == 1) {
-            return;
-        }
-        if (state.ScheduleSkipped != 1) {
-            break;
-        }
-    }
-    FollowPlace(app);
+    StepInBox(app, [&] { return MoveBack(app); });
 }
 
 void Next_Click(Application& app) {
-    model::ShowState& state = app.state;
-    NoteInput(app);
-    if (Refused(app) || state.StepBusy == 1) {
-        return;
-    }
-    while (state.ShowRunning == 0) {
-        if (state.SlideIndex < state.SlideListEnd - 1) {
-            state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
-        } else if (HasDocumentBehind(state)) {
-            if (!LoadLinkEntry(app)) {
-                return;
-            }
-            state.SlideIndex = 1;
-        } else {
-            break;
-        }
-        StepInBox(app);
-        if (state.FullScreenClosed == 1) {
-            return;
-        }
-        if (state.ScheduleSkipped != 1) {
-            break;
-        }
-    }
-    FollowPlace(app);
+    StepInBox(app, [&] { return MoveOn(app); });
 }
 
 void Form_Activate(Application& app) {

@@ -73,7 +73,7 @@ void TakeOverRunningShow(Application& app) {
     }
 }
 
-/// False when the first document of a link list cannot be had.
+/// False when no document of a link list can be had.
 bool PrepareStart(Application& app) {
     model::ShowState& state = app.state;
     ShowFileEntries(app, false);
@@ -82,8 +82,7 @@ bool PrepareStart(Application& app) {
     state.FullScreenClosedByUser = 0;
     state.FullScreenClosed = 0;
     if (state.LinkRunning == 1) {
-        state.LinkIndex = 1;
-        return LoadLinkEntry(app);
+        return LoadFirstDocument(app);
     }
     if (state.JumpRequested != 1) {
         if (state.FullStartConfirm == 0) {
@@ -101,12 +100,17 @@ bool PrepareStart(Application& app) {
 /// Runs the first slide. False when the window was unloaded meanwhile.
 bool StartShow(Application& app) {
     model::ShowState& state = app.state;
-    if (state.SlideList(state.SlideIndex).empty()) {
+    const bool empty = state.SlideList(state.SlideIndex).empty();
+    if (empty && state.LinkRunning != 1) {
         state.SlideIndex = 0;
         state.ShowRunning = 0;
         return true;
     }
     SetButtons(app, Buttons::Running);
+    if (empty) {
+        PassEmptyDocument(app);
+        return true;
+    }
     SetSlideInterval(app);
     app.windows.form1.Timer1.Enabled = false;
     state.ShowRunning = 1;
@@ -115,6 +119,7 @@ bool StartShow(Application& app) {
          {&app.windows.slidescreen.P2, &app.windows.slidescreen.P4}) {
         layer->canvas.Pixels();
     }
+    SkipFirstSyncWait(app);
     StartShowSound(app);
     RunSlideStep(app);
     if (state.StopRequest == 1 || state.ShowAbort == 1) {
@@ -125,8 +130,7 @@ bool StartShow(Application& app) {
     if (state.ShowRunning == 0) {
         return true;  // paused while the step waited
     }
-    app.windows.form1.Timer1.Enabled = true;
-    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    Advance(app);
     return true;
 }
 
@@ -182,8 +186,11 @@ void Form_Load(Application& app) {
 }
 
 bool UnloadEndsShow(const model::ShowState& state) {
-    return state.FullScreenEndMark == 1 || state.LinkRunning == 1 || state.ReturnToSlideList == 1 ||
-           state.ExitToMainOnClose == 1 || state.LinkWindowOpen == 1 || state.AlwaysFullFlag == 0;
+    const bool nothingRuns =
+        state.ShowRunning == 0 && state.SlideIndex == 0 && state.StopRequest != 1;
+    return nothingRuns || state.FullScreenEndMark == 1 || state.LinkRunning == 1 ||
+           state.ReturnToSlideList == 1 || state.ExitToMainOnClose == 1 ||
+           state.LinkWindowOpen == 1 || state.AlwaysFullFlag == 0;
 }
 
 void EndShowOnUnload(Application& app) {
@@ -192,6 +199,7 @@ void EndShowOnUnload(Application& app) {
     state.LinkRunning = 0;
     state.StopRequest = 1;
     state.StepBusy = 0;
+    state.MacroWaitClick = 0;
     state.MacroDelayWaiting = 0;
     state.StartLatch = 0;
     state.LinkIndex = 0;

@@ -36,16 +36,23 @@ enum class Next {
 void SkipBySchedule(Application& app) {
     app.windows.form1.Timer1.Interval = kSkippedTickMs;
     app.state.ScheduleSkipped = 1;
+    app.state.StepBusy = 0;  // a video before it left it set
     app.platform.trace.Event("skip", {{"SlideIndex", double(app.state.SlideIndex)}});
 }
 
-/// The next slide never comes before a scrolling text has run out.
+/// In a running show the next slide never comes before a scrolling text has run out, unless a jump
+/// was chosen.
 Next WaitForTelop(Application& app) {
     model::ShowState& state = app.state;
-    if (state.MacroJumpChosen == 1 && state.TelopRunning == 1) {
+    if (state.TelopRunning != 1) {
+        return Next::GoOn;
+    }
+    if (state.MacroJumpChosen == 1 || !RunsForward(app)) {
         macro::CancelTelop(app);
+        return Next::GoOn;
     }
     const WaitMark mark(state);
+    app.windows.SetPointer(model::kPointerNormal);  // START's would keep PAUSE out
     while (state.TelopRunning == 1) {
         app.platform.loop.PumpEvents();
         app.platform.loop.Sleep(kTelopPollMs);

@@ -218,14 +218,17 @@ void StartLinkedSounds(Application& app) {
     }
 }
 
-void StartShowSound(Application& app) {
-    model::ShowState& state = app.state;
-    sound::StartCd(app);
-    if (state.MacroEndShow == 1 && sound::PlaysPerPicture(state)) {
-        return;
+void SkipFirstSyncWait(Application& app) {
+    const model::ShowState& state = app.state;
+    // A macro that ended the last step kept its linked sound back.
+    if (state.MacroEndShow != 1 || !sound::PlaysPerPicture(state)) {
+        app.state.SkipSyncWaitOnce = 1;
     }
-    state.SkipSyncWaitOnce = 1;
-    if (!sound::PlaysPerPicture(state)) {
+}
+
+void StartShowSound(Application& app) {
+    sound::StartCd(app);
+    if (!sound::PlaysPerPicture(app.state)) {
         sound::StartSound(app);
     }
 }

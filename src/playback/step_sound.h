@@ -41,6 +41,9 @@ void RestartBackgroundSound(Application& app);
 /// Second channel and sound of the slide.
 void StartLinkedSounds(Application& app);
 
+/// The first step of a show that starts waits for no sound: called ahead of it.
+void SkipFirstSyncWait(Application& app);
+
 /// CD and background sound of a show that starts or goes on.
 void StartShowSound(Application& app);
 

@@ -1,5 +1,6 @@
 #include "playback/transport.h"
 
+#include "document/interval.h"
 #include "document/show_document.h"
 #include "macro/macro.h"
 #include "macro/telop.h"
@@ -19,8 +20,6 @@ namespace playback {
 
 namespace {
 
-constexpr int kMillisecondsPerSecond = 1000;
-
 void HideVideoPlaceholders(Application& app) {
     app.windows.form1.Picture3.Visible = false;
     app.windows.slidescreen.Picture2.Visible = false;
@@ -39,20 +38,37 @@ void EndShow(Application& app) {
     EnableShowMenus(app, true);
 }
 
-void StartFirstStep(Application& app) {
+/// After a step of a running show: false where it was stopped, paused or failed.
+bool GoesOn(Application& app) {
     model::ShowState& state = app.state;
-    SetSlideInterval(app);
-    state.ShowRunning = 1;
-    StartShowSound(app);
-    RunSlideStep(app);
+    if (state.StopRequest == 1) {
+        state.ShowAbort = 0;
+        return false;
+    }
+    if (state.ShowRunning == 0) {
+        return false;
+    }
     if (state.ShowAbort == 1) {
         state.ShowAbort = 0;
-        Command3_Click(app);
-        return;
+        app.windows.slidescreen.Unload();
+        StopShow(app);
+        return false;
     }
-    app.windows.form1.Timer1.Enabled = true;
-    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
+    return true;
+}
+
+void StartFirstStep(Application& app) {
+    // Ahead of the step: a first slide that waits for a person can be left by STOP.
     SetButtons(app, Buttons::Running);
+    SetSlideInterval(app);
+    app.state.ShowRunning = 1;
+    SkipFirstSyncWait(app);
+    StartShowSound(app);
+    RunSlideStep(app);
+    app.windows.SetPointer(model::kPointerNormal);
+    if (GoesOn(app)) {
+        Advance(app);
+    }
 }
 
 /// START with nothing behind the slide on the screen.
@@ -68,6 +84,7 @@ void StartAtListEnd(Application& app) {
         return;
     }
     SetButtons(app, Buttons::Running);
+    SkipFirstSyncWait(app);
     StartShowSound(app);
     SetSlideInterval(app);
     app.windows.SetPointer(model::kPointerNormal);
@@ -133,10 +150,7 @@ template <class Next>
 void StepByHand(Application& app, Next next) {
     model::ShowState& state = app.state;
     while (state.ShowRunning == 0 && next()) {
-        app.windows.SetPointer(model::kPointerArrowBusy);
-        state.ScheduleSkipped = 0;
-        RunSlideStep(app);
-        app.windows.SetPointer(model::kPointerNormal);
+        RunStepByHand(app);
         if (state.ScheduleSkipped != 1) {
             break;
         }
@@ -220,7 +234,30 @@ void ClearRun(Application& app) {
 }
 
 void SetSlideInterval(Application& app) {
-    app.windows.form1.Timer1.Interval = app.state.SlideIntervalSec * kMillisecondsPerSecond;
+    app.windows.form1.Timer1.Interval = static_cast<int>(document::IntervalMs(app.state));
+}
+
+void Advance(Application& app) {
+    app.state.SlideIndex = static_cast<int16_t>(app.state.SlideIndex + 1);
+    app.windows.form1.Timer1.Enabled = true;
+}
+
+void RunStepByHand(Application& app) {
+    model::ShowState& state = app.state;
+    app.windows.SetPointer(model::kPointerArrowBusy);
+    state.ScheduleSkipped = 0;
+    RunSlideStep(app);
+    state.StepBusy = 0;
+    app.windows.SetPointer(model::kPointerNormal);
+    if (state.ShowAbort == 1 && state.SlideList(1).empty()) {
+        state.ShowAbort = 0;
+        StopShow(app);
+    }
+}
+
+void StopShow(Application& app) {
+    app.state.MacroWaitClick = 0;
+    Command3_Click(app);
 }
 
 void Command1_Click(Application& app) {
@@ -347,7 +384,7 @@ void Command5_Click(Application& app) {
         state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
         return true;
     });
-    if (state.SlideIndex == 1) {
+    if (state.SlideIndex <= 1) {
         app.windows.form1.Command5.Enabled = false;
     }
 }
@@ -385,21 +422,9 @@ void Timer1_Tick(Application& app) {
     }
     form1.Timer1.Enabled = false;
     RunSlideStep(app);
-    if (state.StopRequest == 1) {
-        state.ShowAbort = 0;
-        return;
+    if (GoesOn(app)) {
+        Advance(app);
     }
-    if (state.ShowRunning == 0) {
-        return;
-    }
-    if (state.ShowAbort == 1) {
-        state.ShowAbort = 0;
-        app.windows.slidescreen.Unload();
-        Command3_Click(app);
-        return;
-    }
-    state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
-    form1.Timer1.Enabled = true;
 }
 
 void AttachTransport(Application& app) {

@@ -26,8 +26,18 @@ void ResetRun(Application& app);
 /// Everything STOP clears of the run: flags, indexes, a macro's text origin, Timer1, preview.
 void ClearRun(Application& app);
 
-/// Timer1's interval to SlideIntervalSec.
+/// Timer1's interval to SlideIntervalSec, as far as a timer can be set.
 void SetSlideInterval(Application& app);
+
+/// After a step of a running show: SlideIndex moves on, Timer1 runs.
+void Advance(Application& app);
+
+/// One step of a show that stands still. Nothing follows it that would free StepBusy, so it does;
+/// a show that lost its last slide in it is stopped.
+void RunStepByHand(Application& app);
+
+/// Ends the show as STOP does, also under the lock of a macro, which it takes off.
+void StopShow(Application& app);
 
 /// Handlers by name: also called by the control box and the exit.
 void Command1_Click(Application& app);  // START

@@ -202,6 +202,57 @@ TEST(ControlBoxStart, GoesOnWithTheNextSlide) {
     EXPECT_EQ(show.Shown(), (Numbers{1, 2, 3}));
 }
 
+TEST(ControlBoxStart, KeepsTheShortIntervalOfItsStep) {
+    BoxShow show(4);
+    show.PutOut(2);
+    show.BoxPause();
+    show.BoxStart();
+    EXPECT_EQ(show.form1.Timer1.Interval, 1);
+    show.loop.Run(1);
+    EXPECT_EQ(show.Shown(), (Numbers{1, 3}));
+    show.BoxPause();
+    show.files.Put(u"C:\\pic\\film.mp4", "film");
+    show.form3.List1.SetRow(3, u"C:\\pic\\film.mp4");
+    show.state.SlideList.Set(4, u"C:\\pic\\film.mp4");
+    show.BoxStart();
+    EXPECT_EQ(show.form1.Timer1.Interval, 100);
+    show.loop.Run(100);
+    EXPECT_EQ(show.Shown(), (Numbers{1, 3, 1}));
+}
+
+TEST(ControlBoxStart, OnlyItsOwnStepWaitsForNoSound) {
+    BoxShow show;
+    show.BoxPause();
+    show.state.SoundMode = 1;
+    show.state.SoundSyncFlag = 0;
+    show.files.Put(u"C:\\pic\\2.wav", "");
+    show.sound.answer = [&](TextView command) -> Text {
+        return command == u"status wav mode" && show.loop.Milliseconds() < 9000 ? u"playing" : u"";
+    };
+    show.BoxStart();
+    EXPECT_EQ(show.Shown(), (Numbers{1, 2}));
+    EXPECT_EQ(show.state.SkipSyncWaitOnce, 0);
+    Numbers whileItPlays;
+    show.loop.At(8000, [&] { whileItPlays = show.Shown(); });
+    show.loop.Run(10000);
+    EXPECT_EQ(whileItPlays, (Numbers{1, 2}));
+    EXPECT_EQ(show.Shown(), (Numbers{1, 2, 3}));
+}
+
+TEST(ControlBoxStart, TheShowGoesOnInTheWindowWhenTheScreenIsLeftInItsStep) {
+    BoxShow show;
+    show.BoxPause();
+    show.state.TextMacroFlag = 0;
+    show.files.Put(u"C:\\pic\\2.txt", "MENU6(1,\"x\")\r\n");
+    show.loop.After(1000, [&] { show.screen.KeyDown(27); });
+    show.BoxStart();
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_EQ(show.state.ShowRunning, 1);
+    EXPECT_TRUE(show.form1.Timer1.Enabled);
+    show.loop.Run(3000);
+    EXPECT_EQ(show.Shown(), (Numbers{1, 2, 3}));
+}
+
 TEST(ControlBoxStart, WaitsForTheSlideList) {
     BoxShow show;
     show.BoxPause();

@@ -156,6 +156,40 @@ TEST(FullScreenStart, AnEmptyListShowsNothing) {
     EXPECT_FALSE(show.form1.Timer1.Enabled);
 }
 
+TEST(FullScreenUnload, WithNothingRunningLeavesALivingWindow) {
+    for (const int16_t alwaysFull : {0, 1}) {
+        Show show(0);
+        show.state.AlwaysFullFlag = alwaysFull;
+        StartInScreen(show);
+        ASSERT_TRUE(show.MenusOff());
+        show.screen.KeyDown(27);
+        EXPECT_TRUE(show.form1.Visible);
+        EXPECT_TRUE(show.MenusOn());
+        EXPECT_TRUE(show.FileEntriesShown());
+        EXPECT_EQ(show.Buttons(), "") << "nothing to start";
+        EXPECT_EQ(show.ToolButtons(), "111");
+        EXPECT_EQ(show.state.StartLatch, 0);
+        show.AddPicture();
+        playback::SetButtons(show.app, playback::Buttons::Idle);
+        show.state.AlwaysFullFlag = 1;
+        show.Start();
+        EXPECT_EQ(show.Shown(), Numbers{1});
+    }
+}
+
+TEST(FullScreenUnload, TakesTheLockOfAMacroOffWithTheShow) {
+    Show show;
+    show.state.AlwaysFullFlag = 0;
+    StartInScreen(show);
+    show.Break(2);
+    show.state.MacroWaitClick = 1;
+    show.dialogs.answers = {platform::Answer::No};
+    show.loop.Run(3000);
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_EQ(show.state.MacroWaitClick, 0);
+    EXPECT_EQ(show.Buttons(), "SF");
+}
+
 TEST(FullScreenStart, PauseDuringTheFirstStepHoldsTheShow) {
     Show show;
     show.state.ControlBoxFlag = 0;

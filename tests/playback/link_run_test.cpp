@@ -46,7 +46,6 @@ public:
         return names;
     }
 
-private:
     void PutDocument(const Text& name, int slides) {
         // The oldest form: file name, interval, repeat (1: none), sound mode, sound file, slides.
         Text lines = u"vue2\r\nx.kvs\r\n 3000 \r\n 1 \r\n 7 \r\n*.wav\r\n";
@@ -188,21 +187,218 @@ TEST(LinkRun, AFailingFirstSlideOfALaterDocumentEndsIt) {
     EXPECT_EQ(show.state.LinkRunning, 0);
 }
 
-TEST(LinkRun, AnEmptyDocumentHoldsNothingUp) {
-    LinkShow show({u"b", u"empty", u"a"});
-    show.Run();
-    show.loop.Run(6000);
-    EXPECT_EQ(show.Names(), "b1 a1");
+TEST(LinkRun, AnEmptyDocumentIsOverAtItsFirstTick) {
+    struct {
+        std::vector<Text> documents;
+        double b1;  // ms
+    } const cases[] = {
+        {{u"empty", u"b"}, 1},
+        {{u"empty", u"empty", u"b"}, 2},
+        {{u"b", u"empty", u"a"}, 0},
+    };
+    for (const auto& one : cases) {
+        LinkShow show(one.documents);
+        show.Run();
+        EXPECT_EQ(show.state.ShowRunning, 1);
+        show.loop.Run(one.b1);
+        EXPECT_EQ(show.Names(), "b1");
+        show.loop.Run(3000);
+        EXPECT_EQ(show.Names(), "b1");
+        show.loop.Run(1);
+        EXPECT_EQ(show.Names(), one.b1 == 0 ? "b1 a1" : "b1");
+    }
 }
 
-TEST(LinkRun, AnEmptyFirstDocumentCanBeLeft) {
-    LinkShow show({u"empty"});
+TEST(LinkRun, AnEmptyLastDocumentEndsItOneTickLater) {
+    LinkShow show({u"b", u"empty"});
     show.Run();
-    show.loop.Run(10000);
-    EXPECT_EQ(show.state.ShowRunning, 0);
-    show.screen.KeyDown(27);
+    show.loop.Run(3000);
+    EXPECT_TRUE(show.screen.Loaded);
+    show.loop.Run(1);
     EXPECT_FALSE(show.screen.Loaded);
     EXPECT_EQ(show.state.LinkRunning, 0);
+}
+
+TEST(LinkRun, EmptyDocumentsInARepeatingListAreGoneThroughEachTime) {
+    LinkShow show({u"empty", u"b"});
+    show.state.LinkRepeat = 1;
+    show.Run();
+    show.loop.Run(3 * 3001);
+    EXPECT_EQ(show.Names(), "b1 b1 b1");
+}
+
+TEST(LinkRun, ARoundOfEmptyDocumentsEndsIt) {
+    for (const int16_t repeat : {0, 1}) {
+        for (const int count : {1, 3}) {
+            LinkShow show(std::vector<Text>(static_cast<size_t>(count), u"empty"));
+            show.state.LinkRepeat = repeat;
+            show.Run();
+            show.loop.Run(count - 1);
+            EXPECT_TRUE(show.screen.Loaded);
+            show.loop.Run(1);
+            EXPECT_FALSE(show.screen.Loaded) << repeat << count;
+            EXPECT_EQ(show.state.LinkRunning, 0);
+            EXPECT_TRUE(show.form1.Visible);
+            EXPECT_TRUE(show.MenusOn());
+            EXPECT_EQ(show.Buttons(), "");
+        }
+    }
+}
+
+TEST(LinkRun, ADocumentThatLosesItsSlidesOnDiskCountsAsEmpty) {
+    LinkShow show({u"b"});
+    show.state.LinkRepeat = 1;
+    show.Run();
+    show.PutDocument(u"b", 0);
+    show.loop.Run(20000);
+    EXPECT_EQ(show.Names(), "b1");
+    EXPECT_FALSE(show.screen.Loaded);
+}
+
+TEST(LinkRun, DocumentsThatCannotBeOpenedAreToldAndPassedOver) {
+    struct {
+        std::vector<Text> documents;
+        const char* names;
+        size_t messages;
+    } const cases[] = {
+        {{u"gone", u"b", u"a"}, "b1 a1 a2", 1},        {{u"b", u"gone", u"a"}, "b1 a1 a2", 1},
+        {{u"b", u"a", u"gone"}, "b1 a1 a2", 1},        {{u"gone", u"lost", u"b"}, "b1", 2},
+        {{u"gone", u"empty", u"lost", u"b"}, "b1", 2},
+    };
+    for (const auto& one : cases) {
+        LinkShow show(one.documents);
+        show.Run();
+        show.loop.Run(20000);
+        EXPECT_EQ(show.Names(), one.names);
+        EXPECT_EQ(show.dialogs.messages.size(), one.messages);
+        EXPECT_EQ(show.dialogs.messages[0].title, u"");
+        EXPECT_FALSE(show.screen.Loaded);
+        EXPECT_EQ(show.state.LinkRunning, 0);
+    }
+}
+
+TEST(LinkRun, TheyAreToldInEachRound) {
+    LinkShow show({u"gone", u"b"});
+    show.state.LinkRepeat = 1;
+    show.Run();
+    show.loop.Run(6000);
+    EXPECT_EQ(show.Names(), "b1 b1 b1");
+    EXPECT_EQ(show.dialogs.messages.size(), 3u);
+    EXPECT_EQ(show.state.LinkIndex, 3);
+}
+
+TEST(LinkRun, ARoundWithoutADocumentThatOpensEndsIt) {
+    for (const int16_t repeat : {0, 1}) {
+        LinkShow show({u"gone", u"lost"});
+        show.AddPicture();  // what stood in the list before
+        show.state.LinkRepeat = repeat;
+        show.Run();
+        EXPECT_EQ(show.dialogs.messages.size(), 2u);
+        EXPECT_FALSE(show.screen.Loaded);
+        EXPECT_EQ(show.state.LinkRunning, 0);
+        EXPECT_TRUE(show.form1.Visible);
+        EXPECT_EQ(show.Buttons(), "SF") << "the list from before is as it was";
+        show.loop.Run(10000);
+        EXPECT_EQ(show.Names(), "");
+    }
+}
+
+TEST(LinkRun, WhenAllDocumentsVanishTheRoundIsTheLast) {
+    LinkShow show({u"b", u"a"});
+    show.state.LinkRepeat = 1;
+    show.Run();
+    show.files.Remove(u"C:\\a\\a.kvs");
+    show.files.Remove(u"C:\\b\\b.kvs");
+    show.loop.Run(10000);
+    EXPECT_EQ(show.Names(), "b1");
+    EXPECT_EQ(show.dialogs.messages.size(), 2u);
+    EXPECT_FALSE(show.screen.Loaded);
+}
+
+TEST(LinkRun, ByHandDocumentsThatBringNoSlideArePassedOver) {
+    LinkShow show({u"a", u"gone", u"empty", u"b"});
+    show.Run();
+    show.loop.Run(3500);
+    show.box.Command3.Click();
+    show.box.Command5.Click();
+    EXPECT_EQ(show.Names(), "a1 a2 b1");
+    EXPECT_EQ(show.state.LinkIndex, 5);
+    EXPECT_EQ(show.state.BaseFolder, u"C:\\b\\");
+    EXPECT_FALSE(show.box.Command5.Enabled);
+    show.box.Command4.Click();
+    EXPECT_EQ(show.Names(), "a1 a2 b1 a2");
+    EXPECT_EQ(show.state.LinkIndex, 2);
+    EXPECT_EQ(show.dialogs.messages.size(), 2u) << "one for each time it was passed over";
+}
+
+TEST(LinkRun, ByHandNothingHappensWhereNoDocumentOpens) {
+    LinkShow show({u"gone", u"b", u"lost"});
+    show.Run();
+    show.box.Command3.Click();
+    show.dialogs.messages.clear();
+    show.box.Command4.Click();
+    EXPECT_EQ(show.dialogs.messages.size(), 1u);
+    EXPECT_EQ(show.state.SlideIndex, 1);
+    EXPECT_EQ(show.state.LinkIndex, 3);
+    EXPECT_EQ(show.state.BaseFolder, u"C:\\b\\");
+    show.box.Command5.Click();
+    EXPECT_EQ(show.dialogs.messages.size(), 2u);
+    EXPECT_EQ(show.state.SlideIndex, 1);
+    EXPECT_EQ(show.Names(), "b1");
+    EXPECT_TRUE(show.box.Command2.Enabled);
+    EXPECT_EQ(show.state.StepBusy, 0);
+}
+
+TEST(LinkRun, ByHandIntoAnEmptyEndTheShowCanGoOn) {
+    LinkShow show({u"empty", u"b", u"empty"});
+    show.Run();
+    show.loop.Run(1);
+    show.box.Command3.Click();
+    show.box.Command5.Click();
+    EXPECT_EQ(show.state.SlideIndex, 0);
+    EXPECT_EQ(show.state.LinkIndex, 4);
+    EXPECT_FALSE(show.box.Command5.Enabled);
+    show.box.Command4.Click();
+    EXPECT_EQ(show.Names(), "b1 b1");
+    show.box.Command4.Click();
+    EXPECT_EQ(show.state.LinkIndex, 2);
+    EXPECT_FALSE(show.box.Command4.Enabled);
+    show.box.Command2.Click();
+    show.loop.Run(3000);
+    EXPECT_EQ(show.Names(), "b1 b1 b1");
+}
+
+TEST(LinkRun, ByHandOverABorderOntoAVideoTheShowStaysFree) {
+    LinkShow show({u"a", u"b"});
+    show.PutText(u"C:\\b\\b.kvs",
+                 u"vue2\r\nx.kvs\r\n 3000 \r\n 1 \r\n 7 \r\n*.wav\r\n 1 \r\nfilm.mp4\r\n");
+    show.files.Put(u"C:\\b\\film.mp4", "film");
+    show.Run();
+    show.loop.Run(3500);
+    show.box.Command3.Click();
+    show.box.Command5.Click();
+    EXPECT_EQ(show.state.LinkIndex, 3);
+    EXPECT_EQ(show.state.StepBusy, 0);
+    show.box.Command4.Click();
+    EXPECT_EQ(show.Names(), "a1 a2 a2");
+}
+
+TEST(LinkRun, NoBorderSkipsTheWaitForALinkedSound) {
+    LinkShow show({u"b", u"a"});
+    show.Run();
+    ASSERT_EQ(show.state.SkipSyncWaitOnce, 0);
+    show.loop.Run(3000);
+    ASSERT_EQ(show.Names(), "b1 a1");
+    EXPECT_EQ(show.state.SkipSyncWaitOnce, 0) << "the next step waits for the sound of a1";
+}
+
+TEST(LinkRun, TheLockOfAMacroEndsWithIt) {
+    LinkShow show({u"b"});
+    show.Run();
+    show.state.MacroWaitClick = 1;
+    show.loop.Run(3000);
+    EXPECT_FALSE(show.screen.Loaded);
+    EXPECT_EQ(show.state.MacroWaitClick, 0);
 }
 
 TEST(LinkRun, PreviousReachesTheLastSlideOfTheDocumentBefore) {

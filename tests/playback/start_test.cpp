@@ -209,6 +209,119 @@ TEST(Start, AListThatLostItsLastPictureLeavesNothingToStart) {
     EXPECT_FALSE(show.form1.Timer1.Enabled);
 }
 
+/// The macro of the first slide holds it for ever.
+struct HeldByItsMacro : Show {
+    HeldByItsMacro() {
+        state.TextMacroFlag = 0;
+        files.Put(u"C:\\pic\\1.txt", "MENU6(1,\"x\")\r\n");
+    }
+};
+
+TEST(StartFirstStep, TheRunningButtonsStandBeforeIt) {
+    HeldByItsMacro show;
+    std::string buttons;
+    bool pauses = true, goesFull = true;
+    show.loop.At(1000, [&] {
+        buttons = show.Buttons();
+        show.Pause();
+        pauses = show.state.ShowRunning != 1;
+        show.form1.Command4.Click();
+        goesFull = show.screen.Loaded;
+        show.Stop();
+    });
+    show.Start();
+    EXPECT_EQ(buttons, "PXF");
+    EXPECT_FALSE(pauses) << "within a step";
+    EXPECT_FALSE(goesFull) << "within a step";
+}
+
+TEST(StartFirstStep, StopInItEndsTheShow) {
+    HeldByItsMacro show;
+    show.loop.At(1000, [&] { show.Stop(); });
+    show.Start();
+    EXPECT_EQ(show.Buttons(), "SF");
+    EXPECT_EQ(show.ToolButtons(), "111");
+    EXPECT_EQ(show.state.ShowRunning, 0);
+    EXPECT_EQ(show.state.SlideIndex, 0);
+    EXPECT_EQ(show.state.StepBusy, 0);
+    EXPECT_FALSE(show.form1.Timer1.Enabled);
+    EXPECT_TRUE(show.FileEntriesShown());
+    EXPECT_TRUE(show.MenusOn());
+    EXPECT_EQ(show.windows.Pointer(), model::kPointerNormal);
+    show.loop.Run(10000);
+    EXPECT_EQ(show.Shown(), Numbers{1});
+}
+
+TEST(StartFirstStep, PauseInItsWaitForAScrollingTextHolds) {
+    Show show;
+    show.Start();
+    show.Pause();
+    show.state.TelopRunning = 1;
+    show.loop.After(500, [&] { show.Pause(); });
+    show.Start();
+    EXPECT_EQ(show.state.ShowRunning, 0);
+    EXPECT_EQ(show.Shown(), Numbers{1});
+    EXPECT_EQ(show.Buttons(), "SX>F");
+    EXPECT_FALSE(show.form1.Timer1.Enabled);
+    show.Start();
+    EXPECT_EQ(show.Shown(), (Numbers{1, 2}));
+}
+
+TEST(StartFirstStep, UnderTheLockOfAMacroAFailureStillEndsTheShow) {
+    Show show;
+    show.Start();
+    show.Pause();
+    show.Break(2);
+    show.state.MacroWaitClick = 1;
+    show.dialogs.answers = {platform::Answer::No};
+    show.Start();
+    EXPECT_EQ(show.Buttons(), "SF");
+    EXPECT_EQ(show.state.MacroWaitClick, 0);
+    EXPECT_EQ(show.state.ShowRunning, 0);
+}
+
+TEST(StartFirstStep, OutOfScheduleLeavesThePointerAndPauseFree) {
+    Show show;
+    for (const int slide : {1, 2, 3}) {
+        show.PutOut(slide);
+    }
+    show.Start();
+    EXPECT_EQ(show.windows.Pointer(), model::kPointerNormal);
+    EXPECT_EQ(show.form1.Timer1.Interval, 1);
+    show.loop.Run(1);
+    show.Pause();
+    EXPECT_EQ(show.state.ShowRunning, 0);
+    EXPECT_TRUE(show.form1.Command1.Enabled);
+}
+
+TEST(StartFirstStep, AMissingVideoLeavesThePointerFree) {
+    Show show;
+    show.form3.List1.SetRow(0, u"C:\\pic\\gone.mp4");
+    show.state.SlideList.Set(1, u"C:\\pic\\gone.mp4");
+    show.Start();
+    EXPECT_EQ(show.windows.Pointer(), model::kPointerNormal);
+}
+
+TEST(StartFirstStep, AShowThatHasShownNothingYetMovesToTheFullScreen) {
+    Show show;
+    for (const int slide : {1, 2, 3}) {
+        show.PutOut(slide);
+    }
+    show.Start();
+    show.form1.Command4.Click();
+    EXPECT_TRUE(show.screen.Visible);
+    EXPECT_EQ(show.state.ShowRunning, 1);
+    EXPECT_EQ(show.windows.Pointer(), model::kPointerNormal);
+}
+
+TEST(Start, TheLongestIntervalOfAFileIsTheLongestOfTheTimer) {
+    Show show;
+    show.state.SlideIntervalSec = 2147484;  // 2147483647 ms, rounded
+    show.Start();
+    EXPECT_EQ(show.form1.Timer1.Interval, 2147483647);
+    EXPECT_TRUE(show.form1.Timer1.Enabled);
+}
+
 /// Paused on the last of three slides.
 struct AtTheEnd : Show {
     AtTheEnd() {

@@ -1,6 +1,5 @@
 # STOP in the main window during a move ends it where the piece stands, and hides the piece: the press
-# of 3250 is met by the pump of the pass of 3300, the fourth. (On the first slide of a show STOP is
-# not enabled yet.)
+# of 3250 is met by the pump of the pass of 3300, the fourth.
 # trace: {"t":3300,"event":"cutout","index":1,"x":4,"y":0,
 # no trace: "state":"moved"
 # slides: 0 e_plain.png 3000 e_stop.png

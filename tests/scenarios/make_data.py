@@ -43,6 +43,8 @@ s1 (black), s2 (left half black, right half white), s3 (the same): 320x240.
 m1, m2 (320x240, shaded) have macro files beside them; star.png (60x40) is their piece, cut.dat a
 polygon in it.
   all.kvl       one.kvs, then repeat.kvs
+gaps.kvl      a show that is not there, empty.kvs, one.kvs, another that is not there
+gone.kvl      two shows that are not there; empties.kvl twice empty.kvs; none.kvl nothing
 State files, for the program folder:
   uautst.dat    the link window with its auto start: one.kvs, then repeat.kvs beside itself
   autstart.dat  of the oldest form: auto start and nothing else
@@ -240,6 +242,7 @@ def edge_macros():
         "e_menu.txt": macro("CurrentX=10", "CurrentY=10", 'Menu1(1,"初め")', "CurrentX=50",
                             "CurrentY=60", 'Menu1(50,"最後")'),
         "e_menu6.txt": macro('MENU6(1,"無")'),
+        "e_end_menu.txt": macro('Menu1(50,"最後")', "EndTime=10"),
         # The screen.
         "e_clear.txt": macro("SavePic", "[テキスト]", "一", "Cls", "二", "Sleep=1", "Reverse", "Reverse",
                              "三"),
@@ -257,6 +260,8 @@ def edge_macros():
         "stop": ["plain", "stop", "plain"],
         "buttons": ["first", "yes_no", "menu", "plain", "menu6"],
         "origin": ["origin", "plain"],
+        "held": ["menu6", "plain"],
+        "past_end": ["end_menu", "dot", "dot", "plain"],
         "screen": ["clear", "corner", "percent", "random", "centre", "plain"],
     }
     for name, slides in shows.items():
@@ -326,6 +331,11 @@ def main():
     files["texts_full.kvs"] = document(lines_of_show(slides, always_full=0))
     files["texts_second.kvs"] = document(lines_of_show(["a.png", "w1.png"]))
     files.update({name: png(320, 240, (64, 64, 0)) for name in slides[:2]}, **texts())
+    files["gaps.kvl"] = document(
+        ["1vue3167", "gaps.kvl", " 4 ", "gone.kvs", "empty.kvs", "one.kvs", "lost.kvs"])
+    files["gone.kvl"] = document(["1vue3167", "gone.kvl", " 2 ", "gone.kvs", "lost.kvs"])
+    files["empties.kvl"] = document(["1vue3167", "empties.kvl", " 2 ", "empty.kvs", "empty.kvs"])
+    files["none.kvl"] = document(["1vue3167", "none.kvl", " 0 "])
     files["all.kvl"] = document(["1vue3167", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
     files["uautst.dat"] = document(
         ["KVSV3", " 1 ", " 0 ", " 0 ", "all.kvl", " 2 ", "one.kvs", "repeat.kvs"])
