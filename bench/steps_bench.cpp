@@ -50,6 +50,7 @@ public:
     int BitsPerPixel() const override { return 24; }
     void SetColorResolution(int, int, int, int) override {}
     void Resize(int width, int height, int) override { size_ = {width, height}; }
+    void ResizeTo(platform::Size size, platform::Size) override { size_ = size; }
     void GrayScale() override {}
     void Reverse() override {}
     void Mosaic(int) override {}

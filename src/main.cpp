@@ -153,7 +153,8 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     robot::WindowTracer windows(*trace);
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
                              around.imaging, desktop.TextRenderer(), sound, video, system, *trace,
-                             around.codePage});
+                             around.codePage,
+                             posix_adapter::ReadUserSettings(around.programFolder)});
     around.system.textOpener = [](TextView path) { return qt_adapter::Desktop::OpenText(path); };
     windows.Attach(application.windows);
     const Views views(desktop, application);
@@ -180,7 +181,8 @@ int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
         robot::TracedSystem system(around.system, *trace, false);
         Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
                                  around.imaging, desktop.TextRenderer(), robot.Sound(),
-                                 robot.Video(), system, *trace, around.codePage});
+                                 robot.Video(), system, *trace, around.codePage,
+                                 posix_adapter::ReadUserSettings(around.programFolder)});
         const Views views(desktop, application);
         robot.Attach(application, [&](model::Window& window, const std::string& file) {
             return desktop.Shot(window, file);

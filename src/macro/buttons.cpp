@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "macro/arguments.h"
+#include "picture/screen.h"
 #include "platform/monitors.h"
 #include "text/numbers.h"
 
@@ -73,10 +74,7 @@ void ClearOldMenu(Run& run, size_t entry, model::Button& button) {
     }
     button.Visible = false;
     run.app.platform.loop.PumpEvents();
-    const platform::Rect place = PlaceOf(button);
-    run.app.windows.slidescreen.P2.canvas.BitBlt(place.x, place.y, place.width, place.height,
-                                                 state.EffectDc.get(), place.x - state.PictureX,
-                                                 place.y - state.PictureY);
+    picture::CopyPicture(run.app, run.app.windows.slidescreen.P2, PlaceOf(button));
 }
 
 /// The digit behind MENU, 1 to 5; 0 where there is none of them.

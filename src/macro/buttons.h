@@ -22,7 +22,7 @@ std::array<model::Button*, 5> MenuButtons(model::Slidescreen& screen);
 /// Yes, No and the menu buttons of both windows vanish.
 void HideButtons(Application& app);
 
-/// A control's place in pixels of the canvas under it.
+/// A control's place in units of the canvas under it.
 platform::Rect PlaceOf(const model::VisibleControl& control);
 
 }  // namespace macro

@@ -99,10 +99,21 @@ void HideOldPiece(Application& app, int index) {
     app.platform.loop.PumpEvents();
 }
 
-/// Null for an empty name and for a file that is no picture.
-platform::BitmapPtr LoadPicture(Application& app, TextView path) {
+/// The piece's picture in both windows, in as many pixels as each window's canvas has for it. None
+/// for an empty name and for a file that is no picture.
+void LoadPicture(Application& app, int index, TextView path) {
+    model::PictureBox& inWindow = app.windows.form1.Picture2(index);
+    model::PictureBox& onScreen = app.windows.slidescreen.Picture1(index);
     const auto imaging = app.platform.imaging.MakeControl();
-    return !path.empty() && imaging->Load(path, {}) ? imaging->Picture() : nullptr;
+    if (path.empty() || !imaging->Load(path, {})) {
+        inWindow.SetPicture(nullptr);
+        onScreen.SetPicture(nullptr);
+        return;
+    }
+    const platform::Size size = imaging->HeldSize();
+    inWindow.SetPicture(imaging->Picture(), size);
+    imaging->ResizeTo(size, app.windows.slidescreen.P2.canvas.Scaling().ToPixels(size));
+    onScreen.SetPicture(imaging->Picture(), size);
 }
 
 /// A coordinate that no 16 bits hold leaves its bound as it was.
@@ -135,21 +146,33 @@ std::vector<platform::Point> DataFilePoints(Application& app, size_t i) {
     return points;
 }
 
+/// The shape in pixels of the piece's picture.
+platform::RegionPtr RegionOf(Application& app, int index, int shape) {
+    const model::PictureBox& piece = CutoutInForce(app, index);
+    const platform::Bitmap& shown = piece.Shown();
+    const platform::Size pixels{shown.width, shown.height};
+    if (shape != kDataFileShape) {
+        return platform::CreatePolyPolygonRgn(ShapePoints(shape, pixels), pixels);
+    }
+    const platform::Scale scale{{piece.ScaleWidth(), piece.ScaleHeight()}, pixels};
+    std::vector<platform::Point> points = DataFilePoints(app, static_cast<size_t>(index));
+    for (platform::Point& point : points) {
+        point = {scale.X(point.x), scale.Y(point.y)};
+    }
+    return platform::CreatePolyPolygonRgn(points, pixels);
+}
+
 /// Only the window of the mode in force gets the shape; the piece of the other one is whole.
 void Shape(Application& app, int index) {
     model::ShowState& state = app.state;
-    const auto i = static_cast<size_t>(index);
     model::PictureBox& inWindow = app.windows.form1.Picture2(index);
     model::PictureBox& onScreen = app.windows.slidescreen.Picture1(index);
     inWindow.Visible = false;
     onScreen.Visible = false;
-    const platform::Size box{onScreen.ScaleWidth(), onScreen.ScaleHeight()};
-    const auto points = state.PicPbType == kDataFileShape ? DataFilePoints(app, i)
-                                                          : ShapePoints(state.PicPbType, box);
     inWindow.SetWindowRgn(nullptr);
     onScreen.SetWindowRgn(nullptr);
-    CutoutInForce(app, index).SetWindowRgn(platform::CreatePolyPolygonRgn(points, box));
-    state.CutoutType[i] = state.PicPbType;
+    CutoutInForce(app, index).SetWindowRgn(RegionOf(app, index, state.PicPbType));
+    state.CutoutType[static_cast<size_t>(index)] = state.PicPbType;
 }
 
 void ShowPiece(Run& run, int index, const PieceLine& piece) {
@@ -173,9 +196,7 @@ void ShowPiece(Run& run, int index, const PieceLine& piece) {
     const Text folder = SlideFolder(app);
     const auto i = static_cast<size_t>(index);
     state.CutoutPicture[i] = NamedFile(app.platform.files, folder, piece.picture);
-    const platform::BitmapPtr picture = LoadPicture(app, state.CutoutPicture[i]);
-    inWindow.SetPicture(picture);
-    onScreen.SetPicture(picture);
+    LoadPicture(app, index, state.CutoutPicture[i]);
     inWindow.Left = run.CurrentXValue;
     inWindow.Top = app.windows.form1.Picture1.canvas.penY;
     onScreen.Left = state.TextOriginX + run.CurrentXValue;
@@ -191,6 +212,17 @@ void ShowPiece(Run& run, int index, const PieceLine& piece) {
 }
 
 }  // namespace
+
+void RefitPieces(Application& app) {
+    const model::ShowState& state = app.state;
+    for (int index = 0; index <= kLastCutout; ++index) {
+        const auto i = static_cast<size_t>(index);
+        if (state.CutoutActive[i] == 1) {
+            LoadPicture(app, index, state.CutoutPicture[i]);
+            CutoutInForce(app, index).SetWindowRgn(RegionOf(app, index, state.CutoutType[i]));
+        }
+    }
+}
 
 Text SlideFolder(const Application& app) {
     return text::FolderPart(app.state.SlideList(app.state.SlideIndex));

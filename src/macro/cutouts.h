@@ -1,5 +1,5 @@
 // Cut-out pieces: small pictures laid over the slide. Piece n stands in Form1.Picture2(n) and in
-// Slidescreen.Picture1(n), each over its window's canvas; Left and Top are pixels of that canvas.
+// Slidescreen.Picture1(n), each over its window's canvas; Left and Top are units of that canvas.
 #pragma once
 
 #include <optional>
@@ -35,6 +35,9 @@ void TraceCutout(Application& app, int index, TextView what);
 /// The piece vanishes from both windows; in full screen the background comes back where it was
 /// seen. Its row in the tables of pieces and of menus becomes empty.
 void RemoveObject(Application& app, int index);
+
+/// The pieces that are up take as many pixels as the full-screen canvas now has for them.
+void RefitPieces(Application& app);
 
 /// Folder of the slide: its path up to the last separator or ':'.
 Text SlideFolder(const Application& app);

@@ -30,15 +30,20 @@ Text Printable(TextView text) {
     return result;
 }
 
-void LimitOutline(Run& run) {
+std::vector<platform::Offset> UnderlayOffsets(Run& run, const platform::Canvas& canvas) {
+    const platform::Scale& scale = canvas.Scaling();
+    if (run.KageKind == kShadow) {
+        return {{scale.X(run.ZureX), scale.Y(run.ZureY)}};
+    }
+    if (run.KageKind != kBlackOutline && run.KageKind != kWhiteOutline) {
+        return {};
+    }
+    // That lasts, also for later shadows.
     run.ZureX = std::min(std::abs(run.ZureX), kWidestOutline);
     run.ZureY = std::min(std::abs(run.ZureY), kWidestOutline);
-}
-
-std::vector<platform::Offset> OutlineOffsets(const Run& run) {
     std::vector<platform::Offset> offsets;
-    for (int dx = 0; dx <= run.ZureX; ++dx) {
-        for (int dy = 0; dy <= run.ZureY; ++dy) {
+    for (int dx = 0; dx <= scale.X(run.ZureX); ++dx) {
+        for (int dy = 0; dy <= scale.Y(run.ZureY); ++dy) {
             offsets.insert(offsets.end(), {{dx, dy}, {-dx, -dy}, {dx, -dy}, {-dx, dy}});
         }
     }
@@ -53,18 +58,12 @@ platform::Color OutlineColor(const Run& run) {
 }
 
 void DrawUnderlay(Run& run, TextView printable) {
-    std::vector<platform::Offset> offsets;
-    platform::Color color = QBColor(0);
-    if (run.KageKind == kShadow) {
-        offsets = {{run.ZureX, run.ZureY}};
-    } else if (run.KageKind == kBlackOutline || run.KageKind == kWhiteOutline) {
-        LimitOutline(run);
-        offsets = OutlineOffsets(run);
-        color = OutlineColor(run);
-    } else {
-        return;
-    }
+    const platform::Color color = run.KageKind == kShadow ? QBColor(0) : OutlineColor(run);
     for (platform::Canvas* canvas : Canvases(run.app)) {
+        const std::vector<platform::Offset> offsets = UnderlayOffsets(run, *canvas);
+        if (offsets.empty()) {
+            return;
+        }
         if (!printable.empty()) {
             run.app.platform.textRenderer.DrawEach(*canvas, canvas->penX, canvas->penY,
                                                    canvas->font, color, printable, offsets);

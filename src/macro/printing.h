@@ -7,17 +7,16 @@
 
 namespace macro {
 
-/// The most pixels that an outline reaches to each side.
+/// The most units that an outline reaches to each side.
 constexpr int kWidestOutline = 10;
 
 /// What of the text is drawn: carriage returns and line feeds leave no mark, a tab is a blank.
 Text Printable(TextView text);
 
-/// ZureX and ZureY become their absolute values, 10 at most. That lasts, also for later shadows.
-void LimitOutline(Run& run);
-/// Where the prints of an outline stand, in their order; the same place comes up to four times,
-/// which makes soft edges harder.
-std::vector<platform::Offset> OutlineOffsets(const Run& run);
+/// Where the prints of a shadow or an outline stand on the canvas, in its pixels and in their
+/// order. An outline limits ZureX and ZureY; its prints stand a pixel apart, and the same place
+/// comes up to four times, which makes soft edges harder. Empty without KageKind.
+std::vector<platform::Offset> UnderlayOffsets(Run& run, const platform::Canvas& canvas);
 platform::Color OutlineColor(const Run& run);
 
 /// Shadow or outline of a text at the pens, which stay. Leaves TextForeColor as the colour: black

@@ -16,7 +16,6 @@ namespace {
 constexpr double kLongestSide = 999;  // pixels
 constexpr double kFullTurn = 360;     // degrees
 constexpr platform::Color kShadowInWindow = platform::Rgb(20, 20, 20);
-constexpr platform::Offset kInPlace[] = {{0, 0}};
 
 struct Rotated {
     int height, width, angle10;
@@ -48,26 +47,29 @@ void SetColors(Run& run, platform::Color onScreen, platform::Color inWindow) {
 }
 
 void DrawRotatedUnderlay(Run& run, const Rotated& rotated) {
-    std::vector<platform::Offset> offsets;
-    if (run.KageKind == 1) {
+    const bool shadow = run.KageKind == 1;
+    if (shadow) {
         run.TextForeColor = run.app.windows.form1.Picture1.canvas.color;
         // Kept: the two shadows differ.
         SetColors(run, QBColor(0), kShadowInWindow);
-        offsets = {{run.ZureX, run.ZureY}};
     } else {
-        LimitOutline(run);
         SetColors(run, OutlineColor(run), OutlineColor(run));
-        offsets = OutlineOffsets(run);
-        offsets.push_back(offsets.back());  // Kept: the last place is drawn once more
     }
-    DrawRotatedPair(run, rotated.height, rotated.width, rotated.angle10, rotated.text, offsets);
+    DrawRotatedPair(run, rotated.height, rotated.width, rotated.angle10, rotated.text,
+                    [&](const platform::Canvas& canvas) {
+                        auto offsets = UnderlayOffsets(run, canvas);
+                        if (!shadow) {
+                            offsets.push_back(offsets.back());  // Kept: one more print there
+                        }
+                        return offsets;
+                    });
     SetColors(run, run.TextForeColor, run.TextForeColor);
 }
 
 }  // namespace
 
 void DrawRotatedPair(Run& run, int height, int width, int angle10, TextView text,
-                     std::span<const platform::Offset> offsets) {
+                     const OffsetsOn& offsetsOn) {
     platform::Canvas& window = run.app.windows.form1.Picture1.canvas;
     platform::Canvas& screen = run.app.windows.slidescreen.P2.canvas;
     if (text.empty()) {
@@ -81,7 +83,7 @@ void DrawRotatedPair(Run& run, int height, int width, int angle10, TextView text
         font.underline = canvas == &screen && window.font.underline;
         run.app.platform.textRenderer.DrawTurned(*canvas, canvas->penX, canvas->penY, font,
                                                  {height, width, angle10}, canvas->color, padded,
-                                                 offsets);
+                                                 offsetsOn(*canvas));
     }
 }
 
@@ -93,7 +95,8 @@ Flow DrawRotatedText(Run& run, double) {
     }
     const platform::Canvas& canvas = CanvasInForce(run.app);
     TraceText(run, {canvas.penX, canvas.penY}, rotated.text);
-    DrawRotatedPair(run, rotated.height, rotated.width, rotated.angle10, rotated.text, kInPlace);
+    DrawRotatedPair(run, rotated.height, rotated.width, rotated.angle10, rotated.text,
+                    [](const platform::Canvas&) { return std::vector{platform::Offset{}}; });
     SetLine(run, u" ");
     return Flow::GoOn;
 }

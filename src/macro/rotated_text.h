@@ -1,6 +1,9 @@
 // Texts at any angle and in any width.
 #pragma once
 
+#include <functional>
+#include <vector>
+
 #include "macro/run.h"
 
 namespace macro {
@@ -10,9 +13,12 @@ namespace macro {
 /// counts as one.
 Flow DrawRotatedText(Run& run, double);
 
+/// Where the prints of a text stand on a canvas, in its pixels.
+using OffsetsOn = std::function<std::vector<platform::Offset>(const platform::Canvas&)>;
+
 /// The text at the pens of both canvases, once for each offset, in their colours. angle10: tenths
 /// of a degree.
 void DrawRotatedPair(Run& run, int height, int width, int angle10, TextView text,
-                     std::span<const platform::Offset> offsets);
+                     const OffsetsOn& offsetsOn);
 
 }  // namespace macro

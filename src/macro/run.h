@@ -76,7 +76,7 @@ void ShowPointer(Application& app);
 /// Copies one layer of the full screen onto another of the same size.
 void CopyLayer(model::PictureBox& target, const model::PictureBox& source);
 
-/// Copies the area (pixels of the full-screen canvas) from the background P3 back to P2.
+/// Copies the area (units of the full-screen canvas) from the background P3 back to P2.
 void RestoreBackground(Application& app, const platform::Rect& area);
 
 /// In full-screen mode the canvas takes the keyboard.

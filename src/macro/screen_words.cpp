@@ -30,13 +30,13 @@ Flow Filter(Run& run, Operation operation) {
 void CoverBoxPlace(Application& app) {
     model::Slidescreen& screen = app.windows.slidescreen;
     const platform::Rect box = PlaceOf(app.windows.slidescreen2);
-    const platform::Rect at{
+    const platform::Rect pixels{
         box.x / platform::kTwipsPerPixel - screen.Left / platform::kTwipsPerPixel - 1,
         box.y / platform::kTwipsPerPixel - screen.Top / platform::kTwipsPerPixel - 1, box.width + 2,
         box.height + 2};
+    const platform::Bitmap& shown = screen.P2.canvas.Pixels();
     for (model::PictureBox* layer : {&screen.P4, &screen.P3}) {
-        layer->canvas.BitBlt(at.x, at.y, at.width, at.height, &screen.P2.canvas.Pixels(), at.x,
-                             at.y);
+        layer->canvas.Lay(pixels, shown, {0, 0, shown.width, shown.height});
     }
 }
 

@@ -149,8 +149,14 @@ int ListBox::SelCount() const {
 PictureBox::PictureBox(Window* window, std::string name, bool autoSize)
     : VisibleControl(window, ControlKind::PictureBox, std::move(name)), autoSize_(autoSize) {}
 
-void PictureBox::SetPicture(platform::BitmapPtr picture) {
+void PictureBox::SetPicture(const platform::BitmapPtr& picture) {
+    SetPicture(picture,
+               picture ? platform::Size{picture->width, picture->height} : platform::Size());
+}
+
+void PictureBox::SetPicture(platform::BitmapPtr picture, platform::Size size) {
     picture_ = std::move(picture);
+    pictureSize_ = picture_ ? size : platform::Size();
     if (autoSize_) {
         Width = ScaleWidth() * platform::kTwipsPerPixel;
         Height = ScaleHeight() * platform::kTwipsPerPixel;
@@ -171,39 +177,54 @@ void PictureBox::SetWindowRgn(platform::RegionPtr region) {
 
 bool PictureBox::TakesPress(int x, int y) const {
     const bool inBox = x >= 0 && y >= 0 && x < ToPixels(Width) && y < ToPixels(Height);
-    return inBox && (!region_ || region_->Contains(x, y));
+    if (!inBox || !region_) {
+        return inBox;
+    }
+    const platform::Bitmap& shown = Shown();
+    const platform::Scale scale{{ScaleWidth(), ScaleHeight()}, {shown.width, shown.height}};
+    return region_->Contains((scale.X(x) + scale.X(x + 1)) / 2, (scale.Y(y) + scale.Y(y + 1)) / 2);
 }
 
 void PictureBox::Cls() {
-    canvas.Cover(static_cast<platform::Color>(BackColor()), picture_);
+    canvas.Cover(static_cast<platform::Color>(BackColor()), picture_, pictureSize_);
 }
 
 void PictureBox::SetSize(int widthTwips, int heightTwips) {
+    SetSize(widthTwips, heightTwips, {ToPixels(widthTwips), ToPixels(heightTwips)});
+}
+
+void PictureBox::SetSize(int widthTwips, int heightTwips, platform::Size pixels) {
     Width = widthTwips;
     Height = heightTwips;
-    const int width = std::max(0, ToPixels(widthTwips));
-    const int height = std::max(0, ToPixels(heightTwips));
-    const int oldWidth = canvas.Width();
-    const int oldHeight = canvas.Height();
-    if (width == oldWidth && height == oldHeight) {
+    const platform::Size size{std::max(0, ToPixels(widthTwips)),
+                              std::max(0, ToPixels(heightTwips))};
+    const platform::Scale scale{size, {std::max(0, pixels.width), std::max(0, pixels.height)}};
+    if (scale == canvas.Scaling()) {
         return;
     }
-    canvas.Resize(width, height, static_cast<platform::Color>(BackColor()));
+    const auto [width, height] = size;
+    const int oldWidth = canvas.Width();
+    const int oldHeight = canvas.Height();
+    canvas.Resize(scale, static_cast<platform::Color>(BackColor()));
+    Refresh();
+    if (!picture_) {
+        return;
+    }
     // The picture is whole again where a smaller box had cut it off.
-    if (picture_ && width > oldWidth) {
-        canvas.BitBlt(oldWidth, 0, width - oldWidth, height, picture_.get(), oldWidth, 0);
-    }
-    if (picture_ && height > oldHeight) {
-        canvas.BitBlt(0, oldHeight, width, height - oldHeight, picture_.get(), 0, oldHeight);
-    }
+    const auto show = [&](const platform::Rect& area) {
+        canvas.Lay(scale.ToPixels(area), *picture_,
+                   scale.ToPixels(platform::Rect{0, 0, pictureSize_.width, pictureSize_.height}));
+    };
+    show({oldWidth, 0, width - oldWidth, height});
+    show({0, oldHeight, width, height - oldHeight});
 }
 
 int PictureBox::ScaleWidth() const {
-    return autoSize_ ? (picture_ ? picture_->width : 0) : canvas.Width();
+    return autoSize_ ? pictureSize_.width : canvas.Width();
 }
 
 int PictureBox::ScaleHeight() const {
-    return autoSize_ ? (picture_ ? picture_->height : 0) : canvas.Height();
+    return autoSize_ ? pictureSize_.height : canvas.Height();
 }
 
 Player::Player(Window* window, std::string name)

@@ -187,7 +187,7 @@ private:
 constexpr int kPointerDefault = 0, kPointerCustom = 99;  // custom: a hand that says "press here"
 
 /// A surface with a picture under what was drawn on it. With AutoSize it only holds the picture
-/// and its size follows it; otherwise its canvas has the control's size in pixels.
+/// and its size follows it; otherwise its canvas has the control's size, in units of 15 twips.
 class PictureBox : public VisibleControl {
 public:
     PictureBox(Window* window, std::string name, bool autoSize = false);
@@ -199,34 +199,41 @@ public:
     Event<int> KeyDown;
     /// Takes the keyboard; attached by the view.
     Event<> SetFocus;
-    /// Called when what is seen changed without the canvas: the region, or an AutoSize box's
-    /// picture. Attached by the view.
+    /// Called when what is seen changed without the canvas's pixels: the region, an AutoSize box's
+    /// picture, the canvas's scale. Attached by the view.
     Event<> Refresh;
 
     platform::Canvas canvas;
 
     const platform::BitmapPtr& Picture() const { return picture_; }
     /// Shows the picture at the top left over the back colour; what was drawn is gone. Null: none.
-    void SetPicture(platform::BitmapPtr picture);
+    void SetPicture(const platform::BitmapPtr& picture);
+    /// The same for one that counts as `size` units.
+    void SetPicture(platform::BitmapPtr picture, platform::Size size);
+    /// Shows the other box's picture.
+    void SetPictureOf(const PictureBox& other) { SetPicture(other.picture_, other.pictureSize_); }
     /// The pixels that a view shows.
     const platform::Bitmap& Shown() const;
     /// What was drawn is gone, the picture stays.
     void Cls();
-    /// Only these pixels are seen and take clicks; null: all.
+    /// Only these pixels of the picture are seen and take clicks; null: all.
     void SetWindowRgn(platform::RegionPtr region);
     const platform::RegionPtr& WindowRgn() const { return region_; }
-    /// True when a press at that pixel of the box is a press on it.
+    /// True when a press at that place of the box, in units, is a press on it.
     bool TakesPress(int x, int y) const;
     /// Sets the control's size (twips) and the canvas's, keeping what is on it. What the box grows
     /// by shows the picture, else the back colour.
     void SetSize(int widthTwips, int heightTwips);
-    /// Pixels inside: of the picture with AutoSize, of the canvas otherwise.
+    /// The same with a canvas of so many pixels.
+    void SetSize(int widthTwips, int heightTwips, platform::Size pixels);
+    /// Units inside: of the picture with AutoSize, of the canvas otherwise.
     int ScaleWidth() const;
     int ScaleHeight() const;
 
 private:
     bool autoSize_;
     platform::BitmapPtr picture_;
+    platform::Size pictureSize_;  // units
     platform::RegionPtr region_;
 };
 

@@ -39,7 +39,7 @@ int16_t Mirrored(int16_t effect) {
 
 void PlacePicture(Application& app) {
     model::ShowState& state = app.state;
-    const platform::Size monitor = MonitorSizeTwips(app);
+    const platform::Size canvas = CanvasSize(app);
     const model::PictureBox& picture = app.windows.form4.Picture1;
     double xFactor = 0.5;
     double yFactor = 0.5;
@@ -50,8 +50,8 @@ void PlacePicture(Application& app) {
         xFactor = app.platform.loop.Rnd();
         yFactor = app.platform.loop.Rnd();
     }
-    state.PictureX = Offset(monitor.width, picture.Width, xFactor);
-    state.PictureY = Offset(monitor.height, picture.Height, yFactor);
+    state.PictureX = Offset(canvas.width * platform::kTwipsPerPixel, picture.Width, xFactor);
+    state.PictureY = Offset(canvas.height * platform::kTwipsPerPixel, picture.Height, yFactor);
     state.PlacedWidthPx = picture.ScaleWidth();
     state.PlacedHeightPx = picture.ScaleHeight();
     state.PreviousPictureOnScreen = 1;

@@ -1,6 +1,7 @@
 #include "picture/effect_run.h"
 
 #include "picture/pacer.h"
+#include "picture/screen.h"
 
 namespace picture {
 
@@ -33,21 +34,28 @@ bool EffectScene::Stopped() const {
 }
 
 platform::Size EffectScene::PictureSize() const {
-    return {app_.state.PlacedWidthPx, app_.state.PlacedHeightPx};
+    const platform::Rect place = PicturePlace(app_);
+    return {place.width, place.height};
 }
 
 platform::Rect EffectScene::CanvasArea() const {
-    const model::PictureBox& canvas = app_.windows.slidescreen.P2;
-    return {-app_.state.PictureX, -app_.state.PictureY, canvas.ScaleWidth(), canvas.ScaleHeight()};
+    const platform::Rect place = PicturePlace(app_);
+    const platform::Size& pixels = app_.windows.slidescreen.P2.canvas.Scaling().pixels;
+    return {-place.x, -place.y, pixels.width, pixels.height};
 }
 
 void EffectScene::Draw(const platform::Rect& area, platform::RasterOp operation) {
     if (Gone()) {
         return;
     }
-    app_.windows.slidescreen.P2.canvas.BitBlt(app_.state.PictureX + area.x,
-                                              app_.state.PictureY + area.y, area.width, area.height,
-                                              source_.get(), area.x, area.y, operation);
+    const platform::Rect whole = PicturePlace(app_);
+    const platform::Rect onCanvas{whole.x + area.x, whole.y + area.y, area.width, area.height};
+    platform::Canvas& canvas = app_.windows.slidescreen.P2.canvas;
+    if (operation == platform::RasterOp::Blackness) {
+        canvas.FillPixels(onCanvas, 0);
+    } else if (source_) {
+        canvas.Lay(onCanvas, *source_, whole);
+    }
 }
 
 void EffectScene::DrawWhole(platform::RasterOp operation) {

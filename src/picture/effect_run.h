@@ -17,11 +17,11 @@ public:
     bool Gone() const;
     /// EffectStop was set, or the scene is gone.
     bool Stopped() const;
-    /// Size of the picture that stands there or comes, in pixels.
+    /// Pixels of P2 that the picture covers which stands there or comes.
     platform::Size PictureSize() const;
     /// The canvas in pixels of the picture: where it stands begins at (0, 0).
     platform::Rect CanvasArea() const;
-    /// Copies or blackens a rectangle of the picture at its place on P2.
+    /// Copies or blackens a rectangle of the picture, in pixels, at its place on P2.
     void Draw(const platform::Rect& area, platform::RasterOp operation);
     void DrawWhole(platform::RasterOp operation);
 

@@ -13,6 +13,15 @@ namespace {
 constexpr int kFailureTickMs = 10;
 constexpr int kMinimised = 1;
 
+platform::Size InTwips(platform::Size size) {
+    return {size.width * platform::kTwipsPerPixel, size.height * platform::kTwipsPerPixel};
+}
+
+/// The preview is reckoned in its pixels.
+platform::Scale ScaleOf(Application& app, bool fullScreen) {
+    return fullScreen ? CanvasScale(app) : platform::Scale();
+}
+
 /// The rule for the settings of this moment. `randomFactor` matters for OverlaySize 5 only.
 FitRule CurrentRule(Application& app, bool fullScreen, double randomFactor) {
     const model::ShowState& state = app.state;
@@ -25,7 +34,7 @@ FitRule CurrentRule(Application& app, bool fullScreen, double randomFactor) {
     rule.pictureScale = state.PictureScale;
     rule.randomFactor = randomFactor;
     rule.areaTwips =
-        fullScreen ? MonitorSizeTwips(app) : platform::Size{preview.Width(), preview.Height()};
+        fullScreen ? InTwips(CanvasSize(app)) : platform::Size{preview.Width(), preview.Height()};
     return rule;
 }
 
@@ -39,10 +48,15 @@ void FitIntoHolder(Application& app, bool fullScreen) {
     model::Form4& form4 = app.windows.form4;
     platform::ImagingControl& lead = *form4.Lead1.imaging;
     const FitRule rule = CurrentRule(app, fullScreen, DrawFactor(app, fullScreen));
-    if (const auto size = FittedSize(rule, lead.HeldSize())) {
-        lead.Resize(size->width, size->height, 0);
+    const platform::Scale scale = ScaleOf(app, fullScreen);
+    const auto fitted = FittedSize(rule, lead.HeldSize());
+    if (fitted && scale.Plain()) {
+        lead.Resize(fitted->width, fitted->height, 0);
+    } else {
+        const platform::Size size = fitted.value_or(lead.HeldSize());
+        lead.ResizeTo(size, scale.ToPixels(size));
     }
-    form4.Picture1.SetPicture(lead.Picture());
+    form4.Picture1.SetPicture(lead.Picture(), lead.HeldSize());
 }
 
 void ClearCanvasForPicture(Application& app) {
@@ -135,13 +149,18 @@ bool LoadSlidePicture(Application& app) {
     // Asked again: the erase effect yields, and the window can be closed in it.
     FitIntoHolder(app, state.FullScreenActive == 1);
     SizePreview(app);
-    windows.form1.Picture1.SetPicture(windows.form4.Picture1.Picture());
+    windows.form1.Picture1.SetPictureOf(windows.form4.Picture1);
     return true;
 }
 
 platform::FitFunction FitForLoad(Application& app, bool fullScreen) {
-    return [hint = CurrentRule(app, fullScreen, 1.0)](platform::Size own) {
-        return FittedSize(hint, own).value_or(platform::Size{});
+    return [hint = CurrentRule(app, fullScreen, 1.0),
+            scale = ScaleOf(app, fullScreen)](platform::Size own) {
+        const auto fitted = FittedSize(hint, own);
+        if (scale.Plain()) {
+            return fitted.value_or(platform::Size{});
+        }
+        return scale.ToPixels(fitted.value_or(own));
     };
 }
 
@@ -189,7 +208,7 @@ void RefitHeldPicture(Application& app, bool fullScreen) {
         form4.Lead1.imaging->CopyFrom(*form4.Lead2.imaging);
     }
     FitIntoHolder(app, fullScreen);
-    app.windows.form1.Picture1.SetPicture(form4.Picture1.Picture());
+    app.windows.form1.Picture1.SetPictureOf(form4.Picture1);
 }
 
 }  // namespace picture

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "picture/effects.h"
+#include "picture/screen.h"
 #include "text/numbers.h"
 
 namespace picture {
@@ -118,8 +119,8 @@ void RedrawProcessedPicture(Application& app) {
     }
     ReleaseEffectContext(app);
     lead.SetColorResolution(24, 4, 0, 0);
-    holder.SetPicture(lead.Picture());
-    app.windows.form1.Picture1.SetPicture(holder.Picture());
+    holder.SetPicture(lead.Picture(), lead.HeldSize());
+    app.windows.form1.Picture1.SetPictureOf(holder);
     if (state.FullScreenActive != 1) {
         return;
     }
@@ -133,8 +134,8 @@ void RedrawProcessedPicture(Application& app) {
     }
     CreateEffectContext(app);
     for (model::PictureBox* layer : {&slidescreen.P2, &slidescreen.P3, &slidescreen.P4}) {
-        layer->canvas.BitBlt(state.PictureX, state.PictureY, holder.ScaleWidth(),
-                             holder.ScaleHeight(), state.EffectDc.get(), 0, 0);
+        CopyPicture(app, *layer,
+                    {state.PictureX, state.PictureY, holder.ScaleWidth(), holder.ScaleHeight()});
     }
 }
 

@@ -9,6 +9,14 @@ namespace platform {
 
 namespace {
 
+// Keeps every product below within 64 bits, and every edge within an int; no canvas is nearly as
+// large.
+constexpr int kFarthest = 1 << 28;
+
+int Limited(int64_t value) {
+    return static_cast<int>(std::clamp<int64_t>(value, -kFarthest, kFarthest));
+}
+
 /// Rectangle from edges that may lie beyond an int; empty where they cross.
 Rect FromEdges(int64_t left, int64_t top, int64_t right, int64_t bottom) {
     if (right <= left || bottom <= top) {
@@ -27,6 +35,12 @@ int64_t DivideRounded(int64_t value, int64_t by) {
     const int64_t doubled = 2 * value + by;
     const int64_t quotient = doubled / (2 * by);
     return doubled % (2 * by) < 0 ? quotient - 1 : quotient;
+}
+
+int EdgeOf(int unit, int units, int pixels) {
+    return units == pixels || units <= 0
+               ? unit
+               : Limited(DivideRounded(int64_t{Limited(unit)} * pixels, units));
 }
 
 /// Copies rows of one bitmap to another (or within one), both areas wholly inside.
@@ -60,7 +74,74 @@ void FillRows(Bitmap& target, const Rect& area, Color fill) {
     }
 }
 
+/// For each of `count` places from `from` on the place in a source of `length` that lies on
+/// `whole`.
+std::vector<int> Places(int from, int count, int start, int whole, int length, bool repeats) {
+    std::vector<int> places(static_cast<size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        const int64_t place = int64_t{from} - start + i;
+        places[static_cast<size_t>(i)] = static_cast<int>(
+            repeats ? std::min<int64_t>(place, length - 1) : place * length / whole);
+    }
+    return places;
+}
+
+/// `inside` lies within the target and within `whole`, on which the source lies; `repeats`: see
+/// Canvas::Lay.
+void LayRows(Bitmap& target, const Rect& inside, const Bitmap& source, const Rect& whole,
+             bool repeats) {
+    if (whole.width == source.width && whole.height == source.height) {
+        CopyRows(target, inside, source, inside.x - whole.x, inside.y - whole.y);
+        return;
+    }
+    const std::vector<int> columns =
+        Places(inside.x, inside.width, whole.x, whole.width, source.width, repeats);
+    const std::vector<int> rows =
+        Places(inside.y, inside.height, whole.y, whole.height, source.height, repeats);
+    size_t run = 1;  // of columns that lie side by side in the source, too
+    while (run < columns.size() && columns[run] == columns[run - 1] + 1) {
+        ++run;
+    }
+    for (size_t y = 0; y < rows.size(); ++y) {
+        const Pixel* from = source.Row(rows[y]);
+        Pixel* to = target.Row(inside.y + static_cast<int>(y)) + inside.x;
+        std::memcpy(to, from + columns[0], run * sizeof(Pixel));
+        for (size_t x = run; x < columns.size(); ++x) {
+            to[x] = from[columns[x]];
+        }
+    }
+}
+
+/// Whether it is rounding that makes the lengths differ.
+bool NearlyEqual(const Rect& whole, const Bitmap& source) {
+    return std::abs(whole.width - source.width) <= 1 && std::abs(whole.height - source.height) <= 1;
+}
+
 }  // namespace
+
+int Scale::X(int unit) const {
+    return EdgeOf(unit, units.width, pixels.width);
+}
+
+int Scale::Y(int unit) const {
+    return EdgeOf(unit, units.height, pixels.height);
+}
+
+Rect Scale::ToPixels(const Rect& area) const {
+    if (Plain()) {
+        return area;
+    }
+    return FromEdges(X(area.x), Y(area.y), X(Limited(int64_t{area.x} + area.width)),
+                     Y(Limited(int64_t{area.y} + area.height)));
+}
+
+Size Scale::ToPixels(const Size& size) const {
+    return {std::max(1, X(size.width)), std::max(1, Y(size.height))};
+}
+
+double Scale::Factor() const {
+    return Plain() || units.height <= 0 ? 1.0 : double(pixels.height) / units.height;
+}
 
 Rect Intersection(const Rect& a, const Rect& b) {
     const auto right = [](const Rect& r) { return int64_t{r.x} + r.width; };
@@ -88,30 +169,37 @@ void TextRenderer::DrawEach(Canvas& canvas, int x, int y, const Font& font, Colo
     }
 }
 
-void Canvas::Resize(int width, int height, Color fill) {
+void Canvas::Resize(Scale scale, Color fill) {
+    for (int* length :
+         {&scale.units.width, &scale.units.height, &scale.pixels.width, &scale.pixels.height}) {
+        *length = std::max(*length, 0);
+    }
     Bitmap fresh;
-    fresh.width = std::max(width, 0);
-    fresh.height = std::max(height, 0);
-    const Rect kept = Intersection(Bounds(fresh), Bounds(pixels_));
-    const bool plain = groundDue_ && !groundPicture_ && ground_ == fill;
-    if (kept.Empty() || plain) {
+    fresh.width = scale.pixels.width;
+    fresh.height = scale.pixels.height;
+    const Rect old = scale.ToPixels(Rect{0, 0, Width(), Height()});
+    const Rect kept = Intersection(Bounds(fresh), old);
+    const bool even = groundDue_ && !groundPicture_ && ground_ == fill;
+    if (kept.Empty() || even) {
         groundDue_ = true;
         ground_ = fill;
         groundPicture_ = nullptr;
     } else {
         fresh = Bitmap(fresh.width, fresh.height, ToPixel(fill));
-        CopyRows(fresh, kept, Pixels(), 0, 0);
+        LayRows(fresh, kept, Pixels(), old, NearlyEqual(old, pixels_));
     }
     pixels_ = std::move(fresh);
+    scale_ = scale;
     // What was still unseen may lie outside the new size.
     changed_ = Intersection(changed_, Bounds(pixels_));
     Touch(Bounds(pixels_));
 }
 
-void Canvas::Cover(Color fill, BitmapPtr picture) {
+void Canvas::Cover(Color fill, BitmapPtr picture, Size size) {
     groundDue_ = true;
     ground_ = fill;
     groundPicture_ = std::move(picture);
+    groundSize_ = size;
     Touch(Bounds(pixels_));
 }
 
@@ -119,7 +207,8 @@ void Canvas::FillWithGround() const {
     groundDue_ = false;
     const BitmapPtr picture = std::move(groundPicture_);
     groundPicture_ = nullptr;
-    const Rect covered = picture ? Intersection(Bounds(pixels_), Bounds(*picture)) : Rect{};
+    const Rect whole = scale_.ToPixels(Rect{0, 0, groundSize_.width, groundSize_.height});
+    const Rect covered = picture ? Intersection(Bounds(pixels_), whole) : Rect{};
     const size_t count = static_cast<size_t>(pixels_.width) * static_cast<size_t>(pixels_.height);
     if (pixels_.pixels.size() != count) {
         pixels_.pixels.assign(count, ToPixel(ground_));
@@ -131,11 +220,15 @@ void Canvas::FillWithGround() const {
                  ground_);
     }
     if (!covered.Empty()) {
-        CopyRows(pixels_, covered, *picture, 0, 0);
+        LayRows(pixels_, covered, *picture, whole, NearlyEqual(whole, *picture));
     }
 }
 
 void Canvas::FillRect(const Rect& area, Color fill) {
+    FillPixels(scale_.ToPixels(area), fill);
+}
+
+void Canvas::FillPixels(const Rect& area, Color fill) {
     const Rect inside = Intersection(area, Bounds(pixels_));
     if (inside.Empty()) {
         return;
@@ -146,11 +239,8 @@ void Canvas::FillRect(const Rect& area, Color fill) {
 }
 
 void Canvas::Line(int x1, int y1, int x2, int y2, Color lineColor) {
-    // Keeps the products below within 64 bits; no canvas is nearly as large.
-    static constexpr int kFarthest = 1 << 28;
     DrawGround();
-    const auto limited = [](int value) { return std::clamp(value, -kFarthest, kFarthest); };
-    x1 = limited(x1), y1 = limited(y1), x2 = limited(x2), y2 = limited(y2);
+    x1 = Limited(x1), y1 = Limited(y1), x2 = Limited(x2), y2 = Limited(y2);
     const bool steep = std::abs(y2 - y1) > std::abs(x2 - x1);
     int from = steep ? y1 : x1, to = steep ? y2 : x2;
     int acrossFrom = steep ? x1 : y1, acrossTo = steep ? x2 : y2;
@@ -159,8 +249,8 @@ void Canvas::Line(int x1, int y1, int x2, int y2, Color lineColor) {
         std::swap(acrossFrom, acrossTo);
     }
     const int length = to - from;
-    const int limit = steep ? pixels_.height : pixels_.width;
-    const int acrossLimit = steep ? pixels_.width : pixels_.height;
+    const int limit = steep ? Height() : Width();
+    const int acrossLimit = steep ? Width() : Height();
     Rect drawn;
     for (int i = std::max(from, 0); i <= std::min(to, limit - 1); ++i) {
         const int64_t offset =
@@ -171,17 +261,19 @@ void Canvas::Line(int x1, int y1, int x2, int y2, Color lineColor) {
         }
         const int x = steep ? static_cast<int>(across) : i;
         const int y = steep ? i : static_cast<int>(across);
-        pixels_.Row(y)[x] = ToPixel(lineColor);
-        drawn = Union(drawn, {x, y, 1, 1});
+        const Rect dot = scale_.ToPixels(Rect{x, y, 1, 1});
+        FillRows(pixels_, dot, lineColor);
+        drawn = Union(drawn, dot);
     }
     Touch(drawn);
 }
 
 Color Canvas::Point(int x, int y) const {
-    if (x < 0 || y < 0 || x >= pixels_.width || y >= pixels_.height) {
+    if (x < 0 || y < 0 || x >= Width() || y >= Height() || pixels_.Empty()) {
         return Rgb(255, 255, 255);
     }
-    return ToColor(Pixels().Row(y)[x]);
+    return ToColor(Pixels().Row(
+        std::min(scale_.Y(y), pixels_.height - 1))[std::min(scale_.X(x), pixels_.width - 1)]);
 }
 
 void Canvas::BitBlt(int x, int y, int width, int height, const Bitmap* source, int sourceX,
@@ -192,6 +284,12 @@ void Canvas::BitBlt(int x, int y, int width, int height, const Bitmap* source, i
         return;
     }
     if (source == nullptr) {
+        return;
+    }
+    if (!scale_.Plain()) {
+        Lay(scale_.ToPixels(Rect{x, y, width, height}), *source,
+            {scale_.X(Limited(int64_t{x} - sourceX)), scale_.Y(Limited(int64_t{y} - sourceY)),
+             source->width, source->height});
         return;
     }
     // Edges within the source, moved to the target, then clipped to it. 64 bits, since offsets of
@@ -212,33 +310,27 @@ void Canvas::BitBlt(int x, int y, int width, int height, const Bitmap* source, i
     Touch(inside);
 }
 
+void Canvas::Lay(const Rect& area, const Bitmap& source, const Rect& whole) {
+    LayPixels(area, source, whole, NearlyEqual(whole, source));
+}
+
 void Canvas::StretchBlt(const Rect& target, const Bitmap& source) {
-    const Rect inside = Intersection(target, Bounds(pixels_));
+    const Rect whole = scale_.ToPixels(target);
+    LayPixels(whole, source, whole, false);
+}
+
+void Canvas::LayPixels(const Rect& area, const Bitmap& source, const Rect& whole, bool repeats) {
+    const Rect inside = Intersection(Intersection(area, whole), Bounds(pixels_));
     if (inside.Empty() || source.Empty()) {
         return;
     }
-    if (target.width == source.width && target.height == source.height) {
-        BitBlt(target.x, target.y, target.width, target.height, &source, 0, 0);
-        return;
-    }
-    if (&source == &pixels_) {
-        StretchBlt(target, Bitmap(source));
+    const bool sameSize = whole.width == source.width && whole.height == source.height;
+    if (&source == &pixels_ && !sameSize) {
+        LayPixels(area, Bitmap(source), whole, repeats);
         return;
     }
     DrawGround();
-    std::vector<int> columns(static_cast<size_t>(inside.width));
-    for (int i = 0; i < inside.width; ++i) {
-        const int64_t place = int64_t{inside.x} - target.x + i;
-        columns[static_cast<size_t>(i)] = static_cast<int>(place * source.width / target.width);
-    }
-    for (int y = inside.y; y < inside.y + inside.height; ++y) {
-        const int64_t place = int64_t{y} - target.y;
-        const Pixel* from = source.Row(static_cast<int>(place * source.height / target.height));
-        Pixel* to = pixels_.Row(y) + inside.x;
-        for (const int column : columns) {
-            *to++ = from[column];
-        }
-    }
+    LayRows(pixels_, inside, source, whole, repeats);
     Touch(inside);
 }
 

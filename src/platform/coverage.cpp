@@ -10,7 +10,7 @@ namespace {
 
 // Below so many prints, or with offsets further apart, plain prints are as quick.
 constexpr size_t kFewPrints = 5;
-constexpr int kFarApart = 63;  // pixels: a row is moved within 64 bits
+constexpr int kFarApart = 255;  // pixels
 
 struct Parts {
     uint32_t red, green, blue;
@@ -30,9 +30,14 @@ void Lay(Pixel& pixel, const Parts& over, uint32_t coverage) {
             Mix(under.green, over.green, coverage) << 8 | Mix(under.blue, over.blue, coverage);
 }
 
+Rect Bounds(const Canvas& canvas) {
+    const Size& pixels = canvas.Scaling().pixels;
+    return {0, 0, pixels.width, pixels.height};
+}
+
 void StampOnce(Canvas& canvas, const Coverage& shape, Color color, Offset offset) {
     const Rect moved = {shape.x + offset.x, shape.y + offset.y, shape.width, shape.height};
-    const Rect area = Intersection(moved, {0, 0, canvas.Width(), canvas.Height()});
+    const Rect area = Intersection(moved, Bounds(canvas));
     const Parts over(ToPixel(color));
     for (int y = area.y; y < area.y + area.height; ++y) {
         const uint8_t* values = shape.values.data() +
@@ -65,10 +70,12 @@ bool Bit(const uint64_t* row, int x) {
 
 /// `target` takes up the bits of `source` moved to the right.
 void OrMoved(uint64_t* target, const uint64_t* source, size_t words, int by) {
+    const auto whole = static_cast<size_t>(by / 64);
+    const int rest = by % 64;
     uint64_t carried = 0;
-    for (size_t i = 0; i < words; ++i) {
-        target[i] |= source[i] << by | carried;
-        carried = by == 0 ? 0 : source[i] >> (64 - by);
+    for (size_t i = 0; i + whole < words; ++i) {
+        target[i + whole] |= source[i] << rest | carried;
+        carried = rest == 0 ? 0 : source[i] >> (64 - rest);
     }
 }
 
@@ -94,7 +101,7 @@ public:
         // All that any print reaches.
         const Rect reach = {shape_.x + least_.x, shape_.y + least_.y, shape_.width + spread_.x,
                             shape_.height + spread_.y};
-        const Rect area = Intersection(reach, {0, 0, canvas.Width(), canvas.Height()});
+        const Rect area = Intersection(reach, Bounds(canvas));
         if (area.Empty()) {
             return;
         }

@@ -10,12 +10,6 @@
 
 namespace platform {
 
-struct Size {
-    int width = 0, height = 0;  // pixels
-    bool Empty() const { return width <= 0 || height <= 0; }
-    friend bool operator==(const Size&, const Size&) = default;
-};
-
 /// How large the picture will be wanted, asked with its own size before it is decoded; the answer
 /// lets a decoder work scaled. An empty answer, or one larger than the picture: whole.
 using FitFunction = std::function<Size(Size own)>;
@@ -34,7 +28,8 @@ public:
 
     /// True while a picture is held.
     virtual bool Holds() const = 0;
-    /// Size the held picture counts as (its own, or that of the last Resize), whatever was decoded.
+    /// Size the held picture counts as (its own, or that of the last Resize or ResizeTo), whatever
+    /// was decoded.
     virtual Size HeldSize() const = 0;
     /// Bits per pixel of the held picture: 1, 4, 8, 16, 24, 32, 48, 64.
     virtual int BitsPerPixel() const = 0;
@@ -44,6 +39,8 @@ public:
 
     /// Resamples the held picture to whole pixels, both at least 1.
     virtual void Resize(int width, int height, int flags) = 0;
+    /// Resamples it to `pixels` that count as `size`. Nothing happens where memory does not do.
+    virtual void ResizeTo(Size size, Size pixels) = 0;
 
     // Filters change the held picture for good and keep its size; nothing happens without one, or
     // where memory does not do.
@@ -52,8 +49,9 @@ public:
     virtual void GrayScale() = 0;
     /// Mirrors left to right.
     virtual void Reverse() = 0;
-    /// Squares of `block` pixels (at least 1) from the top left on, each of its mean colour; the
-    /// last ones are cut at the right and bottom edge. A two-level picture has 24 bits then.
+    /// Squares of `block` (at least 1), counted as HeldSize is, from the top left on, each of its
+    /// mean colour; the last ones are cut at the right and bottom edge. A two-level picture has 24
+    /// bits then.
     virtual void Mosaic(int block) = 0;
     /// Exchanges top and bottom.
     virtual void Flip() = 0;
@@ -64,8 +62,8 @@ public:
     /// A relief on mid grey, its depth in per mille. Direction 0: light from the top left.
     virtual void Emboss(int direction, int depth) = 0;
 
-    /// The held picture's pixels at HeldSize; decodes whole where that was put off. Null when
-    /// nothing is held.
+    /// The held picture's pixels, as many as HeldSize says unless ResizeTo gave another number;
+    /// decodes whole where that was put off. Null when nothing is held.
     virtual BitmapPtr Picture() = 0;
 
     /// Takes over the other control's held picture. Cheap: nothing is decoded or copied.

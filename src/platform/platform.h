@@ -10,6 +10,7 @@
 #include "platform/sound.h"
 #include "platform/system.h"
 #include "platform/trace.h"
+#include "platform/user_settings.h"
 #include "platform/video.h"
 #include "text/code_page.h"
 
@@ -27,6 +28,7 @@ struct Platform {
     System& system;
     Trace& trace;
     const text::CodePage& codePage;
+    UserSettings settings = {};
 };
 
 }  // namespace platform

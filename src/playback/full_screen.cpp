@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
+#include "macro/cutouts.h"
 #include "macro/macro.h"
 #include "macro/telop.h"
 #include "picture/effects.h"
@@ -246,8 +247,10 @@ void Form_Unload(Application& app) {
     if (UnloadEndsShow(state)) {
         EndShowOnUnload(app);
     }
+    // Without adjustment the picture stays as it is, unless it was enlarged with its canvas.
+    const bool enlarged = !windows.slidescreen.P2.canvas.Scaling().Plain();
     if (HasCurrentPicture(state) && state.ShowAbort != 1 &&
-        (state.SizeAdjust == 0 || state.SizeAdjust == 1)) {
+        (state.SizeAdjust == 0 || state.SizeAdjust == 1 || enlarged)) {
         picture::RefitHeldPicture(app, false);
     }
     if (state.SlideIndex > 0) {
@@ -307,11 +310,13 @@ void FollowMonitors(Application& app) {
     if (!app.windows.slidescreen.Loaded) {
         return;
     }
-    const platform::Size before{canvas.ScaleWidth(), canvas.ScaleHeight()};
+    const platform::Scale before = canvas.canvas.Scaling();
     PlaceFullScreen(app);
     PlaceControlBox(app);
-    const bool resized =
-        canvas.ScaleWidth() != before.width || canvas.ScaleHeight() != before.height;
+    const bool resized = !(canvas.canvas.Scaling() == before);
+    if (resized && !canvas.canvas.Scaling().Plain()) {
+        macro::RefitPieces(app);
+    }
     // A step in progress goes on where it is; pictures piled up cannot be fitted again.
     if (resized && state.EffectDcValid == 1 && state.StepBusy == 0 && state.OverlayMode == 0) {
         FitToScreenAnew(app);

@@ -53,6 +53,28 @@ TEST_F(Control, ResizeToTheFittedSizeCostsNothing) {
     EXPECT_EQ(control_->Picture(), fitted);
 }
 
+TEST_F(Control, CountsAsOneSizeAndHasThePixelsOfAnother) {
+    ASSERT_TRUE(control_->Load(PutJpeg(400, 200), Fit(200, 100)));
+    control_->ResizeTo({100, 50}, {200, 100});
+    EXPECT_EQ(control_->HeldSize(), (Size{100, 50}));
+    const BitmapPtr decoded = control_->Picture();
+    EXPECT_EQ(decoded->width, 200);
+    control_->ResizeTo({100, 50}, {200, 100});
+    EXPECT_EQ(control_->Picture(), decoded) << "nothing to do";
+    control_->GrayScale();
+    EXPECT_EQ(control_->HeldSize(), (Size{100, 50})) << "filters keep it";
+    const auto copy = folder_.Control();
+    copy->CopyFrom(*control_);
+    EXPECT_EQ(copy->HeldSize(), (Size{100, 50}));
+    // More pixels than memory is for: left as it is.
+    control_->ResizeTo({100, 50}, {2000000, 1000000});
+    EXPECT_EQ(control_->Picture()->width, 200);
+    control_->ResizeTo({100, 50}, {100, 50});
+    EXPECT_EQ(control_->Picture()->width, 100);
+    control_->Resize(30, 20, 0);
+    EXPECT_EQ(control_->HeldSize(), (Size{30, 20}));
+}
+
 TEST_F(Control, DecodesWholeOnDemand) {
     ASSERT_TRUE(control_->Load(PutJpeg(400, 200), Fit(20, 10)));
     const BitmapPtr whole = control_->Picture();

@@ -20,6 +20,11 @@ Bitmap Of(int width, int height, const Pixels& pixels) {
     return bitmap;
 }
 
+platform::Scale Plain(const Bitmap& bitmap) {
+    const platform::Size size{bitmap.width, bitmap.height};
+    return {size, size};
+}
+
 TEST(Filters, GreysHaveTheBrightnessOfTheColours) {
     const Bitmap source = Of(5, 1, {0xFFFF0000u, 0xFF00FF00u, 0xFF0000FFu, kWhite, kBlack});
     // 29.9, 58.7 and 11.4 % of 255, cut.
@@ -73,17 +78,18 @@ TEST(Filters, MosaicSquaresHaveTheMeanOfWhatTheyCover) {
     const Pixel whole = 0xFF404040u;  // 255 / 4 = 63.75
     const Pixel right = 0xFF190000u;  // (16 + 33) / 2 = 24.5
     const Pixel below = 0xFF000004u;  // (3 + 4) / 2 = 3.5
-    EXPECT_EQ(imaging::Mosaic(source, 2)->pixels,
+    EXPECT_EQ(imaging::Mosaic(source, 2, Plain(source))->pixels,
               (Pixels{whole, whole, right, whole, whole, right, below, below, 0xFF123456u}));
 }
 
 TEST(Filters, MosaicOfOnePixelAndOfMoreThanThePicture) {
     const Bitmap source = Of(2, 2, {kBlack, kWhite, kWhite, kBlack});
     for (const int block : {1, 0, -7}) {
-        EXPECT_EQ(imaging::Mosaic(source, block)->pixels, source.pixels) << block;
+        EXPECT_EQ(imaging::Mosaic(source, block, Plain(source))->pixels, source.pixels) << block;
     }
     for (const int block : {2, 3, 2147483647}) {
-        EXPECT_EQ(imaging::Mosaic(source, block)->pixels, Pixels(4, 0xFF808080u)) << block;
+        EXPECT_EQ(imaging::Mosaic(source, block, Plain(source))->pixels, Pixels(4, 0xFF808080u))
+            << block;
     }
 }
 
@@ -94,7 +100,7 @@ TEST(Filters, OfNothingAreNothing) {
     EXPECT_TRUE(imaging::Edges(none, 8)->Empty());
     EXPECT_TRUE(imaging::Embossed(none, 0, 700)->Empty());
     EXPECT_TRUE(imaging::Mirrored(none)->Empty());
-    EXPECT_TRUE(imaging::Mosaic(none, 12)->Empty());
+    EXPECT_TRUE(imaging::Mosaic(none, 12, Plain(none))->Empty());
 }
 
 class FilteredControl : public ::testing::Test {
@@ -146,6 +152,17 @@ TEST_F(FilteredControl, OfNothingDoNothing) {
     control_->Mosaic(12);
     EXPECT_FALSE(control_->Holds());
     EXPECT_EQ(control_->Picture(), nullptr);
+}
+
+TEST(Filters, ReachAndBlocksGrowWithThePicture) {
+    const Bitmap twice = Of(4, 1, {kBlack, kBlack, kWhite, kWhite});
+    // Neighbours two pixels away: 4 × 255 at both inner pixels.
+    EXPECT_EQ(imaging::Edges(twice, 8, 2)->pixels, (Pixels{kWhite, kWhite, kWhite, kWhite}));
+    EXPECT_EQ(imaging::Edges(twice, 8, 1)->pixels, (Pixels{kBlack, kWhite, kWhite, kBlack}));
+    // Blocks of one unit, 3 units on 4 pixels: pixel 0, pixels 1 and 2, pixel 3.
+    const Bitmap row = Of(4, 1, {0xFF000010u, 0xFF000020u, 0xFF000040u, 0xFF000080u});
+    EXPECT_EQ(imaging::Mosaic(row, 1, {{3, 1}, {4, 1}})->pixels,
+              (Pixels{0xFF000010u, 0xFF000030u, 0xFF000030u, 0xFF000080u}));
 }
 
 }  // namespace

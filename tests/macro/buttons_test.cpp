@@ -177,6 +177,7 @@ TEST_F(Buttons, SecondMenuOfANumberMovesAndRenamesIt) {
     screen.menu1.Width = 20 * 15;
     screen.menu1.Height = 10 * 15;
     auto back = std::make_shared<platform::Bitmap>(300, 300, 0xFF112233u);
+    app.windows.form4.Picture1.SetPicture(back);
     state.EffectDc = back;
     fake.loop.At(100, [&] {
         EXPECT_EQ(form1.menu1.Caption(), u"b");

@@ -23,4 +23,20 @@ TEST(SettingsFile, IsEmptyWithoutLineOrFile) {
     EXPECT_EQ(UserSetting(folder.Path("none/"), "cd"), "");
 }
 
+TEST(SettingsFile, OnlyTheNameOfTheLinesChangesTheCanvas) {
+    struct Row {
+        const char* file;
+        bool lines;
+    };
+    for (const Row& row : {Row{"", false},
+                           {"macro-scale = monitor\n", false},
+                           {"macro-scale=1080\n", true},
+                           {"macro-scale = 2160\n", false}}) {
+        TemporaryFolder folder;
+        folder.Put("settings.conf", row.file);
+        EXPECT_EQ(posix_adapter::ReadUserSettings(folder.Path() + "/").canvasOf1080Lines, row.lines)
+            << row.file;
+    }
+}
+
 }  // namespace

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QImage>
 #include <QMouseEvent>
 #include <QWidget>
@@ -38,17 +39,7 @@ struct CutoutFrames : testing::Test {
         app.state.SlideList.Set(1, u"C:\\show\\p1.bmp");
         app.state.SlideListEnd = 2;
         app.state.SlideIndex = 1;
-        screen.Width = kWidth * 15;
-        screen.Height = kHeight * 15;
-        for (model::PictureBox* layer : {&screen.P2, &screen.P3, &screen.P4}) {
-            layer->SetSize(kWidth * 15, kHeight * 15);
-            for (int y = 0; y < kHeight; ++y) {
-                for (int x = 0; x < kWidth; ++x) {
-                    layer->canvas.Writable().Row(y)[x] = PhotoPixel(x, y);
-                }
-            }
-            layer->canvas.Touch({0, 0, kWidth, kHeight});
-        }
+        SetPixels({kWidth, kHeight});
         fake.files.Put(u"C:\\show\\piece.bmp", "PIC 40 30 ff8000");
         desktop.MakeViews(app.windows);
         screen.Show();
@@ -57,14 +48,34 @@ struct CutoutFrames : testing::Test {
     }
     void TearDown() override { desktop.UnmakeViews(); }
 
+    /// The canvas keeps its units.
+    void SetPixels(platform::Size pixels) {
+        screen.Width = pixels.width * 15;
+        screen.Height = pixels.height * 15;
+        for (model::PictureBox* layer : {&screen.P2, &screen.P3, &screen.P4}) {
+            layer->SetSize(kWidth * 15, kHeight * 15, pixels);
+            for (int y = 0; y < pixels.height; ++y) {
+                for (int x = 0; x < pixels.width; ++x) {
+                    layer->canvas.Writable().Row(y)[x] = PhotoPixel(x, y);
+                }
+            }
+            layer->canvas.Touch({0, 0, pixels.width, pixels.height});
+        }
+    }
+
     QImage Frame() {
         desktop.Loop().PumpEvents();
         return desktop.WidgetOf(screen)->grab().toImage();
     }
     /// The photo with every piece that stands, by the region it has.
     QRgb Expected(int x, int y) {
+        const platform::Scale& scale = screen.P2.canvas.Scaling();
         for (auto& piece : screen.Picture1) {
-            if (piece->Visible && piece->TakesPress(x - piece->Left, y - piece->Top)) {
+            const int inX = x - scale.X(piece->Left), inY = y - scale.Y(piece->Top);
+            const platform::Bitmap& shown = piece->Shown();
+            const bool inBox = inX >= 0 && inY >= 0 && inX < shown.width && inY < shown.height;
+            if (piece->Visible && inBox &&
+                (!piece->WindowRgn() || piece->WindowRgn()->Contains(inX, inY))) {
                 return kPiece;
             }
         }
@@ -73,8 +84,10 @@ struct CutoutFrames : testing::Test {
     void CheckFrame() {
         ++frames;
         const QImage frame = Frame();
-        for (int y = 0; y < kHeight; ++y) {
-            for (int x = 0; x < kWidth; ++x) {
+        const platform::Size& pixels = screen.P2.canvas.Scaling().pixels;
+        ASSERT_EQ(frame.size(), QSize(pixels.width, pixels.height));
+        for (int y = 0; y < pixels.height; ++y) {
+            for (int x = 0; x < pixels.width; ++x) {
                 if ((frame.pixel(x, y) | 0xFF000000u) != Expected(x, y)) {
                     wrong.push_back("frame " + std::to_string(frames) + " at " + std::to_string(x) +
                                     "," + std::to_string(y));
@@ -101,6 +114,59 @@ TEST_F(CutoutFrames, AMovingPieceLeavesNoTrail) {
         EXPECT_GT(frames, 40);
         EXPECT_EQ(wrong, std::vector<std::string>()) << "shape " << text::ToUtf8(type);
     }
+}
+
+TEST_F(CutoutFrames, APieceOnAnEnlargedCanvasLeavesNoTrail) {
+    fake.files.Put(u"C:\\show\\cut.dat", "KVS_PICTYPE_DATA\r\n5,4\r\n35,8\r\n20,25\r\n");
+    for (const platform::Size pixels :
+         {platform::Size{320, 240}, {213, 160}, {114, 85}, {160, 120}}) {
+        SetPixels(pixels);
+        fake.loop.onPump = [this] { CheckFrame(); };
+        for (const TextView type : {u"PicPBType=0", u"PicPBType=3", u"PicPBData(1,\"cut.dat\")"}) {
+            Play(Text(type) +
+                 u"\r\nCurrentX=20\r\nCurrentY=15\r\nPicPB1(0,\"piece.bmp\",\"\")\r\nMovPB1(7,-5)"
+                 u"\r\nMovPB1(-13,5)\r\nPicPB1(0,\"\",\"\")\r\n");
+        }
+        fake.loop.onPump = nullptr;
+        CheckFrame();
+        EXPECT_EQ(wrong, std::vector<std::string>()) << pixels.width;
+        wrong.clear();
+    }
+}
+
+TEST_F(CutoutFrames, ButtonsAndTheScrollingTextGrowWithTheCanvas) {
+    SetPixels({320, 240});
+    screen.menu1.Caption = Text(u"menu");
+    screen.menu1.Left = 10;
+    screen.menu1.Top = 20;
+    screen.menu1.Visible = true;
+    screen.Label1.FontName = Text(u"ＭＳ ゴシック");
+    screen.Label1.FontSize = 18;
+    screen.Label1.Caption = Text(u"流れる");
+    screen.Label1.Width = 72;
+    screen.Label1.Height = 24;
+    screen.Label1.Left = -3;
+    screen.Label1.Top = 60;
+    screen.Label1.Visible = true;
+    desktop.Loop().PumpEvents();
+    QWidget* window = desktop.WidgetOf(screen);
+    const auto* button = window->findChild<QWidget*>(qt_adapter::WidgetName("menu1"));
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->pos(), QPoint(20, 40));
+    EXPECT_EQ(button->width(), screen.menu1.Width / 15 * 2);
+    EXPECT_DOUBLE_EQ(button->font().pointSizeF(),
+                     2 * QFontInfo(QApplication::font(button)).pointSizeF());
+    const auto* label = window->findChild<QWidget*>(qt_adapter::WidgetName("Label1"));
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->pos(), QPoint(-6, 120));
+    // 18 points are 24 pixels, and three full-width letters as many each.
+    EXPECT_EQ(QFontInfo(label->font()).pixelSize(), 48);
+    EXPECT_EQ(label->fontMetrics().horizontalAdvance(QStringLiteral("流れる")), 144);
+    EXPECT_GE(label->width(), 144);
+    // Another monitor: they follow at once.
+    SetPixels({480, 360});
+    EXPECT_EQ(button->pos(), QPoint(30, 60));
+    EXPECT_EQ(QFontInfo(label->font()).pixelSize(), 72);
 }
 
 TEST_F(CutoutFrames, APolygonWithABoxLeavesNoTrail) {

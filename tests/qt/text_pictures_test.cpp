@@ -63,6 +63,57 @@ std::vector<Offset> Outline(int reachX, int reachY) {
     return offsets;
 }
 
+/// Pixels whose neighbour to the right differs by more than `least` in one colour part.
+int Edges(const Canvas& canvas) {
+    constexpr int kLeast = 128;
+    int edges = 0;
+    const platform::Bitmap& pixels = canvas.Pixels();
+    for (int y = 0; y < pixels.height; ++y) {
+        for (int x = 0; x + 1 < pixels.width; ++x) {
+            const auto part = [&](int at) { return static_cast<int>(pixels.Row(y)[at] & 0xFF); };
+            edges += std::abs(part(x) - part(x + 1)) > kLeast ? 1 : 0;
+        }
+    }
+    return edges;
+}
+
+TEST(TextPictures, AnEnlargedCanvasHasTheTextOfTwiceTheSize) {
+    QtTextRenderer renderer;
+    Canvas enlarged;
+    enlarged.Resize({{200, 100}, {400, 200}}, kPaper);
+    Canvas large = Paper(400, 200);
+    // 18 points are 24 pixels, 36 are 48.
+    renderer.Draw(enlarged, 10, 20, FontOf(18), kInk, u"文字 Agx");
+    renderer.Draw(large, 20, 40, FontOf(36), kInk, u"文字 Agx");
+    // Only where letters end within a pixel may the two differ.
+    Canvas seen = Paper(400, 200);
+    seen.Lay({0, 0, 400, 200}, enlarged.Pixels(), {0, 0, 400, 200});
+    const Rect ours = Inked(seen), theirs = Inked(large);
+    EXPECT_NEAR(ours.x, theirs.x, 1);
+    EXPECT_NEAR(ours.y, theirs.y, 1);
+    EXPECT_NEAR(ours.x + ours.width, theirs.x + theirs.width, 1);
+    EXPECT_NEAR(ours.y + ours.height, theirs.y + theirs.height, 1);
+    EXPECT_NEAR(Edges(enlarged), Edges(large), Edges(large) / 10);
+    EXPECT_EQ(renderer.Measure(FontOf(36), u"文字 Agx").width,
+              2 * renderer.Measure(FontOf(18), u"文字 Agx").width);
+    // Sharper than the small text with every pixel doubled.
+    Canvas small = Paper(200, 100), doubled = Paper(400, 200);
+    renderer.Draw(small, 10, 20, FontOf(18), kInk, u"文字 Agx");
+    doubled.StretchBlt({0, 0, 400, 200}, small.Pixels());
+    EXPECT_GT(Edges(enlarged), Edges(doubled));
+}
+
+TEST(TextPictures, ATurnedTextIsEnlargedInItsPlace) {
+    QtTextRenderer renderer;
+    Canvas enlarged;
+    enlarged.Resize({{200, 150}, {300, 225}}, kPaper);
+    Canvas large = Paper(300, 225);
+    const Turn turn{30, 12, 450}, larger{45, 18, 450};
+    renderer.DrawTurned(enlarged, 40, 100, FontOf(20), turn, kInk, u"斜め", kInPlace);
+    renderer.DrawTurned(large, 60, 150, FontOf(20), larger, kInk, u"斜め", kInPlace);
+    EXPECT_EQ(enlarged.Pixels().pixels, large.Pixels().pixels);
+}
+
 TEST(TextPictures, OutlineEqualsPlainPrintsPixelByPixel) {
     QtTextRenderer renderer;
     for (const double points : {8.0, 20.0, 60.0}) {

@@ -45,7 +45,8 @@ polygon in it.
   all.kvl       one.kvs, then repeat.kvs
 gaps.kvl      a show that is not there, empty.kvs, one.kvs, another that is not there
 gone.kvl      two shows that are not there; empties.kvl twice empty.kvs; none.kvl nothing
-State files, for the program folder:
+State files and settings, for the program folder:
+  lines1080.conf  macro-scale = 1080
   uautst.dat    the link window with its auto start: one.kvs, then repeat.kvs beside itself
   autstart.dat  of the oldest form: auto start and nothing else
 
@@ -286,6 +287,7 @@ def main():
     files = {name: png(*what) for name, what in pictures.items()}
     files["pattern.png"] = pattern(640, 400)
     files["zero.png"] = b""
+    files["lines1080.conf"] = b"macro-scale = 1080\n"
     files["text.jpg"] = "これは絵ではない。\r\n".encode("cp932")
 
     five = [f"{letter}.png" for letter in "abcde"]

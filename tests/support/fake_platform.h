@@ -78,9 +78,10 @@ public:
 };
 
 /// A "picture" is any file whose content begins with "PIC width height [rrggbb [bits]]".
-/// `log` tells what was asked, one line each: "load PATH", "resize 80 60", "colors 1", "gray",
-/// "reverse", "flip", "invert", "edges 8", "emboss 0 700", "mosaic 12", "clear". Two levels and
-/// greys go by the mean of the three colour parts.
+/// `log` tells what was asked, one line each: "load PATH", "resize 80 60", "resize 80 60 to 160
+/// 120" (not where it is so already), "colors 1", "gray", "reverse", "flip", "invert", "edges 8",
+/// "emboss 0 700", "mosaic 12", "clear". Two levels and greys go by the mean of the three colour
+/// parts.
 class FakeImagingControl : public platform::ImagingControl {
 public:
     FakeImagingControl(platform::Files& files, std::vector<std::string>& log)
@@ -124,14 +125,23 @@ public:
     void Resize(int width, int height, int) override {
         log_.push_back("resize " + std::to_string(width) + " " + std::to_string(height));
         if (held_) {
-            held_->size = {width, height};
+            held_->size = held_->pixels = {width, height};
+        }
+    }
+    void ResizeTo(platform::Size size, platform::Size pixels) override {
+        if (held_ && !(held_->size == size && held_->pixels == pixels)) {
+            log_.push_back("resize " + std::to_string(size.width) + " " +
+                           std::to_string(size.height) + " to " + std::to_string(pixels.width) +
+                           " " + std::to_string(pixels.height));
+            held_->size = size;
+            held_->pixels = pixels;
         }
     }
     platform::BitmapPtr Picture() override {
         if (!held_) {
             return nullptr;
         }
-        return std::make_shared<platform::Bitmap>(held_->size.width, held_->size.height,
+        return std::make_shared<platform::Bitmap>(held_->pixels.width, held_->pixels.height,
                                                   held_->pixel);
     }
     void CopyFrom(const platform::ImagingControl& other) override {
@@ -144,7 +154,7 @@ public:
 
 private:
     struct Held {
-        platform::Size size;
+        platform::Size size, pixels;
         platform::Pixel pixel = 0xFF808080u;
         int bits = 24;
     };
@@ -164,6 +174,7 @@ private:
             held.size.Empty()) {
             return std::nullopt;
         }
+        held.pixels = held.size;
         if (words >> colour) {
             held.pixel = 0xFF000000u | static_cast<uint32_t>(std::stoul(colour, nullptr, 16));
             words >> held.bits;

@@ -60,15 +60,15 @@ Pixel PixelOf(const Parts& parts) {
     return pixel;
 }
 
-/// The three rows and columns around a pixel; those beyond the edge are the edge's.
+/// A pixel and those `reach` away on every side; those beyond the edge are the edge's.
 struct Neighbours {
     const Pixel* rows[3];
     int columns[3];
 
-    Neighbours(const Bitmap& bitmap, int x, int y) {
+    Neighbours(const Bitmap& bitmap, int x, int y, int reach) {
         for (int i = 0; i < 3; ++i) {
-            rows[i] = bitmap.Row(std::clamp(y + i - 1, 0, bitmap.height - 1));
-            columns[i] = std::clamp(x + i - 1, 0, bitmap.width - 1);
+            rows[i] = bitmap.Row(std::clamp(y + (i - 1) * reach, 0, bitmap.height - 1));
+            columns[i] = std::clamp(x + (i - 1) * reach, 0, bitmap.width - 1);
         }
     }
     /// dx and dy: -1, 0, 1.
@@ -76,11 +76,11 @@ struct Neighbours {
 };
 
 template <class OnePixel>
-BitmapPtr MadeOf(const Bitmap& source, OnePixel onePixel) {
+BitmapPtr MadeOf(const Bitmap& source, int reach, OnePixel onePixel) {
     auto result = std::make_shared<Bitmap>(source);
     for (int y = 0; y < source.height; ++y) {
         for (int x = 0; x < source.width; ++x) {
-            result->Row(y)[x] = onePixel(Neighbours(source, x, y));
+            result->Row(y)[x] = onePixel(Neighbours(source, x, y, reach));
         }
     }
     return result;
@@ -111,15 +111,18 @@ BitmapPtr Mirrored(const Bitmap& source) {
     return result;
 }
 
-BitmapPtr Mosaic(const Bitmap& source, int block) {
+BitmapPtr Mosaic(const Bitmap& source, int block, const platform::Scale& scale) {
     auto result = std::make_shared<Bitmap>(source);
+    const auto [width, height] = scale.units;
     // A larger block covers no more than the whole; steps stay within an int.
-    const int side = std::clamp(block, 1, std::max({source.width, source.height, 1}));
-    for (int y = 0; y < source.height; y += side) {
-        for (int x = 0; x < source.width; x += side) {
-            const Rect area{x, y, std::min(side, source.width - x),
-                            std::min(side, source.height - y)};
-            FillArea(*result, area, MeanColor(source, area));
+    const int side = std::clamp(block, 1, std::max({width, height, 1}));
+    for (int y = 0; y < height; y += side) {
+        for (int x = 0; x < width; x += side) {
+            const Rect area =
+                scale.ToPixels(Rect{x, y, std::min(side, width - x), std::min(side, height - y)});
+            if (!area.Empty()) {
+                FillArea(*result, area, MeanColor(source, area));
+            }
         }
     }
     return result;
@@ -141,8 +144,8 @@ BitmapPtr Inverted(const Bitmap& source) {
     return result;
 }
 
-BitmapPtr Edges(const Bitmap& source, int level) {
-    return MadeOf(source, [level](const Neighbours& around) {
+BitmapPtr Edges(const Bitmap& source, int level, int reach) {
+    return MadeOf(source, reach, [level](const Neighbours& around) {
         Parts result{};
         for (int i = 0; i < 3; ++i) {
             const auto part = [&](int dx, int dy) { return around.At(dx, dy).of[i]; };
@@ -156,9 +159,9 @@ BitmapPtr Edges(const Bitmap& source, int level) {
     });
 }
 
-BitmapPtr Embossed(const Bitmap& source, int direction, int depth) {
+BitmapPtr Embossed(const Bitmap& source, int direction, int depth, int reach) {
     const auto& light = kLight[static_cast<size_t>(direction) % std::size(kLight)];
-    return MadeOf(source, [&light, depth](const Neighbours& around) {
+    return MadeOf(source, reach, [&light, depth](const Neighbours& around) {
         const Parts lit = around.At(light[0], light[1]);
         const Parts shaded = around.At(-light[0], -light[1]);
         Parts result{};

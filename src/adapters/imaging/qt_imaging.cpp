@@ -3,6 +3,7 @@
 #include <QImageReader>
 #include <QLoggingCategory>
 #include <algorithm>
+#include <cmath>
 #include <new>
 #include <utility>
 
@@ -54,7 +55,7 @@ public:
         if (remembers_) {
             prepared_.Remember(*found, fit, *loaded);
         }
-        state_.held = loaded->file->OwnSize();
+        state_.size = state_.held = loaded->file->OwnSize();
         state_.bitsPerPixel = loaded->bitsPerPixel;
         state_.pixels = std::move(loaded->pixels);
         if (!(SizeOf(*state_.pixels) == state_.held) || loaded->file->IsDrawing()) {
@@ -64,7 +65,7 @@ public:
     }
 
     bool Holds() const override { return state_.pixels != nullptr; }
-    Size HeldSize() const override { return state_.held; }
+    Size HeldSize() const override { return state_.size; }
     int BitsPerPixel() const override { return state_.bitsPerPixel; }
 
     void SetColorResolution(int bits, int, int, int) override {
@@ -79,18 +80,14 @@ public:
 
     void Resize(int width, int height, int) override {
         const Size size{std::max(width, 1), std::max(height, 1)};
-        if (!Holds() || !FitsMemory(size)) {
-            return;
+        if (ResampleTo(size)) {
+            state_.size = size;
         }
-        if (SizeOf(*state_.pixels) == size) {
-            state_.held = size;
-        } else if (BitmapPtr resized = Resampled(size)) {
-            state_.pixels = std::move(resized);
-            state_.held = size;
-        }
-        // A drawing can be drawn anew at any later size; pixels are now all there is.
-        if (state_.source && !state_.source->file->IsDrawing() && state_.held == size) {
-            state_.source = nullptr;
+    }
+
+    void ResizeTo(Size size, Size pixels) override {
+        if (state_.held == pixels || ResampleTo(pixels)) {
+            state_.size = size;
         }
     }
 
@@ -99,13 +96,16 @@ public:
     void Flip() override { Change(Flipped); }
     void Invert() override { Change(Inverted); }
     void EdgeFilter(int level) override {
-        Change([level](const Bitmap& whole) { return Edges(whole, level); });
+        Change([=, this](const Bitmap& whole) { return Edges(whole, level, Reach()); });
     }
     void Emboss(int direction, int depth) override {
-        Change([=](const Bitmap& whole) { return Embossed(whole, direction, depth); });
+        Change(
+            [=, this](const Bitmap& whole) { return Embossed(whole, direction, depth, Reach()); });
     }
     void Mosaic(int block) override {
-        Change([block](const Bitmap& whole) { return imaging::Mosaic(whole, block); });
+        Change([=, this](const Bitmap& whole) {
+            return imaging::Mosaic(whole, block, {state_.size, SizeOf(whole)});
+        });
         if (Holds() && state_.bitsPerPixel == 1) {
             state_.bitsPerPixel = 24;
         }
@@ -142,9 +142,34 @@ private:
     struct State {
         BitmapPtr pixels;
         std::shared_ptr<Source> source;  // only while `pixels` is not the best there is
-        Size held;
+        Size held;                       // pixels of Picture
+        Size size;                       // what it counts as
         int bitsPerPixel = 24;
     };
+
+    /// True when the held picture has so many pixels then.
+    bool ResampleTo(Size size) {
+        if (!Holds() || !FitsMemory(size)) {
+            return false;
+        }
+        if (SizeOf(*state_.pixels) == size) {
+            state_.held = size;
+        } else if (BitmapPtr resized = Resampled(size)) {
+            state_.pixels = std::move(resized);
+            state_.held = size;
+        }
+        // A drawing can be drawn anew at any later size; pixels are now all there is.
+        if (state_.source && !state_.source->file->IsDrawing() && state_.held == size) {
+            state_.source = nullptr;
+        }
+        return state_.held == size;
+    }
+
+    /// How far apart the pixels are that filters compare.
+    int Reach() const {
+        return std::max(
+            1, static_cast<int>(std::lround(double(state_.held.height) / state_.size.height)));
+    }
 
     /// The result of `work`, null where memory does not do.
     template <typename Work>

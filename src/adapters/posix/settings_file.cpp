@@ -28,4 +28,8 @@ std::string UserSetting(const std::string& programFolder, const std::string& key
     return {};
 }
 
+platform::UserSettings ReadUserSettings(const std::string& programFolder) {
+    return {.canvasOf1080Lines = UserSetting(programFolder, "macro-scale") == "1080"};
+}
+
 }  // namespace posix_adapter

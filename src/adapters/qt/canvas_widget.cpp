@@ -69,6 +69,7 @@ void CanvasWidget::Attach(model::PictureBox& box, Gate& gate, bool physical) {
     box.Refresh = [this] {
         FollowRegion();
         update();
+        Q_EMIT Rescaled();
     };
     FollowRegion();
     update();
@@ -78,9 +79,25 @@ double CanvasWidget::Scale() const {
     return physical_ ? devicePixelRatioF() : 1.0;
 }
 
+QPoint CanvasWidget::PlaceOf(int x, int y) const {
+    const platform::Scale& scale = box_->canvas.Scaling();
+    return {static_cast<int>(std::lround(scale.X(x) / Scale())),
+            static_cast<int>(std::lround(scale.Y(y) / Scale()))};
+}
+
+QSize CanvasWidget::ExtentOf(int width, int height) const {
+    const QPoint corner = PlaceOf(width, height);
+    return {corner.x(), corner.y()};
+}
+
+double CanvasWidget::Enlargement() const {
+    const platform::Scale& scale = box_->canvas.Scaling();
+    return scale.Plain() ? 0 : scale.Factor() / Scale();
+}
+
 void CanvasWidget::FollowRegion() {
     const platform::RegionPtr& region = box_->WindowRgn();
-    if (!region || region->Covers({box_->ScaleWidth(), box_->ScaleHeight()})) {
+    if (!region || region->Covers({box_->Shown().width, box_->Shown().height})) {
         clearMask();
     } else {
         setMask(ToMask(*region, Scale()));

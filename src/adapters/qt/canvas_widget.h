@@ -21,10 +21,20 @@ public:
     bool Physical() const { return physical_; }
     /// Canvas pixels in one unit of the widget's coordinates.
     double Scale() const;
+    /// Where a place of the canvas, in its units, lies on the widget, and how large that size is.
+    QPoint PlaceOf(int x, int y) const;
+    QSize ExtentOf(int width, int height) const;
+    /// Widget's coordinates for one unit of a canvas whose units are no pixels; 0 for others.
+    double Enlargement() const;
 
     /// Cuts the widget to the box's region, pointer and presses included.
     void FollowRegion();
 
+Q_SIGNALS:
+    /// The canvas may have another scale.
+    void Rescaled();
+
+public:
     /// Asks for a repaint of what changed on the canvas since the last time.
     void Flush();
 

@@ -1,7 +1,9 @@
 #include "adapters/qt/control_binding.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
+#include <QFontInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
@@ -41,6 +43,11 @@ protected:
     void SyncOwn() override {
         const QString caption = ToQt(button_.Caption());
         face_.setText(caption);
+        if (const double enlargement = Enlargement(); enlargement > 0) {
+            QFont font = QApplication::font(&face_);
+            font.setPointSizeF(QFontInfo(font).pointSizeF() * enlargement);
+            face_.setFont(font);
+        }
         if (!caption.isEmpty()) {
             face_.setAccessibleName(caption);
         }
@@ -134,10 +141,21 @@ protected:
     int UnitsPerPixel() const override { return onCanvas_ ? 1 : ControlBinding::UnitsPerPixel(); }
 
 private:
+    /// Also between whole pixels, so that the text is as long as the canvas's scale makes it.
+    void SetLetterHeight(QFont& font, double pixels) const {
+        constexpr double kPointsPerInch = 72;
+        font.setPointSizeF(pixels * kPointsPerInch / face_.logicalDpiY());
+    }
+
     void TakeLook() {
         QFont font = ScreenFont(
             {label_.FontName, label_.FontSize, label_.FontBold, label_.FontItalic, false});
-        font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() / Scale()))));
+        if (const double enlargement = Enlargement(); enlargement > 0) {
+            SetLetterHeight(font, font.pixelSize() * enlargement);
+        } else {
+            font.setPixelSize(
+                std::max(1, static_cast<int>(std::lround(font.pixelSize() / Scale()))));
+        }
         face_.setFont(font);
         QPalette palette = face_.palette();
         const auto color = static_cast<platform::Color>(label_.ForeColor());
@@ -251,6 +269,9 @@ ControlBinding::ControlBinding(model::VisibleControl& control, QWidget& widget, 
                                const CanvasWidget* host)
     : control_(control), widget_(widget), gate_(gate), host_(host) {
     control.Listen(this);
+    if (host) {
+        connect(host, &CanvasWidget::Rescaled, this, [this] { Sync(); });
+    }
 }
 
 ControlBinding::~ControlBinding() {
@@ -293,17 +314,19 @@ double ControlBinding::Scale() const {
     return host_ ? host_->Scale() : 1.0;
 }
 
+double ControlBinding::Enlargement() const {
+    return host_ ? host_->Enlargement() : 0;
+}
+
 void ControlBinding::Place() {
     const QWidget* parent = widget_.parentWidget();
     const bool onStage = qobject_cast<const StageWidget*>(parent) != nullptr;
     if (!host_ && !onStage) {
         return;
     }
-    const double scale = Scale();
-    const auto pixels = [&](int units) {
-        return static_cast<int>(std::lround(units / UnitsPerPixel() / scale));
-    };
-    QSize size(pixels(control_.Width), pixels(control_.Height));
+    const int width = control_.Width / UnitsPerPixel();
+    const int height = control_.Height / UnitsPerPixel();
+    QSize size = host_ ? host_->ExtentOf(width, height) : QSize(width, height);
     if (size.isEmpty()) {
         size = NaturalSize();
     }
@@ -313,10 +336,12 @@ void ControlBinding::Place() {
         size = size.expandedTo({metrics.horizontalAdvance(button->text()) + kCaptionMargin,
                                 metrics.height() + kCaptionMargin / 2});
     }
+    if (Enlargement() > 0 && control_.Kind() == ControlKind::Label) {
+        size = size.expandedTo(widget_.sizeHint());  // letters end between pixels
+    }
     widget_.resize(size);
     if (host_) {
-        widget_.move(static_cast<int>(std::lround(control_.Left / scale)),
-                     static_cast<int>(std::lround(control_.Top / scale)));
+        widget_.move(host_->PlaceOf(control_.Left, control_.Top));
     }
 }
 

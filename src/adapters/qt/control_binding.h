@@ -15,8 +15,8 @@ class CanvasWidget;
 
 class ControlBinding : public QObject, public model::Listener {
 public:
-    /// `host`: the canvas over which the control is placed by its Left and Top in canvas pixels;
-    /// null for a widget that has its place by the form.
+    /// `host`: the canvas over which the control is placed by its Left and Top in the canvas's
+    /// units; null for a widget that has its place by the form.
     ControlBinding(model::VisibleControl& control, QWidget& widget, Gate& gate,
                    const CanvasWidget* host);
     ~ControlBinding() override;
@@ -39,6 +39,8 @@ protected:
     virtual int UnitsPerPixel() const;
     /// Pixels of the canvas for one of the toolkit's; 1 for a widget that is not on a canvas.
     double Scale() const;
+    /// See CanvasWidget::Enlargement; 0 for a widget that is not on a canvas.
+    double Enlargement() const;
 
     model::VisibleControl& control_;
     QWidget& widget_;

@@ -52,7 +52,7 @@ QString FamilyFor(const QString& name) {
 }
 
 /// The part of the shape of a line that falls on `wanted`. `place` takes the line's box, whose top
-/// left is the origin, to the canvas.
+/// left is the origin, to the canvas's pixels.
 platform::Coverage ShapeOf(const QFont& font, const QString& line, const QTransform& place,
                            const QRect& wanted) {
     const QFontMetrics metrics(font);
@@ -82,11 +82,23 @@ platform::Coverage ShapeOf(const QFont& font, const QString& line, const QTransf
 
 /// Canvas area that is reached from by some offset.
 QRect Wanted(const platform::Canvas& canvas, std::span<const platform::Offset> offsets) {
+    const platform::Size& pixels = canvas.Scaling().pixels;
     QRect wanted;
     for (const platform::Offset& offset : offsets) {
-        wanted |= QRect(-offset.x, -offset.y, canvas.Width(), canvas.Height());
+        wanted |= QRect(-offset.x, -offset.y, pixels.width, pixels.height);
     }
     return wanted;
+}
+
+/// Takes a line's box that is laid out in units to its place on the canvas. Letters are drawn from
+/// their outlines at the size that they have there.
+QTransform PlaceOn(const platform::Canvas& canvas, int x, int y) {
+    const platform::Scale& scale = canvas.Scaling();
+    QTransform place = QTransform::fromTranslate(scale.X(x), scale.Y(y));
+    if (!scale.Plain()) {
+        place.scale(scale.Factor(), scale.Factor());
+    }
+    return place;
 }
 
 void Print(platform::Canvas& canvas, const QFont& font, const QTransform& place,
@@ -134,7 +146,7 @@ void QtTextRenderer::Draw(platform::Canvas& canvas, int x, int y, const platform
 void QtTextRenderer::DrawEach(platform::Canvas& canvas, int x, int y, const platform::Font& font,
                               platform::Color color, TextView text,
                               std::span<const platform::Offset> offsets) {
-    Print(canvas, Found(font), QTransform::fromTranslate(x, y), color, text, offsets);
+    Print(canvas, Found(font), PlaceOn(canvas, x, y), color, text, offsets);
 }
 
 void QtTextRenderer::DrawTurned(platform::Canvas& canvas, int x, int y, const platform::Font& font,
@@ -149,7 +161,7 @@ void QtTextRenderer::DrawTurned(platform::Canvas& canvas, int x, int y, const pl
         metrics.horizontalAdvance(QLatin1String(kLetters)) / static_cast<double>(strlen(kLetters));
     const double scaleY = height / metrics.height();
     const double scaleX = turn.width > 0 ? turn.width / letter : scaleY;
-    QTransform place = QTransform::fromTranslate(x, y);
+    QTransform place = PlaceOn(canvas, x, y);
     place.rotate(-turn.angle10 / 10.0);
     place.scale(scaleX, scaleY);
     Print(canvas, screenFont, place, color, text, offsets);

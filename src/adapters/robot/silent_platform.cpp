@@ -41,6 +41,7 @@ public:
     int BitsPerPixel() const override { return 0; }
     void SetColorResolution(int, int, int, int) override {}
     void Resize(int, int, int) override {}
+    void ResizeTo(platform::Size, platform::Size) override {}
     void GrayScale() override {}
     void Reverse() override {}
     void Mosaic(int) override {}
