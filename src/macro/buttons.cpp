@@ -130,6 +130,9 @@ Flow YesNoButtons(Run& run, double) {
            state.MacroJumpChosen == 0 && !Stopping(state)) {
         WaitOnePass(run.app);
     }
+    if (model::StepOutlived(state)) {
+        return Flow::Stop;
+    }
     const Flow flow = AfterYesNo(run, yes, no);
     if (flow == Flow::Jump) {
         return flow;

@@ -13,7 +13,7 @@ constexpr int kNextSlideMs = 100;
 void RemoveObjectsOneByOne(Application& app) {
     model::ShowState& state = app.state;
     const auto menus = MenuButtons(app.windows.slidescreen);
-    for (int index = 0; index <= kLastCutout; ++index) {
+    for (int index = 0; index <= kLastCutout && !model::StepOutlived(state); ++index) {
         const auto i = static_cast<size_t>(index);
         if (InFullScreen(state) && state.MenuActive[i] == 1 && i >= 1 && i <= menus.size()) {
             RestoreBackground(app, PlaceOf(*menus[i - 1]));
@@ -37,6 +37,9 @@ void LeaveSlide(Run& run) {
     }
     app.platform.loop.PumpEvents();
     RemoveObjectsOneByOne(app);
+    if (model::StepOutlived(state)) {
+        return;
+    }
     app.windows.form1.Timer1.Interval = kNextSlideMs;
     state.MacroEndShow = 1;
     if (state.SlideIndex < 0) {

@@ -59,7 +59,7 @@ void RunTextMacro(Application& app) {
     }
     KeepBackground(app);
     run.source = text::DecodeHandWrittenFile(bytes, app.platform.codePage);
-    if (ReadLines(run) == Flow::Jump) {
+    if (ReadLines(run) == Flow::Jump && !model::StepOutlived(app.state)) {
         LeaveSlide(run);
     }
 }

@@ -54,7 +54,7 @@ inline void ClearLine(Run& run) {
 
 /// True when the show is being stopped or the full screen was closed.
 inline bool Stopping(const model::ShowState& state) {
-    return state.StopRequest == 1 || state.FullScreenClosed == 1;
+    return state.StopRequest == 1 || state.FullScreenClosed == 1 || model::StepOutlived(state);
 }
 
 inline bool InFullScreen(const model::ShowState& state) {

@@ -14,6 +14,7 @@ Flow WaitBehindLine(Run& run) {
     }
     model::Timer& timer = run.app.windows.form1.Timer3;  // its tick clears the flag
     state.MacroDelayWaiting = 1;
+    timer.Enabled = false;  // it still runs where the show was stopped in such a wait
     timer.Interval = run.DelayMs;
     timer.Enabled = true;
     do {

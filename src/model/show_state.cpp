@@ -174,6 +174,10 @@ void ZeroReset(ShowState& state) {
     state.ListShowPicture = 1;
 }
 
+bool StepOutlived(const ShowState& state) {
+    return state.StepPhase == 2;
+}
+
 void SetTextOriginOfRun(ShowState& state, int16_t origin) {
     state.TextOriginOwn = OwnTextOrigin(state);
     state.TextOriginByMacro = 1;

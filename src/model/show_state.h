@@ -129,6 +129,10 @@ void SetNewDefaults(ShowState& state);
 /// What becomes zero at the very start of the main window, before the start defaults.
 void ZeroReset(ShowState& state);
 
+/// True within a step whose show has ended, also where another one was started in the same wait:
+/// nothing of the step may touch that one.
+bool StepOutlived(const ShowState& state);
+
 /// TextOriginScreen as a macro sets it: until RestoreTextOrigin, and never saved.
 void SetTextOriginOfRun(ShowState& state, int16_t origin);
 /// The setting's own value comes back after what a macro set.

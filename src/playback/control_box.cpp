@@ -87,7 +87,9 @@ void Start_Click(Application& app) {
     // Not behind the step, which leaves a shorter one where the next slide follows at once.
     SetSlideInterval(app);
     SkipFirstSyncWait(app);
-    RunSlideStep(app);
+    if (!RunSlideStep(app)) {
+        return;
+    }
     if (state.ShowAbort == 1) {
         state.ShowAbort = 0;
         CloseShow(app);
@@ -142,7 +144,9 @@ void StepInBox(Application& app, Next next) {
         return;
     }
     while (state.ShowRunning == 0 && next()) {
-        RunStepByHand(app);
+        if (!RunStepByHand(app)) {
+            return;
+        }
         if (state.ScheduleSkipped != 1) {
             break;
         }

@@ -122,7 +122,9 @@ bool StartShow(Application& app) {
     }
     SkipFirstSyncWait(app);
     StartShowSound(app);
-    RunSlideStep(app);
+    if (!RunSlideStep(app)) {
+        return false;
+    }
     if (state.StopRequest == 1 || state.ShowAbort == 1) {
         state.ShowAbort = 0;
         UnloadWithEndMark(app);

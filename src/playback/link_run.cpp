@@ -112,7 +112,9 @@ bool ContinueLinkRun(Application& app) {
     }
     state.ShowRunning = 1;
     state.SlideIndex = 1;
-    RunSlideStep(app);
+    if (!RunSlideStep(app)) {
+        return true;
+    }
     if (state.ShowAbort == 1) {
         app.windows.slidescreen.Unload();
         state.ShowAbort = 0;

@@ -20,6 +20,21 @@ namespace playback {
 
 namespace {
 
+/// A step can begin within one whose show has ended.
+class StepMark {
+public:
+    explicit StepMark(model::ShowState& state) : state_(state), outer_(state.StepPhase) {
+        state_.StepPhase = 1;
+    }
+    ~StepMark() { state_.StepPhase = outer_; }
+    StepMark(const StepMark&) = delete;
+    StepMark& operator=(const StepMark&) = delete;
+
+private:
+    model::ShowState& state_;
+    int16_t outer_;
+};
+
 constexpr int kSkippedTickMs = 1;
 constexpr int kMissingVideoTickMs = 1;
 constexpr int kAfterVideoTickMs = 100;
@@ -56,6 +71,9 @@ Next WaitForTelop(Application& app) {
     while (state.TelopRunning == 1) {
         app.platform.loop.PumpEvents();
         app.platform.loop.Sleep(kTelopPollMs);
+        if (model::StepOutlived(state)) {
+            return Next::Leave;
+        }
         if (!RunsForward(app)) {
             state.StepBusy = 0;
             app.windows.form1.Timer4.Enabled = false;
@@ -72,7 +90,7 @@ void DrawRandomSlide(Application& app) {
     if (state.LinkRunning == 1 || state.RandomFlag != 0 || !RunsForward(app)) {
         return;
     }
-    const int count = app.windows.form3.List1.ListCount();
+    const int count = state.SlideList.Count();
     const double place = text::RoundHalfEven(app.platform.loop.Rnd() * count + 0.5);
     // A draw next to 1 can round up beyond a list of odd length.
     state.SlideIndex = static_cast<int16_t>(std::clamp(place, 1.0, std::max(1.0, double(count))));
@@ -114,6 +132,9 @@ Next ShowVideo(Application& app) {
     StartSoundBesideVideo(app);
     PrepareAround(app, state.SlideIndex);
     picture::PlayVideo(app, path);
+    if (model::StepOutlived(state)) {
+        return Next::Leave;
+    }
     state.LastWasVideo = 1;
     if (state.VideoStoppedByUser == 1 && state.MacroWaitClick != 1) {
         EndVideoByUser(app);
@@ -195,6 +216,9 @@ Next ShowPicture(Application& app) {
     if (state.FullScreenActive == 1) {
         ShowInFullScreen(app);
     }
+    if (model::StepOutlived(state)) {
+        return Next::Leave;
+    }
     state.ResetScreenOnce = 0;
     app.windows.SetPointer(model::kPointerNormal);
     state.MacroEndShow = 0;
@@ -204,6 +228,9 @@ Next ShowPicture(Application& app) {
     CopyCanvasForMacros(app);
     if (state.LinkedSoundPosition == 1) {
         macro::RunTextMacro(app);
+    }
+    if (model::StepOutlived(state)) {
+        return Next::Leave;
     }
     if (state.StopRequest == 1) {
         app.windows.SetPointer(model::kPointerNormal);
@@ -261,18 +288,24 @@ Next ShowEntry(Application& app) {
 
 }  // namespace
 
-void RunSlideStep(Application& app) {
+bool RunSlideStep(Application& app) {
     model::ShowState& state = app.state;
+    const StepMark mark(state);
     if (state.ShowDateText.empty() || state.SlideIndex == 1) {
         TakeShowDate(app);
     }
     if (IsOutOfSchedule(state, state.SlideIndex)) {
         SkipBySchedule(app);
-        return;
+        return true;
     }
-    if (ShowEntry(app) == Next::End) {
+    const Next next = ShowEntry(app);
+    if (model::StepOutlived(state)) {
+        return false;
+    }
+    if (next == Next::End) {
         state.StepBusy = 0;
     }
+    return true;
 }
 
 }  // namespace playback

@@ -87,7 +87,7 @@ void StartMainChannel(Application& app) {
 }  // namespace
 
 bool RunsForward(const Application& app) {
-    return !app.windows.form1.Command1.Enabled;
+    return !app.windows.form1.Command1.Enabled && !model::StepOutlived(app.state);
 }
 
 bool PlaysSecondChannel(const model::ShowState& state) {

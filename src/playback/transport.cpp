@@ -64,7 +64,9 @@ void StartFirstStep(Application& app) {
     app.state.ShowRunning = 1;
     SkipFirstSyncWait(app);
     StartShowSound(app);
-    RunSlideStep(app);
+    if (!RunSlideStep(app)) {
+        return;
+    }
     app.windows.SetPointer(model::kPointerNormal);
     if (GoesOn(app)) {
         Advance(app);
@@ -149,11 +151,7 @@ bool EndOfList(Application& app) {
 template <class Next>
 void StepByHand(Application& app, Next next) {
     model::ShowState& state = app.state;
-    while (state.ShowRunning == 0 && next()) {
-        RunStepByHand(app);
-        if (state.ScheduleSkipped != 1) {
-            break;
-        }
+    while (state.ShowRunning == 0 && next() && RunStepByHand(app) && state.ScheduleSkipped == 1) {
     }
 }
 
@@ -227,6 +225,9 @@ void ClearRun(Application& app) {
     state.CdProgramPosition = 0;
     state.ShowRunning = 0;
     state.SlideIndex = 0;
+    if (state.StepPhase == 1) {
+        state.StepPhase = 2;
+    }
     app.windows.form1.ShownSlide = 0;
     app.windows.form1.Timer1.Enabled = false;
     picture::ClearPreview(app);
@@ -242,17 +243,21 @@ void Advance(Application& app) {
     app.windows.form1.Timer1.Enabled = true;
 }
 
-void RunStepByHand(Application& app) {
+bool RunStepByHand(Application& app) {
     model::ShowState& state = app.state;
     app.windows.SetPointer(model::kPointerArrowBusy);
     state.ScheduleSkipped = 0;
-    RunSlideStep(app);
+    if (!RunSlideStep(app)) {
+        return false;
+    }
     state.StepBusy = 0;
     app.windows.SetPointer(model::kPointerNormal);
     if (state.ShowAbort == 1 && state.SlideList(1).empty()) {
         state.ShowAbort = 0;
         StopShow(app);
+        return false;
     }
+    return true;
 }
 
 void StopShow(Application& app) {
@@ -421,8 +426,7 @@ void Timer1_Tick(Application& app) {
         return;
     }
     form1.Timer1.Enabled = false;
-    RunSlideStep(app);
-    if (GoesOn(app)) {
+    if (RunSlideStep(app) && GoesOn(app)) {
         Advance(app);
     }
 }

@@ -33,8 +33,8 @@ void SetSlideInterval(Application& app);
 void Advance(Application& app);
 
 /// One step of a show that stands still. Nothing follows it that would free StepBusy, so it does;
-/// a show that lost its last slide in it is stopped.
-void RunStepByHand(Application& app);
+/// a show that lost its last slide in it is stopped. False where the show has ended.
+bool RunStepByHand(Application& app);
 
 /// Ends the show as STOP does, also under the lock of a macro, which it takes off.
 void StopShow(Application& app);

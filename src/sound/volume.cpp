@@ -36,6 +36,9 @@ bool FadeOut(Application& app, int step) {
             SendVolume(app, volume);
             app.platform.loop.Sleep(kFadePassMs);
             app.platform.loop.PumpEvents();
+            if (model::StepOutlived(state)) {
+                return false;
+            }
             if (state.StopRequest == 1 || state.FullScreenClosed == 1) {
                 if (state.SoundOpen == 1) {
                     SendVolume(app, full);

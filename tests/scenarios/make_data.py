@@ -9,6 +9,7 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   five_slow.kvs the same, eight seconds a slide
   repeat.kvs    a b c, from the top again
   random.kvs    a b c d e in random order
+  random_films.kvs  clip.avi a b in random order
   one.kvs       a alone
   schedule.kvs  a always; b until 2020; c from 2030; d 2020 to 2030
   night.kvs     a always; b from 00:00 to 06:00 of every day; c from 2026/01/02; from the top again
@@ -295,6 +296,8 @@ def main():
     files["five_slow.kvs"] = document(lines_of_show(five, interval=8000))
     files["repeat.kvs"] = document(lines_of_show(five[:3], repeat=0))
     files["random.kvs"] = document(lines_of_show(five, repeat=0, random=0))
+    files["random_films.kvs"] = document(lines_of_show(
+        ["clip.avi", "a.png", "b.png"], repeat=0, random=0))
     files["one.kvs"] = document(lines_of_show(five[:1]))
     files["schedule.kvs"] = document(lines_of_show(five[:4], [
         BLANK_ROW, row("2010/01/01", "00:00", "2020/01/01", "00:00"),
