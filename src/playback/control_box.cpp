@@ -51,6 +51,10 @@ void StartAtEnd(Application& app) {
         return;
     }
     SetRunning(app);
+    if (state.LinkRunning == 1 && state.SlideList(1).empty()) {
+        PassEmptyDocument(app);
+        return;
+    }
     SkipFirstSyncWait(app);
     StartShowSound(app);
     SetSlideInterval(app);

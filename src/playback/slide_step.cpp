@@ -300,6 +300,7 @@ bool RunSlideStep(Application& app) {
     }
     const Next next = ShowEntry(app);
     if (model::StepOutlived(state)) {
+        app.windows.SetPointer(model::kPointerNormal);  // no step that is not over is left
         return false;
     }
     if (next == Next::End) {

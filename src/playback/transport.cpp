@@ -109,6 +109,7 @@ void FollowDocumentFile(Application& app) {
     if (date != state.DocumentFileDate) {
         state.BaseFolder = text::FolderPart(state.DocumentPath);
         document::ReadShowDocument(app, Text(state.DocumentPath));
+        state.ShowAbort = 0;  // refused and told: what there is plays on, whatever its first slide
         state.SlideIndex = 1;
     }
     state.DocumentFileDate = date;
@@ -339,6 +340,9 @@ void Command2_Click(Application& app) {
         form1.Timer1.Enabled = false;
         state.ShowRunning = 0;
         state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
+        if (state.StepWaiting == 1) {
+            state.ResumeIndex = state.SlideIndex;  // the slide that waited has not been shown
+        }
         if (state.SlideIndex > 1) {
             form1.Command5.Enabled = true;
         }

@@ -246,5 +246,16 @@ TEST(TickDocument, OneThatCannotBeReadTellsOnceAndTheListGoesOn) {
     EXPECT_EQ(show.Shown(), (Numbers{1, 1, 2}));
 }
 
+TEST(TickDocument, OneThatIsRefusedEndsNoShowWhoseFirstSlideIsOutOfSchedule) {
+    DocumentShow show;
+    show.loop.Run(1000);
+    show.state.ScheduleTo.Set(1, u"2000/01/01 00:00");
+    show.files.Put(kDocument, "no show\r\n");
+    show.loop.Run(3000);
+    EXPECT_EQ(show.dialogs.messages.size(), 1u);
+    EXPECT_EQ(show.Shown(), (Numbers{1, 2}));
+    EXPECT_EQ(show.state.ShowRunning, 1);
+}
+
 }  // namespace
 }  // namespace playback_tests

@@ -45,6 +45,7 @@ m1, m2 (320x240, shaded) have macro files beside them; star.png (60x40) is their
 polygon in it.
   all.kvl       one.kvs, then repeat.kvs
 gaps.kvl      a show that is not there, empty.kvs, one.kvs, another that is not there
+ends_empty.kvl  one.kvs, then empty.kvs
 gone.kvl      two shows that are not there; empties.kvl twice empty.kvs; none.kvl nothing
 State files and settings, for the program folder:
   lines1080.conf  macro-scale = 1080
@@ -338,6 +339,7 @@ def main():
     files.update({name: png(320, 240, (64, 64, 0)) for name in slides[:2]}, **texts())
     files["gaps.kvl"] = document(
         ["1vue3167", "gaps.kvl", " 4 ", "gone.kvs", "empty.kvs", "one.kvs", "lost.kvs"])
+    files["ends_empty.kvl"] = document(["1vue3167", "ends_empty.kvl", " 2 ", "one.kvs", "empty.kvs"])
     files["gone.kvl"] = document(["1vue3167", "gone.kvl", " 2 ", "gone.kvs", "lost.kvs"])
     files["empties.kvl"] = document(["1vue3167", "empties.kvl", " 2 ", "empty.kvs", "empty.kvs"])
     files["none.kvl"] = document(["1vue3167", "none.kvl", " 0 "])
