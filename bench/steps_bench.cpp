@@ -91,6 +91,8 @@ public:
     Text AppFolder() override { return u"/app/"; }
     bool PreviousInstance() override { return false; }
     bool Shell(TextView, TextView) override { return false; }
+    bool FindsProgram(TextView, TextView) override { return false; }
+    void ForgetShow() override {}
     bool OpenText(TextView) override { return false; }
 };
 

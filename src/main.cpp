@@ -27,7 +27,9 @@
 #include "adapters/robot/traced_sound.h"
 #include "adapters/robot/traced_system.h"
 #include "adapters/robot/window_tracer.h"
+#include "app/exit.h"
 #include "app/start_up.h"
+#include "playback/transport.h"
 #ifdef PARAPICO_HAS_CD
 #include "adapters/cdio/cdio_disc.h"
 #endif
@@ -35,6 +37,7 @@
 namespace {
 
 constexpr int kWrongUsage = 2;
+constexpr int kFault = 70;  // the program's own, by sysexits.h
 
 constexpr const char* kUsage =
     "使い方 / usage:\n"
@@ -87,9 +90,7 @@ struct Surroundings {
         : programFolder(posix_adapter::ProgramFolder(appFolder)),
           files(programFolder),
           imaging(files, prepare),
-          system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)) {
-        system.FindWith(files);
-    }
+          system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)) {}
 
     std::string programFolder;
     posix_adapter::IconvCodePage codePage;
@@ -113,13 +114,45 @@ private:
     qt_adapter::Desktop& desktop_;
 };
 
+/// An exception that nobody takes ends the program, but not what it was to keep.
+int EndByFault(Application& application, const char* words) {
+    std::cerr << "parapico: " << words << "\n";
+    try {
+        app::SaveState(application);
+    } catch (...) {
+        std::cerr << "parapico: the state could not be saved\n";
+    }
+    return kFault;
+}
+
 int RunUntilEnd(Application& application, const app::StartOptions& options) {
     try {
         app::RunProgram(application, options);
     } catch (const platform::ProgramEnd& end) {
         return end.exitStatus;
+    } catch (const robot::ScriptError&) {
+        throw;
+    } catch (const std::exception& fault) {
+        return EndByFault(application, fault.what());
+    } catch (...) {
+        return EndByFault(application, "unknown exception");
     }
 }
+
+/// The program hears of its end from outside for as long as it runs.
+class EndFromOutside {
+public:
+    EndFromOutside(qt_adapter::Desktop& desktop, Application& application) : desktop_(desktop) {
+        desktop_.WatchEnd({[&application] { app::LeaveProgram(application); },
+                           [&application] { app::SaveState(application); }});
+    }
+    ~EndFromOutside() { desktop_.UnwatchEnd(); }
+    EndFromOutside(const EndFromOutside&) = delete;
+    EndFromOutside& operator=(const EndFromOutside&) = delete;
+
+private:
+    qt_adapter::Desktop& desktop_;
+};
 
 /// Nothing in a program that was built without the reader of discs.
 gst_adapter::OpenDisc DiscReader() {
@@ -148,16 +181,20 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     gst_adapter::GstVideo video(around.files, output, [&desktop](std::function<void()> call) {
         desktop.Post(std::move(call));
     });
-    around.system.ask = [&desktop](TextView command) { return desktop.AskProgram(command); };
+    around.system.ask = [&desktop](const platform::ProgramQuestion& question) {
+        return desktop.AskProgram(question);
+    };
     robot::TracedSystem system(around.system, *trace, true);
     robot::WindowTracer windows(*trace);
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
                              around.imaging, desktop.TextRenderer(), sound, video, system, *trace,
                              around.codePage,
                              posix_adapter::ReadUserSettings(around.programFolder)});
+    around.system.endShow = [&application] { playback::StopShow(application); };
     around.system.textOpener = [](TextView path) { return qt_adapter::Desktop::OpenText(path); };
     windows.Attach(application.windows);
     const Views views(desktop, application);
+    const EndFromOutside end(desktop, application);
     return RunUntilEnd(application, {CommandText(document), true, true});
 }
 

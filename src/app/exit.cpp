@@ -1,11 +1,44 @@
 #include "app/exit.h"
 
+#include "app/window_size.h"
 #include "document/state_files.h"
 #include "picture/effects.h"
 #include "playback/transport.h"
 #include "sound/sound.h"
 
 namespace app {
+
+namespace {
+
+void WriteStateFiles(Application& application) {
+    document::WriteLinkStateFile(application);
+    document::WriteStateFile(application);
+    document::WriteSoundListFile(application);
+    application.state.StateAtHand = false;
+}
+
+}  // namespace
+
+void LeaveProgram(Application& application) {
+    if (!application.state.StateAtHand && !application.windows.form1.Unloading()) {
+        throw platform::ProgramEnd{};
+    }
+    application.windows.form1.Unload();
+}
+
+void SaveState(Application& application) {
+    model::ShowState& state = application.state;
+    if (!state.StateAtHand) {
+        return;
+    }
+    const int16_t soundMode = state.SoundMode;
+    const int16_t mp3Mode = state.Mp3ModeFlag;
+    KeepWindowSize(application);
+    WriteStateFiles(application);
+    state.SoundMode = soundMode;
+    state.Mp3ModeFlag = mp3Mode;
+    state.StateAtHand = true;
+}
 
 void ExitProgram(Application& application) {
     model::ShowState& state = application.state;
@@ -16,9 +49,7 @@ void ExitProgram(Application& application) {
     picture::ReleaseEffectContext(application);
     sound::StopCd(application);
     sound::StopSound(application);
-    document::WriteLinkStateFile(application);
-    document::WriteStateFile(application);
-    document::WriteSoundListFile(application);
+    WriteStateFiles(application);
     windows.slidescreen.P2.SetPicture(nullptr);
     windows.form1.Picture1.SetPicture(nullptr);
     windows.form4.Picture1.SetPicture(nullptr);

@@ -32,9 +32,13 @@ namespace {
 
 constexpr int kHeightWithoutMargin = 8200;  // twips
 
-Text DropQuoteBeforeNativePath(TextView command) {
-    return command.size() > 1 && command[0] == u'"' && command[1] == u'/' ? Text(command.substr(1))
-                                                                          : Text(command);
+Text BeforeQuote(TextView command) {
+    return Text(command.substr(0, command.find(u'"')));
+}
+
+Text FromDriveLetter(TextView command) {
+    const size_t colon = text::InStr(command, u":");
+    return colon > 1 ? text::Mid(command, colon - 1) : Text(command);
 }
 
 void MakeImagingControls(Application& app) {
@@ -102,6 +106,7 @@ void ReadStateFiles(Application& app) {
     app.state.ReadingDocument = 0;
     document::ReadLinkStateFile(app);
     document::ReadStateFile(app);
+    app.state.StateAtHand = true;
 }
 
 void ReadCommandLineDocument(Application& app) {
@@ -197,15 +202,11 @@ void Form1_Activate(Application& app) {
 }  // namespace
 
 CommandLine ReadCommandLine(TextView commandText) {
-    Text command = DropQuoteBeforeNativePath(text::LTrim(commandText));
-    if (!text::IsNativePath(command)) {
-        const size_t colon = text::InStr(command, u":");
-        if (colon > 1) {
-            command = text::Mid(command, colon - 1);
-        }
-    }
-    if (const size_t quote = text::InStr(command, u"\""); quote > 0) {
-        command = text::Left(command, quote - 1);
+    Text command = text::LTrim(commandText);
+    if (command.starts_with(u"\"/")) {
+        command = BeforeQuote(TextView(command).substr(1));
+    } else if (!text::IsNativePath(command)) {
+        command = BeforeQuote(FromDriveLetter(command));
     }
     CommandLine result;
     result.argument = text::LTrim(command);

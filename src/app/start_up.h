@@ -11,8 +11,8 @@ struct CommandLine {
 };
 
 /// Reads the command text. A drive letter makes everything in front of it fall away, an opening
-/// quote with it; the text ends at the next quote. Native paths keep their colons; a quote in
-/// front of one is dropped.
+/// quote with it; the text ends at the next quote. Native paths keep their colons and quotes; one
+/// in quotes loses them and ends at the second.
 CommandLine ReadCommandLine(TextView commandText);
 
 struct StartOptions {

@@ -4,6 +4,7 @@
 
 #include "document/line_reader.h"
 #include "document/line_writer.h"
+#include "document/unread_files.h"
 #include "text/paths.h"
 
 namespace document {
@@ -21,13 +22,14 @@ Text LinkStatePath(const Application& app) {
     return app.state.AppFolder + u"uautst.dat";
 }
 
-/// False for another tag: then nothing was touched. A file that ends early leaves what was read.
-bool ReadLinks(Application& app, LineReader& reader) {
+/// For another tag nothing is touched. A file that ends early leaves what was read.
+Taken ReadLinks(Application& app, LineReader& reader) {
     if (reader.AtEnd() || text::RTrim(reader.Line()) != kLinkStateTag) {
-        return false;
+        return Taken::Nothing;
     }
     auto& state = app.state;
     auto& form9 = app.windows.form9;
+    bool whole = false;
     try {
         state.LinkAutoFlag = reader.Int16();
         state.LinkRepeat = reader.Int16();
@@ -36,12 +38,13 @@ bool ReadLinks(Application& app, LineReader& reader) {
         if (!state.LinkDocumentName.empty()) {
             form9.Caption = u"ＫＶＳリンク - " + state.LinkDocumentName;
         }
-        // What a run could not hold is left out.
-        const int32_t count = std::min(reader.Int32(), model::kLinkListLast);
+        const int32_t count = reader.Int32();
         form9.List1.Clear();
-        for (int32_t i = 0; i < count; ++i) {
+        // What a run could not hold is left out.
+        for (int32_t i = 0; i < std::min(count, model::kLinkListLast); ++i) {
             form9.List1.AddItem(text::WithFolder(state.AppFolder, reader.Line()));
         }
+        whole = count <= model::kLinkListLast;
     } catch (const ReadFailure&) {
         // Kept: what stands before the fault is in force, and nothing is said.
     }
@@ -49,16 +52,17 @@ bool ReadLinks(Application& app, LineReader& reader) {
     form9.Check2.Value = state.LinkRepeat;
     form9.Check3.Value = state.LinkCheck3;
     form9.Label4.Caption = text::Trim(text::Str(form9.List1.ListCount()));
-    return true;
+    return whole ? Taken::Whole : Taken::Partly;
 }
 
-/// False for another tag: then nothing was touched. A file that ends early leaves what was read.
-bool ReadSounds(Application& app, LineReader& reader) {
+/// For another tag nothing is touched. A file that ends early leaves what was read.
+Taken ReadSounds(Application& app, LineReader& reader) {
     auto& state = app.state;
     auto& form10 = app.windows.form10;
     if (reader.AtEnd() || !reader.Line().starts_with(kSoundListTag)) {
-        return false;
+        return Taken::Nothing;
     }
+    bool whole = false;
     state.SoundListCount = 0;
     state.SoundList.Erase();
     form10.List1.Clear();
@@ -70,11 +74,12 @@ bool ReadSounds(Application& app, LineReader& reader) {
             form10.List1.AddItem(std::move(path));
             state.SoundListCount = static_cast<int16_t>(i);
         }
+        whole = true;
     } catch (const ReadFailure&) {
         // Kept: what stands before the fault is the list.
     }
     form10.Label4.Caption = text::Trim(text::Str(form10.List1.ListCount()));
-    return true;
+    return whole ? Taken::Whole : Taken::Partly;
 }
 
 }  // namespace
@@ -84,6 +89,9 @@ Text StateFilePath(const Application& app) {
 }
 
 bool WriteProgramFile(Application& app, TextView path, TextView content) {
+    if (!KeepUnread(app, Text(path))) {
+        return false;
+    }
     platform::FileError error;
     if (app.platform.files.Write(path, text::EncodeFile(content, app.platform.codePage), error)) {
         return true;
@@ -92,10 +100,10 @@ bool WriteProgramFile(Application& app, TextView path, TextView content) {
     return false;
 }
 
-bool ReadLinkStateFile(Application& app, TextView path) {
+Taken ReadLinkStateFile(Application& app, TextView path) {
     std::string bytes;
     platform::FileError ignored;
-    bool taken = false;
+    Taken taken = Taken::Nothing;
     if (app.platform.files.Read(path, bytes, ignored)) {
         LineReader reader(text::DecodeFile(bytes, app.platform.codePage));
         taken = ReadLinks(app, reader);
@@ -105,7 +113,8 @@ bool ReadLinkStateFile(Application& app, TextView path) {
 }
 
 void ReadLinkStateFile(Application& app) {
-    ReadLinkStateFile(app, LinkStatePath(app));
+    const Text path = LinkStatePath(app);
+    NoteTaken(app, path, ReadLinkStateFile(app, path));
 }
 
 void WriteLinkStateFile(Application& app) {
@@ -124,12 +133,12 @@ void WriteLinkStateFile(Application& app) {
     WriteProgramFile(app, LinkStatePath(app), writer.Content());
 }
 
-bool ReadSoundListFile(Application& app, TextView path) {
+Taken ReadSoundListFile(Application& app, TextView path) {
     std::string bytes;
     platform::FileError error;
     if (!app.platform.files.Read(path, bytes, error)) {
         app.platform.dialogs.Message(error.message, platform::kPlain, u"");
-        return false;
+        return Taken::Nothing;
     }
     LineReader reader(text::DecodeFile(bytes, app.platform.codePage));
     return ReadSounds(app, reader);
@@ -137,9 +146,8 @@ bool ReadSoundListFile(Application& app, TextView path) {
 
 void ReadSoundListFile(Application& app) {
     const Text path = SoundListPath(app);
-    if (app.platform.files.Exists(path)) {
-        ReadSoundListFile(app, path);
-    }
+    NoteTaken(app, path,
+              app.platform.files.Exists(path) ? ReadSoundListFile(app, path) : Taken::Nothing);
 }
 
 void WriteSoundListFile(Application& app) {

@@ -1,41 +1,49 @@
 // The files in the program folder that keep what is no document's business. All are written whole
-// or not at all; a failed write shows the platform's words in a plain box.
+// or not at all; a failed write shows the platform's words in a plain box. A file that is there and
+// was not read to its end (an unreadable one, one of another tag or with a fault) is never
+// replaced.
 #pragma once
 
 #include "model/application.h"
 
 namespace document {
 
+/// What was had from a state file. Partly: reading stopped at a fault, or at what there is no room
+/// for.
+enum class Taken { Nothing, Partly, Whole };
+
 /// autstart.dat: the whole state of the last run, of any age of the file. Missing, unreadable or
 /// failing half-way: silent, and what was read until then is in force. Follows with every menu
 /// check and control; read to its end it also centres the main window on monitor MonitorIndex and
 /// gives it the document's caption. SlideListEnd stays the caller's business.
 void ReadStateFile(Application& app);
-/// The same from a file of any name. False for one that cannot be read, or whose first line is
+/// The same from a file of any name. Nothing for one that cannot be read, or whose first line is
 /// neither a tag nor a number: then nothing has changed.
-bool ReadStateFile(Application& app, TextView path);
+Taken ReadStateFile(Application& app, TextView path);
 /// Sets Mp3ModeFlag by SoundMode, and a SoundMode of 8 to 7. False where the write failed.
 bool WriteStateFile(Application& app);
 
 /// uautst.dat: the link window's list and flags. Missing, of another tag or unreadable: silent,
 /// nothing has changed; one that ends early leaves what was read.
 void ReadLinkStateFile(Application& app);
-/// The same from a file of any name. False where nothing could be taken from it.
-bool ReadLinkStateFile(Application& app, TextView path);
+/// The same from a file of any name.
+Taken ReadLinkStateFile(Application& app, TextView path);
 void WriteLinkStateFile(Application& app);
 
 /// wavlist.dat: the sound list. A missing file or one with another tag leaves everything as it is.
 void ReadSoundListFile(Application& app);
 void WriteSoundListFile(Application& app);
 
-/// The same from a file of any name. False where it cannot be read (after the platform's words)
+/// The same from a file of any name. Nothing where it cannot be read (after the platform's words)
 /// or has another tag.
-bool ReadSoundListFile(Application& app, TextView path);
+Taken ReadSoundListFile(Application& app, TextView path);
 
 /// Where the state of the last run is kept.
 Text StateFilePath(const Application& app);
 
-/// Writes a text of the program folder. False after the platform's words.
+/// Writes a text of the program folder. A file there that was not read to its end is not replaced:
+/// it is set aside as NAME.kept-YYYY-MM-DD, and the person is told. False after the platform's
+/// words.
 bool WriteProgramFile(Application& app, TextView path, TextView content);
 
 }  // namespace document

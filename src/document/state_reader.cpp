@@ -8,6 +8,7 @@
 #include "document/show_schedule.h"
 #include "document/state_files.h"
 #include "document/state_lines.h"
+#include "document/unread_files.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 
@@ -28,6 +29,8 @@ public:
     /// ReadFailure further on; what was read until then stays.
     bool ReadTag();
     void ReadLines();
+    /// The oldest files are a number and no more.
+    bool EndsBehindNumber() const { return tag_.empty() && reader_.AtEnd(); }
 
 private:
     void ReadHead(const StateLine& line);
@@ -214,16 +217,17 @@ void TakeIdentity(Application& app) {
 
 }  // namespace
 
-bool ReadStateFile(Application& app, TextView path) {
+Taken ReadStateFile(Application& app, TextView path) {
     std::string bytes;
     platform::FileError ignored;
     if (!app.platform.files.Read(path, bytes, ignored)) {
         app.windows.SetPointer(model::kPointerNormal);
-        return false;
+        return Taken::Nothing;
     }
     StateReader reader(app, text::DecodeFile(bytes, app.platform.codePage));
-    const bool known = reader.ReadTag();
-    if (known) {
+    Taken taken = Taken::Nothing;
+    if (reader.ReadTag()) {
+        taken = reader.EndsBehindNumber() ? Taken::Whole : Taken::Partly;
         bool whole = false;
         try {
             reader.ReadLines();
@@ -236,16 +240,18 @@ bool ReadStateFile(Application& app, TextView path) {
         form3.Label4.Caption = text::Trim(text::Str(form3.List1.ListCount()));
         FollowAllSettings(app);
         if (whole) {
+            taken = Taken::Whole;
             CentreMainWindow(app);
             TakeIdentity(app);
         }
     }
     app.windows.SetPointer(model::kPointerNormal);
-    return known;
+    return taken;
 }
 
 void ReadStateFile(Application& app) {
-    ReadStateFile(app, StateFilePath(app));
+    const Text path = StateFilePath(app);
+    NoteTaken(app, path, ReadStateFile(app, path));
 }
 
 }  // namespace document

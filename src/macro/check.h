@@ -7,6 +7,7 @@
 
 #include "platform/files.h"
 #include "platform/imaging.h"
+#include "platform/system.h"
 #include "text/text.h"
 
 namespace macro {
@@ -21,9 +22,11 @@ struct Finding {
 
 /// The slide that the macro belongs to.
 struct CheckedSlide {
-    Text folder;                        // in front of names without one
-    int index = 0, count = 0;           // its place, from 1, among how many; 0, 0: not known
-    platform::Size screen{1920, 1080};  // pixels: where texts have to stay
+    Text folder;                           // in front of names without one
+    int index = 0, count = 0;              // its place, from 1, among how many; 0, 0: not known
+    platform::Size screen{1920, 1080};     // pixels: where texts have to stay
+    Text document = {};                    // beside which programs are looked for
+    platform::System* programs = nullptr;  // who finds them; null: nobody is asked
 };
 
 /// Findings in the order of their lines. Reads no file but asks whether named ones exist.

@@ -81,6 +81,10 @@ void CheckAction(const ArgumentCheck& check, TextView action) {
     }
 }
 
+bool IsProgram(const Keyword& keyword, TextView part) {
+    return keyword.name == u"SHELL" || (keyword.name == u"PICPB" && text::KindOf(part) == u"EXE");
+}
+
 void CheckFiles(const ArgumentCheck& check) {
     const TextView name = check.keyword.name;
     const bool piece = name == u"PICPB";
@@ -94,13 +98,40 @@ void CheckFiles(const ArgumentCheck& check) {
     const auto path = name == u"MOVIE" ? NamedVideo : NamedFile;
     const auto parts = QuotedParts(cut);
     for (const TextView part : parts) {
-        if (!part.empty() && !check.files.Exists(path(check.files, check.slide.folder, part))) {
+        const bool program = check.slide.programs != nullptr && IsProgram(check.keyword, part);
+        if (!part.empty() && !program &&
+            !check.files.Exists(path(check.files, check.slide.folder, part))) {
             check.found.Add(Flaw::File, ColumnOf(check.line, part),
                             u"「" + Text(part) + u"」がありません", u"表示も再生もされません");
         }
     }
     if (piece && parts.size() > 1 && !parts[0].empty() && !parts[1].empty()) {
         CheckAction(check, parts[1]);
+    }
+}
+
+/// Programs that a line would start and that are nowhere.
+void CheckPrograms(const ArgumentCheck& check) {
+    if (check.slide.programs == nullptr) {
+        return;
+    }
+    const bool piece = check.keyword.name == u"PICPB";
+    std::vector<TextView> parts;
+    if (check.keyword.name == u"SHELL") {
+        parts.push_back(Quoted(check.line));
+    } else if (piece) {
+        parts = QuotedParts(BeforeComment(check.line));
+    }
+    for (const TextView part : parts) {
+        const bool beside =
+            piece && check.files.Exists(NamedFile(check.files, check.slide.folder, part));
+        if (!part.empty() && IsProgram(check.keyword, part) && !beside &&
+            !check.slide.programs->FindsProgram(part, check.slide.document)) {
+            check.found.Add(Flaw::File, ColumnOf(check.line, part),
+                            u"プログラム「" + Text(part) + u"」が見つかりません",
+                            u"何も起動しません",
+                            u"名前を直すか、文書のフォルダかPATHのフォルダに置いてください");
+        }
     }
 }
 
@@ -174,6 +205,7 @@ void CheckArguments(FindingList& found, platform::Files& files, const CheckedSli
             return;
     }
     CheckFiles(check);
+    CheckPrograms(check);
     CheckJumps(check);
 }
 

@@ -152,8 +152,11 @@ Flow SetControlBox(Run& run, double mode) {
 }
 
 Flow StartProgram(Run& run, double) {
-    const TextView path = Quoted(run.MacroLineUpper);
+    const TextView path = Quoted(run.MacroLine);
     if (!path.empty()) {
+        // The trace has the line's upper-case form, as the other words' files do. What is started
+        // is what was written: case counts here.
+        run.app.platform.trace.Event("shell", {{"command", Text(Quoted(run.MacroLineUpper))}});
         run.app.platform.system.Shell(path, run.state.DocumentPath);
     }
     return Flow::GoOn;

@@ -82,6 +82,13 @@ struct ShowState {
     /// Far edges of them all, in twips.
     int32_t MonitorsRight = 0, MonitorsBottom = 0;
 
+    /// State files (full paths) that are there and were not read to their end: they are not
+    /// replaced but set aside.
+    std::vector<Text> UnreadFiles;
+    /// The state files were read and the exit has not written them: this record is what they shall
+    /// hold.
+    bool StateAtHand = false;
+
     /// Moment the schedule is compared with: taken at START and whenever slide 1 comes up.
     platform::DateTime ShowDateTime;
 

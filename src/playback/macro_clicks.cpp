@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "macro/cutouts.h"
 #include "picture/video_window.h"
 #include "playback/control_box.h"
+#include "text/paths.h"
 
 namespace playback {
 
@@ -24,13 +26,22 @@ void ChooseMenu(Application& app, size_t entry) {
     JumpBy(app, app.state.MenuJump[entry]);
 }
 
+/// A bare name that is not beside the slide may be the document's or the system's.
+void StartProgram(Application& app, const Text& action) {
+    const Text path = text::Trim(action);
+    app.platform.trace.Event("shell", {{"command", path}});
+    const bool missed =
+        !app.platform.files.Find(path) && text::FolderPart(path) == macro::SlideFolder(app);
+    app.platform.system.Shell(missed ? text::BareName(path) : path, app.state.DocumentPath);
+}
+
 void ClickObject(Application& app, size_t object) {
     const Text action = app.state.CutoutAction[object];
     const Text kind = text::KindOf(action);
     if (kind == u"WAV") {
         app.platform.sound.SndPlaySound(action, kAsynchronousWithoutDefault);
     } else if (kind == u"EXE") {
-        app.platform.system.Shell(text::Trim(action), app.state.DocumentPath);
+        StartProgram(app, action);
     } else if (text::IsVideoKind(action)) {
         picture::ShowVideo(app, action);
         if (app.state.FullScreenActive == 1) {

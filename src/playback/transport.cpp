@@ -233,6 +233,7 @@ void ClearRun(Application& app) {
     app.windows.form1.Timer1.Enabled = false;
     picture::ClearPreview(app);
     ForgetPrepared(app);
+    app.platform.system.ForgetShow();
 }
 
 void SetSlideInterval(Application& app) {

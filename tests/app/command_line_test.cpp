@@ -57,7 +57,9 @@ INSTANTIATE_TEST_SUITE_P(NativePaths, CommandLineOf,
                                          Case{u"  /home/me/a:b.kvs", u"/home/me/a:b.kvs", 1},
                                          Case{u"\"/home/my show/x.kvl\"", u"/home/my show/x.kvl",
                                               2},
-                                         Case{u"/a:/x.kvs", u"/a:/x.kvs", 1}));
+                                         Case{u"/a:/x.kvs", u"/a:/x.kvs", 1},
+                                         Case{u"/a/5\" disc.kvs", u"/a/5\" disc.kvs", 1},
+                                         Case{u"\"/a/5\" disc.kvs", u"/a/5", 0}));
 
 }  // namespace
 }  // namespace app

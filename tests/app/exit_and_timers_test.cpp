@@ -102,6 +102,62 @@ TEST(Exit, SettingsAndListsAreThereAtTheNextStart) {
     EXPECT_TRUE(second.state.LinkRunning == 0);
 }
 
+TEST(Leave, GoesThroughTheExitFromInsideABox) {
+    Program program;
+    Program::PutState(program.around, {.slides = {u"C:\\show\\a.png"}});
+    program.around.dialogs.whileOpen = [&](const auto&) { app::LeaveProgram(program.app); };
+    EXPECT_EQ(program.Run(u"C:\\show\\two.kvs"), 0) << "the box before the show";
+    const auto* file = program.around.files.Get(u"C:\\app\\autstart.dat");
+    ASSERT_NE(file, nullptr);
+    EXPECT_NE(file->content.find("two.kvs"), std::string::npos);
+    EXPECT_FALSE(program.form1.Loaded);
+}
+
+TEST(Leave, BeforeTheStateWasReadWritesNothing) {
+    Program program;
+    program.around.files.Put(u"C:\\app\\wavlist.dat", "WAV3.4\r\n");
+    program.around.files.MakeUnreadable(u"C:\\app\\wavlist.dat");
+    program.around.dialogs.whileOpen = [&](const auto&) { app::LeaveProgram(program.app); };
+    EXPECT_EQ(program.Run(), 0);
+    EXPECT_EQ(program.around.dialogs.messages.size(), 1u);
+    EXPECT_TRUE(program.around.files.written.empty());
+}
+
+TEST(Leave, InsideAnExitLetsThatOneGoOn) {
+    Program program;
+    program.around.files.writeError = u"ディスクの空き領域が不足しています。";
+    program.around.dialogs.whileOpen = [&](const auto&) { app::LeaveProgram(program.app); };
+    program.around.loop.At(10, [&] { app::LeaveProgram(program.app); });
+    EXPECT_EQ(program.Run(), 0);
+    EXPECT_EQ(program.around.dialogs.messages.size(), 3u) << "one a file, each once";
+}
+
+TEST(SaveState, WritesWhatTheExitWouldAndChangesNothing) {
+    Program program;
+    program.around.loop.At(10, [&] {
+        program.state.SoundMode = 8;
+        app::SaveState(program.app);
+        EXPECT_EQ(program.state.SoundMode, 8);
+        EXPECT_EQ(program.around.files.written.size(), 3u);
+    });
+    std::string saved;
+    program.around.loop.At(20, [&] {
+        saved = program.around.files.Get(u"C:\\app\\autstart.dat")->content;
+        app::LeaveProgram(program.app);
+    });
+    EXPECT_EQ(program.Run(), 0);
+    EXPECT_EQ(program.around.files.Get(u"C:\\app\\autstart.dat")->content, saved);
+    program.around.files.written.clear();
+    app::SaveState(program.app);  // the exit has written: nothing is left to say
+    EXPECT_TRUE(program.around.files.written.empty());
+}
+
+TEST(SaveState, BeforeTheStateWasReadWritesNothing) {
+    Program program;
+    app::SaveState(program.app);
+    EXPECT_TRUE(program.around.files.written.empty());
+}
+
 TEST(Exit, AFullDiskIsToldAndTheOldFilesStay) {
     Program program;
     Program::PutState(program.around, {.slides = {u"C:\\show\\a.png"}});

@@ -197,11 +197,11 @@ TEST(SoundListFile, FailuresShowThePlatformsWords) {
     document::ReadSoundListFile(program.app);
     program.files.writeError = u"読み取り専用です。";
     document::WriteSoundListFile(program.app);
-    ASSERT_EQ(program.dialogs.messages.size(), 2u);
+    ASSERT_EQ(program.dialogs.messages.size(), 3u);  // the second: it was set aside
     EXPECT_EQ(program.dialogs.messages[0].text, u"ファイルを読み込めません。");
-    EXPECT_EQ(program.dialogs.messages[1].text, u"読み取り専用です。");
-    EXPECT_EQ(program.dialogs.messages[1].flags, 0);
-    EXPECT_EQ(program.dialogs.messages[1].title, u"");
+    EXPECT_EQ(program.dialogs.messages[2].text, u"読み取り専用です。");
+    EXPECT_EQ(program.dialogs.messages[2].flags, 0);
+    EXPECT_EQ(program.dialogs.messages[2].title, u"");
 }
 
 struct LinkProgram : Program {

@@ -30,6 +30,20 @@ struct Check : testing::Test {
     }
 };
 
+TEST_F(Check, ProgramsThatAreNowhereAreFound) {
+    fake.PutPicture(u"C:\\show\\a.bmp", 5, 5);
+    EXPECT_THAT(Of(u"Shell=\"gone.exe\"\r\n"), IsEmpty()) << "nobody to ask";
+    slide.programs = &fake.system;
+    fake.system.found = {u"there x", u"there.exe"};
+    EXPECT_THAT(Of(u"Shell=\"there x\"\r\nPicPB01(0,\"a.bmp\",\"there.exe\")\r\n"), IsEmpty());
+    EXPECT_EQ(One(u"Shell=\"gone.exe -x\"\r\n"),
+              "1:8 プログラム「gone.exe -x」が見つかりません → 何も起動しません");
+    EXPECT_EQ(One(u"PicPB01(0,\"a.bmp\",\"gone.exe\")\r\n"),
+              "1:20 プログラム「gone.exe」が見つかりません → 何も起動しません");
+    fake.files.Put(u"C:\\show\\gone.exe", "x");
+    EXPECT_THAT(Of(u"PicPB01(0,\"a.bmp\",\"gone.exe\")\r\n"), IsEmpty()) << "beside the slide";
+}
+
 TEST_F(Check, SoundMacroHasNoFindings) {
     fake.PutPicture(u"C:\\show\\a.bmp", 5, 5);
     EXPECT_THAT(Of(u"//=====\r\nQBColor=15       //[文字色](0-15)\r\n //(0-黒)\r\n\r\n"

@@ -143,7 +143,7 @@ const Case kCases[] = {
     {u"GRAYSCALE", u"GrayScale", [](Show& s) { return Asked(s, "gray"); }},
     {u"SHELL", u"Shell=\"C:\\a.exe\"",
      [](Show& s) {
-         return s.fake.system.started.size() == 1 && s.fake.system.started[0].first == u"C:\\A.EXE";
+         return s.fake.system.started.size() == 1 && s.fake.system.started[0].first == u"C:\\a.exe";
      }},
     {u"FONTNAME", u"FontName=\"Mincho\"", [](Show& s) { return Canvas(s).font.name == u"Mincho"; }},
     {u"CLS", u"Cls", [](Show& s) { return s.screen.P2.canvas.Point(9, 9) == 0x123456; },

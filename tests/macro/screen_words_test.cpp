@@ -292,11 +292,14 @@ TEST_F(ScreenWords, BoxOfTheWindowIsOnlySet) {
     EXPECT_FALSE(box.Visible);
 }
 
-TEST_F(ScreenWords, ProgramsStartFromTheUpperCaseLine) {
+TEST_F(ScreenWords, ProgramsStartAsWrittenAndAreTracedInUpperCase) {
     state.DocumentPath = u"C:\\show\\s.kvs";
     Play(u"Shell=\"c:\\prog\\a.exe //x\"\r\nShell=\"\"\r\nShell=c:\\b.exe\r\nShell \"b\r\n");
     ASSERT_EQ(fake.system.started.size(), 1u);
-    EXPECT_EQ(fake.system.started[0].first, u"C:\\PROG\\A.EXE //X");
+    EXPECT_EQ(fake.system.started[0].first, u"c:\\prog\\a.exe //x");
+    const auto told = fake.trace.Of("shell");
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0].String("command"), u"C:\\PROG\\A.EXE //X");
     EXPECT_EQ(fake.system.started[0].second, u"C:\\show\\s.kvs");
     EXPECT_EQ(Now(), 0);
 }

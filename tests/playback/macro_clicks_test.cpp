@@ -97,6 +97,25 @@ TEST_F(MacroClicks, AnObjectStartsItsProgramForTheDocument) {
     EXPECT_EQ(show.system.started[0].first, u"C:\\t.Exe");
     EXPECT_EQ(show.system.started[0].second, u"C:\\show\\a.kvs");
     EXPECT_EQ(show.state.SlideIndex, 2);
+    const auto told = show.trace.Of("shell");
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0].String("command"), u"C:\\t.Exe");
+}
+
+TEST_F(MacroClicks, AProgramThatIsNotBesideTheSlideIsLookedForByItsName) {
+    show.state.SlideList.Set(show.state.SlideIndex, u"C:\\pic\\a.png");
+    show.state.CutoutAction[1] = u"C:\\pic\\gone.exe";
+    show.state.CutoutAction[2] = u"C:\\pic\\there.exe";
+    show.state.CutoutAction[3] = u"C:\\else\\gone.exe";
+    show.files.Put(u"C:\\pic\\there.exe", "x");
+    for (const int object : {1, 2, 3}) {
+        show.screen.Picture1(object).Click();
+    }
+    ASSERT_EQ(show.system.started.size(), 3u);
+    EXPECT_EQ(show.system.started[0].first, u"gone.exe");
+    EXPECT_EQ(show.system.started[1].first, u"C:\\pic\\there.exe");
+    EXPECT_EQ(show.system.started[2].first, u"C:\\else\\gone.exe");
+    EXPECT_EQ(show.trace.Of("shell")[0].String("command"), u"C:\\pic\\gone.exe");
 }
 
 TEST_F(MacroClicks, AnObjectPlaysItsVideoBesideTheShow) {

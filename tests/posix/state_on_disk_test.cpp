@@ -135,6 +135,38 @@ TEST(StateOnDisk, AMissingFolderIsSilentAtTheStartAndToldAtTheEnd) {
     EXPECT_EQ(program.around.dialogs.messages[0].text, u"フォルダが見つかりません。");
 }
 
+TEST(StateOnDisk, AFolderOrGarbageInAFilesPlaceIsSetAside) {
+    const TemporaryFolder folder;
+    folder.Put("autstart.dat/inside", "mine");
+    folder.Put("UAUTST.DAT", "garbage\n");
+    DiskProgram program(folder.Path(), u"/a.png", 1);
+    document::ReadLinkStateFile(program.app);
+    document::ReadStateFile(program.app);
+    EXPECT_TRUE(program.around.dialogs.messages.empty());
+    document::WriteLinkStateFile(program.app);
+    EXPECT_TRUE(document::WriteStateFile(program.app));
+    EXPECT_EQ(program.around.dialogs.messages.size(), 2u);
+    EXPECT_EQ(folder.Count(), 4u);
+    EXPECT_EQ(folder.Content("autstart.dat.kept-2026-01-01/inside"), "mine");
+    EXPECT_EQ(folder.Content("UAUTST.DAT.kept-2026-01-01"), "garbage\n");
+    EXPECT_TRUE(folder.Content("autstart.dat").starts_with("V2.1a3567893sp6\r\n"));
+}
+
+TEST(RenameAside, NeverReplacesAnything) {
+    const TemporaryFolder folder;
+    for (const char* content : {"1", "2", "3"}) {
+        folder.Put("a", content);
+        std::string kept;
+        EXPECT_EQ(posix_adapter::RenameAside(folder.Path("a"), ".kept", kept), 0);
+        EXPECT_EQ(folder.Content(kept.substr(folder.Path().size() + 1)), content);
+    }
+    EXPECT_EQ(folder.Content("a.kept"), "1");
+    EXPECT_EQ(folder.Content("a.kept-2"), "2");
+    EXPECT_EQ(folder.Content("a.kept-3"), "3");
+    std::string kept;
+    EXPECT_EQ(posix_adapter::RenameAside(folder.Path("a"), ".kept", kept), ENOENT);
+}
+
 TEST(StateOnDisk, OtherSpellingsOfTheNamesAreTheSameFiles) {
     const TemporaryFolder folder;
     folder.Put("Uautst.dat", "KVSV3\r\n 1 \r\n 0 \r\n 0 \r\n\r\n 1 \r\nb.kvs\r\n");

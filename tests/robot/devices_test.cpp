@@ -186,14 +186,18 @@ TEST(WindowTracer, KnowsTheModalWindowOnTop) {
     EXPECT_FALSE(windows.form24.Modal());
 }
 
-TEST(TracedSystem, TellsProgramsAndStartsThemWhereItMay) {
+TEST(TracedSystem, TellsTextsAndStartsWhereItMay) {
     for (const bool starts : {false, true}) {
         fakes::FakePlatform around;
         TracedSystem system(around.system, around.trace, starts);
         EXPECT_TRUE(system.Shell(u"a.exe b", u"C:\\x.kvs"));
+        EXPECT_TRUE(around.trace.Of("shell").empty()) << "what starts it tells";
+        EXPECT_TRUE(system.OpenText(u"/a.txt"));
         const auto told = around.trace.Of("shell");
         ASSERT_EQ(told.size(), 1u);
-        EXPECT_EQ(told[0].String("command"), u"a.exe b");
+        EXPECT_EQ(told[0].String("command"), u"NOTEPAD.EXE /a.txt");
+        system.ForgetShow();
+        EXPECT_EQ(around.system.forgotten, 1);
         EXPECT_EQ(around.system.started.size(), starts ? 1u : 0u);
         EXPECT_EQ(system.AppFolder(), around.system.appFolder);
     }

@@ -25,6 +25,8 @@ public:
     /// Not empty: every write fails with these words.
     Text writeError;
     bool writeFailsWhileOpening = false;
+    /// Not empty: nothing can be set aside, with these words.
+    Text setAsideError;
     /// Every write and read that was asked for, in order.
     std::vector<Text> written, read;
 
@@ -80,6 +82,21 @@ public:
             return false;
         }
         Put(path, content);
+        return true;
+    }
+    bool SetAside(TextView path, TextView mark, Text& name, platform::FileError& error) override {
+        if (!Get(path) || !setAsideError.empty()) {
+            error.message = Get(path) ? setAsideError : u"ファイルが見つかりません。";
+            return false;
+        }
+        Text kept = Text(path) + Text(mark);
+        for (int number = 2; Get(kept); ++number) {
+            kept = Text(path) + Text(mark) + u"-" + text::FromUtf8(std::to_string(number));
+        }
+        Put(kept, Get(path)->content);
+        Remove(path);
+        unreadable_.erase(Key(path));
+        name = text::BareName(kept);
         return true;
     }
     int Readable(TextView path) override {

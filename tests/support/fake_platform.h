@@ -317,6 +317,12 @@ public:
         started.emplace_back(commandLine, document);
         return true;
     }
+    std::vector<Text> found;  // command lines that name a program
+    bool FindsProgram(TextView commandLine, TextView) override {
+        return std::find(found.begin(), found.end(), commandLine) != found.end();
+    }
+    int forgotten = 0;  // shows that were over
+    void ForgetShow() override { ++forgotten; }
     bool opens = true;         // what OpenText answers
     std::vector<Text> opened;  // every text it was given
     bool OpenText(TextView path) override {

@@ -149,6 +149,18 @@ bool PosixFiles::Write(TextView path, std::string_view content, platform::FileEr
     return failure == 0;
 }
 
+bool PosixFiles::SetAside(TextView path, TextView mark, Text& name, platform::FileError& error) {
+    const std::optional<std::string> found = Find(path);
+    std::string kept;
+    const int failure = found ? RenameAside(*found, text::ToUtf8(mark), kept) : ENOENT;
+    if (failure != 0) {
+        error.message = ErrorText(failure);
+        return false;
+    }
+    name = text::BareName(text::FromUtf8(kept));
+    return true;
+}
+
 int PosixFiles::Readable(TextView path) {
     constexpr size_t kProbe = 45;
     struct stat status {};

@@ -24,6 +24,7 @@ public:
     bool Read(TextView path, std::string& content, platform::FileError& error,
               size_t limit) override;
     bool Write(TextView path, std::string_view content, platform::FileError& error) override;
+    bool SetAside(TextView path, TextView mark, Text& name, platform::FileError& error) override;
     int Readable(TextView path) override;
     std::optional<platform::DateTime> LastWrite(TextView path) override;
 
@@ -38,5 +39,9 @@ Descriptor OpenPlainFile(const std::string& nativePath);
 /// Replaces the file behind `nativePath` (links followed) by `content`, whole or not at all; keeps
 /// mode and owner of an existing file. 0, or the errno value of what failed.
 int ReplaceFile(const std::string& nativePath, std::string_view content);
+
+/// Renames a file or folder (a link itself) to `nativePath + mark`, or with "-2", "-3"… behind it
+/// where that name is taken; nothing is replaced. The new path goes to `kept`. 0, or errno.
+int RenameAside(const std::string& nativePath, const std::string& mark, std::string& kept);
 
 }  // namespace posix_adapter

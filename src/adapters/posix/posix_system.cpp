@@ -11,10 +11,11 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <set>
 #include <utility>
 
-#include "adapters/posix/posix_files.h"
+#include "text/paths.h"
 
 namespace posix_adapter {
 
@@ -46,13 +47,14 @@ std::string WithSlash(const fs::path& folder) {
     return path.ends_with('/') ? path : path + "/";
 }
 
-std::set<std::string> ReadGiven(const fs::path& list) {
-    std::set<std::string> given;
+/// False for a list that is there and cannot be read.
+bool ReadGiven(const fs::path& list, std::set<std::string>& given) {
+    std::error_code error;
     std::ifstream lines(list);
     for (std::string line; std::getline(lines, line);) {
         given.insert(line);
     }
-    return given;
+    return lines.eof() || !fs::exists(list, error);
 }
 
 /// Copies by way of a temporary name, so that no half file stays. False where the disk refuses.
@@ -69,7 +71,10 @@ bool CopyShipped(const fs::path& from, const fs::path& to) {
 }
 
 void GiveShippedFiles(const fs::path& assets, const fs::path& folder) {
-    std::set<std::string> given = ReadGiven(folder / kGivenList);
+    std::set<std::string> given;
+    if (!ReadGiven(folder / kGivenList, given)) {
+        return;  // what was removed on purpose would come back
+    }
     const size_t before = given.size();
     std::error_code error;
     fs::recursive_directory_iterator entry(assets, error);
@@ -168,21 +173,30 @@ bool PosixSystem::PreviousInstance() {
 
 bool PosixSystem::Shell(TextView commandLine, TextView document) {
     AppFolder();
-    if (!permission_.Allows(commandLine, document, ask)) {
+    const auto tell = [&](const char* what) {
+        std::cerr << "parapico: " << text::ToUtf8(commandLine) << ": " << what << "\n";
         return false;
-    }
-    const auto found = [this](const std::string& name) -> std::optional<std::string> {
-        return files_ ? files_->Find(text::FromUtf8(name)) : std::nullopt;
     };
-    const std::string whole = text::ToUtf8(commandLine);
-    const auto program = found(whole);
-    std::vector<std::string> words =
-        program ? std::vector<std::string>{*program} : SplitCommandLine(whole);
-    if (words.empty()) {
-        return false;
+    const auto program = FindProgram(files_, commandLine, text::FolderPart(document));
+    if (!program) {
+        return tell("no such program");
     }
-    words.front() = found(words.front()).value_or(words.front());
-    return StartProgram(words);
+    switch (permission_.Allows(*program, document, ask)) {
+        case platform::ProgramAnswer::Yes:
+            return StartProgram(*program) || tell("cannot be started");
+        case platform::ProgramAnswer::EndShow:
+            tell("not allowed");
+            if (endShow) {
+                endShow();
+            }
+            return false;
+        default:
+            return tell("not allowed");
+    }
+}
+
+bool PosixSystem::FindsProgram(TextView commandLine, TextView document) {
+    return FindProgram(files_, commandLine, text::FolderPart(document)).has_value();
 }
 
 }  // namespace posix_adapter

@@ -6,9 +6,8 @@
 #include <string>
 
 #include "adapters/posix/descriptor.h"
+#include "adapters/posix/posix_files.h"
 #include "adapters/posix/program_start.h"
-#include "platform/files.h"
-#include "platform/program_answer.h"
 #include "platform/system.h"
 
 namespace posix_adapter {
@@ -35,9 +34,11 @@ public:
 
     /// Asks as the permission of program_start.h says; without `ask` nothing is started.
     bool Shell(TextView commandLine, TextView document) override;
-    std::function<platform::ProgramAnswer(TextView commandLine)> ask;
-    /// Where programs are found that are given with a drive letter; it outlives the system.
-    void FindWith(platform::Files& files) { files_ = &files; }
+    bool FindsProgram(TextView commandLine, TextView document) override;
+    void ForgetShow() override { permission_.ForgetShow(); }
+    ProgramPermission::Ask ask;
+    /// What ends the show when the person says so.
+    std::function<void()> endShow;
     /// False while there is no opener.
     bool OpenText(TextView path) override { return textOpener && textOpener(path); }
 
@@ -50,7 +51,7 @@ private:
     bool prepared_ = false;
     std::optional<bool> previousInstance_;
     Descriptor lock_;
-    platform::Files* files_ = nullptr;
+    PosixFiles files_{programFolder_};
     ProgramPermission permission_{programFolder_};
 };
 

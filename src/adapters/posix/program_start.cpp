@@ -2,13 +2,15 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <fstream>
+#include <sstream>
+#include <vector>
 
 #include "adapters/posix/descriptor.h"
 #include "adapters/posix/posix_files.h"
@@ -19,29 +21,6 @@ namespace posix_adapter {
 namespace {
 
 constexpr const char* kAlwaysAllowed = "programs.conf";
-
-bool CanRun(const std::string& path) {
-    return access(path.c_str(), X_OK) == 0;
-}
-
-/// Empty when there is no such program.
-std::string InSearchPath(const std::string& name) {
-    if (name.find('/') != std::string::npos) {
-        return name;
-    }
-    const char* value = std::getenv("PATH");
-    const std::string folders = value != nullptr ? value : "/usr/local/bin:/usr/bin:/bin";
-    for (size_t at = 0; at <= folders.size();) {
-        const size_t end = std::min(folders.find(':', at), folders.size());
-        const std::string path = folders.substr(at, end - at) + "/" + name;
-        // An empty entry would mean the current folder: nobody's choice here.
-        if (end > at && CanRun(path)) {
-            return path;
-        }
-        at = end + 1;
-    }
-    return {};
-}
 
 /// In the second child: only calls that are safe after a fork of a program with threads.
 [[noreturn]] void BecomeProgram(const char* path, char* const* arguments, int report) {
@@ -58,55 +37,46 @@ std::string InSearchPath(const std::string& name) {
     _exit(127);
 }
 
-std::string KeyOf(TextView commandLine, TextView document) {
-    return text::ToUtf8(document) + '\t' + text::ToUtf8(commandLine);
+/// Of one document, one program and its arguments, which hold no quotes.
+std::string LineOf(const FoundProgram& program, TextView document) {
+    std::string line = text::ToUtf8(document) + '\t' + program.path + '\t';
+    for (const std::string& argument : program.arguments) {
+        line += '"' + argument + '"';
+    }
+    return line;
+}
+
+platform::ProgramQuestion QuestionOf(const FoundProgram& program) {
+    platform::ProgramQuestion question;
+    question.program = text::FromUtf8(program.path);
+    for (const std::string& argument : program.arguments) {
+        question.arguments.push_back(text::FromUtf8(argument));
+    }
+    return question;
 }
 
 }  // namespace
 
-std::vector<std::string> SplitCommandLine(const std::string& commandLine) {
-    std::vector<std::string> words;
-    bool inWord = false;
-    bool quoted = false;
-    for (const char c : commandLine) {
-        if (c == ' ' && !quoted) {
-            inWord = false;
-            continue;
-        }
-        if (!inWord) {
-            words.emplace_back();
-            inWord = true;
-        }
-        if (c == '"') {
-            quoted = !quoted;
-        } else {
-            words.back() += c;
-        }
-    }
-    return words;
-}
-
-bool StartProgram(const std::vector<std::string>& words) {
-    const std::string path = words.empty() ? std::string() : InSearchPath(words.front());
+bool StartProgram(const FoundProgram& program) {
     int ends[2];
-    if (path.empty() || pipe2(ends, O_CLOEXEC) != 0) {
+    if (pipe2(ends, O_CLOEXEC) != 0) {
         return false;
     }
     const Descriptor reading(ends[0]);
     Descriptor writing(ends[1]);
-    std::vector<char*> arguments;
-    for (const std::string& word : words) {
-        arguments.push_back(const_cast<char*>(word.c_str()));
+    std::vector<char*> arguments{const_cast<char*>(program.path.c_str())};
+    for (const std::string& argument : program.arguments) {
+        arguments.push_back(const_cast<char*>(argument.c_str()));
     }
     arguments.push_back(nullptr);
     // A grandchild belongs to nobody here, so that no zombie stays.
     const pid_t child = fork();
     if (child == 0) {
         setsid();
-        if (const pid_t program = fork(); program != 0) {
-            _exit(program > 0 ? 0 : 1);
+        if (const pid_t second = fork(); second != 0) {
+            _exit(second > 0 ? 0 : 1);
         }
-        BecomeProgram(path.c_str(), arguments.data(), writing.Get());
+        BecomeProgram(program.path.c_str(), arguments.data(), writing.Get());
     }
     writing.Close();
     int status = 1;
@@ -124,41 +94,78 @@ bool StartProgram(const std::vector<std::string>& words) {
     return got == 0;
 }
 
-bool ProgramPermission::Allows(TextView commandLine, TextView document,
-                               const std::function<platform::ProgramAnswer(TextView)>& ask) {
+platform::ProgramAnswer ProgramPermission::Allows(const FoundProgram& program, TextView document,
+                                                  const Ask& ask) {
+    using platform::ProgramAnswer;
+    constexpr int kMostQuestions = 3;  // in a row, before there are ways out
     const std::string rule = UserSetting(folder_, "programs");
-    if (rule == "allow" || rule == "deny") {
-        return rule == "allow";
+    const std::string line = LineOf(program, document);
+    if (rule == "allow" || allowedForShow_.contains(line) ||
+        (rule != "deny" && AlwaysAllowed(line))) {
+        return ProgramAnswer::Yes;
     }
-    const std::string key = KeyOf(commandLine, document);
+    if (rule == "deny" || noMore_ || !ask) {
+        return ProgramAnswer::No;
+    }
+    platform::ProgramQuestion question = QuestionOf(program);
+    question.manyAsked = questions_ >= kMostQuestions;
+    ++questions_;
+    const ProgramAnswer answer = ask(question);
+    switch (answer) {
+        case ProgramAnswer::No:
+        case ProgramAnswer::Yes:
+            return answer;
+        case ProgramAnswer::Always:
+            if (!document.empty()) {
+                Remember(line);
+            }
+            [[fallthrough]];
+        case ProgramAnswer::ForShow:
+            allowedForShow_.insert(line);
+            questions_ = 0;
+            return ProgramAnswer::Yes;
+        case ProgramAnswer::NoMore:
+            noMore_ = true;
+            return ProgramAnswer::No;
+        case ProgramAnswer::EndShow:
+            noMore_ = true;  // until it is over
+            return answer;
+    }
+    return ProgramAnswer::No;
+}
+
+void ProgramPermission::ForgetShow() {
+    allowedForShow_.clear();
+    questions_ = 0;
+    noMore_ = false;
+}
+
+bool ProgramPermission::AlwaysAllowed(const std::string& line) const {
     std::ifstream allowed(folder_ + kAlwaysAllowed);
-    for (std::string line; std::getline(allowed, line);) {
-        if (line == key) {
+    for (std::string known; std::getline(allowed, known);) {
+        if (known == line) {
             return true;
         }
     }
-    if (const auto known = answered_.find(key); known != answered_.end()) {
-        return known->second;
-    }
-    if (!ask) {
-        return false;
-    }
-    const platform::ProgramAnswer answer = ask(commandLine);
-    if (answer == platform::ProgramAnswer::Always && !document.empty()) {
-        Remember(key);
-    }
-    return answered_[key] = answer != platform::ProgramAnswer::No;
+    return false;
 }
 
 void ProgramPermission::Remember(const std::string& line) {
     // Names with these would allow something else, too.
-    if (line.find('\n') != std::string::npos || std::count(line.begin(), line.end(), '\t') != 1) {
+    if (line.find('\n') != std::string::npos || std::count(line.begin(), line.end(), '\t') != 2) {
         return;
     }
-    std::ifstream before(folder_ + kAlwaysAllowed, std::ios::binary);
-    std::string content{std::istreambuf_iterator<char>(before), std::istreambuf_iterator<char>()};
+    const std::string file = folder_ + kAlwaysAllowed;
+    std::ifstream before(file, std::ios::binary);
+    std::ostringstream read;
+    read << before.rdbuf();
+    std::string content = read.str();
+    struct stat status {};
+    if (stat(file.c_str(), &status) == 0 && content.size() != static_cast<size_t>(status.st_size)) {
+        return;  // what is there and cannot be read is not replaced
+    }
     content += (content.empty() || content.ends_with('\n') ? "" : "\n") + line + "\n";
-    ReplaceFile(folder_ + kAlwaysAllowed, content);
+    ReplaceFile(file, content);
 }
 
 }  // namespace posix_adapter

@@ -2,41 +2,44 @@
 #pragma once
 
 #include <functional>
-#include <map>
+#include <set>
 #include <string>
 #include <utility>
-#include <vector>
 
+#include "adapters/posix/program_find.h"
 #include "platform/program_answer.h"
-#include "text/text.h"
 
 namespace posix_adapter {
 
-/// Words parted by blanks; double quotes hold blanks together and fall away.
-std::vector<std::string> SplitCommandLine(const std::string& commandLine);
+/// Starts the program detached from this process: no shell, no terminal, nothing to wait for. False
+/// when it cannot be run.
+bool StartProgram(const FoundProgram& program);
 
-/// Starts the program words[0] (looked for in $PATH when it holds no '/') with the others as its
-/// arguments, detached from this process: no shell, no terminal, nothing to wait for. False when
-/// it cannot be run.
-bool StartProgram(const std::vector<std::string>& words);
-
-/// Whether a document may run a command line, by the setting "programs" of settings.conf: "allow",
-/// "deny", or (the default) "ask", which asks once a run. What was always allowed stands in
-/// programs.conf of the program folder.
+/// Whether a document may run a program with its arguments, by the setting "programs" of
+/// settings.conf: "allow", "deny", or (the default) "ask", which asks each time. What was always
+/// allowed stands in programs.conf of the program folder.
 class ProgramPermission {
 public:
+    using Ask = std::function<platform::ProgramAnswer(const platform::ProgramQuestion&)>;
+
     /// The folder ends in '/'.
     explicit ProgramPermission(std::string programFolder) : folder_(std::move(programFolder)) {}
 
-    /// Without `ask` the answer is no.
-    bool Allows(TextView commandLine, TextView document,
-                const std::function<platform::ProgramAnswer(TextView)>& ask);
+    /// No is the answer without `ask`, and where it was said for the rest of the show. EndShow when
+    /// the person wants that now.
+    platform::ProgramAnswer Allows(const FoundProgram& program, TextView document, const Ask& ask);
+
+    /// What was said for a show ends with it.
+    void ForgetShow();
 
 private:
+    bool AlwaysAllowed(const std::string& line) const;
     void Remember(const std::string& line);
 
     std::string folder_;
-    std::map<std::string, bool> answered_;
+    std::set<std::string> allowedForShow_;
+    int questions_ = 0;  // in this show, in a row: none of them allowed the rest
+    bool noMore_ = false;
 };
 
 }  // namespace posix_adapter

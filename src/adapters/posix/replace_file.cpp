@@ -117,7 +117,45 @@ int FillAndRename(Descriptor file, const std::string& temporary, const std::stri
     return error;
 }
 
+/// The new name itself reaches the disk with its folder; where that cannot be asked for, the
+/// content is safe all the same.
+void FlushFolder(const std::string& folder) {
+    const Descriptor handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (handle.Valid()) {
+        fsync(handle.Get());
+    }
+}
+
+/// 0, or errno; EEXIST where `to` is taken.
+int RenameToFreeName(const std::string& from, const std::string& to) {
+    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
+        return 0;
+    }
+    if (errno != EINVAL && errno != ENOSYS) {
+        return errno;
+    }
+    // A disk that knows no such renaming: what takes the name in this moment would be lost.
+    struct stat taken {};
+    if (lstat(to.c_str(), &taken) == 0) {
+        return EEXIST;
+    }
+    return std::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
 }  // namespace
+
+int RenameAside(const std::string& nativePath, const std::string& mark, std::string& kept) {
+    constexpr int kMostTries = 1000;
+    int error = EEXIST;
+    for (int number = 1; error == EEXIST && number <= kMostTries; ++number) {
+        kept = nativePath + mark + (number > 1 ? "-" + std::to_string(number) : "");
+        error = RenameToFreeName(nativePath, kept);
+    }
+    if (error == 0) {
+        FlushFolder(FolderOf(nativePath));
+    }
+    return error;
+}
 
 int ReplaceFile(const std::string& nativePath, std::string_view content) {
     std::string target = nativePath;
@@ -147,12 +185,7 @@ int ReplaceFile(const std::string& nativePath, std::string_view content) {
         unlink(temporary.c_str());
         return error;
     }
-    // The new name itself reaches the disk with its folder; where that cannot be asked for, the
-    // content is safe all the same.
-    const Descriptor handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (handle.Valid()) {
-        fsync(handle.Get());
-    }
+    FlushFolder(folder);
     return 0;
 }
 

@@ -13,6 +13,7 @@
 
 #include "adapters/qt/color_scheme.h"
 #include "adapters/qt/convert.h"
+#include "adapters/qt/end_watch.h"
 #include "adapters/qt/form_loader.h"
 #include "adapters/qt/gate.h"
 #include "adapters/qt/media_player.h"
@@ -34,11 +35,20 @@ constexpr int kNoDisplay = 1;
 /// The toolkit ends a program that finds no display by a crash, with advice to reinstall it.
 bool starting = false;
 
+/// The toolkit ends the process behind these words.
+bool TellsOfLostDisplay(const QString& message) {
+    return message.startsWith("The X11 connection broke") ||
+           message.startsWith("The Wayland connection");
+}
+
 void Tell(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type == QtFatalMsg && starting) {
         std::fputs("parapico: no display was found; parapico --help lists what works without\n",
                    stderr);
         std::_Exit(kNoDisplay);
+    }
+    if (type == QtFatalMsg || TellsOfLostDisplay(message)) {
+        SaveAtLast();
     }
     // Of every window, the platform without a display tells what it cannot do with it.
     if (!message.startsWith("This plugin does not support") &&
@@ -144,6 +154,7 @@ struct Desktop::Parts {
     std::unique_ptr<SessionBus> bus;
     std::unique_ptr<ColorScheme> colors;
     std::unique_ptr<MediaPlayer> player;
+    std::unique_ptr<EndWatch> end;
     QObject watcher;  // goes first: its connections end with it
 };
 
@@ -185,8 +196,8 @@ platform::Dialogs& Desktop::Dialogs() {
 platform::Monitors& Desktop::Monitors() {
     return parts_->monitors;
 }
-platform::ProgramAnswer Desktop::AskProgram(TextView commandLine) {
-    return parts_->dialogs.AskProgram(commandLine);
+platform::ProgramAnswer Desktop::AskProgram(const platform::ProgramQuestion& question) {
+    return parts_->dialogs.AskProgram(question);
 }
 platform::TextRenderer& Desktop::TextRenderer() {
     return parts_->textRenderer;
@@ -194,6 +205,14 @@ platform::TextRenderer& Desktop::TextRenderer() {
 
 void Desktop::Post(std::function<void()> call) {
     QMetaObject::invokeMethod(&parts_->watcher, std::move(call), Qt::QueuedConnection);
+}
+
+void Desktop::WatchEnd(Ending ending) {
+    parts_->end = std::make_unique<EndWatch>(parts_->gate, std::move(ending));
+}
+
+void Desktop::UnwatchEnd() {
+    parts_->end.reset();
 }
 
 void Desktop::MakeViews(model::Windows& windows, platform::Video* video) {

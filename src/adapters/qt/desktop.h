@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "adapters/qt/end_watch.h"
 #include "model/windows.h"
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
@@ -41,9 +42,14 @@ public:
     platform::Dialogs& Dialogs();
     platform::Monitors& Monitors();
     /// Asks whether the show may start a program.
-    platform::ProgramAnswer AskProgram(TextView commandLine);
+    platform::ProgramAnswer AskProgram(const platform::ProgramQuestion& question);
     /// Works without any window.
     platform::TextRenderer& TextRenderer();
+
+    /// From now on the program is left or saved when its end comes from outside; see end_watch.h.
+    void WatchEnd(Ending ending);
+    /// Signals end the process again. Call it before what the ending uses goes.
+    void UnwatchEnd();
 
     /// From now on every window that has a form is shown as its model says, and what a person does
     /// with it reaches the model. `windows` must outlive the views. Windows without a form are

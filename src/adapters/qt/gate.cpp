@@ -1,22 +1,41 @@
 #include "adapters/qt/gate.h"
 
+#include <QApplication>
 #include <QDialog>
 
 namespace qt_adapter {
 
-void Gate::Guarded(const std::function<void()>& call) {
+bool Gate::Guarded(const std::function<void()>& call) {
     if (Leaving() || muted_ > 0) {
-        return;
+        return false;
     }
     try {
         call();
     } catch (...) {
         pending_ = std::current_exception();
-        // Innermost first; each ends its own loop once control is back in it.
-        const std::vector<QDialog*> open = boxes_;
-        for (auto box = open.rbegin(); box != open.rend(); ++box) {
-            (*box)->reject();
+        CloseBoxes();
+    }
+    return true;
+}
+
+void Gate::CloseBoxes() {
+    // Menus that a box opened, and boxes that its own parts did, have loops of their own.
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close()) {
+            break;
         }
+    }
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        auto* box = qobject_cast<QDialog*>(window);
+        if (box && box->isVisible() && box->isModal()) {
+            box->reject();
+        }
+    }
+    // Those of the desktop are no widgets. Innermost first; each ends its own loop once control is
+    // back in it.
+    const std::vector<QDialog*> open = boxes_;
+    for (auto box = open.rbegin(); box != open.rend(); ++box) {
+        (*box)->reject();
     }
 }
 
@@ -30,6 +49,9 @@ void Gate::Wait(const std::function<void()>& wait) {
 
 int Gate::Exec(QDialog& dialog) {
     Check();
+    if (NobodyThere()) {
+        return QDialog::Rejected;
+    }
     boxes_.push_back(&dialog);
     ++waits_;
     const int result = dialog.exec();

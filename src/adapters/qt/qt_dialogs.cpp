@@ -7,8 +7,10 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <cstdio>
 
 #include "adapters/qt/convert.h"
+#include "adapters/qt/program_box.h"
 
 namespace qt_adapter {
 
@@ -58,19 +60,6 @@ QString Lines(TextView text) {
     return list.join('\n');
 }
 
-/// Line ends and marks of direction can make a command look like another one.
-QString Plain(TextView command) {
-    QString plain = ToQt(command);
-    for (QChar& letter : plain) {
-        const QChar::Category category = letter.category();
-        if (category == QChar::Other_Control || category == QChar::Other_Format ||
-            category == QChar::Separator_Line || category == QChar::Separator_Paragraph) {
-            letter = QChar::ReplacementCharacter;
-        }
-    }
-    return plain;
-}
-
 QMessageBox::Icon IconOf(int flags) {
     switch (flags & kIconMask) {
         case platform::kStop:
@@ -118,10 +107,14 @@ QString DefaultSuffix(TextView filter) {
 }
 
 platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
+    const bool asks = (flags & kButtonMask) == platform::kYesNo;
+    if (gate_.NobodyThere()) {
+        std::fprintf(stderr, "parapico: %s\n", qUtf8Printable(Lines(text)));
+        return asks ? platform::Answer::No : platform::Answer::Ok;
+    }
     QMessageBox box(IconOf(flags), TitleOr(title), Lines(text), QMessageBox::NoButton, BoxParent());
     box.setTextFormat(Qt::PlainText);
     box.setCursor(Qt::ArrowCursor);
-    const bool asks = (flags & kButtonMask) == platform::kYesNo;
     if (!asks) {
         box.addButton(QMessageBox::Ok);
         gate_.Exec(box);
@@ -136,28 +129,10 @@ platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
     return gate_.Exec(box) == QMessageBox::Yes ? platform::Answer::Yes : platform::Answer::No;
 }
 
-platform::ProgramAnswer QtDialogs::AskProgram(TextView commandLine) {
-    const QString whole = Plain(commandLine);
-    const QString shown = Lines(FromQt(whole));
-    QMessageBox box(
-        QMessageBox::Warning, QStringLiteral("パラピコ"),
-        QStringLiteral("このスライドショーはプログラムを起動しようとしています。\n\n") + shown,
-        QMessageBox::NoButton, BoxParent());
-    if (shown != whole) {
-        box.setDetailedText(whole);  // nobody agrees to what cannot be seen
-    }
-    box.setTextFormat(Qt::PlainText);
-    box.setCursor(Qt::ArrowCursor);
-    QPushButton* yes = box.addButton(QStringLiteral("はい(&Y)"), QMessageBox::AcceptRole);
-    QPushButton* no = box.addButton(QStringLiteral("いいえ(&N)"), QMessageBox::RejectRole);
-    QPushButton* always =
-        box.addButton(QStringLiteral("この文書では常に許可(&A)"), QMessageBox::AcceptRole);
-    box.setDefaultButton(no);
-    box.setEscapeButton(no);
+platform::ProgramAnswer QtDialogs::AskProgram(const platform::ProgramQuestion& question) {
+    ProgramBox box(question, BoxParent());
     gate_.Exec(box);
-    return box.clickedButton() == always ? platform::ProgramAnswer::Always
-           : box.clickedButton() == yes  ? platform::ProgramAnswer::Yes
-                                         : platform::ProgramAnswer::No;
+    return box.Answer();
 }
 
 std::optional<Text> QtDialogs::Input(TextView prompt, TextView title, TextView initial) {

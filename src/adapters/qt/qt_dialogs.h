@@ -23,8 +23,8 @@ public:
     platform::Answer Message(TextView text, int flags, TextView title) override;
     std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override;
     std::optional<Text> ChooseFile(const FileRequest& request) override;
-    /// Whether the show may start a program; closing the box by its frame means no.
-    platform::ProgramAnswer AskProgram(TextView commandLine);
+    /// Whether the show may start a program, as program_box.h says.
+    platform::ProgramAnswer AskProgram(const platform::ProgramQuestion& question);
 
 private:
     Gate& gate_;

@@ -83,8 +83,10 @@ void CheckMacroFile(Report& report, const Text& path) {
         report.unreadable.push_back(text::ToUtf8(path));
         return;
     }
-    report.Take(path, macro::CheckMacro(program.app.platform.files,
-                                        {text::FolderPart(path), 0, 0, report.screen}, source));
+    // Alone it belongs to no document: the one that will show it mostly lies beside it.
+    const macro::CheckedSlide slide{text::FolderPart(path), 0,    0,
+                                    report.screen,          path, &program.app.platform.system};
+    report.Take(path, macro::CheckMacro(program.app.platform.files, slide, source));
 }
 
 void CheckShow(Report& report, const Text& path) {
@@ -118,9 +120,9 @@ void CheckShow(Report& report, const Text& path) {
         const Text macroFile = macro::MacroFile(app);
         Text source;
         if (!macroFile.empty() && ReadText(app, macroFile, source, true)) {
-            report.Take(macroFile, macro::CheckMacro(
-                                       app.platform.files,
-                                       {text::FolderPart(slide), i, count, report.screen}, source));
+            const macro::CheckedSlide checked{text::FolderPart(slide), i,    count,
+                                              report.screen,           path, &app.platform.system};
+            report.Take(macroFile, macro::CheckMacro(app.platform.files, checked, source));
         }
     }
 }

@@ -51,18 +51,19 @@ model::ShowState& InProgramFolder(Inspected& program) {
 
 bool ReadSounds(Inspected& program, const Text& path) {
     InProgramFolder(program);
-    return document::ReadSoundListFile(program.app, path);
+    return document::ReadSoundListFile(program.app, path) != document::Taken::Nothing;
 }
 
 bool ReadLastState(Inspected& program, const Text& path) {
     InProgramFolder(program);
-    return document::ReadStateFile(program.app, path);
+    return document::ReadStateFile(program.app, path) != document::Taken::Nothing;
 }
 
 /// The links stand in the window; shown are those that a start would take over from there.
 bool ReadLinkState(Inspected& program, const Text& path) {
     model::ShowState& state = InProgramFolder(program);
-    const bool accepted = document::ReadLinkStateFile(program.app, path);
+    const bool accepted =
+        document::ReadLinkStateFile(program.app, path) != document::Taken::Nothing;
     int index = 0;
     for (const Text& link : program.app.windows.form9.List1.Rows()) {
         state.LinkList.Set(++index, link);

@@ -1,6 +1,8 @@
 #include "adapters/robot/silent_platform.h"
 
+#include "adapters/posix/program_find.h"
 #include "adapters/robot/no_video.h"
+#include "text/paths.h"
 
 namespace robot {
 
@@ -80,14 +82,21 @@ public:
 
 class NoSystem : public platform::System {
 public:
-    explicit NoSystem(std::string folder) : folder_(std::move(folder)) {}
+    NoSystem(std::string folder, platform::Files& files)
+        : folder_(std::move(folder)), files_(files) {}
     Text AppFolder() override { return text::FromUtf8(folder_); }
     bool PreviousInstance() override { return false; }
     bool Shell(TextView, TextView) override { return false; }
+    bool FindsProgram(TextView commandLine, TextView document) override {
+        return posix_adapter::FindProgram(files_, commandLine, text::FolderPart(document))
+            .has_value();
+    }
+    void ForgetShow() override {}
     bool OpenText(TextView) override { return false; }
 
 private:
     std::string folder_;
+    platform::Files& files_;
 };
 
 class NoTrace : public platform::Trace {
@@ -111,7 +120,8 @@ std::optional<Text> RecordingDialogs::ChooseFile(const FileRequest&) {
 }
 
 struct SilentPlatform::Devices {
-    explicit Devices(std::string programFolder) : system(std::move(programFolder)) {}
+    Devices(std::string programFolder, platform::Files& files)
+        : system(std::move(programFolder), files) {}
     StoppedLoop loop;
     OneMonitor monitors;
     BlindImaging imaging;
@@ -123,7 +133,8 @@ struct SilentPlatform::Devices {
 };
 
 SilentPlatform::SilentPlatform(std::string programFolder)
-    : posixFiles(programFolder), devices_(std::make_unique<Devices>(std::move(programFolder))) {}
+    : posixFiles(programFolder),
+      devices_(std::make_unique<Devices>(std::move(programFolder), files)) {}
 
 SilentPlatform::~SilentPlatform() = default;
 

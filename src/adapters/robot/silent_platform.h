@@ -44,6 +44,7 @@ public:
     bool Write(TextView path, std::string_view content, platform::FileError& error) override {
         return writable.empty() || path != writable || files_.Write(path, content, error);
     }
+    bool SetAside(TextView, TextView, Text&, platform::FileError&) override { return false; }
     int Readable(TextView path) override { return files_.Readable(path); }
     std::optional<platform::DateTime> LastWrite(TextView path) override {
         return files_.LastWrite(path);

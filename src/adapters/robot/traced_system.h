@@ -1,4 +1,4 @@
-// Tells the trace which programs are started.
+// Tells the trace which texts are opened; keeps programs from being started.
 #pragma once
 
 #include "platform/system.h"
@@ -6,8 +6,8 @@
 
 namespace robot {
 
-/// Event "shell" with the command line. Without `starts` no program is ever started, and each
-/// counts as started.
+/// Event "shell" for texts that are opened; shows write theirs themselves. Without `starts` nothing
+/// is ever started, and everything counts as started.
 class TracedSystem : public platform::System {
 public:
     TracedSystem(platform::System& system, platform::Trace& trace, bool starts)
@@ -16,9 +16,12 @@ public:
     Text AppFolder() override { return system_.AppFolder(); }
     bool PreviousInstance() override { return system_.PreviousInstance(); }
     bool Shell(TextView commandLine, TextView document) override {
-        trace_.Event("shell", {{"command", Text(commandLine)}});
         return !starts_ || system_.Shell(commandLine, document);
     }
+    bool FindsProgram(TextView commandLine, TextView document) override {
+        return system_.FindsProgram(commandLine, document);
+    }
+    void ForgetShow() override { system_.ForgetShow(); }
     bool OpenText(TextView path) override {
         trace_.Event("shell", {{"command", u"NOTEPAD.EXE " + Text(path)}});
         return !starts_ || system_.OpenText(path);
