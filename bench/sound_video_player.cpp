@@ -2,6 +2,7 @@
 //   sound_video_player start FILE    milliseconds from the play command to running sound
 //   sound_video_player sound FILE…   plays them together to their end
 //   sound_video_player video FILE    plays it in a window; prints how many pictures were painted
+//   sound_video_player film FILE WIDTH HEIGHT    the same in a window of that size
 #include <QApplication>
 #include <chrono>
 #include <cstdio>
@@ -61,9 +62,10 @@ struct Bench {
         return desktop.Loop().Milliseconds() - start - player.Position() * 1000;
     }
 
-    int PicturesOf(gst_adapter::GstVideo& video, const std::string& file) {
+    int PicturesOf(gst_adapter::GstVideo& video, const std::string& file, QSize size) {
         qt_adapter::VideoWidget screen(&video);
-        screen.resize(1920, 1080);
+        screen.setWindowFlags(Qt::FramelessWindowHint);
+        screen.setGeometry(QRect(QPoint(), size));
         screen.show();
         int painted = 0;
         const auto repaint = video.onFrame;
@@ -96,11 +98,13 @@ int main(int argc, char** argv) {
     }
     Bench bench(argc, argv);
     const std::string what = argv[1];
-    if (what == "video") {
+    if (what == "video" || (what == "film" && argc == 5)) {
+        const QSize size =
+            argc == 5 ? QSize(std::stoi(argv[3]), std::stoi(argv[4])) : QSize(1920, 1080);
         gst_adapter::GstVideo video(bench.files, bench.output, [&](std::function<void()> call) {
             bench.desktop.Post(std::move(call));
         });
-        std::printf("%d\n", bench.PicturesOf(video, argv[2]));
+        std::printf("%d\n", bench.PicturesOf(video, argv[2], size));
     } else if (what == "start") {
         std::printf("%.2f\n", bench.MillisecondsToSound(argv[2]));
     } else {

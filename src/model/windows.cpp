@@ -65,7 +65,7 @@ void Windows::SetPointer(MousePointerShape shape) {
 int Windows::ShowCursor(bool show) {
     const int count = form1.CursorCount + (show ? 1 : -1);
     for (Window* window : {static_cast<Window*>(&form1), static_cast<Window*>(&slidescreen),
-                           static_cast<Window*>(&slidescreen2)}) {
+                           static_cast<Window*>(&slidescreen2), static_cast<Window*>(&form24)}) {
         window->CursorCount = count;
     }
     return count;

@@ -1,7 +1,6 @@
 #include "picture/video_window.h"
 
-#include <algorithm>
-
+#include "picture/film_place.h"
 #include "picture/screen.h"
 
 namespace picture {
@@ -13,14 +12,37 @@ using platform::VideoState;
 constexpr int kKeyEnter = 13;
 constexpr int kKeyEscape = 27;
 
-void Centre(Application& app) {
+constexpr int kSizeLimitMs = 300;
+
+void Move(model::VisibleControl& control, const platform::Rect& pixels) {
+    constexpr int k = platform::kTwipsPerPixel;
+    control.Left = pixels.x * k;
+    control.Top = pixels.y * k;
+    control.Width = pixels.width * k;
+    control.Height = pixels.height * k;
+}
+
+FilmRule RuleOf(Application& app) {
+    constexpr int k = platform::kTwipsPerPixel;
+    model::ShowState& state = app.state;
+    FilmRule rule;
+    rule.slide = app.windows.form24.purpose == model::Form24::Purpose::Slide;
+    rule.fullScreen = state.FullScreenActive == 1;
+    rule.ownSize = app.platform.system.UserSetting(u"film") == u"own size";
     FillMonitorTable(app);
-    const platform::Rect monitor = MonitorTwips(app, MonitorOfMainWindow(app));
+    const platform::Rect twips =
+        MonitorTwips(app, rule.fullScreen ? state.MonitorIndex : MonitorOfMainWindow(app));
+    rule.monitor = {twips.x / k, twips.y / k, twips.width / k, twips.height / k};
+    return rule;
+}
+
+void Place(Application& app) {
     model::Form24& form24 = app.windows.form24;
-    form24.Width = std::min(form24.Width(), monitor.width);
-    form24.Height = std::min(form24.Height(), monitor.height);
-    form24.Left = monitor.x + (monitor.width - form24.Width) / 2;
-    form24.Top = monitor.y + (monitor.height - form24.Height) / 2;
+    FilmRule rule = RuleOf(app);
+    rule.own = form24.placedFor = app.platform.video.NaturalSize();
+    const FilmPlace place = PlaceFilm(rule);
+    Move(form24.WindowsMediaPlayer1, place.film);
+    Move(form24, place.window);
 }
 
 void ClosePlayer(Application& app) {
@@ -35,14 +57,19 @@ void CloseWindow(Application& app) {
 
 void Form_Load(Application& app) {
     model::Form24& form24 = app.windows.form24;
-    Centre(app);
+    const FilmRule rule = RuleOf(app);
+    if (!rule.slide || !rule.fullScreen || rule.ownSize) {
+        // Its size comes from the film's, and is not to change before the person's eyes.
+        app.platform.video.AwaitSize(kSizeLimitMs);
+    }
+    Place(app);
     form24.Timer1.Enabled = true;
     form24.Timer2.Enabled = true;
     app.windows.form3.Timer1.Enabled = false;
 }
 
 void Form_Activate(Application& app) {
-    Centre(app);
+    Place(app);
     if (app.state.VideoCloseRequest == 1) {
         app.windows.form24.Unload();
     } else {
@@ -85,6 +112,9 @@ bool FollowPlayer(Application& app) {
     if (status == VideoState::Playing) {
         state.VideoStarted = 1;
     }
+    if (app.platform.video.NaturalSize() != app.windows.form24.placedFor) {
+        Place(app);
+    }
     const bool ended = status == VideoState::Ready || status == VideoState::Stopped ||
                        status == VideoState::Paused;
     const bool closesItself =
@@ -124,8 +154,9 @@ void Player_KeyDown(Application& app, int code) {
     }
 }
 
-void OpenFile(Application& app, const Text& path) {
+void OpenFile(Application& app, const Text& path, model::Form24::Purpose purpose) {
     app.windows.form24.Unload();
+    app.windows.form24.purpose = purpose;
     model::Player& player = app.windows.form24.WindowsMediaPlayer1;
     player.uiMode = u"none";
     player.URL = path;
@@ -150,13 +181,13 @@ void AttachVideoWindow(Application& app) {
 }
 
 void PlayVideo(Application& app, const Text& path) {
-    OpenFile(app, path);
+    OpenFile(app, path, model::Form24::Purpose::Slide);
     app.state.VideoStoppedByUser = 0;
     app.windows.form24.ShowModal(app.platform.loop);
 }
 
 void ShowVideo(Application& app, const Text& path) {
-    OpenFile(app, path);
+    OpenFile(app, path, model::Form24::Purpose::Beside);
     app.windows.form24.Show();
 }
 
@@ -165,7 +196,7 @@ void ShowMacroMovie(Application& app, const Text& path, int mode) {
         CloseWindow(app);
         return;
     }
-    OpenFile(app, path);
+    OpenFile(app, path, model::Form24::Purpose::Beside);
     app.windows.SetPointer(model::kPointerNormal);
     app.platform.video.SetLoop(mode == static_cast<int>(MacroMovie::Loop));
     if (!app.platform.files.Exists(path)) {

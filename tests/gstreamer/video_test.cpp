@@ -122,6 +122,121 @@ TEST(GstVideo, ShowsTheColoursOfTheFile) {
     EXPECT_GT(image.pixelColor(10, 10).red(), 240);
 }
 
+struct Filmed {
+    std::string source;  // with its caps
+    bool turned;         // by the note of a telephone: a quarter, with the hands of the clock
+    platform::Size natural;
+    std::string codec = "jpegenc quality=100";
+};
+
+/// A film of one still.
+bool MakeStill(Cinema& cinema, const std::string& name, const Filmed& filmed) {
+    if (!RunPipeline("videotestsrc num-buffers=5 " + filmed.source + " ! " + filmed.codec +
+                     " ! qtmux ! filesink location=" + cinema.folder.Path(name))) {
+        return false;
+    }
+    if (filmed.turned) {
+        const std::string quarter("\0\0\0\0\0\1\0\0\0\0\0\0\xFF\xFF\0\0\0\0\0\0", 20);
+        std::string bytes = cinema.folder.Content(name);
+        bytes.replace(bytes.find("tkhd") + 44, quarter.size(), quarter);
+        cinema.folder.Put(name, bytes);
+    }
+    return true;
+}
+
+platform::Size FrameSize(Cinema& cinema) {
+    const platform::VideoFrame frame = cinema.video->Frame();
+    return {frame.width, frame.height};
+}
+
+constexpr const char* kCheckers =
+    "pattern=checkers-1 ! video/x-raw,format=I420,framerate=30/1,width=160,height=120";
+
+TEST(GstVideo, PicturesComeFittedToTheRoomHoweverTheyWereFilmed) {
+    const Filmed films[] = {
+        {kCheckers, false, {160, 120}},
+        {std::string(kCheckers) + ",pixel-aspect-ratio=2/1", false, {320, 120}, "x264enc"},
+        {"! video/x-raw,framerate=30/1,width=97,height=31", false, {97, 31}},
+        {kCheckers, true, {120, 160}},
+    };
+    for (const Filmed& filmed : films) {
+        Cinema cinema;
+        ASSERT_TRUE(MakeStill(cinema, "a.mov", filmed)) << filmed.source;
+        cinema.video->SetLoop(true);
+        cinema.Open("a.mov");
+        cinema.video->AwaitSize(kHangMs);
+        EXPECT_TRUE(Eventually([&] { return cinema.video->NaturalSize() == filmed.natural; }))
+            << filmed.source << cinema.video->NaturalSize().width;
+        EXPECT_TRUE(Eventually([&] { return FrameSize(cinema) == filmed.natural; }))
+            << "nobody has asked for another size";
+        cinema.video->Play();
+        for (const platform::Size room :
+             {platform::Size{400, 300}, platform::Size{64, 200}, platform::Size{1, 1}}) {
+            cinema.video->SetRoom(room);
+            const platform::Size wanted = platform::Fitted(filmed.natural, room);
+            EXPECT_TRUE(Eventually([&] { return FrameSize(cinema) == wanted; }))
+                << filmed.source << " in " << room.width << " x " << room.height << ": "
+                << FrameSize(cinema).width << " x " << FrameSize(cinema).height;
+        }
+        EXPECT_EQ(cinema.video->Status(), VideoState::Playing);
+        // The next file comes in the room's size from its first picture on.
+        cinema.video->SetRoom({64, 200});
+        cinema.Open("a.mov");
+        EXPECT_TRUE(Eventually([&] { return cinema.video->Frame().pixels != nullptr; }));
+        const platform::Size wanted = platform::Fitted(filmed.natural, {64, 200});
+        EXPECT_TRUE(Eventually([&] { return FrameSize(cinema) == wanted; }));
+    }
+}
+
+TEST(GstVideo, LargeFilmsComeSmallerEvenBeforeARoomIsKnown) {
+    Cinema cinema;
+    ASSERT_TRUE(MakeStill(cinema, "a.mov",
+                          {"! video/x-raw,framerate=30/1,width=4096,height=512", false, {}}));
+    cinema.Open("a.mov");
+    ASSERT_TRUE(Eventually([&] { return cinema.video->Frame().pixels != nullptr; }));
+    EXPECT_EQ(cinema.video->NaturalSize(), (platform::Size{4096, 512}));
+    EXPECT_EQ(FrameSize(cinema), (platform::Size{1920, 240}));
+}
+
+TEST(GstVideo, SmallerPicturesAreMixedFromAllPixels) {
+    // Squares of one pixel, black and white: where pixels were left out one of the two would stand.
+    for (const int width : {80, 53, 40}) {
+        Cinema cinema;
+        ASSERT_TRUE(MakeStill(cinema, "a.mov", {kCheckers, false, {}}));
+        cinema.video->SetRoom({width, 1000});
+        cinema.Open("a.mov");
+        ASSERT_TRUE(Eventually([&] { return FrameSize(cinema).width == width; }));
+        const platform::VideoFrame frame = cinema.video->Frame();
+        const QImage image(frame.pixels, frame.width, frame.height, frame.stride,
+                           QImage::Format_RGB32);
+        int darkest = 255, brightest = 0;
+        for (int y = 2; y < image.height() - 2; ++y) {
+            for (int x = 2; x < image.width() - 2; ++x) {
+                const int grey = image.pixelColor(x, y).green();
+                darkest = std::min(darkest, grey);
+                brightest = std::max(brightest, grey);
+            }
+        }
+        EXPECT_GT(darkest, 70) << width;
+        EXPECT_LT(brightest, 185) << width;
+    }
+}
+
+TEST(GstVideo, WaitingForTheSizeOfWhatHasNoneEnds) {
+    Cinema cinema;
+    RealLoop loop;
+    cinema.folder.Put("noise.avi", std::string(5000, 'x'));
+    const double start = loop.Milliseconds();
+    for (const char* name : {"noise.avi", "missing.avi"}) {
+        cinema.Open(name);
+        cinema.video->AwaitSize(kHangMs);
+    }
+    cinema.video->Close();
+    cinema.video->AwaitSize(kHangMs);
+    EXPECT_LT(loop.Milliseconds() - start, kHangMs);
+    EXPECT_EQ(cinema.video->NaturalSize(), platform::Size{});
+}
+
 TEST(GstVideo, LoopsUntilItIsToldNotTo) {
     Cinema cinema;
     ASSERT_TRUE(cinema.Make("a.mp4", 9));

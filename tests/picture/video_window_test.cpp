@@ -132,11 +132,82 @@ TEST(VideoWindow, StandsInTheMiddleOfTheMonitorInUse) {
     Cinema cinema;
     cinema.monitors.monitors = {{0, 0, 1920, 1080}, {1920, 100, 1280, 1024}};
     cinema.monitors.ofMainWindow = 1;
-    cinema.form24.Width = 800 * 15;
-    cinema.form24.Height = 600 * 15;
+    cinema.video.natural = {800, 600};
     cinema.Play();
     EXPECT_EQ(cinema.form24.Left(), (1920 + (1280 - 800) / 2) * 15);
     EXPECT_EQ(cinema.form24.Top(), (100 + (1024 - 600) / 2) * 15);
+    EXPECT_EQ(cinema.form24.Width(), 800 * 15);
+    EXPECT_EQ(cinema.form24.Height(), 600 * 15);
+    EXPECT_GT(cinema.video.awaited, 0);
+}
+
+TEST(VideoWindow, InFullScreenASlideCoversTheMonitorOfTheShow) {
+    Cinema cinema;
+    cinema.monitors.monitors = {{0, 0, 1920, 1080}, {1920, 100, 1280, 1024}};
+    cinema.state.FullScreenActive = 1;
+    cinema.state.MonitorIndex = 1;
+    cinema.video.natural = {800, 600};
+    cinema.Play();
+    EXPECT_EQ(cinema.form24.Left(), 1920 * 15);
+    EXPECT_EQ(cinema.form24.Top(), 100 * 15);
+    EXPECT_EQ(cinema.form24.Width(), 1280 * 15);
+    EXPECT_EQ(cinema.form24.Height(), 1024 * 15);
+    EXPECT_EQ(cinema.player.Width(), 1280 * 15);
+    EXPECT_EQ(cinema.player.Height(), 960 * 15);
+    EXPECT_EQ(cinema.player.Top(), 32 * 15);
+    EXPECT_EQ(cinema.video.awaited, 0) << "its window needs no size";
+}
+
+TEST(VideoWindow, TheSettingIsReadForEachFilm) {
+    Cinema cinema;
+    cinema.monitors.monitors = {{0, 0, 1920, 1080}};
+    cinema.state.FullScreenActive = 1;
+    cinema.video.natural = {800, 600};
+    const auto widthWith = [&](const Text& value) {
+        cinema.system.settings[u"film"] = value;
+        cinema.Play();
+        EXPECT_EQ(cinema.form24.Width(), 1920 * 15) << "black all around";
+        return cinema.player.Width() / 15;
+    };
+    EXPECT_EQ(widthWith(u"own size"), 800);
+    EXPECT_EQ(widthWith(u"monitor"), 1440);
+    EXPECT_EQ(widthWith(u""), 1440);
+    EXPECT_EQ(widthWith(u"large"), 1440);
+}
+
+TEST(VideoWindow, ASizeThatIsKnownLateIsTakenAtTheNextPoll) {
+    Cinema cinema;
+    cinema.monitors.monitors = {{0, 0, 1920, 1080}};
+    cinema.video.natural = {800, 600};
+    cinema.video.sizeKnownAfter = 350;
+    std::vector<int> widths;
+    for (const double moment : {10, 399, 401}) {
+        cinema.loop.At(moment, [&] { widths.push_back(cinema.form24.Width() / 15); });
+    }
+    cinema.Play();
+    EXPECT_EQ(widths, (std::vector<int>{960, 960, 800}));
+    EXPECT_EQ(cinema.form24.Left(), (1920 - 800) / 2 * 15);
+}
+
+TEST(VideoWindow, FilmsBesideASlideLeaveHalfTheMonitor) {
+    for (const bool macro : {false, true}) {
+        Cinema cinema;
+        cinema.monitors.monitors = {{0, 0, 1920, 1080}};
+        cinema.state.FullScreenActive = 1;
+        cinema.video.natural = {1920, 1080};
+        if (macro) {
+            picture::ShowMacroMovie(cinema.app, u"C:\\v\\m.mp4", 2);
+        } else {
+            picture::ShowVideo(cinema.app, u"C:\\v\\m.mp4");
+        }
+        EXPECT_EQ(cinema.form24.Width(), 960 * 15);
+        EXPECT_EQ(cinema.form24.Height(), 540 * 15);
+        EXPECT_EQ(cinema.form24.Left(), 480 * 15);
+        cinema.form24.Unload();
+        // The slide behind it covers the monitor again.
+        cinema.Play();
+        EXPECT_EQ(cinema.form24.Width(), 1920 * 15);
+    }
 }
 
 TEST(VideoWindow, GuardsAgainstTheSecondClickFor500Ms) {

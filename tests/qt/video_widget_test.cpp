@@ -27,6 +27,9 @@ public:
     void Close() override {}
     platform::VideoState Status() override { return platform::VideoState::Playing; }
     platform::Size NaturalSize() override { return natural; }
+    void AwaitSize(int) override {}
+    void SetRoom(platform::Size size) override { room = size; }
+    platform::Size room;
     platform::VideoFrame Frame() override {
         if (!shows) {
             return {};
@@ -62,6 +65,38 @@ TEST_F(VideoView, ThePictureIsFittedInItsOwnShapeWithBlackAround) {
     }
     for (const QPoint& outside : {QPoint(98, 100), QPoint(301, 100), QPoint(0, 0)}) {
         EXPECT_EQ(seen.pixelColor(outside), QColor(Qt::black));
+    }
+}
+
+TEST_F(VideoView, ThePlayerIsToldTheRoomInTheMonitorsPixels) {
+    ASSERT_TRUE(Screen());
+    windows.form24.Show();
+    Root()->resize(400, 200);
+    EXPECT_EQ(video.room, (platform::Size{400, 200}));
+    // The model says less: the film stands in the middle of the black window.
+    windows.form24.WindowsMediaPlayer1.Width = 100 * 15;
+    windows.form24.WindowsMediaPlayer1.Height = 50 * 15;
+    EXPECT_EQ(video.room, (platform::Size{100, 50}));
+    const QImage seen = Root()->grab().toImage();
+    EXPECT_EQ(seen.pixelColor(200, 100), QColor(0x12, 0xC8, 0x34));
+    EXPECT_EQ(seen.pixelColor(176, 76), QColor(0x12, 0xC8, 0x34));
+    for (const QPoint& outside : {QPoint(173, 100), QPoint(226, 100), QPoint(200, 74)}) {
+        EXPECT_EQ(seen.pixelColor(outside), QColor(Qt::black));
+    }
+}
+
+TEST_F(VideoView, APictureOfTheRightSizeIsShownPixelByPixel) {
+    ASSERT_TRUE(Screen());
+    video.natural = {32, 64};
+    for (size_t i = 0; i < video.pixels.size(); ++i) {
+        video.pixels[i] = static_cast<uint32_t>(i * 7919);
+    }
+    Root()->resize(32, 64);
+    const QImage seen = Root()->grab().toImage();
+    for (int y = 0; y < 64; ++y) {
+        for (int x = 0; x < 32; ++x) {
+            ASSERT_EQ(seen.pixel(x, y) & 0xFFFFFF, video.pixels[size_t(y) * 32 + x] & 0xFFFFFF);
+        }
     }
 }
 

@@ -53,7 +53,9 @@ State files and settings, for the program folder:
   autstart.dat  of the oldest form: auto start and nothing else
 
 Sounds: a.wav 5000 ms, b.wav 1000 ms, back.wav 4000 ms, a.mid 2000 ms, a.mp3 and c.mp3 of 20062 ms,
-no_sound.wav (text). Films: film.mp4 2500 ms, clip.avi 2000 ms, bad.mp4 (text); gone.mp4 is missing.
+no_sound.wav (text). Films of 2500 ms: film.mp4 does not say its size, cinema.mp4 has
+1280x720, held.mp4 1920x1080 with a quarter of a turn; clip.avi 2000 ms; bad.mp4 is text; gone.mp4 is
+missing. own_size.conf: the setting by which films in full screen keep their own size.
 Documents with sound (all without repetition):
   common.kvs    a b c, common sound (vue1.wav)
   linked.kvs    a b c, linked WAV, waits for its end
@@ -68,6 +70,10 @@ Documents with sound (all without repetition):
   quoted.kvs    quo"te.png b, linked WAV, waits for its end; quo"te.wav has 5000 ms
   garbled.kvs   a b, no_sound.wav behind them
   film.kvs      a film.mp4 b
+  cinema.kvs    a cinema.mp4 b
+  cinema_full.kvs the same in the full screen
+  movie.kvs     s4 b: s4.txt shows cinema.mp4 and then held.mp4
+  movie_full.kvs the same in the full screen
   no_film.kvs   a gone.mp4 b
   bad_film.kvs  a bad.mp4 b
   fade.kvs      a film.mp4 b, sound list c.mp3
@@ -134,13 +140,21 @@ def mp3(frames):
     return (b"\xff\xfb\x90\x00" + bytes(413)) * frames
 
 
-def mp4(milliseconds):
-    """A film without a picture that says how long it is."""
+def mp4(milliseconds, width=0, height=0, turned=False):
+    """A film without a picture that says how long it is and, with a width, how large; `turned`: to be
+    shown with a quarter of a turn."""
     def box(kind, body):
         return struct.pack(">I", len(body) + 8) + kind + body
 
-    header = bytes(12) + struct.pack(">II", 1000, milliseconds) + bytes(80)
-    return box(b"ftyp", b"isom" + struct.pack(">I", 512)) + box(b"moov", box(b"mvhd", header))
+    header = box(b"mvhd", bytes(12) + struct.pack(">II", 1000, milliseconds) + bytes(80))
+    if width:
+        one = 1 << 16
+        matrix = (0, one, 0, -one, 0, 0, 0, 0, 1 << 30) if turned else (
+            one, 0, 0, 0, one, 0, 0, 0, 1 << 30)
+        track = box(b"tkhd", bytes(40) + struct.pack(">9i2I", *matrix, width << 16, height << 16))
+        kind = box(b"mdia", box(b"hdlr", bytes(8) + b"vide" + bytes(13)))
+        header += box(b"trak", track + kind)
+    return box(b"ftyp", b"isom" + struct.pack(">I", 512)) + box(b"moov", header)
 
 
 def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1,
@@ -371,6 +385,11 @@ def main():
     files["no_sound.wav"] = files["bad.mp4"] = files["text.jpg"]
     files["quo\"te.png"], files["quo\"te.wav"] = files["a.png"], files["a.wav"]
     files["film.mp4"] = mp4(2500)
+    files["cinema.mp4"] = mp4(2500, 1280, 720)
+    files["held.mp4"] = mp4(2500, 1920, 1080, turned=True)
+    files["own_size.conf"] = b"film = own size\n"
+    files["s4.png"] = png(320, 240, (0, 0, 0))
+    files["s4.txt"] = macro("Movie(\"cinema.mp4\",1)", "Movie(\"held.mp4\",1)")
     shows = {
         "common": (five[:3], {"sound": 0}),
         "linked": (five[:3], {"sound": 1}),
@@ -382,6 +401,10 @@ def main():
         "over": (five[:2], {"sound": 8, "mp3_file": "c.mp3", "over_mp3": 1}),
         "garbled": (five[:2], {"sound": 3, "wav_file": "no_sound.wav"}),
         "film": (["a.png", "film.mp4", "b.png"], {}),
+        "cinema": (["a.png", "cinema.mp4", "b.png"], {}),
+        "cinema_full": (["a.png", "cinema.mp4", "b.png"], {"always_full": 0}),
+        "movie": (["s4.png", "b.png"], {}),
+        "movie_full": (["s4.png", "b.png"], {"always_full": 0}),
         "no_film": (["a.png", "gone.mp4", "b.png"], {}),
         "bad_film": (["a.png", "bad.mp4", "b.png"], {}),
         "over_list": (five[:4], {"sound": 6, "sync": 1, "over_list": 1,

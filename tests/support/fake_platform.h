@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <map>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -269,6 +270,7 @@ public:
     void SetUrl(TextView url) override {
         path = url;
         played_ = false;
+        opened_ = loop_.Milliseconds();
         log.push_back("open " + text::ToUtf8(url));
     }
     void Play() override {
@@ -297,12 +299,21 @@ public:
                : played >= milliseconds && !looping ? VideoState::Ready
                                                     : VideoState::Playing;
     }
-    platform::Size NaturalSize() override { return {}; }
+    platform::Size natural;     // of every file
+    double sizeKnownAfter = 0;  // ms from its opening
+    int awaited = 0;            // what AwaitSize was called with last
+    platform::Size NaturalSize() override {
+        return path.empty() || loop_.Milliseconds() - opened_ < sizeKnownAfter ? platform::Size{}
+                                                                               : natural;
+    }
+    void AwaitSize(int limit) override { awaited = limit; }
+    void SetRoom(platform::Size) override {}
     platform::VideoFrame Frame() override { return {}; }
 
 private:
     FakeLoop& loop_;
     bool played_ = false;
+    double opened_ = 0;
     double started_ = 0;
 };
 
@@ -329,6 +340,8 @@ public:
         opened.emplace_back(path);
         return opens;
     }
+    std::map<Text, Text> settings;
+    Text UserSetting(TextView key) override { return settings[Text(key)]; }
 };
 
 class FakeTrace : public platform::Trace {

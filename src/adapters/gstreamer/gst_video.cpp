@@ -1,14 +1,14 @@
 #include "adapters/gstreamer/gst_video.h"
 
-#include <gst/app/gstappsink.h>
-#include <gst/video/video.h>
-
+#include <chrono>
 #include <mutex>
 #include <string>
+#include <thread>
 #include <utility>
 
 #include "adapters/gstreamer/audio_tail.h"
 #include "adapters/gstreamer/library.h"
+#include "adapters/gstreamer/picture_slot.h"
 #include "adapters/gstreamer/pipeline.h"
 #include "adapters/gstreamer/worker.h"
 
@@ -18,83 +18,7 @@ using platform::VideoState;
 
 namespace {
 
-// A header that asks for more is taken for damage.
-constexpr const char* kPictureCaps = "video/x-raw,format=BGRx,width=[1,8192],height=[1,8192]";
-
-/// The newest picture on its way from the stream to the window.
-struct Mailbox {
-    std::mutex mutex;
-    std::shared_ptr<GstBuffer> buffer;
-    GstVideoInfo format{};
-    std::function<void()> onPicture;  // on a thread of the stream
-
-    void Take(GstSample* sample) {
-        GstVideoInfo given;
-        GstBuffer* buffered = sample ? gst_sample_get_buffer(sample) : nullptr;
-        if (!buffered || !gst_video_info_from_caps(&given, gst_sample_get_caps(sample))) {
-            return;
-        }
-        {
-            const std::lock_guard lock(mutex);
-            format = given;
-            buffer.reset(gst_buffer_ref(buffered), [](GstBuffer* old) { gst_buffer_unref(old); });
-        }
-        onPicture();
-    }
-};
-
-struct MappedFrame {
-    std::shared_ptr<GstBuffer> buffer;
-    GstVideoFrame frame{};
-    bool mapped = false;
-    ~MappedFrame() {
-        if (mapped) {
-            gst_video_frame_unmap(&frame);
-        }
-    }
-};
-
-/// A bin with the pad "sink", floating, that hands its pictures to the mailbox; null when the
-/// library lacks a part.
-GstElement* MakePictureTail(const std::shared_ptr<Mailbox>& mailbox) {
-    GstElement* bin = gst_bin_new(nullptr);
-    GstElement* parts[] = {
-        gst_element_factory_make("videoconvert", nullptr),
-        gst_element_factory_make("capsfilter", nullptr),
-        gst_element_factory_make("videoflip", nullptr),
-        gst_element_factory_make("appsink", nullptr),
-    };
-    bool whole = true;
-    for (GstElement* part : parts) {
-        whole = part && gst_bin_add(GST_BIN(bin), part) && whole;
-    }
-    if (!whole || !gst_element_link_many(parts[0], parts[1], parts[2], parts[3], nullptr)) {
-        gst_object_unref(gst_object_ref_sink(bin));
-        return nullptr;
-    }
-    const CapsPtr caps(gst_caps_from_string(kPictureCaps));
-    g_object_set(parts[1], "caps", caps.get(), nullptr);
-    // Telephones write down how they were held.
-    gst_util_set_object_arg(G_OBJECT(parts[2]), "video-direction", "auto");
-    g_object_set(parts[3], "max-buffers", 2, "qos", TRUE, nullptr);
-    GstAppSinkCallbacks callbacks{};
-    callbacks.new_preroll = [](GstAppSink* sink, gpointer data) {
-        const SamplePtr sample(gst_app_sink_pull_preroll(sink));
-        (*static_cast<std::shared_ptr<Mailbox>*>(data))->Take(sample.get());
-        return GST_FLOW_OK;
-    };
-    callbacks.new_sample = [](GstAppSink* sink, gpointer data) {
-        const SamplePtr sample(gst_app_sink_pull_sample(sink));
-        (*static_cast<std::shared_ptr<Mailbox>*>(data))->Take(sample.get());
-        return GST_FLOW_OK;
-    };
-    gst_app_sink_set_callbacks(
-        GST_APP_SINK(parts[3]), &callbacks, new std::shared_ptr<Mailbox>(mailbox),
-        [](gpointer data) { delete static_cast<std::shared_ptr<Mailbox>*>(data); });
-    const PadPtr entry(gst_element_get_static_pad(parts[0], "sink"));
-    gst_element_add_pad(bin, gst_ghost_pad_new("sink", entry.get()));
-    return bin;
-}
+constexpr auto kSizePoll = std::chrono::milliseconds(2);
 
 }  // namespace
 
@@ -108,7 +32,7 @@ struct GstVideo::Core : std::enable_shared_from_this<GstVideo::Core> {
     // Any thread.
     const std::string path;
     const std::shared_ptr<AudioOutput> output;
-    const std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
+    const std::shared_ptr<PictureSlot> pictures = std::make_shared<PictureSlot>();
     std::atomic<bool> loop{false};
     std::atomic<bool> told{false};  // a call of onFrame is on its way
     std::mutex mutex;
@@ -176,7 +100,7 @@ PadPtr GstVideo::Core::PadFor(const std::string& kind) {
     if (first) {
         return nullptr;  // of several streams of a kind the first one plays
     }
-    GstElement* tail = kind == "video"   ? MakePictureTail(mailbox)
+    GstElement* tail = kind == "video"   ? pictures->MakeTail()
                        : kind == "audio" ? MakeAudioTail(*output, silent, sound)
                                          : nullptr;
     if (!tail) {
@@ -197,7 +121,7 @@ void GstVideo::Core::Build(double from) {
             core->worker.Post([core, event, number] { core->Take(event, number); });
         }
     };
-    mailbox->onPicture = [self] {
+    pictures->onPicture = [self] {
         if (const auto core = self.lock()) {
             core->shown = true;
             core->Tell();
@@ -323,8 +247,7 @@ void GstVideo::Core::Leave() {
     }
     worker.Post([core = shared_from_this()] {
         core->Drop();
-        const std::lock_guard lock(core->mailbox->mutex);
-        core->mailbox->buffer.reset();
+        core->pictures->Clear();
     });
 }
 
@@ -344,6 +267,7 @@ void GstVideo::SetUrl(TextView path) {
     }
     core_ = std::make_shared<Core>(*found, output_, this, post_);
     core_->loop = loop_;
+    core_->pictures->SetRoom(room_);
     if (!core_->worker.Post([core = core_] { core->Build(0); })) {
         core_.reset();
     }
@@ -386,38 +310,26 @@ VideoState GstVideo::Status() {
 }
 
 platform::Size GstVideo::NaturalSize() {
-    if (!core_) {
-        return {};
+    return core_ ? core_->pictures->NaturalSize() : platform::Size{};
+}
+
+void GstVideo::AwaitSize(int milliseconds) {
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
+    while (Status() == VideoState::Loading && NaturalSize().Empty() && Clock::now() < end) {
+        std::this_thread::sleep_for(kSizePoll);
     }
-    const std::lock_guard lock(core_->mailbox->mutex);
-    const GstVideoInfo& format = core_->mailbox->format;
-    if (!core_->mailbox->buffer) {
-        return {};
+}
+
+void GstVideo::SetRoom(platform::Size room) {
+    room_ = room;
+    if (core_) {
+        core_->pictures->SetRoom(room);
     }
-    const int across = GST_VIDEO_INFO_PAR_N(&format);
-    const int down = GST_VIDEO_INFO_PAR_D(&format);
-    const auto width = static_cast<int>(
-        gst_util_uint64_scale_int_round(static_cast<guint64>(GST_VIDEO_INFO_WIDTH(&format)),
-                                        across > 0 ? across : 1, down > 0 ? down : 1));
-    return {width, GST_VIDEO_INFO_HEIGHT(&format)};
 }
 
 platform::VideoFrame GstVideo::Frame() {
-    if (!core_) {
-        return {};
-    }
-    auto mapped = std::make_shared<MappedFrame>();
-    const std::lock_guard lock(core_->mailbox->mutex);
-    mapped->buffer = core_->mailbox->buffer;
-    if (!mapped->buffer || !gst_video_frame_map(&mapped->frame, &core_->mailbox->format,
-                                                mapped->buffer.get(), GST_MAP_READ)) {
-        return {};
-    }
-    mapped->mapped = true;
-    const GstVideoFrame& frame = mapped->frame;
-    return {static_cast<const uint8_t*>(GST_VIDEO_FRAME_PLANE_DATA(&frame, 0)),
-            GST_VIDEO_FRAME_WIDTH(&frame), GST_VIDEO_FRAME_HEIGHT(&frame),
-            GST_VIDEO_FRAME_PLANE_STRIDE(&frame, 0), mapped};
+    return core_ ? core_->pictures->Newest() : platform::VideoFrame{};
 }
 
 }  // namespace gst_adapter

@@ -31,6 +31,8 @@ public:
     void Close() override;
     platform::VideoState Status() override;
     platform::Size NaturalSize() override;
+    void AwaitSize(int milliseconds) override;
+    void SetRoom(platform::Size room) override;
     platform::VideoFrame Frame() override;
 
 private:
@@ -42,6 +44,7 @@ private:
     std::shared_ptr<Core> core_;  // null without a file that was found
     bool named_ = false;          // SetUrl gave a name, found or not
     bool loop_ = false;
+    platform::Size room_;
 };
 
 }  // namespace gst_adapter

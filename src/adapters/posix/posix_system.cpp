@@ -15,6 +15,7 @@
 #include <set>
 #include <utility>
 
+#include "adapters/posix/settings_file.h"
 #include "text/paths.h"
 
 namespace posix_adapter {
@@ -169,6 +170,10 @@ bool PosixSystem::PreviousInstance() {
     }
     previousInstance_ = held;
     return held;
+}
+
+Text PosixSystem::UserSetting(TextView key) {
+    return text::FromUtf8(posix_adapter::UserSetting(programFolder_, text::ToUtf8(key)));
 }
 
 bool PosixSystem::Shell(TextView commandLine, TextView document) {

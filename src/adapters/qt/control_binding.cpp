@@ -230,13 +230,22 @@ private:
 class PlayerBinding : public ControlBinding {
 public:
     PlayerBinding(model::Player& player, VideoWidget& widget, Gate& gate)
-        : ControlBinding(player, widget, gate, nullptr) {
+        : ControlBinding(player, widget, gate, nullptr), screen_(widget) {
         widget.Attach(player, gate);
         Sync();
     }
 
+    void PropertyChanged(model::Control& control, model::PropertyBase& property) override {
+        ControlBinding::PropertyChanged(control, property);
+        screen_.TellRoom();
+        screen_.update();
+    }
+
 protected:
     void SyncOwn() override {}
+
+private:
+    VideoWidget& screen_;
 };
 
 class PictureBinding : public ControlBinding {

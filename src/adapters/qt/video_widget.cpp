@@ -3,8 +3,10 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <cmath>
 
 #include "adapters/qt/virtual_keys.h"
+#include "platform/monitors.h"
 
 namespace qt_adapter {
 
@@ -27,24 +29,59 @@ void VideoWidget::Attach(model::Player& player, Gate& gate) {
     gate_ = &gate;
 }
 
+/// The film's part of the widget, in the monitor's pixels: all of it but where the model says less.
+QSize VideoWidget::Room() const {
+    const double ratio = devicePixelRatioF();
+    const QSize whole(static_cast<int>(std::lround(width() * ratio)),
+                      static_cast<int>(std::lround(height() * ratio)));
+    if (!player_ || player_->Width == 0 || player_->Height == 0) {
+        return whole;
+    }
+    return whole.boundedTo(
+        {player_->Width / platform::kTwipsPerPixel, player_->Height / platform::kTwipsPerPixel});
+}
+
+void VideoWidget::TellRoom() {
+    const QSize room = Room();
+    if (video_ && !room.isEmpty()) {
+        video_->SetRoom({room.width(), room.height()});
+    }
+}
+
+void VideoWidget::resizeEvent(QResizeEvent*) {
+    TellRoom();
+}
+
 void VideoWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const platform::VideoFrame frame = video_ ? video_->Frame() : platform::VideoFrame{};
     const platform::Size natural = video_ ? video_->NaturalSize() : platform::Size{};
-    if (!frame.pixels || natural.Empty()) {
+    const QSize room = Room();
+    const platform::Size shape = platform::Fitted(natural, {room.width(), room.height()});
+    if (!frame.pixels || shape.Empty()) {
         painter.fillRect(rect(), Qt::black);
         return;
     }
-    const QSize shape = QSize(natural.width, natural.height).scaled(size(), Qt::KeepAspectRatio);
-    QRect place(QPoint(), shape);
-    place.moveCenter(rect().center());
-    const QRegion around = QRegion(rect()) - place;
+    // From here on in the monitor's pixels, which are the picture's.
+    const double ratio = devicePixelRatioF();
+    painter.scale(1 / ratio, 1 / ratio);
+    const QSize whole(static_cast<int>(std::ceil(width() * ratio)),
+                      static_cast<int>(std::ceil(height() * ratio)));
+    const QRect place((whole.width() - shape.width) / 2, (whole.height() - shape.height) / 2,
+                      shape.width, shape.height);
+    const QRegion around = QRegion(QRect(QPoint(), whole)) - place;
     for (const QRect& bar : around) {
         painter.fillRect(bar, Qt::black);
     }
     // The fourth byte of a pixel says nothing.
     const QImage image(frame.pixels, frame.width, frame.height, frame.stride, QImage::Format_RGB32);
-    painter.drawImage(place, image);
+    if (image.size() == place.size()) {
+        painter.drawImage(place.topLeft(), image);
+    } else {
+        // Made before the window had this size.
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(place, image);
+    }
 }
 
 void VideoWidget::mousePressEvent(QMouseEvent* event) {

@@ -15,6 +15,7 @@
 #include <QUrl>
 #include <QWindow>
 #include <algorithm>
+#include <cmath>
 
 #include "adapters/qt/canvas_widget.h"
 #include "adapters/qt/convert.h"
@@ -144,6 +145,7 @@ void WindowView::Build() {
     root_->setObjectName(QString::fromStdString(window_.Name()));
     // Not "fullScreen": every widget has a property of that name, which cannot be written.
     fullScreen_ = root_->property("coversMonitor").toBool();
+    countsPixels_ = root_->property("countsPixels").toBool();
     ApplyWindowKind();
     root_->setAcceptDrops(true);
     if (auto* frame = qobject_cast<QMainWindow*>(root_.data())) {
@@ -354,7 +356,30 @@ void WindowView::ShowFullScreen() {
     }
 }
 
+void WindowView::PlaceInPixels() {
+    const platform::Rect wanted{ToPixels(window_.Left), ToPixels(window_.Top),
+                                ToPixels(window_.Width), ToPixels(window_.Height)};
+    QScreen* screen = ScreenAt(wanted.x + wanted.width / 2, wanted.y + wanted.height / 2);
+    if (Offscreen() || !screen) {
+        root_->setGeometry(0, 0, wanted.width, wanted.height);
+        return;
+    }
+    const bool covers = PhysicalRect(*screen) == wanted;
+    root_->setScreen(screen);
+    root_->setWindowState(covers ? root_->windowState() | Qt::WindowFullScreen
+                                 : root_->windowState() & ~Qt::WindowFullScreen);
+    const double ratio = screen->devicePixelRatio();
+    const auto scaled = [ratio](int pixels) { return static_cast<int>(std::ceil(pixels / ratio)); };
+    root_->setGeometry(covers ? screen->geometry()
+                              : QRect(FromPhysical(wanted.x, wanted.y),
+                                      QSize(scaled(wanted.width), scaled(wanted.height))));
+}
+
 void WindowView::FollowPlace() {
+    if (countsPixels_) {
+        PlaceInPixels();
+        return;
+    }
     if (fullScreen_) {
         if (root_->isVisible()) {
             ShowFullScreen();
@@ -388,7 +413,7 @@ void WindowView::FollowPlace() {
 }
 
 void WindowView::FollowSize() {
-    if (fullScreen_) {
+    if (fullScreen_ || countsPixels_) {
         FollowPlace();
     } else if (window_.WindowState == model::kWindowNormal) {
         root_->resize(ToPixels(window_.Width), ToPixels(window_.Height));
@@ -489,7 +514,7 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
 void WindowView::Resized() {
     const QSize size = root_->size();
     const bool known = size == QSize(ToPixels(window_.Width), ToPixels(window_.Height));
-    if (!fullScreen_ && root_->isWindow() && !known) {
+    if (!fullScreen_ && !countsPixels_ && root_->isWindow() && !known) {
         gate_.Guarded([&] {
             window_.ResizeTo(size.width() * platform::kTwipsPerPixel,
                              size.height() * platform::kTwipsPerPixel);

@@ -2,6 +2,8 @@
 // What a form can say beside its widgets, as dynamic properties:
 //   root   windowKind   "Frameless Tool StayOnTop NoFocus" in any choice
 //   root   coversMonitor  covers the monitor that the model's place lies on, in physical pixels
+//   root   countsPixels   the model's place and size are the monitor's pixels, however the desktop
+//                         scales; as large as a monitor it covers that one as full screen
 //   root   over         name of the window that this one stands above
 //   root   unseen       names of controls that are never shown
 //   canvas hostsObjects controls without a widget are made over this canvas when shown
@@ -63,6 +65,7 @@ private:
 
     void FollowVisible();
     void ShowFullScreen();
+    void PlaceInPixels();
     void FollowPlace();
     void FollowSize();
     void FollowState();
@@ -81,6 +84,7 @@ private:
     QPointer<QWidget> root_;
     CanvasWidget* host_ = nullptr;  // over which controls without a widget are placed
     bool fullScreen_ = false;
+    bool countsPixels_ = false;
     std::unique_ptr<MenuBinding> menu_;
     std::vector<std::unique_ptr<ControlBinding>> bindings_;
     std::vector<model::VisibleControl*> unmade_;  // get their widget when first shown

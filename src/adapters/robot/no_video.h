@@ -15,6 +15,8 @@ public:
         return open_ ? platform::VideoState::Ready : platform::VideoState::Nothing;
     }
     platform::Size NaturalSize() override { return {}; }
+    void AwaitSize(int) override {}
+    void SetRoom(platform::Size) override {}
     platform::VideoFrame Frame() override { return {}; }
 
 private:

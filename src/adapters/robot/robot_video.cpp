@@ -1,5 +1,8 @@
 #include "adapters/robot/robot_video.h"
 
+#include <fstream>
+
+#include "adapters/robot/film_size.h"
 #include "adapters/robot/media_length.h"
 
 namespace robot {
@@ -23,7 +26,21 @@ void RobotVideo::SetUrl(TextView path) {
         const std::optional<MediaLength> length = LengthOfMediaFile(*files_, path);
         milliseconds_ = length ? length->milliseconds : kUnknownLengthMs;
     }
-    trace_.Event("video", {{"action", Text(u"open")}, {"file", path_}});
+    natural_ = milliseconds_ > 0 ? SizeOf(path) : platform::Size{};
+    if (natural_.Empty()) {
+        trace_.Event("video", {{"action", Text(u"open")}, {"file", path_}});
+    } else {
+        trace_.Event("video", {{"action", Text(u"open")},
+                               {"file", path_},
+                               {"width", double(natural_.width)},
+                               {"height", double(natural_.height)}});
+    }
+}
+
+platform::Size RobotVideo::SizeOf(TextView path) const {
+    const std::optional<std::string> native = files_->Find(path);
+    std::ifstream file(native.value_or(std::string()), std::ios::binary);
+    return SizeOfFilm(file);
 }
 
 void RobotVideo::Play() {

@@ -8,8 +8,9 @@
 
 namespace robot {
 
-/// Traces event "video" with its action ("open", "play", "loop", "close"), the file, and for "play"
-/// the file's milliseconds; a file that cannot be played has none.
+/// Traces event "video" with its action ("open", "play", "loop", "close"), the file, for "open" its
+/// width and height in pixels where it says them, and for "play" its milliseconds; a file that
+/// cannot be played has none.
 class RobotVideo : public platform::Video {
 public:
     RobotVideo(platform::Trace& trace, platform::EventLoop& loop) : trace_(trace), loop_(loop) {}
@@ -22,14 +23,19 @@ public:
     void SetLoop(bool on) override;
     void Close() override;
     platform::VideoState Status() override;
-    platform::Size NaturalSize() override { return {}; }
+    platform::Size NaturalSize() override { return path_.empty() ? platform::Size{} : natural_; }
+    void AwaitSize(int) override {}
+    void SetRoom(platform::Size) override {}
     platform::VideoFrame Frame() override { return {}; }
 
 private:
+    platform::Size SizeOf(TextView path) const;
+
     platform::Trace& trace_;
     platform::EventLoop& loop_;
     platform::Files* files_ = nullptr;
     Text path_;
+    platform::Size natural_;  // of the file; empty where it says none
     bool loopOn_ = false;
     bool played_ = false;
     double started_ = 0;       // ms of the loop

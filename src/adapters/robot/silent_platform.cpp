@@ -93,6 +93,7 @@ public:
     }
     void ForgetShow() override {}
     bool OpenText(TextView) override { return false; }
+    Text UserSetting(TextView) override { return {}; }
 
 private:
     std::string folder_;
