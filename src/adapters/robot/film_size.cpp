@@ -79,6 +79,7 @@ std::string_view NextBox(std::string_view& boxes, std::string_view name) {
             return box.substr(8);
         }
     }
+    boxes = {};  // what is left is no box
     return {};
 }
 
