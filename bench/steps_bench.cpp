@@ -94,7 +94,6 @@ public:
     bool FindsProgram(TextView, TextView) override { return false; }
     void ForgetShow() override {}
     bool OpenText(TextView) override { return false; }
-    Text UserSetting(TextView) override { return {}; }
 };
 
 /// Counts the slides that came up.

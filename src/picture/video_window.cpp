@@ -28,7 +28,7 @@ FilmRule RuleOf(Application& app) {
     FilmRule rule;
     rule.slide = app.windows.form24.purpose == model::Form24::Purpose::Slide;
     rule.fullScreen = state.FullScreenActive == 1;
-    rule.ownSize = app.platform.system.UserSetting(u"film") == u"own size";
+    rule.ownSize = app.platform.settings.filmsKeepTheirSize;
     FillMonitorTable(app);
     const platform::Rect twips =
         MonitorTwips(app, rule.fullScreen ? state.MonitorIndex : MonitorOfMainWindow(app));

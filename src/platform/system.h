@@ -28,9 +28,6 @@ public:
     /// Opens one of the program's own texts (a full path) in the person's text editor, which goes
     /// on by itself. False where none could be started.
     virtual bool OpenText(TextView path) = 0;
-    /// What the person wrote for that key into the program folder's own settings, as the file says
-    /// now; empty where nothing is said.
-    virtual Text UserSetting(TextView key) = 0;
 };
 
 }  // namespace platform

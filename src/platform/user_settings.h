@@ -7,6 +7,9 @@ struct UserSettings {
     /// macro-scale = 1080: the full-screen canvas is reckoned in 1080 lines, however many pixels
     /// the monitor has. Otherwise in the monitor's pixels.
     bool canvasOf1080Lines = false;
+    /// film = own size: slides' films in full screen are not enlarged. Otherwise they fill the
+    /// monitor.
+    bool filmsKeepTheirSize = false;
 };
 
 }  // namespace platform

@@ -158,21 +158,18 @@ TEST(VideoWindow, InFullScreenASlideCoversTheMonitorOfTheShow) {
     EXPECT_EQ(cinema.video.awaited, 0) << "its window needs no size";
 }
 
-TEST(VideoWindow, TheSettingIsReadForEachFilm) {
+TEST(VideoWindow, AFilmThatKeepsItsSizeStandsOnBlack) {
     Cinema cinema;
     cinema.monitors.monitors = {{0, 0, 1920, 1080}};
     cinema.state.FullScreenActive = 1;
     cinema.video.natural = {800, 600};
-    const auto widthWith = [&](const Text& value) {
-        cinema.system.settings[u"film"] = value;
+    for (const bool keeps : {true, false}) {
+        cinema.app.platform.settings.filmsKeepTheirSize = keeps;
         cinema.Play();
-        EXPECT_EQ(cinema.form24.Width(), 1920 * 15) << "black all around";
-        return cinema.player.Width() / 15;
-    };
-    EXPECT_EQ(widthWith(u"own size"), 800);
-    EXPECT_EQ(widthWith(u"monitor"), 1440);
-    EXPECT_EQ(widthWith(u""), 1440);
-    EXPECT_EQ(widthWith(u"large"), 1440);
+        EXPECT_EQ(cinema.form24.Width(), 1920 * 15);
+        EXPECT_EQ(cinema.form24.Height(), 1080 * 15);
+        EXPECT_EQ(cinema.player.Width() / 15, keeps ? 800 : 1440);
+    }
 }
 
 TEST(VideoWindow, ASizeThatIsKnownLateIsTakenAtTheNextPoll) {

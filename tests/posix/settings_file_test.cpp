@@ -39,4 +39,21 @@ TEST(SettingsFile, OnlyTheNameOfTheLinesChangesTheCanvas) {
     }
 }
 
+TEST(SettingsFile, OnlyOwnSizeKeepsFilmsSmall) {
+    struct Row {
+        const char* file;
+        bool keeps;
+    };
+    for (const Row& row : {Row{"", false},
+                           {"film = monitor\n", false},
+                           {"film=own size\r\n", true},
+                           {"film = own\n", false}}) {
+        TemporaryFolder folder;
+        folder.Put("settings.conf", row.file);
+        EXPECT_EQ(posix_adapter::ReadUserSettings(folder.Path() + "/").filmsKeepTheirSize,
+                  row.keeps)
+            << row.file;
+    }
+}
+
 }  // namespace

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <deque>
-#include <map>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -340,8 +339,6 @@ public:
         opened.emplace_back(path);
         return opens;
     }
-    std::map<Text, Text> settings;
-    Text UserSetting(TextView key) override { return settings[Text(key)]; }
 };
 
 class FakeTrace : public platform::Trace {

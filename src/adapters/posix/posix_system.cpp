@@ -15,7 +15,6 @@
 #include <set>
 #include <utility>
 
-#include "adapters/posix/settings_file.h"
 #include "text/paths.h"
 
 namespace posix_adapter {
@@ -170,10 +169,6 @@ bool PosixSystem::PreviousInstance() {
     }
     previousInstance_ = held;
     return held;
-}
-
-Text PosixSystem::UserSetting(TextView key) {
-    return text::FromUtf8(posix_adapter::UserSetting(programFolder_, text::ToUtf8(key)));
 }
 
 bool PosixSystem::Shell(TextView commandLine, TextView document) {

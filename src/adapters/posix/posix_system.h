@@ -41,7 +41,6 @@ public:
     std::function<void()> endShow;
     /// False while there is no opener.
     bool OpenText(TextView path) override { return textOpener && textOpener(path); }
-    Text UserSetting(TextView key) override;
 
     /// What shows a text to a person: the desktop's editor, or a note in the robot's trace.
     std::function<bool(TextView path)> textOpener;

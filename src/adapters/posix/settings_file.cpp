@@ -29,7 +29,8 @@ std::string UserSetting(const std::string& programFolder, const std::string& key
 }
 
 platform::UserSettings ReadUserSettings(const std::string& programFolder) {
-    return {.canvasOf1080Lines = UserSetting(programFolder, "macro-scale") == "1080"};
+    return {.canvasOf1080Lines = UserSetting(programFolder, "macro-scale") == "1080",
+            .filmsKeepTheirSize = UserSetting(programFolder, "film") == "own size"};
 }
 
 }  // namespace posix_adapter

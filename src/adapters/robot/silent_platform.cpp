@@ -93,7 +93,6 @@ public:
     }
     void ForgetShow() override {}
     bool OpenText(TextView) override { return false; }
-    Text UserSetting(TextView) override { return {}; }
 
 private:
     std::string folder_;

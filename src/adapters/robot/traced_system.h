@@ -26,7 +26,6 @@ public:
         trace_.Event("shell", {{"command", u"NOTEPAD.EXE " + Text(path)}});
         return !starts_ || system_.OpenText(path);
     }
-    Text UserSetting(TextView key) override { return system_.UserSetting(key); }
 
 private:
     platform::System& system_;
