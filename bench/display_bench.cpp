@@ -232,7 +232,7 @@ int main(int argc, char** argv) {
     WatchedLoop loop(desktop.Loop());
     Application app({loop, rest.files, rest.dialogs, desktop.Monitors(), imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,
-                     rest.codePage});
+                     rest.codePage, rest.folders});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);

@@ -124,7 +124,7 @@ int main(int argc, char** argv) {
         auto app = std::make_unique<Application>(
             platform::Platform{loop, rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
                                desktop.TextRenderer(), rest.sound, rest.video, rest.system,
-                               rest.trace, rest.codePage});
+                               rest.trace, rest.codePage, rest.folders});
         Prepare(*app);
         return app;
     };

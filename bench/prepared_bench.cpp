@@ -75,7 +75,7 @@ double Measure(qt_adapter::Desktop& desktop, platform::Files& files, bool prepar
     NoTrace trace;
     Application app({desktop.Loop(), files, rest.dialogs, desktop.Monitors(), imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,
-                     rest.codePage});
+                     rest.codePage, rest.folders});
     SetUpShow(app, paths);
     desktop.MakeViews(app.windows);
     app.windows.slidescreen.Show();

@@ -12,6 +12,7 @@
 #include "adapters/posix/json_trace.h"
 #include "adapters/posix/memory.h"
 #include "adapters/posix/posix_files.h"
+#include "adapters/posix/posix_folders.h"
 #include "adapters/posix/posix_system.h"
 #include "adapters/posix/settings_file.h"
 #include "adapters/posix/start_paths.h"
@@ -90,13 +91,15 @@ struct Surroundings {
         : programFolder(posix_adapter::ProgramFolder(appFolder)),
           files(programFolder),
           imaging(files, prepare),
-          system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)) {}
+          system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)),
+          folders(files) {}
 
     std::string programFolder;
     posix_adapter::IconvCodePage codePage;
     posix_adapter::PosixFiles files;
     imaging::QtImaging imaging;
     posix_adapter::PosixSystem system;
+    posix_adapter::PosixFolders folders;
 };
 
 /// The views of a program's windows, for as long as the windows live: gone before them however the
@@ -188,7 +191,7 @@ int RunDesktop(int argc, char** argv, const std::string& traceFile, const std::s
     robot::WindowTracer windows(*trace);
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
                              around.imaging, desktop.TextRenderer(), sound, video, system, *trace,
-                             around.codePage,
+                             around.codePage, around.folders,
                              posix_adapter::ReadUserSettings(around.programFolder)});
     around.system.endShow = [&application] { playback::StopShow(application); };
     around.system.textOpener = [](TextView path) { return qt_adapter::Desktop::OpenText(path); };
@@ -218,7 +221,7 @@ int RunRobot(int argc, char** argv, const std::vector<std::string>& arguments) {
         robot::TracedSystem system(around.system, *trace, false);
         Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
                                  around.imaging, desktop.TextRenderer(), robot.Sound(),
-                                 robot.Video(), system, *trace, around.codePage,
+                                 robot.Video(), system, *trace, around.codePage, around.folders,
                                  posix_adapter::ReadUserSettings(around.programFolder)});
         const Views views(desktop, application);
         robot.Attach(application, [&](model::Window& window, const std::string& file) {

@@ -12,6 +12,7 @@
 #   # exit: 1                                                the exit status, otherwise 0
 #   # trace: "t":3000,"event":"slide"                        a line of the trace holds this text
 #   # no trace: "event":"message"                            no line of the trace holds it
+#   # unheard: Form1.Command2                               acts on it may reach nobody
 #   # slides: 0 a.png 3000 b.png                             all slides shown, each with its time
 #   # sound: 4000 stop wav | close wav                       all commands to the sound device, those of
 #                                                            one moment on one line, files without
@@ -61,6 +62,10 @@ done < <(wanted trace)
 while IFS= read -r text; do
     ! grep -qF -- "$text" "$trace" || complain "in the trace: $text"
 done < <(wanted 'no trace')
+# Acts that nobody hears are mistakes of the scenario, unless it names them.
+while IFS= read -r name; do
+    grep -qxF -- "# unheard: $name" "$script" || complain "nobody heard the act on $name"
+done < <(sed -nE 's/.*"event":"act",.*"name":"([^"]*)","unheard":true.*/\1/p' "$trace" | sort -u)
 if grep -q '^# slides:' "$script"; then
     shown=$(sed -nE 's|^\{"t":([0-9.]+),"event":"slide",.*"path":"[^"]*/([^/"]*)".*|\1 \2|p' \
         "$trace" | paste -sd ' ')

@@ -191,7 +191,7 @@ void OpenSchedule(Application& app) {
 void AttachWindows(Application& app) {
     model::Form1& form1 = app.windows.form1;
     form1.mnuWAVLIST.Click = [&app] { OpenWindow(app, app.windows.form10); };
-    form1.mnuRENF.Click = [&app] { OpenWindow(app, app.windows.form12); };
+    form1.mnuRENF.Click = [&app] { OpenModal(app, app.windows.form12); };
     form1.mnuICHI.Click = [&app] { OpenFourPictures(app); };
     form1.mnuURU.Click = [&app] { OpenInstead(app, app.windows.form9); };
     form1.Command6.Click = [&app] { OpenWindow(app, app.windows.form3); };

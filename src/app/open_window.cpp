@@ -15,6 +15,12 @@ void OpenWindow(Application& app, model::Window& window) {
     }
 }
 
+void OpenModal(Application& app, model::Window& window) {
+    if (CanOpen(app, window)) {
+        window.ShowModal(app.platform.loop);
+    }
+}
+
 void OpenInstead(Application& app, model::Window& window) {
     if (CanOpen(app, window)) {
         app.windows.form1.Hide();

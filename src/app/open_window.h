@@ -11,6 +11,9 @@ bool CanOpen(Application& application, const model::Window& window);
 /// Shows the window if it can be opened.
 void OpenWindow(Application& application, model::Window& window);
 
+/// The same as a modal window: returns when it is closed. May throw ProgramEnd.
+void OpenModal(Application& application, model::Window& window);
+
 /// The same in place of the main window.
 void OpenInstead(Application& application, model::Window& window);
 

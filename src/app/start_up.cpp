@@ -12,6 +12,7 @@
 #include "app/timers.h"
 #include "app/title_screen.h"
 #include "app/window_size.h"
+#include "authoring/attach.h"
 #include "document/link_document.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
@@ -229,6 +230,7 @@ void RunProgram(Application& application, const StartOptions& options) {
     playback::AttachControlBox(application);
     picture::AttachVideoWindow(application);
     AttachMainMenus(application);
+    authoring::AttachWindows(application);
     const PlayMenu playMenu(application);
     AttachDroppedFiles(application);
     form1.OnLoad = [&] { Form1_Load(application, options.roomy); };

@@ -91,10 +91,13 @@ public:
         handler_ = std::move(handler);
         return *this;
     }
-    void operator()(Arguments... arguments) const {
-        if (handler_) {
-            handler_(arguments...);
+    /// False when nobody listens.
+    bool operator()(Arguments... arguments) const {
+        if (!handler_) {
+            return false;
         }
+        handler_(arguments...);
+        return true;
     }
     explicit operator bool() const { return static_cast<bool>(handler_); }
 

@@ -33,9 +33,8 @@ public:
     Event<> OnResize;
     Event<bool&> OnQueryUnload;  // set true to stay
     Event<> OnUnload;
-    Event<> Click;
-    Event<int> KeyDown;
-    Event<const std::vector<Text>&> FilesDropped;
+    Event<> OnDeactivate;  // another window took the keyboard
+    Event<> OnPaint;  // it was painted after another window had covered it, or for the first time
 
     /// Somebody shows this window. One that nobody can see must not be opened by a menu, least of
     /// all in place of another window.

@@ -7,11 +7,13 @@
 #include "model/windows/control_box.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/link_list.h"
+#include "model/windows/linked_folder.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_windows.h"
+#include "model/windows/text_display.h"
 #include "model/windows/video_window.h"
 
 namespace model {

@@ -120,4 +120,13 @@ void SizeLayers(Application& app) {
     }
 }
 
+void CentreOnMonitor(Application& app, model::Window& window) {
+    FillMonitorTable(app);
+    const platform::Rect monitor = MonitorTwips(app, MonitorOfMainWindow(app));
+    window.Width = std::min(window.Width(), monitor.width);
+    window.Height = std::min(window.Height(), monitor.height);
+    window.Left = monitor.x + (monitor.width - window.Width) / 2;
+    window.Top = monitor.y + (monitor.height - window.Height) / 2;
+}
+
 }  // namespace picture

@@ -34,6 +34,10 @@ platform::Rect PicturePlace(Application& app);
 /// without an effect context.
 void CopyPicture(Application& app, model::PictureBox& layer, const platform::Rect& area);
 
+/// Puts the window in the middle of the monitor in use, that of the main window; one that is larger
+/// than the monitor takes its size.
+void CentreOnMonitor(Application& app, model::Window& window);
+
 /// Gives the preview its size by that of the main window: width less 600 twips, height less 1450
 /// and MainBottomMargin.
 void SizePreview(Application& app);

@@ -5,6 +5,7 @@
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
 #include "platform/files.h"
+#include "platform/folders.h"
 #include "platform/imaging.h"
 #include "platform/monitors.h"
 #include "platform/sound.h"
@@ -28,6 +29,7 @@ struct Platform {
     System& system;
     Trace& trace;
     const text::CodePage& codePage;
+    Folders& folders;
     UserSettings settings = {};
 };
 

@@ -12,7 +12,9 @@ namespace platform {
 
 struct TraceField {
     std::string_view name;
-    std::variant<double, bool, Text, std::nullptr_t, std::vector<Text>> value;
+    std::variant<double, bool, Text, std::nullptr_t, std::vector<Text>, std::vector<double>,
+                 std::vector<std::vector<Text>>>
+        value;
 };
 
 class Trace {

@@ -294,7 +294,6 @@ TEST(OpenedWindows, EachEntryOpensItsOwn) {
     };
     const Row rows[] = {
         {&menus.form1.mnuWAVLIST.Click, &windows.form10, false},
-        {&menus.form1.mnuRENF.Click, &windows.form12, false},
         {&menus.form1.mnuICHI.Click, &windows.form5, false},
         {&menus.form1.mnuURU.Click, &windows.form9, true},
         {&menus.form1.Command6.Click, &windows.form3, false},
@@ -312,7 +311,24 @@ TEST(OpenedWindows, EachEntryOpensItsOwn) {
         EXPECT_EQ(pointer, row.window == &windows.form22 ? model::kPointerBusy : 0);
         EXPECT_EQ(windows.Pointer(), model::kPointerNormal);
         row.window->Unload();
+        row.window->OnLoad = nullptr;
     }
+}
+
+TEST(OpenedWindows, TheFolderOfLinkedFilesIsModal) {
+    Menus menus;
+    model::Form12& form12 = menus.app.windows.form12;
+    form12.HasView = true;
+    menus.form1.Show();
+    bool modal = false;
+    form12.OnActivate = [&] {
+        modal = form12.Modal;
+        form12.Unload();
+    };
+    menus.form1.mnuRENF.Click();
+    EXPECT_TRUE(modal);
+    EXPECT_FALSE(form12.Visible);
+    EXPECT_TRUE(menus.form1.Visible);
 }
 
 TEST(FourPictures, RefusedWhileAListIsOpen) {

@@ -1,11 +1,16 @@
 // Controls: properties that announce themselves, lists, menus, pictures.
-#include "model/control.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
+#include "model/controls.h"
+#include "model/grid.h"
+#include "model/list_controls.h"
+#include "model/menu.h"
+#include "model/picture_controls.h"
+#include "model/scroll_bar.h"
 #include "model/window.h"
 
 namespace model {
@@ -157,6 +162,140 @@ TEST(ListBox, ClearForgetsRowsSelectionAndPlace) {
     EXPECT_EQ(window.List1.TopIndex, 0);
     ASSERT_FALSE(ear.heard.empty());
     EXPECT_EQ(ear.heard.front(), "cleared 0");
+}
+
+TEST(ListBox, AChoiceSelectsExactlyTheseRows) {
+    SampleWindow window;
+    ListBox many(&window, "List2", kSelectMany);
+    int clicks = 0;
+    for (ListBox* list : {&window.List1, &many}) {
+        for (const char16_t* row : {u"a", u"b", u"c"}) {
+            list->AddItem(row);
+        }
+        list->Click = [&] { ++clicks; };
+        list->Select(0, true);
+        EXPECT_TRUE(list->Choose({1, 2}));
+        EXPECT_EQ(list->ListIndex, 2);
+    }
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(window.List1.SelectedRows(), (std::vector<int>{2}));  // one at the most
+    EXPECT_EQ(many.SelectedRows(), (std::vector<int>{1, 2}));
+    EXPECT_TRUE(many.Choose({}));
+    EXPECT_EQ(many.SelCount(), 0);
+    EXPECT_EQ(many.ListIndex, 2);
+    many.Enabled = false;
+    EXPECT_FALSE(many.Choose({0}));
+    EXPECT_EQ(many.SelCount(), 0);
+}
+
+TEST(ListBox, DragsItsSelectedRowsOnly) {
+    SampleWindow window;
+    window.List1.AddItem(u"a");
+    std::vector<int> places;
+    window.List1.RowsDragged = [&](int before) { places.push_back(before); };
+    EXPECT_FALSE(window.List1.DragTo(0));  // nothing is selected
+    window.List1.Select(0, true);
+    EXPECT_TRUE(window.List1.DragTo(7));
+    EXPECT_EQ(places, (std::vector<int>{1}));  // no place lies beyond the end
+}
+
+TEST(OptionButton, LeavesTheOthersOfItsFrameOnly) {
+    SampleWindow window;
+    Frame frame(&window, "Frame1");
+    OptionButton inA(&window, "Option1", u"a", &frame);
+    OptionButton inB(&window, "Option2", u"b", &frame);
+    OptionButton outside(&window, "Option3", u"c");
+    outside.Press();
+    inA.Press();
+    EXPECT_TRUE(inA.Value && outside.Value);
+    inB.Press();
+    EXPECT_TRUE(inB.Value && outside.Value);
+    EXPECT_FALSE(inA.Value);
+}
+
+TEST(Acts, DoNothingOnWhatCannotBeReached) {
+    SampleWindow window;
+    int heard = 0;
+    window.Command1.Click = [&] { ++heard; };
+    window.Command1.KeyDown = [&](int) { ++heard; };
+    window.Command1.FilesDropped = [&](const std::vector<Text>&) { ++heard; };
+    for (Property<bool>* shut : {&window.Command1.Enabled, &window.Command1.Visible}) {
+        *shut = false;
+        EXPECT_FALSE(window.Command1.Press());
+        EXPECT_FALSE(window.Command1.PressAgain());
+        EXPECT_FALSE(window.Command1.PressKey(13));
+        EXPECT_FALSE(window.Command1.Drop({u"a"}));
+        *shut = true;
+    }
+    EXPECT_EQ(heard, 0);
+    EXPECT_TRUE(window.Command1.Press());
+    EXPECT_FALSE(window.Command1.Press({.right = true}));
+    EXPECT_EQ(heard, 1);
+    EXPECT_FALSE(window.Text1.PressKey(13));  // nobody listens
+}
+
+TEST(Acts, TextsOfAPersonAreToldOnce) {
+    SampleWindow window;
+    int changes = 0;
+    window.Text1.Change = [&] { ++changes; };
+    EXPECT_TRUE(window.Text1.Enter(u"a"));
+    EXPECT_TRUE(window.Text1.Enter(u"a"));
+    window.Text1.Content = u"b";  // the program's own
+    EXPECT_EQ(changes, 1);
+}
+
+TEST(Acts, AMenuEntryNeedsAllMenusAboveIt) {
+    SampleWindow window;
+    int chosen = 0;
+    window.mnuKOU.Click = [&](int) { ++chosen; };
+    window.mnuHead.Visible = false;
+    EXPECT_FALSE(window.mnuKOU(1).Choose());
+    window.mnuHead.Visible = true;
+    window.mnuHead.Enabled = false;
+    EXPECT_FALSE(window.mnuKOU(1).Choose());
+    window.mnuHead.Enabled = true;
+    EXPECT_TRUE(window.mnuKOU(1).Choose());
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST(Grid, KeepsItsHeaderAndTellsEachChange) {
+    SampleWindow window;
+    Grid grid(&window, "Grid1", {u"no", u"name"});
+    Ear ear(grid);
+    grid.AddRow({u"1", u"a"});
+    grid.InsertRow(0, {u"0"});  // never ahead of the header
+    grid.SetText(2, 1, u"b");
+    grid.RemoveRow(0);
+    grid.RemoveRow(3);
+    EXPECT_EQ(ear.heard, (Heard{"inserted 1", "inserted 1", "replaced 2"}));
+    EXPECT_EQ(grid.TextMatrix(0, 1), u"name");
+    EXPECT_EQ(grid.TextMatrix(1, 0), u"0");
+    EXPECT_EQ(grid.TextMatrix(1, 1), u"");
+    EXPECT_EQ(grid.TextMatrix(2, 1), u"b");
+    EXPECT_EQ(grid.TextMatrix(3, 0), u"");
+    int clicks = 0;
+    grid.Click = [&] { ++clicks; };
+    EXPECT_TRUE(grid.Choose(1, 0, 2, 1));
+    EXPECT_FALSE(grid.Choose(1, 0, 3, 1));
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(grid.RowSel, 2);
+    grid.Clear();
+    EXPECT_EQ(grid.Rows(), 1);
+    EXPECT_EQ(grid.Row, 0);
+}
+
+TEST(ScrollBar, StopsAtItsEndsAndTellsEveryChange) {
+    SampleWindow window;
+    ScrollBar bar(&window, "HScroll1", 0, 100);
+    int changes = 0;
+    bar.Change = [&] { ++changes; };
+    EXPECT_TRUE(bar.MoveTo(500));
+    EXPECT_EQ(bar.Value, 100);
+    bar.MoveTo(100);
+    bar.Value = 3;  // the program's own changes are told too
+    EXPECT_EQ(changes, 2);
+    bar.MoveTo(-1);
+    EXPECT_EQ(bar.Value, 0);
 }
 
 TEST(MenuArray, ChecksOneEntry) {

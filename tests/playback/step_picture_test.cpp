@@ -338,7 +338,11 @@ TEST(StepVideo, EnterOnThePlayerEndsTheShow) {
         show.AddSlide(u"C:\\pic\\a.mp4");
         show.files.Put(u"C:\\pic\\a.mp4", "film");
         show.AddPicture();
-        full ? show.form1.Command4.Click() : show.Start();
+        if (full) {
+            show.form1.Command4.Click();
+        } else {
+            show.Start();
+        }
         show.loop.At(4000, [&] { show.windows.form24.WindowsMediaPlayer1.KeyDown(13); });
         show.loop.Run(20000);
         EXPECT_EQ(show.Shown(), Numbers{1}) << full;

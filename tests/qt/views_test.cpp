@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
+#include <QGroupBox>
 #include <QImage>
 #include <QLabel>
 #include <QMainWindow>
@@ -154,6 +155,8 @@ TEST_F(Views, EveryControlHasAWidgetThatFollowsIt) {
                 caption->Write(Text(u"見出し & 10"));
                 if (const auto* label = qobject_cast<QLabel*>(widget)) {
                     EXPECT_EQ(label->text(), QStringLiteral("見出し & 10"));
+                } else if (const auto* box = qobject_cast<QGroupBox*>(widget)) {
+                    EXPECT_EQ(box->title(), QStringLiteral("見出し & 10"));
                 } else {
                     EXPECT_EQ(widget->property("text").toString(), QStringLiteral("見出し & 10"));
                 }

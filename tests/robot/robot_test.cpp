@@ -7,6 +7,15 @@
 namespace robot {
 namespace {
 
+/// The acts that reached nothing: "click Form1.Command1".
+std::vector<Text> Unheard(const RobotRun& run) {
+    std::vector<Text> acts;
+    for (const auto& line : run.around.trace.Of("act")) {
+        acts.push_back(line.String("action") + u" " + line.String("name"));
+    }
+    return acts;
+}
+
 TEST(Robot, LinesRunAtTheirTimes) {
     RobotRun run(
         "click Form1.Command1\n"
@@ -71,6 +80,72 @@ TEST(Robot, WhatCannotBeReachedHasNoEffect) {
     EXPECT_EQ(run.Play(), 0);
     EXPECT_EQ(happened, 0);
     EXPECT_EQ(windows.form8.Text1.Content(), u"");
+    EXPECT_EQ(Unheard(run).size(), 8u);
+}
+
+TEST(Robot, WhatNobodyListensToIsTraced) {
+    RobotRun run(
+        "click Form1.SlideCount\ndrop Form1.Label1 a.jpg\nclick Form1.Command1\nclick Form3.List1\n"
+        "set Form8.Text1 a\nclick Form3.Check1\nmenu mnuTIME\nrclick Form1.Command1\n"
+        "drop Form1 a.jpg\nmove Form3.List1 0\n");
+    model::Windows& windows = run.windows;
+    windows.form3.Show();
+    windows.form8.Show();
+    windows.form3.List1.AddItem(u"a");
+    windows.form3.List1.Select(0, true);
+    windows.form1.Command1.Click = [] {};
+    windows.form3.List1.Click = [] {};
+    EXPECT_EQ(run.Play(), 0);
+    EXPECT_EQ(Unheard(run),
+              (std::vector<Text>{u"click Form1.SlideCount", u"drop Form1.Label1", u"menu Form1.mnuTIME",
+                                 u"rclick Form1.Command1", u"drop Form1", u"move Form3.List1"}));
+}
+
+TEST(Robot, ActsDuringAHandlerThatOnlyPumps) {
+    RobotRun run("click Form1.Command1\nduring click Form1.Command3\nexpect SlideIndex 7\n");
+    model::Form1& form1 = run.windows.form1;
+    form1.Command3.Enabled = true;
+    bool stopped = false;
+    int pumps = 0;
+    form1.Command1.Click = [&] {
+        while (!stopped && pumps < 5) {
+            run.Loop().PumpEvents();
+            ++pumps;
+        }
+        run.around.app.state.SlideIndex = 7;
+    };
+    form1.Command3.Click = [&] { stopped = true; };
+    EXPECT_EQ(run.Play(), 0);
+    EXPECT_EQ(pumps, 1);
+    EXPECT_EQ(run.Loop().Milliseconds(), 0);
+}
+
+TEST(Robot, PlacesOfPressesReachThePicture) {
+    RobotRun run("click Form1.Picture1 3 4\nrclick Form1.Picture1 5 6\nclick Form1.Picture1\n");
+    model::PictureBox& picture = run.windows.form1.Picture1;
+    picture.SetSize(3000, 1500);  // 200 x 100 pixels
+    std::string order;
+    const auto note = [&](const char* what, const model::MousePress& press) {
+        order += std::string(what) + (press.right ? "r" : "l") + std::to_string(press.x) + "," +
+                 std::to_string(press.y) + " ";
+    };
+    picture.MouseDown = [&](const model::MousePress& press) { note("d", press); };
+    picture.MouseUp = [&](const model::MousePress& press) { note("u", press); };
+    picture.Click = [&] { order += "c "; };
+    EXPECT_EQ(run.Play(), 0);
+    EXPECT_EQ(order, "dl3,4 ul3,4 c dr5,6 ur5,6 dl100,50 ul100,50 c ");
+}
+
+TEST(Robot, BrowsesFolders) {
+    RobotRun run(
+        "set Form12.Drive1 /show\nexpect Form12.Drive1.Drive /show\nset Form12.Dir1 /show/b\n"
+        "expect Form12.Dir1.Path /show/b\nselect Form12.Drive1 1\nexpect Form12.Drive1.Drive C:\\\n");
+    model::Form12& form12 = run.windows.form12;
+    run.around.PutPicture(u"/show\\b\\1.jpg", 10, 10);
+    form12.Drive1.folders = form12.Dir1.folders = &run.around.folders;
+    form12.Show();
+    form12.Drive1.Refresh();
+    EXPECT_EQ(run.Play(), 0) << run.err.str();
 }
 
 TEST(Robot, MouseAndKeysReachEveryKindOfControl) {
@@ -92,6 +167,8 @@ TEST(Robot, MouseAndKeysReachEveryKindOfControl) {
     windows.form3.List1.KeyDown = [&](int code) { order += std::to_string(code); };
     EXPECT_EQ(run.Play(), 0);
     EXPECT_EQ(order, "wplLbb271346");
+    // Nothing listens to the right button, nor to keys on a button.
+    EXPECT_EQ(Unheard(run), (std::vector<Text>{u"rclick Form1.Picture1", u"key Form1.Command1"}));
 }
 
 TEST(Robot, SecondPressOfADoubleClickNeedsTheControlToBeStillThere) {

@@ -6,6 +6,8 @@
 # trace: "event":"dialog","title":"パラピコ　配布用ＫＶＳファイルの保存","save":true
 # trace: "event":"message","title":"配布用ＫＶＳファイルの保存","text":"配布用ＫＶＳファイルを作成しますか？\r\n配布用ＫＶＳファイルはスライドリストのパスが消去され、\r\nＫＶＳファイルを開いた時にスライドリストの画像パスが\r\nＫＶＳファイルのパスに変換されます。\r\nＫＶＳファイルと画像は同一フォルダに保存して下さい。","flags":36
 # trace: "event":"message","title":"新規作成","text":"スライドリストとすべての設定を初期状態にしますか ?","flags":36,"answer":"no"
+# unheard: Form1.mnuNEW
+# unheard: Form1.mnuOPEN
 choose
 menu mnuOPEN
 expect DocumentPath ""

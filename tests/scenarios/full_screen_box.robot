@@ -1,5 +1,6 @@
 # A person drives the show with the control box alone.
 # slides: 0 a.png 3000 b.png 5000 c.png 5100 d.png 5200 c.png 6000 d.png 9000 e.png
+# unheard: Slidescreen2.Command5
 choose five.kvs
 menu mnuOPEN
 menu mnuCTL 0

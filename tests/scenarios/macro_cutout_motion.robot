@@ -4,6 +4,7 @@
 # trace: {"t":4000,"event":"cutout","index":1,"x":20,"y":20,
 # trace: {"t":5000,"event":"cutout","index":1,"x":120,"y":70,"width":60,"height":40,
 # trace: "shape":3,"state":"moved"}
+# unheard: Form1.Picture2(1)
 choose pieces.kvs
 menu mnuOPEN
 @1000 click Form1.Command1

@@ -9,6 +9,7 @@
 # no trace: "index":3,
 # no trace: "index":63,
 # no trace: "event":"message"
+# unheard: Form1.Picture2(5)
 choose edge_pieces.kvs
 menu mnuOPEN
 click Form1.Command1

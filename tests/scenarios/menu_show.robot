@@ -1,4 +1,7 @@
 # While a show runs its menus are off; keys start and pause it, and move it while it is paused.
+# unheard: Form1
+# unheard: Form1.mnuNEW
+# unheard: Form1.mnuTEXT(1)
 choose five.kvs
 menu mnuOPEN
 expect Form1.mnuOPTION.Enabled true

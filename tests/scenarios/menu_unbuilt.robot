@@ -1,7 +1,6 @@
 # Entries and buttons whose windows are not built yet say so at each press, stay enabled, and leave the
 # main window where it is. A choice stands all the same.
 # trace: "t":100,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":200,"event":"message","title":"","text":"この版にはまだありません。","flags":0
 # trace: "t":300,"event":"message","title":"","text":"この版にはまだありません。","flags":0
 # trace: "t":400,"event":"message","title":"","text":"この版にはまだありません。","flags":0
 # trace: "t":500,"event":"message","title":"","text":"この版にはまだありません。","flags":0
@@ -14,7 +13,6 @@
 # trace: "t":1200,"event":"message","title":"","text":"この版にはまだありません。","flags":0
 # no trace: "unheard"
 @100 menu mnuWAVLIST
-@200 menu mnuRENF
 @300 menu mnuICHI
 @400 menu mnuURU
 @500 click Form1.Command6

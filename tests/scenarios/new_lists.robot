@@ -4,6 +4,7 @@
 # trace: "t":5000,"event":"message","title":"新規作成","text":"スライドリストとすべての設定を初期状態にしますか ?","flags":36,"answer":"yes"}
 # no trace: "event":"message","title":"一括取消"
 # no trace: "unanswered"
+# unheard: Form1.Command3
 @1000 key Slidescreen 27
 +100 expect Form1.Visible true
 click Form1.Command3

@@ -1,5 +1,7 @@
 # While a show is paused, the two buttons move by hand; both stop at the ends of the list.
 # slides: 0 a.png 3000 b.png 3500 c.png 3500 d.png 3500 e.png 4000 d.png 4000 c.png 4000 b.png 4000 a.png 9000 b.png
+# unheard: Form1.Command5
+# unheard: Form1.Command7
 choose five.kvs
 menu mnuOPEN
 click Form1.Command1

@@ -1,6 +1,8 @@
 # Without slides START cannot be pressed, and saving is refused.
 # no trace: "event":"slide"
 # trace: "title":"ファイルの保存","text":"スライドリストがないので保存できんません。","flags":48
+# unheard: Form1.Command1
+# unheard: Form1.Command4
 click Form1.Command1
 click Form1.Command4
 expect ShowRunning 0

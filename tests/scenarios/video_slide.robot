@@ -5,6 +5,7 @@
 # trace: "t":4000,"event":"video","action":"play"
 # trace: "t":6500,"event":"window","name":"Form24","state":"unloaded"
 # no trace: "event":"message"
+# unheard: Form1.Command3
 choose film.kvs
 menu mnuOPEN
 @1000 click Form1.Command1

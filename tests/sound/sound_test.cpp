@@ -247,7 +247,7 @@ TEST(StartSound, OneFailureIsTriedAgain) {
         held.failures = failures;
         Application app{platform::Platform{
             player.loop, held, player.dialogs, player.monitors, player.imaging, player.textRenderer,
-            player.sound, player.video, player.system, player.trace, player.codePage}};
+            player.sound, player.video, player.system, player.trace, player.codePage, player.folders}};
         app.state.SoundMode = 3;
         app.state.WavFile = u"C:\\s\\b.WAV";
         sound::StartSound(app);

@@ -107,6 +107,18 @@ public:
         return file ? std::optional(file->date) : std::nullopt;
     }
 
+    /// What follows the folder in the paths of the files below it, as they were first spelt.
+    std::vector<Text> Below(TextView folder) const {
+        const Text key = Key(text::WithSeparator(folder));
+        std::vector<Text> below;
+        for (const auto& [path, file] : files_) {
+            if (path.starts_with(key)) {
+                below.push_back(file.path.substr(key.size()));
+            }
+        }
+        return below;
+    }
+
     static Text Key(TextView path) {
         Text key = text::Upper(path);
         for (char16_t& c : key) {

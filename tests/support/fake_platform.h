@@ -5,6 +5,7 @@
 #include <deque>
 #include <memory>
 #include <optional>
+#include <set>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -391,6 +392,40 @@ public:
     }
 };
 
+/// Folders are those that hold a file of FakeFiles, at any depth.
+class FakeFolders : public platform::Folders {
+public:
+    explicit FakeFolders(FakeFiles& files) : files_(files) {}
+    Text home = u"C:\\Users\\me";
+    Text homeFolders = u"C:\\Users";
+    std::vector<platform::Place> places{{platform::Place::Home, u"C:\\Users\\me", u"ホーム"},
+                                        {platform::Place::Drive, u"C:\\", u"C:\\"}};
+
+    bool IsFolder(TextView path) override {
+        return path == u"C:\\" || path == home || path == homeFolders ||
+               !files_.Below(path).empty();
+    }
+    std::vector<Text> Subfolders(TextView path) override { return Names(path, true); }
+    std::vector<Text> Files(TextView path, TextView) override { return Names(path, false); }
+    Text Home() override { return home; }
+    Text HomeFolders() override { return homeFolders; }
+    std::vector<platform::Place> Places() override { return places; }
+
+private:
+    std::vector<Text> Names(TextView path, bool folders) {
+        std::set<Text> names;
+        for (const Text& rest : files_.Below(path)) {
+            const size_t separator = rest.find(u'\\');
+            if ((separator != Text::npos) == folders) {
+                names.insert(rest.substr(0, separator));
+            }
+        }
+        return {names.begin(), names.end()};
+    }
+
+    FakeFiles& files_;
+};
+
 /// All of them, and one Application that lives in them with its start defaults set.
 struct FakePlatform {
     FakeLoop loop;
@@ -403,9 +438,10 @@ struct FakePlatform {
     FakeVideo video{loop};
     FakeSystem system;
     FakeTrace trace;
+    FakeFolders folders{files};
     posix_adapter::IconvCodePage codePage;
     Application app{platform::Platform{loop, files, dialogs, monitors, imaging, textRenderer, sound,
-                                       video, system, trace, codePage}};
+                                       video, system, trace, codePage, folders}};
 
     FakePlatform();
     ~FakePlatform();

@@ -17,4 +17,14 @@ std::string JsonUtf8(std::string_view value);
 /// same; what JSON cannot hold (not a number, infinite) is null.
 std::string JsonNumber(double value);
 
+/// "[1,2]": every element by `write`.
+template <class Elements, class Write>
+std::string JsonArray(const Elements& elements, const Write& write) {
+    std::string json = "[";
+    for (const auto& element : elements) {
+        json += (json.size() > 1 ? "," : "") + write(element);
+    }
+    return json + "]";
+}
+
 }  // namespace posix_adapter

@@ -14,12 +14,9 @@ struct ValueWriter {
     std::string operator()(bool value) const { return value ? "true" : "false"; }
     std::string operator()(const Text& value) const { return JsonText(value); }
     std::string operator()(std::nullptr_t) const { return "null"; }
-    std::string operator()(const std::vector<Text>& rows) const {
-        std::string json = "[";
-        for (const Text& row : rows) {
-            json += (json.size() > 1 ? "," : "") + JsonText(row);
-        }
-        return json + "]";
+    template <class Element>
+    std::string operator()(const std::vector<Element>& elements) const {
+        return JsonArray(elements, *this);
     }
 };
 

@@ -144,19 +144,53 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
     }
 }
 
+/// The place in the units that the rules reckon in.
+model::MousePress CanvasWidget::PressOf(const QMouseEvent& event, bool right) const {
+    const double factor = Scale() / box_->canvas.Scaling().Factor();
+    const QPointF place = event.position() * factor;
+    return {right, static_cast<int>(std::floor(place.x())),
+            static_cast<int>(std::floor(place.y()))};
+}
+
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
+    const bool right = event->button() == Qt::RightButton;
+    const bool heard = right ? box_ && (box_->MouseDown || box_->MouseUp)
+                             : box_ && event->button() == Qt::LeftButton;
     // Taken, so that the release comes here.
-    event->setAccepted(box_ != nullptr && event->button() == Qt::LeftButton);
+    event->setAccepted(heard);
+    second_ = event->type() == QEvent::MouseButtonDblClick;
+    if (heard) {
+        gate_->Guarded([&] { box_->HoldDown(PressOf(*event, right)); });
+    }
+}
+
+void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (box_ && box_->MouseMove) {
+        const bool right = event->buttons().testFlag(Qt::RightButton);
+        gate_->Guarded([&] { box_->Drag(PressOf(*event, right)); });
+    }
 }
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (box_ && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
-        gate_->Guarded([this] {
-            if (box_->Reachable()) {
-                box_->Click();
-            }
-        });
+    const bool right = event->button() == Qt::RightButton;
+    if (!box_ || (!right && event->button() != Qt::LeftButton)) {
+        return;
     }
+    const bool inside = rect().contains(event->pos());
+    const bool again = second_ && inside && !right && box_->DblClick;
+    second_ = false;
+    gate_->Guarded([&] {
+        const model::MousePress press = PressOf(*event, right);
+        if (again) {
+            box_->PressAgain(press);
+        } else {
+            box_->Release(press, inside);
+        }
+    });
 }
 
 void CanvasWidget::keyPressEvent(QKeyEvent* event) {
@@ -165,11 +199,7 @@ void CanvasWidget::keyPressEvent(QKeyEvent* event) {
         event->ignore();  // goes on to the window
         return;
     }
-    gate_->Guarded([&] {
-        if (box_->Reachable()) {
-            box_->KeyDown(key);
-        }
-    });
+    gate_->Guarded([&] { box_->PressKey(key); });
 }
 
 }  // namespace qt_adapter

@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "adapters/qt/gate.h"
-#include "model/control.h"
+#include "model/picture_controls.h"
 
 namespace qt_adapter {
 
@@ -41,14 +41,19 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    model::MousePress PressOf(const QMouseEvent& event, bool right) const;
+
     model::PictureBox* box_ = nullptr;
     Gate* gate_ = nullptr;
     bool physical_ = false;
     bool flushQueued_ = false;
+    bool second_ = false;  // the press that is held is the second of a double click
 };
 
 }  // namespace qt_adapter

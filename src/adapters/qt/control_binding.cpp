@@ -13,12 +13,17 @@
 #include <QRadioButton>
 #include <cmath>
 
+#include "adapters/qt/browser_binding.h"
 #include "adapters/qt/canvas_widget.h"
 #include "adapters/qt/convert.h"
+#include "adapters/qt/grid_binding.h"
+#include "adapters/qt/image_widget.h"
 #include "adapters/qt/list_binding.h"
+#include "adapters/qt/number_bindings.h"
 #include "adapters/qt/qt_text_renderer.h"
 #include "adapters/qt/stage_widget.h"
 #include "adapters/qt/video_widget.h"
+#include "model/controls.h"
 #include "platform/monitors.h"
 
 namespace qt_adapter {
@@ -35,7 +40,7 @@ public:
                   const CanvasWidget* host)
         : ControlBinding(button, widget, gate, host), button_(button), face_(widget) {
         connect(&widget, &QAbstractButton::clicked, this,
-                [this] { Act([this] { button_.Click(); }); });
+                [this] { Act([this] { button_.Press(); }); });
         Sync();
     }
 
@@ -62,11 +67,8 @@ class CheckBinding : public ControlBinding {
 public:
     CheckBinding(model::CheckBox& box, QCheckBox& widget, Gate& gate)
         : ControlBinding(box, widget, gate, nullptr), box_(box), face_(widget) {
-        connect(&widget, &QCheckBox::clicked, this, [this](bool on) {
-            Act([&] {
-                box_.Value = on ? 1 : 0;
-                box_.Click();
-            });
+        connect(&widget, &QCheckBox::clicked, this, [this] {
+            Act([this] { box_.Press(); });
             SyncOwn();
         });
         Sync();
@@ -87,24 +89,11 @@ class OptionBinding : public ControlBinding {
 public:
     OptionBinding(model::OptionButton& option, QRadioButton& widget, Gate& gate)
         : ControlBinding(option, widget, gate, nullptr), option_(option), face_(widget) {
-        // The model may have all of a group off.
+        // The model says which are off.
         widget.setAutoExclusive(false);
         connect(&widget, &QRadioButton::clicked, this, [this] {
-            Act([this] {
-                for (QRadioButton* other : face_.parentWidget()->findChildren<QRadioButton*>(
-                         Qt::FindDirectChildrenOnly)) {
-                    other->setChecked(other == &face_);
-                }
-                option_.Value = true;
-                option_.Click();
-            });
+            Act([this] { option_.Press(); });
             SyncOwn();
-        });
-        // Another option of the group was chosen.
-        connect(&widget, &QRadioButton::toggled, this, [this](bool on) {
-            if (!on && option_.Value) {
-                Act([this] { option_.Value = false; });
-            }
         });
         Sync();
     }
@@ -190,15 +179,8 @@ public:
     TextBinding(model::TextBox& box, Edit& widget, Gate& gate)
         : ControlBinding(box, widget, gate, nullptr), box_(box), face_(widget) {
         Sync();
-        connect(&widget, &Edit::textChanged, this, [this] {
-            const Text content = FromQt(Shown());
-            if (content != box_.Content()) {
-                Act([&] {
-                    box_.Content = content;
-                    box_.Change();
-                });
-            }
-        });
+        connect(&widget, &Edit::textChanged, this,
+                [this] { Act([this] { box_.Enter(FromQt(Shown())); }); });
     }
 
 protected:
@@ -246,6 +228,18 @@ protected:
 
 private:
     VideoWidget& screen_;
+};
+
+class ImageBinding : public ControlBinding {
+public:
+    ImageBinding(model::Image& image, ImageWidget& widget, Gate& gate)
+        : ControlBinding(image, widget, gate, nullptr) {
+        widget.Attach(image, gate);
+        Sync();
+    }
+
+protected:
+    void SyncOwn() override {}
 };
 
 class PictureBinding : public ControlBinding {
@@ -426,6 +420,54 @@ std::unique_ptr<ControlBinding> MakeBinding(model::VisibleControl& control, QWid
             if (auto* view = qobject_cast<QListView*>(&widget)) {
                 return std::make_unique<ListBinding>(static_cast<model::ListBox&>(control), *view,
                                                      gate);
+            }
+            break;
+        case ControlKind::FileList:
+            if (auto* view = qobject_cast<QListView*>(&widget)) {
+                return std::make_unique<ListBinding>(static_cast<model::ListBox&>(control), *view,
+                                                     gate);
+            }
+            break;
+        case ControlKind::ComboBox:
+            if (auto* box = qobject_cast<QComboBox*>(&widget)) {
+                return std::make_unique<ComboBinding>(static_cast<model::ListBox&>(control), *box,
+                                                      gate);
+            }
+            break;
+        case ControlKind::DriveList:
+            if (auto* box = qobject_cast<QComboBox*>(&widget)) {
+                return std::make_unique<DriveBinding>(static_cast<model::DriveList&>(control), *box,
+                                                      gate);
+            }
+            break;
+        case ControlKind::FolderList:
+            if (auto* tree = qobject_cast<QTreeView*>(&widget)) {
+                return std::make_unique<FolderBinding>(static_cast<model::FolderList&>(control),
+                                                       *tree, gate);
+            }
+            break;
+        case ControlKind::Grid:
+            if (auto* table = qobject_cast<QTableView*>(&widget)) {
+                return std::make_unique<GridBinding>(static_cast<model::Grid&>(control), *table,
+                                                     gate);
+            }
+            break;
+        case ControlKind::Calendar:
+            if (auto* month = qobject_cast<QCalendarWidget*>(&widget)) {
+                return std::make_unique<CalendarBinding>(static_cast<model::Calendar&>(control),
+                                                         *month, gate);
+            }
+            break;
+        case ControlKind::ScrollBar:
+            if (auto* bar = qobject_cast<QAbstractSlider*>(&widget)) {
+                return std::make_unique<ScrollBinding>(static_cast<model::ScrollBar&>(control),
+                                                       *bar, gate);
+            }
+            break;
+        case ControlKind::Image:
+            if (auto* image = qobject_cast<ImageWidget*>(&widget)) {
+                return std::make_unique<ImageBinding>(static_cast<model::Image&>(control), *image,
+                                                      gate);
             }
             break;
         case ControlKind::PictureBox:

@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "adapters/qt/canvas_widget.h"
+#include "adapters/qt/image_widget.h"
 #include "adapters/qt/stage_widget.h"
 #include "adapters/qt/video_widget.h"
 
@@ -43,6 +44,8 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
     QWidget* widget = nullptr;
     if (className == "CanvasWidget") {
         widget = new CanvasWidget(parent);
+    } else if (className == "ImageWidget") {
+        widget = new ImageWidget(parent);
     } else if (className == "StageWidget") {
         widget = new StageWidget(parent);
     } else if (className == "VideoWidget") {

@@ -21,8 +21,9 @@ ListBinding::ListBinding(model::ListBox& list, QListView& view, Gate& gate)
         [this](const QItemSelection& on, const QItemSelection& off) { FollowSelection(on, off); });
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current) { FollowCurrent(current); });
-    connect(&view, &QListView::clicked, this, [this] { Act([this] { list_.Click(); }); });
-    connect(&view, &QListView::doubleClicked, this, [this] { Act([this] { list_.DblClick(); }); });
+    connect(&view, &QListView::clicked, this, [this] { Act([this] { list_.Press(); }); });
+    connect(&view, &QListView::doubleClicked, this,
+            [this] { Act([this] { list_.PressAgain(); }); });
     connect(view.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         const QModelIndex top = view_.indexAt(QPoint(1, 1));
         if (!following_ && top.isValid()) {
@@ -82,7 +83,7 @@ bool ListBinding::eventFilter(QObject*, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = VirtualKey(static_cast<QKeyEvent*>(event)->key());
         if (key != 0) {
-            Act([&] { list_.KeyDown(key); });
+            Act([&] { list_.PressKey(key); });
         }
     }
     return false;
@@ -112,7 +113,7 @@ void ListBinding::FollowCurrent(const QModelIndex& current) {
     // Moving by keys counts as a click; with the mouse the click itself is told.
     if (QGuiApplication::mouseButtons() == Qt::NoButton && current.isValid()) {
         QMetaObject::invokeMethod(
-            this, [this] { Act([this] { list_.Click(); }); }, Qt::QueuedConnection);
+            this, [this] { Act([this] { list_.Press(); }); }, Qt::QueuedConnection);
     }
 }
 

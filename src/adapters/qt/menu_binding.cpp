@@ -18,16 +18,6 @@ std::string ArrayName(const model::MenuEntry& entry) {
     return bracket == std::string::npos ? std::string() : entry.Name().substr(0, bracket);
 }
 
-/// Reachable by a person: shown and enabled all the way up.
-bool Reachable(const model::MenuEntry& entry) {
-    for (const model::MenuEntry* e = &entry; e; e = e->ParentEntry()) {
-        if (!e->Visible || !e->Enabled) {
-            return false;
-        }
-    }
-    return true;
-}
-
 }  // namespace
 
 MenuBinding::MenuBinding(model::Window& window, QMenuBar& bar, Gate& gate) : gate_(gate) {
@@ -112,11 +102,7 @@ void MenuBinding::Chosen(model::MenuEntry& entry) {
             Sync(*other);
         }
     }
-    gate_.Guarded([&] {
-        if (Reachable(entry)) {
-            entry.Click();
-        }
-    });
+    gate_.Guarded([&] { entry.Choose(); });
 }
 
 }  // namespace qt_adapter

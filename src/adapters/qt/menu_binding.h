@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "adapters/qt/gate.h"
+#include "model/menu.h"
 #include "model/window.h"
 
 class QAction;

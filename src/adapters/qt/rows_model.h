@@ -3,7 +3,7 @@
 
 #include <QAbstractListModel>
 
-#include "model/control.h"
+#include "model/list_controls.h"
 
 namespace qt_adapter {
 

@@ -93,11 +93,7 @@ void VideoWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (!player_ || event->button() != Qt::LeftButton || !rect().contains(event->pos())) {
         return;
     }
-    gate_->Guarded([this] {
-        if (player_->Reachable()) {
-            player_->Click();
-        }
-    });
+    gate_->Guarded([this] { player_->Press(); });
 }
 
 void VideoWidget::keyPressEvent(QKeyEvent* event) {
@@ -106,11 +102,7 @@ void VideoWidget::keyPressEvent(QKeyEvent* event) {
         event->ignore();
         return;
     }
-    gate_->Guarded([&] {
-        if (player_->Reachable()) {
-            player_->KeyDown(key);
-        }
-    });
+    gate_->Guarded([&] { player_->PressKey(key); });
 }
 
 }  // namespace qt_adapter

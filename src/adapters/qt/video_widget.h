@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "adapters/qt/gate.h"
-#include "model/control.h"
+#include "model/picture_controls.h"
 #include "platform/video.h"
 
 namespace qt_adapter {

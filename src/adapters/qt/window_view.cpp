@@ -22,12 +22,16 @@
 #include "adapters/qt/glyph_icon.h"
 #include "adapters/qt/qt_monitors.h"
 #include "adapters/qt/virtual_keys.h"
+#include "model/controls.h"
 
 namespace qt_adapter {
 
 namespace {
 
 constexpr QRgb kShapeOnStage = 0xFF5F6368;  // grey that is seen on black without shouting
+
+constexpr int kKeyEnter = 13;
+constexpr int kKeyEscape = 27;
 
 QStringList Words(const QObject& object, const char* property) {
     return object.property(property).toString().split(' ', Qt::SkipEmptyParts);
@@ -474,7 +478,10 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
         case QEvent::KeyPress: {
             const int key = VirtualKey(static_cast<QKeyEvent*>(event)->key());
             if (key != 0) {
-                gate_.Guarded([&] { window_.KeyDown(key); });
+                gate_.Guarded([&] {
+                    window_.PressKey(key);
+                    PressButtonOf(key);
+                });
             }
             return false;
         }
@@ -484,11 +491,7 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
         case QEvent::MouseButtonRelease: {
             auto* mouse = static_cast<QMouseEvent*>(event);
             if (mouse->button() == Qt::LeftButton && root_->rect().contains(mouse->pos())) {
-                gate_.Guarded([this] {
-                    if (window_.Reachable()) {
-                        window_.Click();
-                    }
-                });
+                gate_.Guarded([this] { window_.Press(); });
             }
             return true;
         }
@@ -498,16 +501,30 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
                 this, [this] { TakeNewColors(); }, Qt::QueuedConnection);
             return false;
         case QEvent::DragEnter:
-            if (window_.FilesDropped && HasFiles(*static_cast<QDropEvent*>(event))) {
-                static_cast<QDropEvent*>(event)->acceptProposedAction();
+        case QEvent::DragMove: {
+            auto& drag = *static_cast<QDropEvent*>(event);
+            if (HasFiles(drag) && TakerOfDrop(drag.position().toPoint())) {
+                drag.acceptProposedAction();
                 return true;
             }
-            return false;
+            // Elsewhere in the window somebody may take them.
+            drag.setAccepted(event->type() == QEvent::DragEnter && HasFiles(drag) && TakesDrops());
+            return true;
+        }
         case QEvent::Drop:
             Dropped(*static_cast<QDropEvent*>(event));
             return true;
         default:
             return false;
+    }
+}
+
+/// Enter and Esc press the buttons that the form names for them.
+void WindowView::PressButtonOf(int key) {
+    const char* property = key == kKeyEnter ? "enterPresses" : key == kKeyEscape ? "escPresses" : "";
+    const std::string name = root_->property(property).toString().toStdString();
+    if (auto* button = dynamic_cast<model::Button*>(window_.FindControl(name))) {
+        button->Press();
     }
 }
 
@@ -544,6 +561,28 @@ void WindowView::StateChangedByPerson() {
     }
 }
 
+bool WindowView::TakesDrops() const {
+    return window_.FilesDropped ||
+           std::any_of(bindings_.begin(), bindings_.end(), [](const auto& binding) {
+               return static_cast<bool>(binding->Control().FilesDropped);
+           });
+}
+
+/// The control at that place, or the window, that files can be dropped on; null where nobody
+/// takes them.
+model::VisibleControl* WindowView::TakerOfDrop(QPoint place) {
+    for (QWidget* widget = root_->childAt(place); widget && widget != root_;
+         widget = widget->parentWidget()) {
+        for (const auto& binding : bindings_) {
+            if (&binding->Widget() == widget && binding->Control().FilesDropped &&
+                binding->Control().Reachable()) {
+                return &binding->Control();
+            }
+        }
+    }
+    return window_.FilesDropped ? &window_ : nullptr;
+}
+
 void WindowView::Dropped(const QDropEvent& event) {
     std::vector<Text> files;
     for (const QUrl& url : event.mimeData()->urls()) {
@@ -551,13 +590,17 @@ void WindowView::Dropped(const QDropEvent& event) {
             files.push_back(FromQt(QFileInfo(url.toLocalFile()).absoluteFilePath()));
         }
     }
+    model::VisibleControl* taker = TakerOfDrop(event.position().toPoint());
+    if (!taker) {
+        return;
+    }
     // Later, so that the program dragged from does not wait for boxes that come up here.
     QMetaObject::invokeMethod(
         this,
-        [this, files] {
+        [this, taker, files] {
             gate_.Guarded([&] {
                 if (window_.Reachable()) {
-                    window_.FilesDropped(files);
+                    taker->Drop(files);
                 }
             });
         },

@@ -75,6 +75,9 @@ private:
     void Resized();
     void TakeNewColors();
     void StateChangedByPerson();
+    void PressButtonOf(int key);
+    bool TakesDrops() const;
+    model::VisibleControl* TakerOfDrop(QPoint place);
     void Dropped(const QDropEvent& event);
 
     model::Window& window_;

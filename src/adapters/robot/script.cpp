@@ -159,9 +159,14 @@ void ReadMenu(Arguments& from, Action& action) {
 
 void ReadSelect(Arguments& from, Action& action) {
     ReadControl(from, action);
-    do {
+    while (!from.AtEnd()) {
         action.numbers.push_back(from.Number("row"));
-    } while (!from.AtEnd());
+    }
+}
+
+void ReadMove(Arguments& from, Action& action) {
+    ReadControl(from, action);
+    action.numbers = {from.Number("row")};
 }
 
 void ReadSet(Arguments& from, Action& action) {
@@ -228,9 +233,11 @@ constexpr Keyword kKeywords[] = {
     {"rclick", ActionKind::RightClick, ReadMouse, "rclick W[.C] [X Y]"},
     {"key", ActionKind::Key, ReadKey, "key W[.C] CODE"},
     {"menu", ActionKind::Menu, ReadMenu, "menu ENTRY [INDEX]"},
-    {"select", ActionKind::Select, ReadSelect, "select W.L ROW..."},
+    {"select", ActionKind::Select, ReadSelect,
+     "select W.C [ROW...], select W.G ROW COL [ROW2 COL2]"},
     {"set", ActionKind::Set, ReadSet, "set W.C VALUE"},
     {"drop", ActionKind::Drop, ReadDrop, "drop W[.C] PATH..."},
+    {"move", ActionKind::Move, ReadMove, "move W.L TO"},
     {"close", ActionKind::Close, ReadClose, "close W"},
     {"answer", ActionKind::Answer, ReadAnswer, "answer yes|no|ok|cancel"},
     {"input", ActionKind::Input, ReadOptionalText, "input [TEXT]"},
@@ -256,6 +263,9 @@ Action ReadAction(std::string_view line) {
     if (word.front() == '@' || word.front() == '+') {
         action.due = ReadDue(word);
         word = words.Plain("action");
+    } else if (word == "during") {
+        action.due = {Due::During, 0};
+        word = words.Plain("action");
     }
     for (const Keyword& keyword : kKeywords) {
         if (keyword.name != word) {
@@ -276,6 +286,15 @@ Action ReadAction(std::string_view line) {
 }
 
 }  // namespace
+
+std::string_view ActionWord(ActionKind kind) {
+    for (const Keyword& keyword : kKeywords) {
+        if (keyword.kind == kind) {
+            return keyword.name;
+        }
+    }
+    return {};
+}
 
 std::vector<Action> ParseScript(std::string_view content, const std::string& fileName) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";

@@ -26,6 +26,7 @@ enum class ActionKind {
     Select,
     Set,
     Drop,
+    Move,
     Close,
     Answer,
     Input,
@@ -41,7 +42,8 @@ struct Due {
     enum Kind {
         Next,     // at the moment the action before began
         After,    // so much later than that
-        Absolute  // after program start, but never before the action before it
+        Absolute,  // after program start, but never before the action before it
+        During     // at the next pump of what the action before it started
     } kind = Next;
     double milliseconds = 0;
 };
@@ -54,10 +56,13 @@ struct Action {
     std::string window;   // of Click .. Close but Menu; of Shot where one is named
     std::string control;  // empty: the window itself
     std::string name;     // of Print and Expect; Menu: the entry, with "(index)" where it has one
-    std::vector<int> numbers;  // point, key code, rows
+    std::vector<int> numbers;  // point, key code, rows, cells
     std::optional<Text> text;  // Set, Input, Choose (none: cancel), Answer, Expect, Shot
     std::vector<Text> paths;   // Drop
 };
+
+/// The word that names it in a script.
+std::string_view ActionWord(ActionKind kind);
 
 /// Reads a whole script in UTF-8. Throws ScriptError at the first line that is none.
 std::vector<Action> ParseScript(std::string_view content, const std::string& fileName);

@@ -1,10 +1,18 @@
 #include "adapters/robot/scripted_user.h"
 
 #include <algorithm>
+#include <charconv>
 #include <filesystem>
 #include <utility>
 
 #include "adapters/robot/values.h"
+#include "model/controls.h"
+#include "model/grid.h"
+#include "model/list_controls.h"
+#include "model/menu.h"
+#include "model/picture_controls.h"
+#include "model/scroll_bar.h"
+#include "platform/monitors.h"
 
 namespace robot {
 
@@ -12,6 +20,7 @@ namespace {
 
 constexpr int kExitFailedExpectation = 1;
 constexpr int kExitBadScript = 2;
+constexpr int kTwipsInTwoPixels = 2 * platform::kTwipsPerPixel;
 
 /// A person's file dialog and file manager give whole paths. Drive letters and share names are
 /// whole already.
@@ -36,46 +45,23 @@ std::optional<bool> OnOrOff(TextView value) {
     return std::nullopt;
 }
 
-void ToggleCheck(model::CheckBox& box) {
-    box.Value = box.Value ? 0 : 1;
-    box.Click();
+/// "YYYY/MM/DD" in digits.
+bool IsDay(TextView value) {
+    constexpr TextView kForm = u"0000/00/00";
+    return value.size() == kForm.size() &&
+           std::equal(value.begin(), value.end(), kForm.begin(), [](char16_t c, char16_t form) {
+               return form == u'/' ? c == u'/' : c >= u'0' && c <= u'9';
+           });
 }
 
-/// Of the option buttons of a window one is on.
-void ChooseOption(model::OptionButton& chosen) {
-    for (model::Control* control : chosen.Parent().Controls()) {
-        auto* other = dynamic_cast<model::OptionButton*>(control);
-        if (other && other != &chosen) {
-            other->Value = false;
-        }
+std::optional<int> WholeNumber(TextView value) {
+    const std::string digits = text::ToUtf8(value);
+    int number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc() || end != digits.data() + digits.size()) {
+        return std::nullopt;
     }
-    chosen.Value = true;
-    chosen.Click();
-}
-
-/// One press of the left button. Changes and tells what such a control does by itself.
-void Press(model::Control& control) {
-    if (auto* button = dynamic_cast<model::Button*>(&control)) {
-        button->Click();
-    } else if (auto* check = dynamic_cast<model::CheckBox*>(&control)) {
-        ToggleCheck(*check);
-    } else if (auto* option = dynamic_cast<model::OptionButton*>(&control)) {
-        ChooseOption(*option);
-    } else if (auto* list = dynamic_cast<model::ListBox*>(&control)) {
-        list->Click();
-    } else if (auto* picture = dynamic_cast<model::PictureBox*>(&control)) {
-        picture->Click();
-    } else if (auto* player = dynamic_cast<model::Player*>(&control)) {
-        player->Click();
-    } else if (auto* window = dynamic_cast<model::Window*>(&control)) {
-        window->Click();
-    }
-}
-
-/// These take the second press of a double click as a click of its own.
-bool TakesEveryPress(model::ControlKind kind) {
-    return kind == model::ControlKind::Button || kind == model::ControlKind::CheckBox ||
-           kind == model::ControlKind::OptionButton;
+    return number;
 }
 
 bool IsFieldless(ActionKind kind) {
@@ -90,15 +76,6 @@ platform::Answer AnswerOf(const Text& word) {
                            : platform::Answer::Cancel;
 }
 
-bool Reachable(const model::MenuEntry& entry) {
-    for (const model::MenuEntry* one = &entry; one; one = one->ParentEntry()) {
-        if (!one->Visible || !one->Enabled) {
-            return false;
-        }
-    }
-    return true;
-}
-
 /// Keys that menu entries take while their window has the keyboard, and their numbers.
 struct ShortcutKey {
     int code;
@@ -107,20 +84,20 @@ struct ShortcutKey {
 constexpr ShortcutKey kShortcutKeys[] = {
     {32, u"Space"}, {37, u"Left"}, {39, u"Right"}, {116, u"F5"}};
 
-/// One entry at most, as of all that bear the key only one can be chosen.
-void PressShortcut(model::Window& window, int code) {
+/// One entry at most, as of all that bear the key only one can be chosen. False when none was.
+bool PressShortcut(model::Window& window, int code) {
     for (const ShortcutKey& key : kShortcutKeys) {
         if (key.code != code) {
             continue;
         }
         for (model::Control* control : window.Controls()) {
             auto* entry = dynamic_cast<model::MenuEntry*>(control);
-            if (entry && entry->Shortcut() == key.name && Reachable(*entry)) {
-                entry->Click();
-                return;
+            if (entry && entry->Shortcut() == key.name && entry->Reachable()) {
+                return entry->Choose();
             }
         }
     }
+    return false;
 }
 
 /// A press beside a cut-out shape is no press on the piece.
@@ -138,6 +115,49 @@ model::Control& CanvasOf(model::Window& window) {
         }
     }
     return window;
+}
+
+model::ListBox* AsList(model::Control& control) {
+    return dynamic_cast<model::ListBox*>(&control);
+}
+
+const model::ListBox* AsList(const model::Control& control) {
+    return dynamic_cast<const model::ListBox*>(&control);
+}
+
+/// Why the action's numbers cannot be selected there; empty when they can.
+std::string WhyNoSelect(const Action& action, const model::Control& control) {
+    if (control.Kind() == model::ControlKind::Grid) {
+        const size_t count = action.numbers.size();
+        return count == 2 || count == 4 ? "" : "a cell is ROW COL, a range ROW COL ROW2 COL2";
+    }
+    return AsList(control) ? "" : action.control + " is no list";
+}
+
+/// Why the action's value cannot be given to a control of that kind; empty when it can.
+std::string WhyNoSet(const Action& action, model::ControlKind kind) {
+    const Text& value = *action.text;
+    switch (kind) {
+        case model::ControlKind::TextBox:
+        case model::ControlKind::FolderList:
+        case model::ControlKind::DriveList:
+            return "";
+        case model::ControlKind::Calendar:
+            return IsDay(value) ? "" : "this is no day YYYY/MM/DD: " + text::ToUtf8(value);
+        case model::ControlKind::ScrollBar:
+            return WholeNumber(value) ? "" : "this is no whole number: " + text::ToUtf8(value);
+        case model::ControlKind::CheckBox:
+        case model::ControlKind::OptionButton:
+            break;
+        default:
+            return action.control + " has no value to set";
+    }
+    const std::optional<bool> on = OnOrOff(value);
+    if (!on) {
+        return "neither 0 nor 1: " + text::ToUtf8(value);
+    }
+    const bool leaves = kind == model::ControlKind::OptionButton && !*on;
+    return leaves ? "an option is left by choosing another one" : "";
 }
 
 model::Control* FindTarget(model::Application& application, const Action& action) {
@@ -183,9 +203,14 @@ std::optional<double> ScriptedUser::NextDue() const {
         case Due::After:
             return previousRun_ + due.milliseconds;
         case Due::Next:
+        case Due::During:
             break;
     }
     return previousRun_;
+}
+
+bool ScriptedUser::NextComesDuring() const {
+    return next_ < script_.size() && script_[next_].due.kind == Due::During;
 }
 
 void ScriptedUser::RunNext() {
@@ -236,19 +261,13 @@ void ScriptedUser::Check(const Action& action) {
         kind == model::ControlKind::MenuEntry) {
         refuse(action.control + " is nothing that a person sees in the window");
     }
-    if (action.kind == ActionKind::Select && kind != model::ControlKind::ListBox) {
-        refuse(action.control + " is no list");
-    }
-    if (action.kind != ActionKind::Set || kind == model::ControlKind::TextBox) {
-        return;
-    }
-    const std::optional<bool> on = OnOrOff(*action.text);
-    if (kind != model::ControlKind::CheckBox && kind != model::ControlKind::OptionButton) {
-        refuse(action.control + " has no value to set");
-    } else if (!on) {
-        refuse("neither 0 nor 1: " + text::ToUtf8(*action.text));
-    } else if (kind == model::ControlKind::OptionButton && !*on) {
-        refuse("an option is left by choosing another one");
+    const std::string reason = action.kind == ActionKind::Select ? WhyNoSelect(action, *control)
+                               : action.kind == ActionKind::Move && !AsList(*control)
+                                   ? action.control + " is no list"
+                               : action.kind == ActionKind::Set ? WhyNoSet(action, kind)
+                                                                : std::string();
+    if (!reason.empty()) {
+        refuse(reason);
     }
 }
 
@@ -287,110 +306,122 @@ void ScriptedUser::Run(const Action& action) {
     }
     model::Window& window = *application_->windows.Find(action.window);
     model::Control& control = *FindTarget(*application_, action);
-    if (!CanUse(window, control)) {
-        return;
+    auto& target = static_cast<model::VisibleControl&>(control);
+    if (!CanUse(window, control) || !Act(action, window, target)) {
+        TraceUnheard(action);
     }
+}
+
+/// What a person does to a control that can be reached. False when it reached nothing.
+bool ScriptedUser::Act(const Action& action, model::Window& window, model::VisibleControl& target) {
     switch (action.kind) {
         case ActionKind::Key:
-            return Key(action, control);
+            return Key(action, target);
         case ActionKind::Select:
-            return Select(action, control);
+            return Select(action, target);
         case ActionKind::Set:
-            return Set(action, control);
+            return Set(action, target);
+        case ActionKind::Move:
+            return AsList(target)->DragTo(action.numbers.front());
         case ActionKind::Close:
             window.Unload();
-            return;
+            return true;
         case ActionKind::Drop: {
             std::vector<Text> paths;
             for (const Text& path : action.paths) {
                 paths.push_back(Absolute(path));
             }
-            return window.FilesDropped(paths);
+            return target.Drop(paths);
         }
         default:
-            return Mouse(action, window, control);
+            return Mouse(action, window, target);
     }
 }
 
-/// Nothing in the program asks yet for the right button.
-void ScriptedUser::Mouse(const Action& action, model::Window& window, model::Control& control) {
-    if (action.kind == ActionKind::RightClick) {
-        return;
+bool ScriptedUser::Mouse(const Action& action, model::Window& window,
+                         model::VisibleControl& target) {
+    model::MousePress press{action.kind == ActionKind::RightClick, target.Width / kTwipsInTwoPixels,
+                            target.Height / kTwipsInTwoPixels};
+    if (action.numbers.size() == 2) {
+        press.x = action.numbers[0];
+        press.y = action.numbers[1];
     }
-    if (Misses(action, control)) {
+    if (Misses(action, target)) {
         model::Control& beneath = CanvasOf(window);
-        if (CanUse(window, beneath)) {
-            Press(beneath);
-        }
-        return;
+        return CanUse(window, beneath) && static_cast<model::VisibleControl&>(beneath).Press(press);
     }
-    Press(control);
-    if (action.kind != ActionKind::DoubleClick || !CanUse(window, control)) {
-        return;
+    const bool reached = target.Press(press);
+    if (action.kind != ActionKind::DoubleClick || !CanUse(window, target)) {
+        return reached;
     }
-    if (TakesEveryPress(control.Kind())) {
-        Press(control);
-    } else if (auto* list = dynamic_cast<model::ListBox*>(&control)) {
-        list->DblClick();
-    }
+    return target.PressAgain(press) || reached;
 }
 
-void ScriptedUser::Key(const Action& action, model::Control& control) {
+bool ScriptedUser::Key(const Action& action, model::VisibleControl& target) {
     const int code = action.numbers.front();
-    if (auto* window = dynamic_cast<model::Window*>(&control)) {
-        window->KeyDown(code);
-        PressShortcut(*window, code);
-    } else if (auto* list = dynamic_cast<model::ListBox*>(&control)) {
-        list->KeyDown(code);
-    } else if (auto* picture = dynamic_cast<model::PictureBox*>(&control)) {
-        picture->KeyDown(code);
-    } else if (auto* player = dynamic_cast<model::Player*>(&control)) {
-        player->KeyDown(code);
-    }
+    const bool reached = target.PressKey(code);
+    auto* window = dynamic_cast<model::Window*>(&target);
+    return (window && PressShortcut(*window, code)) || reached;
 }
 
 void ScriptedUser::Menu(const Action& action) {
     model::Window& form1 = application_->windows.form1;
     auto& entry = dynamic_cast<model::MenuEntry&>(*form1.FindControl(action.name));
-    if (!CanUse(form1)) {
-        return;
-    }
-    if (Reachable(entry)) {
-        entry.Click();
+    if (!CanUse(form1) || !entry.Choose()) {
+        TraceUnheard(action);
     }
 }
 
-void ScriptedUser::Select(const Action& action, model::Control& control) {
-    auto& list = dynamic_cast<model::ListBox&>(control);
-    for (const int row : action.numbers) {
+bool ScriptedUser::Select(const Action& action, model::VisibleControl& target) {
+    const std::vector<int>& numbers = action.numbers;
+    if (auto* grid = dynamic_cast<model::Grid*>(&target)) {
+        const size_t end = numbers.size() - 2;
+        if (!grid->Choose(numbers[0], numbers[1], numbers[end], numbers[end + 1])) {
+            Fault(action, "no such cell");
+        }
+        return true;
+    }
+    model::ListBox& list = *AsList(target);
+    for (const int row : numbers) {
         if (row < 0 || row >= list.ListCount()) {
             Fault(action, "no such row: " + std::to_string(row));
         }
     }
-    for (int row = 0; row < list.ListCount(); ++row) {
-        list.Select(row, std::find(action.numbers.begin(), action.numbers.end(), row) !=
-                             action.numbers.end());
-    }
-    list.ListIndex = action.numbers.back();
-    list.Click();
+    return list.Choose(numbers);
 }
 
-void ScriptedUser::Set(const Action& action, model::Control& control) {
+bool ScriptedUser::Set(const Action& action, model::VisibleControl& target) {
     const Text& value = *action.text;
-    if (auto* box = dynamic_cast<model::TextBox*>(&control)) {
-        if (box->Content() != value) {
-            box->Content = value;
-            box->Change();
-        }
-    } else if (auto* check = dynamic_cast<model::CheckBox*>(&control)) {
-        if ((check->Value != 0) != OnOrOff(value).value()) {
-            ToggleCheck(*check);
-        }
-    } else if (auto* option = dynamic_cast<model::OptionButton*>(&control)) {
-        if (!option->Value) {
-            ChooseOption(*option);
-        }
+    if (auto* box = dynamic_cast<model::TextBox*>(&target)) {
+        return box->Enter(value);
     }
+    if (auto* check = dynamic_cast<model::CheckBox*>(&target)) {
+        return (check->Value != 0) == OnOrOff(value).value() || check->Press();
+    }
+    if (auto* option = dynamic_cast<model::OptionButton*>(&target)) {
+        return option->Value || option->Press();
+    }
+    if (auto* folder = dynamic_cast<model::FolderList*>(&target)) {
+        return folder->Open(Absolute(value));
+    }
+    if (auto* drive = dynamic_cast<model::DriveList*>(&target)) {
+        return drive->Open(Absolute(value));
+    }
+    if (auto* calendar = dynamic_cast<model::Calendar*>(&target)) {
+        return calendar->Choose(value);
+    }
+    auto* bar = dynamic_cast<model::ScrollBar*>(&target);
+    return bar && bar->MoveTo(WholeNumber(value).value());
+}
+
+/// An act that no person could do, or that nobody listens to.
+void ScriptedUser::TraceUnheard(const Action& action) {
+    const std::string name = action.kind == ActionKind::Menu ? "Form1." + action.name
+                             : action.control.empty()        ? action.window
+                                                             : action.window + "." + action.control;
+    around_.trace.Event("act", {{"action", text::FromUtf8(ActionWord(action.kind))},
+                                {"name", text::FromUtf8(name)},
+                                {"unheard", true}});
 }
 
 void ScriptedUser::Print(const Action& action) {

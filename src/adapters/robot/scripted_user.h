@@ -43,6 +43,7 @@ public:
     int ExitStatus();
 
     std::optional<double> NextDue() const override;
+    bool NextComesDuring() const override;
     void RunNext() override;
     void End() override;
 
@@ -50,11 +51,13 @@ private:
     void Check(const Action& action);
     void CheckMenuEntry(const Action& action);
     void Run(const Action& action);
-    void Mouse(const Action& action, model::Window& window, model::Control& control);
-    void Key(const Action& action, model::Control& control);
+    bool Act(const Action& action, model::Window& window, model::VisibleControl& target);
+    bool Mouse(const Action& action, model::Window& window, model::VisibleControl& target);
+    bool Key(const Action& action, model::VisibleControl& target);
     void Menu(const Action& action);
-    void Select(const Action& action, model::Control& control);
-    void Set(const Action& action, model::Control& control);
+    bool Select(const Action& action, model::VisibleControl& target);
+    bool Set(const Action& action, model::VisibleControl& target);
+    void TraceUnheard(const Action& action);
     void Print(const Action& action);
     void Expect(const Action& action);
     void Shot(const Action& action);

@@ -144,7 +144,7 @@ platform::Platform SilentPlatform::Get() {
             devices_->imaging, devices_->textRenderer,
             devices_->sound,   devices_->video,
             devices_->system,  devices_->trace,
-            codePage};
+            codePage,          folders};
 }
 
 }  // namespace robot

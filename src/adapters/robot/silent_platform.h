@@ -7,6 +7,7 @@
 
 #include "adapters/posix/iconv_code_page.h"
 #include "adapters/posix/posix_files.h"
+#include "adapters/posix/posix_folders.h"
 #include "platform/platform.h"
 
 namespace robot {
@@ -67,6 +68,7 @@ public:
     posix_adapter::PosixFiles posixFiles;
     GuardedFiles files{posixFiles};
     posix_adapter::IconvCodePage codePage;
+    posix_adapter::PosixFolders folders{files};
 
 private:
     struct Devices;

@@ -5,6 +5,8 @@
 #include <cmath>
 
 #include "adapters/posix/json.h"
+#include "model/grid.h"
+#include "model/list_controls.h"
 
 namespace robot {
 
@@ -85,6 +87,10 @@ std::optional<ScriptValue> ReadProperty(const model::Control& control, std::stri
         if (name == "SelCount") {
             return static_cast<double>(list->SelCount());
         }
+        if (name == "Selected") {
+            const std::vector<int> rows = list->SelectedRows();
+            return std::vector<double>(rows.begin(), rows.end());
+        }
     }
     return std::nullopt;
 }
@@ -96,6 +102,9 @@ std::optional<ScriptValue> ReadFromWindow(const model::Window& window, std::stri
     if (const model::Control* control = window.FindControl(rest)) {
         if (const auto* list = dynamic_cast<const model::ListBox*>(control)) {
             return RowsOf(*list);
+        }
+        if (const auto* grid = dynamic_cast<const model::Grid*>(control)) {
+            return Cells(grid->Cells().begin(), grid->Cells().end());
         }
         error = std::string(rest) + " is no list: name one of its properties";
         return std::nullopt;
@@ -157,27 +166,54 @@ private:
     }
 
     std::optional<ScriptValue> Array() {
-        std::vector<Text> all;
+        std::vector<ScriptValue> all;
         Take("[");
         SkipBlanks();
         if (Take("]")) {
-            return all;
+            return std::vector<Text>();
         }
         while (true) {
             SkipBlanks();
-            std::optional<Text> text = String();
+            std::optional<ScriptValue> one =
+                !rest_.empty() && rest_.front() == '[' ? Array() : Scalar();
             SkipBlanks();
-            if (!text) {
+            if (!one) {
                 return std::nullopt;
             }
-            all.push_back(std::move(*text));
+            all.push_back(std::move(*one));
             if (Take("]")) {
-                return all;
+                return OfOneKind(all);
             }
             if (!Take(",")) {
                 return std::nullopt;
             }
         }
+    }
+
+    /// The array of the elements, all of which must be of the first one's kind.
+    static std::optional<ScriptValue> OfOneKind(const std::vector<ScriptValue>& all) {
+        switch (all.front().index()) {
+            case 0:
+                return As<double>(all);
+            case 2:
+                return As<Text>(all);
+            case 3:
+                return As<std::vector<Text>>(all);
+            default:
+                return std::nullopt;
+        }
+    }
+    template <class Element>
+    static std::optional<ScriptValue> As(const std::vector<ScriptValue>& all) {
+        std::vector<Element> elements;
+        for (const ScriptValue& one : all) {
+            const Element* element = std::get_if<Element>(&one);
+            if (!element) {
+                return std::nullopt;
+            }
+            elements.push_back(*element);
+        }
+        return elements;
     }
 
     /// A number as JSON writes it: no plus sign, no leading zero, digits around the point.
@@ -253,6 +289,16 @@ private:
     std::string_view rest_;
 };
 
+struct JsonWriter {
+    std::string operator()(double number) const { return posix_adapter::JsonNumber(number); }
+    std::string operator()(bool flag) const { return flag ? "true" : "false"; }
+    std::string operator()(const Text& text) const { return posix_adapter::JsonText(text); }
+    template <class Element>
+    std::string operator()(const std::vector<Element>& elements) const {
+        return posix_adapter::JsonArray(elements, *this);
+    }
+};
+
 }  // namespace
 
 std::optional<ScriptValue> ReadByName(model::Application& application, std::string_view name,
@@ -275,19 +321,7 @@ decltype(platform::TraceField::value) ToTraceValue(const ScriptValue& value) {
 }
 
 std::string ToJson(const ScriptValue& value) {
-    struct Writer {
-        std::string operator()(double number) const { return posix_adapter::JsonNumber(number); }
-        std::string operator()(bool flag) const { return flag ? "true" : "false"; }
-        std::string operator()(const Text& text) const { return posix_adapter::JsonText(text); }
-        std::string operator()(const std::vector<Text>& rows) const {
-            std::string json = "[";
-            for (const Text& row : rows) {
-                json += (json.size() > 1 ? "," : "") + posix_adapter::JsonText(row);
-            }
-            return json + "]";
-        }
-    };
-    return std::visit(Writer{}, value);
+    return std::visit(JsonWriter{}, value);
 }
 
 std::optional<ScriptValue> ParseJson(std::string_view json) {
@@ -295,7 +329,10 @@ std::optional<ScriptValue> ParseJson(std::string_view json) {
 }
 
 bool Matches(const ScriptValue& value, TextView expected) {
-    if (ParseJson(text::ToUtf8(expected)) == value) {
+    const std::optional<ScriptValue> wanted = ParseJson(text::ToUtf8(expected));
+    const auto* none = wanted ? std::get_if<std::vector<Text>>(&*wanted) : nullptr;
+    const auto* numbers = std::get_if<std::vector<double>>(&value);
+    if (wanted == value || (none && none->empty() && numbers && numbers->empty())) {
         return true;
     }
     const Text* text = std::get_if<Text>(&value);

@@ -97,7 +97,8 @@ void VirtualLoop::RunUntil(const std::function<bool()>& done) {
 bool VirtualLoop::RunOne(double until, bool waiting) {
     const auto timer = EarliestTimer();
     const bool timerDue = timer != timers_.end() && timer->second.due <= until;
-    const bool held = !waiting && !runningActions_.empty() && runningActions_.back() == now_;
+    const bool held = !waiting && !runningActions_.empty() && runningActions_.back() == now_ &&
+                      !(actions_ && actions_->NextComesDuring());
     const std::optional<double> action = held ? std::nullopt : NextAction();
     if (action && *action <= until && (!timerDue || *action < timer->second.due)) {
         RunAction();

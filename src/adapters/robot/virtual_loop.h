@@ -19,6 +19,9 @@ public:
     virtual ~Actions() = default;
     /// Virtual milliseconds at which the next action is due; nullopt when none is left.
     virtual std::optional<double> NextDue() const = 0;
+    /// The next action comes as soon as the handler of the one before it pumps, even at the same
+    /// moment.
+    virtual bool NextComesDuring() const { return false; }
     /// Takes the next action off the queue, then runs it: handlers inside may pump again.
     virtual void RunNext() = 0;
     /// The last action is done: closes the program, which throws ProgramEnd. Returns only where
@@ -33,7 +36,7 @@ public:
 /// What is due runs in order of its due time, at a tie timers (in the order they were set) before
 /// actions. An action that is due while the handler of the action before it still runs is held
 /// back until time has passed or that handler waits in RunUntil: no person acts within 0 ms, and
-/// a handler that merely pumps is seen as done at once.
+/// a handler that merely pumps is seen as done at once. Only one that comes "during" is not held.
 class VirtualLoop : public platform::EventLoop {
 public:
     explicit VirtualLoop(platform::DateTime start, uint64_t seed = 1);

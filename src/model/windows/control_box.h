@@ -1,6 +1,7 @@
 // Slidescreen2: the small box that drives a show in full screen. It cannot be closed.
 #pragma once
 
+#include "model/controls.h"
 #include "model/window.h"
 
 namespace model {

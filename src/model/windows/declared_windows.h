@@ -1,6 +1,7 @@
 // Windows that are declared by name and get their controls with their behaviour.
 #pragma once
 
+#include "model/controls.h"
 #include "model/window.h"
 
 namespace model {
@@ -17,9 +18,6 @@ struct Form7 : Window {  // picture detail
 struct Form11 : Window {
     Form11() : Window("Form11", u"画像のコピー") {}
 };
-struct Form12 : Window {
-    Form12() : Window("Form12", u"画像連動ファイル(WAV,MID,MP3,TXT)のフォルダ指定") {}
-};
 struct Form13 : Window {  // linked sound assignment
     Form13() : Window("form13") {}
     OptionButton Option1{this, "Option1"};
@@ -28,11 +26,6 @@ struct Form13 : Window {  // linked sound assignment
 struct Form14 : Window {
     Form14() : Window("Form14", u"ＣＤプログラム選択") {}
     CheckBox Check1{this, "Check1", u"プログラム再生終了でパラピコ停止"};
-};
-struct Form15 : Window {
-    Form15() : Window("Form15", u"テキスト表示設定") {}
-    OptionButton Option1{this, "Option1", u"ピクチャーの左上を座標原点とする。"};
-    OptionButton Option2{this, "Option2", u"スクリーンの左上を座標原点とする。"};
 };
 struct Form16 : Window {
     Form16() : Window("Form16", u"選択画像の一括変換コピー") {}

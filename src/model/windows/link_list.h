@@ -1,6 +1,8 @@
 // Form9: the list of show documents that run as a chain.
 #pragma once
 
+#include "model/controls.h"
+#include "model/list_controls.h"
 #include "model/window.h"
 
 namespace model {

@@ -1,6 +1,9 @@
 // Form1: the main window with the preview, the transport buttons and the menus.
 #pragma once
 
+#include "model/controls.h"
+#include "model/menu.h"
+#include "model/picture_controls.h"
 #include "model/window.h"
 
 namespace model {

@@ -1,6 +1,8 @@
 // Form4: never shown; holds the off-screen picture and the imaging controls.
 #pragma once
 
+#include "model/controls.h"
+#include "model/picture_controls.h"
 #include "model/window.h"
 
 namespace model {

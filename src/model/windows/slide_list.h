@@ -1,6 +1,8 @@
 // Form3: builds the slide list. So far the controls that documents and the show work on.
 #pragma once
 
+#include "model/controls.h"
+#include "model/list_controls.h"
 #include "model/window.h"
 
 namespace model {
@@ -15,6 +17,7 @@ struct Form3 : Window {
     Button Command17{this, "Command17", u"ﾃｷｽﾄ削除"};
     Button Command18{this, "Command18", u"連動録音"};
     Button Command19{this, "Command19", u"連動音削除"};
+    Button Command24{this, "Command24", u"ﾃｷｽﾄ設定"};  // opens Form15
     Button Command20{this, "Command20", u"連動音設定"};
     CheckBox Check1{this, "Check1", u"画像表示"};
     CheckBox Check2{this, "Check2", u"録　　音"};

@@ -1,6 +1,8 @@
 // Slidescreen: the borderless window that presents a show on a whole monitor.
 #pragma once
 
+#include "model/controls.h"
+#include "model/picture_controls.h"
 #include "model/window.h"
 
 namespace model {

@@ -2,6 +2,8 @@
 // So far the controls that documents set.
 #pragma once
 
+#include "model/controls.h"
+#include "model/list_controls.h"
 #include "model/window.h"
 
 namespace model {

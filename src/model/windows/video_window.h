@@ -1,6 +1,8 @@
 // Form24: plays a video.
 #pragma once
 
+#include "model/controls.h"
+#include "model/picture_controls.h"
 #include "model/window.h"
 #include "platform/imaging.h"
 

@@ -1,0 +1,142 @@
+#include "adapters/qt/browser_binding.h"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QStyle>
+
+#include "adapters/qt/convert.h"
+
+namespace qt_adapter {
+
+namespace {
+
+QStyle::StandardPixmap IconOf(platform::Place::Kind kind) {
+    switch (kind) {
+        case platform::Place::Home:
+            return QStyle::SP_DirHomeIcon;
+        case platform::Place::Desktop:
+            return QStyle::SP_DesktopIcon;
+        case platform::Place::Disk:
+        case platform::Place::Drive:
+            return QStyle::SP_DriveHDIcon;
+        case platform::Place::Root:
+            return QStyle::SP_ComputerIcon;
+        default:
+            return QStyle::SP_DirIcon;
+    }
+}
+
+}  // namespace
+
+ComboBinding::ComboBinding(model::ListBox& list, QComboBox& widget, Gate& gate)
+    : ControlBinding(list, widget, gate, nullptr), list_(list), face_(widget) {
+    for (int row = 0; row < list.ListCount(); ++row) {
+        widget.addItem(ToQt(list.List(row)));
+    }
+    // Only what a person does; also the choice of the row that stands there already.
+    connect(&widget, &QComboBox::activated, this, [this](int row) {
+        Act([&] { list_.Choose({row}); });
+        SyncOwn();
+    });
+    Sync();
+}
+
+void ComboBinding::RowsChanged(model::Control&, const model::RowChange& change) {
+    switch (change.kind) {
+        case model::RowChange::Inserted:
+            face_.insertItem(change.row, QString());
+            ShowRow(change.row);
+            break;
+        case model::RowChange::Removed:
+            face_.removeItem(change.row);
+            break;
+        case model::RowChange::Replaced:
+            ShowRow(change.row);
+            break;
+        case model::RowChange::Cleared:
+            face_.clear();
+            break;
+    }
+    SyncOwn();
+}
+
+void ComboBinding::SyncOwn() {
+    face_.setCurrentIndex(list_.ListIndex);
+}
+
+void ComboBinding::ShowRow(int row) {
+    face_.setItemText(row, ToQt(list_.List(row)));
+}
+
+DriveBinding::DriveBinding(model::DriveList& drive, QComboBox& widget, Gate& gate)
+    : ComboBinding(drive, widget, gate), drive_(drive) {
+    for (int row = 0; row < drive.ListCount(); ++row) {
+        ShowRow(row);
+    }
+}
+
+void DriveBinding::ShowRow(int row) {
+    const auto& places = drive_.Places();
+    if (row < 0 || row >= static_cast<int>(places.size())) {
+        return;
+    }
+    const platform::Place& place = places[static_cast<size_t>(row)];
+    face_.setItemText(row, ToQt(place.label));
+    face_.setItemIcon(row, face_.style()->standardIcon(IconOf(place.kind)));
+    face_.setItemData(row, ToQt(place.path), Qt::ToolTipRole);
+}
+
+FolderBinding::FolderBinding(model::FolderList& dir, QTreeView& widget, Gate& gate)
+    : ControlBinding(dir, widget, gate, nullptr),
+      dir_(dir),
+      face_(widget),
+      tree_(std::make_unique<FolderTree>(dir.folders)) {
+    widget.setHeaderHidden(true);
+    widget.setUniformRowHeights(true);
+    widget.setModel(tree_.get());
+    connect(&widget, &QTreeView::clicked, this, [this](const QModelIndex& index) {
+        Opened(index);
+        face_.expand(index);
+    });
+    connect(widget.selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) { Opened(current); });
+    Sync();
+}
+
+FolderBinding::~FolderBinding() {
+    face_.setModel(nullptr);
+}
+
+/// The same folder read anew: so is the whole tree.
+void FolderBinding::RowsChanged(model::Control&, const model::RowChange& change) {
+    if (change.kind == model::RowChange::Cleared && !following_ && shown_ == dir_.Path()) {
+        {
+            const QScopedValueRollback<bool> guard(following_, true);
+            tree_->Forget();
+        }
+        SyncOwn();
+    }
+}
+
+void FolderBinding::SyncOwn() {
+    shown_ = dir_.Path();
+    if (following_) {
+        return;
+    }
+    const QScopedValueRollback<bool> guard(following_, true);
+    const QModelIndex index = tree_->Find(dir_.Path());
+    face_.setCurrentIndex(index);
+    if (index.isValid()) {
+        face_.expand(index);
+        face_.scrollTo(index, QAbstractItemView::PositionAtCenter);
+    }
+}
+
+void FolderBinding::Opened(const QModelIndex& index) {
+    if (!following_ && index.isValid()) {
+        const QScopedValueRollback<bool> guard(following_, true);
+        Act([&] { dir_.Open(tree_->PathOf(index)); });
+    }
+}
+
+}  // namespace qt_adapter

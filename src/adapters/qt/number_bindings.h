@@ -1,0 +1,38 @@
+// A scroll bar and a calendar: controls of one value.
+#pragma once
+
+#include <QAbstractSlider>
+#include <QCalendarWidget>
+
+#include "adapters/qt/control_binding.h"
+#include "model/grid.h"
+#include "model/scroll_bar.h"
+
+namespace qt_adapter {
+
+/// The widget is a QScrollBar or a QSlider.
+class ScrollBinding : public ControlBinding {
+public:
+    ScrollBinding(model::ScrollBar& bar, QAbstractSlider& widget, Gate& gate);
+
+protected:
+    void SyncOwn() override;
+
+private:
+    model::ScrollBar& bar_;
+    QAbstractSlider& face_;
+};
+
+class CalendarBinding : public ControlBinding {
+public:
+    CalendarBinding(model::Calendar& calendar, QCalendarWidget& widget, Gate& gate);
+
+protected:
+    void SyncOwn() override;
+
+private:
+    model::Calendar& calendar_;
+    QCalendarWidget& face_;
+};
+
+}  // namespace qt_adapter

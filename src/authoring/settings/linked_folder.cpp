@@ -1,0 +1,82 @@
+#include "authoring/settings/linked_folder.h"
+
+#include "authoring/shared/file_browser.h"
+#include "picture/screen.h"
+#include "text/paths.h"
+
+namespace authoring {
+
+namespace {
+
+using model::Application;
+
+void FollowCheck1(model::Form12& form12) {
+    const bool choosing = form12.Check1.Value == 0;
+    form12.Text1.Enabled = choosing;
+    form12.Dir1.Enabled = choosing;
+    form12.Drive1.Enabled = choosing;
+}
+
+void Form_Load(Application& app) {
+    model::Form12& form12 = app.windows.form12;
+    picture::CentreOnMonitor(app, form12);
+    const bool own = app.state.LinkedFolderFlag == 1;
+    const bool there = own && app.platform.folders.IsFolder(app.state.LinkedFolder);
+    OpenBrowser(app, form12.Drive1, form12.Dir1,
+                there ? app.state.LinkedFolder : app.platform.folders.Home());
+    // Also one that is gone: it stays until another one is chosen.
+    form12.Text1.Content = own ? app.state.LinkedFolder : form12.Dir1.Path();
+    form12.Check1.Value = own ? 0 : 1;
+    FollowCheck1(form12);
+}
+
+bool IsRefused(Application& app, const Text& folder) {
+    return folder == u"/" || folder == app.platform.folders.HomeFolders() ||
+           text::Upper(folder) == u"C:\\";
+}
+
+/// The root keeps its separator.
+Text WithoutSeparator(Text path) {
+    if (path.size() > 1 && (path.back() == u'/' || path.back() == u'\\')) {
+        path.pop_back();
+    }
+    return path;
+}
+
+void Command1_Click(Application& app) {
+    model::Form12& form12 = app.windows.form12;
+    if (form12.Check1.Value == 1) {
+        app.state.LinkedFolderFlag = 0;
+        form12.Unload();
+        return;
+    }
+    const Text shown = form12.Dir1.Path;
+    if (IsRefused(app, shown)) {
+        app.platform.dialogs.Message(
+            shown +
+                u"\r\nこのフォルダは指定できません。"
+                u"\r\n再度チェックを外し、別のフォルダを指定してください。",
+            platform::kExclamation, u"フォルダ未指定");
+        app.state.LinkedFolderFlag = 0;
+        form12.Check1.Value = 1;
+        FollowCheck1(form12);
+        return;
+    }
+    app.state.LinkedFolder = WithoutSeparator(form12.Text1.Content);
+    form12.Unload();
+    app.state.LinkedFolderFlag = 1;
+}
+
+}  // namespace
+
+void AttachLinkedFolder(Application& app) {
+    model::Form12& form12 = app.windows.form12;
+    AttachBrowser(form12.Drive1, form12.Dir1,
+                  [&form12] { form12.Text1.Content = form12.Dir1.Path(); });
+    form12.OnLoad = [&app] { Form_Load(app); };
+    form12.Check1.Click = [&form12] { FollowCheck1(form12); };
+    form12.Command1.Click = [&app] { Command1_Click(app); };
+    form12.Command2.Click = [&form12] { form12.Unload(); };
+}
+
+}  // namespace authoring

@@ -1,0 +1,211 @@
+#include "model/list_controls.h"
+
+#include <algorithm>
+
+#include "text/paths.h"
+
+namespace model {
+
+ListBox::ListBox(Window* window, std::string name, int multiSelect)
+    : ListBox(window, ControlKind::ListBox, std::move(name), multiSelect) {}
+
+ListBox::ListBox(Window* window, ControlKind kind, std::string name, int multiSelect)
+    : VisibleControl(window, kind, std::move(name)),
+      MultiSelect(*this, "MultiSelect", multiSelect) {}
+
+const Text& ListBox::List(int row) const {
+    static const Text none;
+    return row >= 0 && row < ListCount() ? rows_[static_cast<size_t>(row)] : none;
+}
+
+void ListBox::AddItem(Text row) {
+    AddItem(std::move(row), ListCount());
+}
+
+void ListBox::AddItem(Text row, int before) {
+    before = std::clamp(before, 0, ListCount());
+    rows_.insert(rows_.begin() + before, std::move(row));
+    selected_.insert(selected_.begin() + before, false);
+    AnnounceRows({RowChange::Inserted, before});
+}
+
+void ListBox::RemoveItem(int row) {
+    if (row < 0 || row >= ListCount()) {
+        return;
+    }
+    rows_.erase(rows_.begin() + row);
+    selected_.erase(selected_.begin() + row);
+    AnnounceRows({RowChange::Removed, row});
+    if (ListIndex >= ListCount()) {
+        ListIndex = ListCount() - 1;
+    }
+}
+
+void ListBox::SetRow(int row, Text value) {
+    if (row >= 0 && row < ListCount()) {
+        rows_[static_cast<size_t>(row)] = std::move(value);
+        AnnounceRows({RowChange::Replaced, row});
+    }
+}
+
+void ListBox::Clear() {
+    rows_.clear();
+    selected_.clear();
+    AnnounceRows({RowChange::Cleared, 0});
+    ListIndex = -1;
+    TopIndex = 0;
+}
+
+bool ListBox::Selected(int row) const {
+    return row >= 0 && row < ListCount() && selected_[static_cast<size_t>(row)];
+}
+
+void ListBox::Select(int row, bool on) {
+    if (row >= 0 && row < ListCount() && selected_[static_cast<size_t>(row)] != on) {
+        selected_[static_cast<size_t>(row)] = on;
+        AnnounceRows({RowChange::Replaced, row});
+    }
+}
+
+int ListBox::SelCount() const {
+    return static_cast<int>(std::count(selected_.begin(), selected_.end(), true));
+}
+
+std::vector<int> ListBox::SelectedRows() const {
+    std::vector<int> rows;
+    for (int row = 0; row < ListCount(); ++row) {
+        if (Selected(row)) {
+            rows.push_back(row);
+        }
+    }
+    return rows;
+}
+
+bool ListBox::Choose(const std::vector<int>& rows) {
+    if (!Reachable()) {
+        return false;
+    }
+    std::vector<bool> wanted(rows_.size(), false);
+    int last = -1;
+    for (const int row : rows) {
+        if (row >= 0 && row < ListCount()) {
+            if (MultiSelect == kSelectOne && last >= 0) {
+                wanted[static_cast<size_t>(last)] = false;
+            }
+            wanted[static_cast<size_t>(row)] = true;
+            last = row;
+        }
+    }
+    for (int row = 0; row < ListCount(); ++row) {
+        Select(row, wanted[static_cast<size_t>(row)]);
+    }
+    if (last >= 0) {
+        ListIndex = last;
+    }
+    OnChosen();
+    return true;
+}
+
+bool ListBox::DragTo(int before) {
+    return Reachable() && SelCount() > 0 && RowsDragged(std::clamp(before, 0, ListCount()));
+}
+
+ComboBox::ComboBox(Window* window, std::string name)
+    : ListBox(window, ControlKind::ComboBox, std::move(name), kSelectOne) {}
+
+FileList::FileList(Window* window, std::string name, int multiSelect)
+    : ListBox(window, ControlKind::FileList, std::move(name), multiSelect) {
+    Listen(this);
+}
+
+void FileList::Refresh() {
+    Clear();
+    if (!folders || Path().empty()) {
+        return;
+    }
+    for (Text& name : folders->Files(Path(), Pattern())) {
+        AddItem(std::move(name));
+    }
+}
+
+void FileList::PropertyChanged(Control&, PropertyBase& property) {
+    if (&property == &Path || &property == &Pattern) {
+        Refresh();
+    }
+}
+
+FolderList::FolderList(Window* window, std::string name)
+    : ListBox(window, ControlKind::FolderList, std::move(name), kSelectOne) {
+    Listen(this);
+}
+
+bool FolderList::Open(TextView path) {
+    if (!Reachable() || (folders && !folders->IsFolder(path))) {
+        return false;
+    }
+    Path = Text(path);
+    return true;
+}
+
+void FolderList::Refresh() {
+    Clear();
+    if (!folders || Path().empty()) {
+        return;
+    }
+    const Text parent = text::WithSeparator(Path());
+    for (const Text& name : folders->Subfolders(Path())) {
+        AddItem(parent + name);
+    }
+}
+
+void FolderList::OnChosen() {
+    Open(Text(List(ListIndex)));
+}
+
+void FolderList::PropertyChanged(Control&, PropertyBase& property) {
+    if (&property == &Path) {
+        Refresh();
+        Change();
+    }
+}
+
+DriveList::DriveList(Window* window, std::string name)
+    : ListBox(window, ControlKind::DriveList, std::move(name), kSelectOne) {
+    Listen(this);
+}
+
+bool DriveList::Open(TextView path) {
+    if (!Reachable() || (folders && !folders->IsFolder(path))) {
+        return false;
+    }
+    Drive = Text(path);
+    return true;
+}
+
+void DriveList::Refresh() {
+    Clear();
+    places_.clear();
+    if (folders) {
+        places_ = folders->Places();
+    }
+    for (const platform::Place& place : places_) {
+        AddItem(place.path);
+    }
+}
+
+void DriveList::OnChosen() {
+    Open(Text(List(ListIndex)));
+}
+
+void DriveList::PropertyChanged(Control&, PropertyBase& property) {
+    if (&property == &Drive) {
+        for (int row = 0; row < ListCount(); ++row) {
+            if (List(row) == Drive()) {
+                ListIndex = row;
+            }
+        }
+        Change();
+    }
+}
+
+}  // namespace model

@@ -1,0 +1,121 @@
+// Lists of rows: list and combo boxes, and the three lists of a file browser.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "model/control.h"
+#include "platform/folders.h"
+
+namespace model {
+
+/// Values of ListBox::MultiSelect.
+constexpr int kSelectOne = 0, kSelectMany = 2;  // many: with Ctrl and Shift, as in file managers
+
+/// Rows from 0. Row changes are announced one by one.
+class ListBox : public VisibleControl {
+public:
+    ListBox(Window* window, std::string name, int multiSelect = kSelectOne);
+    Property<int> ListIndex{*this, "ListIndex", -1};  // current row, -1 none
+    Property<int> TopIndex{*this, "TopIndex"};
+    Property<int> MultiSelect;
+    /// A person dragged the selected rows in front of that row; ListCount is the end.
+    Event<int> RowsDragged;
+
+    int ListCount() const { return static_cast<int>(rows_.size()); }
+    /// Empty text for a row that is not there.
+    const Text& List(int row) const;
+    const std::deque<Text>& Rows() const { return rows_; }
+    void AddItem(Text row);
+    void AddItem(Text row, int before);
+    /// Nothing happens for a row that is not there.
+    void RemoveItem(int row);
+    void SetRow(int row, Text value);
+    void Clear();
+    bool Selected(int row) const;
+    void Select(int row, bool on);
+    int SelCount() const;
+    std::vector<int> SelectedRows() const;
+
+    /// A person selects exactly these rows (the last one only where one can be selected); the last
+    /// becomes the current one. Rows that are not there are left out. False unless Reachable.
+    bool Choose(const std::vector<int>& rows);
+    /// A person drags the selected rows. True when RowsDragged was heard.
+    bool DragTo(int before);
+
+protected:
+    ListBox(Window* window, ControlKind kind, std::string name, int multiSelect);
+    /// What a press on the chosen row does: a click.
+    virtual void OnChosen() { Click(); }
+
+private:
+    std::deque<Text> rows_;
+    std::deque<bool> selected_;
+};
+
+/// A list that is folded up to its current row.
+class ComboBox : public ListBox {
+public:
+    ComboBox(Window* window, std::string name);
+};
+
+/// Bare names of the files of a folder, in natural order.
+class FileList : public ListBox, private Listener {
+public:
+    FileList(Window* window, std::string name, int multiSelect = kSelectOne);
+    Property<Text> Path{*this, "Path"};
+    Property<Text> Pattern{*this, "Pattern", u"*.*"};  // "*.jpg;*.png"; "*.*" is every file
+    /// Given at start-up; outlives the window's use. Without it the list stays empty.
+    platform::Folders* folders = nullptr;
+
+    /// Reads the folder anew.
+    void Refresh();
+
+private:
+    void PropertyChanged(Control& control, PropertyBase& property) override;
+};
+
+/// Where a browser stands among folders: Path, and its subfolders' full paths as rows.
+class FolderList : public ListBox, private Listener {
+public:
+    FolderList(Window* window, std::string name);
+    Property<Text> Path{*this, "Path"};
+    Event<> Change;  // Path is another one, whoever changed it
+    platform::Folders* folders = nullptr;
+
+    /// A person opens the folder. False, and nothing happens, where there is none or unless
+    /// Reachable.
+    bool Open(TextView path);
+    void Refresh();
+
+protected:
+    void OnChosen() override;
+
+private:
+    void PropertyChanged(Control& control, PropertyBase& property) override;
+};
+
+/// The places from which a browser sets out: Drive is the chosen one's path. Rows are all paths.
+class DriveList : public ListBox, private Listener {
+public:
+    DriveList(Window* window, std::string name);
+    Property<Text> Drive{*this, "Drive"};
+    Event<> Change;  // Drive is another one, whoever changed it
+    platform::Folders* folders = nullptr;
+
+    /// A person chooses a place, or the one that the path lies in. As FolderList::Open.
+    bool Open(TextView path);
+    void Refresh();
+    const std::vector<platform::Place>& Places() const { return places_; }
+
+protected:
+    void OnChosen() override;
+
+private:
+    void PropertyChanged(Control& control, PropertyBase& property) override;
+
+    std::vector<platform::Place> places_;
+};
+
+}  // namespace model

@@ -1,0 +1,42 @@
+// What a browser of files asks of the file system. Paths are given and answered as documents hold
+// them; names of what is hidden are left out.
+#pragma once
+
+#include <vector>
+
+#include "text/text.h"
+
+namespace platform {
+
+/// Somewhere that a person may want to set out from.
+struct Place {
+    enum Kind { Home, Desktop, Pictures, Music, Videos, Disk, Drive, Root } kind = Home;
+    Text path;   // full
+    Text label;  // in the user's language
+};
+
+class Folders {
+public:
+    virtual ~Folders() = default;
+
+    /// True for an existing folder.
+    virtual bool IsFolder(TextView path) = 0;
+
+    /// Bare names of the folder's subfolders, in natural order; none where it cannot be read.
+    virtual std::vector<Text> Subfolders(TextView path) = 0;
+
+    /// Bare names of the folder's plain files that match one of the patterns ("*.jpg;*.png", without
+    /// case; "*.*" is every file), in natural order; none where it cannot be read.
+    virtual std::vector<Text> Files(TextView path, TextView patterns) = 0;
+
+    /// The user's home folder, where browsers open.
+    virtual Text Home() = 0;
+
+    /// The folder that holds the users' home folders.
+    virtual Text HomeFolders() = 0;
+
+    /// Where a browser's list of places leads to, home first.
+    virtual std::vector<Place> Places() = 0;
+};
+
+}  // namespace platform
