@@ -29,7 +29,7 @@ def make_data(folder):
         (folder / f"{name}.png").write_bytes(png(64, 48, color))
         for word in ("sleep", "shell"):
             (folder / f"{word}_{name}.png").write_bytes(png(64, 48, color))
-    (folder / "sleep_b.txt").write_bytes(macro("Sleep=3000"))
+    (folder / "sleep_b.txt").write_bytes(macro("Sleep=60", "Sleep=60", "Sleep=60"))
     (folder / "shell_b.txt").write_bytes(macro('Shell="/bin/true"'))
     subprocess.run([sys.executable, "-B", HERE / "make_video.py", folder / "film.mp4"], check=True)
 
