@@ -25,8 +25,8 @@ public:
     /// Bare names of the folder's subfolders, in natural order; none where it cannot be read.
     virtual std::vector<Text> Subfolders(TextView path) = 0;
 
-    /// Bare names of the folder's plain files that match one of the patterns ("*.jpg;*.png", without
-    /// case; "*.*" is every file), in natural order; none where it cannot be read.
+    /// Bare names of the folder's plain files that match one of the patterns ("*.jpg;*.png",
+    /// without case; "*.*" is every file), in natural order; none where it cannot be read.
     virtual std::vector<Text> Files(TextView path, TextView patterns) = 0;
 
     /// The user's home folder, where browsers open.

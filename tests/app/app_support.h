@@ -48,7 +48,8 @@ struct Program {
     AskedSystem system;
     Application app{platform::Platform{around.loop, around.files, around.dialogs, around.monitors,
                                        around.imaging, around.textRenderer, around.sound,
-                                       around.video, system, around.trace, around.codePage, around.folders}};
+                                       around.video, system, around.trace, around.codePage,
+                                       around.folders}};
     model::ShowState& state = app.state;
     model::Windows& windows = app.windows;
     model::Form1& form1 = app.windows.form1;

@@ -96,9 +96,9 @@ TEST(Robot, WhatNobodyListensToIsTraced) {
     windows.form1.Command1.Click = [] {};
     windows.form3.List1.Click = [] {};
     EXPECT_EQ(run.Play(), 0);
-    EXPECT_EQ(Unheard(run),
-              (std::vector<Text>{u"click Form1.SlideCount", u"drop Form1.Label1", u"menu Form1.mnuTIME",
-                                 u"rclick Form1.Command1", u"drop Form1", u"move Form3.List1"}));
+    EXPECT_EQ(Unheard(run), (std::vector<Text>{u"click Form1.SlideCount", u"drop Form1.Label1",
+                                               u"menu Form1.mnuTIME", u"rclick Form1.Command1",
+                                               u"drop Form1", u"move Form3.List1"}));
 }
 
 TEST(Robot, ActsDuringAHandlerThatOnlyPumps) {
@@ -139,7 +139,8 @@ TEST(Robot, PlacesOfPressesReachThePicture) {
 TEST(Robot, BrowsesFolders) {
     RobotRun run(
         "set Form12.Drive1 /show\nexpect Form12.Drive1.Drive /show\nset Form12.Dir1 /show/b\n"
-        "expect Form12.Dir1.Path /show/b\nselect Form12.Drive1 1\nexpect Form12.Drive1.Drive C:\\\n");
+        "expect Form12.Dir1.Path /show/b\nselect Form12.Drive1 1\nexpect Form12.Drive1.Drive "
+        "C:\\\n");
     model::Form12& form12 = run.windows.form12;
     run.around.PutPicture(u"/show\\b\\1.jpg", 10, 10);
     form12.Drive1.folders = form12.Dir1.folders = &run.around.folders;

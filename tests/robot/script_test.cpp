@@ -110,7 +110,7 @@ TEST(Script, BadLinesAreRefusedWithTheirPlace) {
                              "key Form1 esc",
                              "menu",
                              "menu mnuKUFL one",
-                             "select Form3.List1",
+                             "select Form3.List1 x",
                              "select Form3 1",
                              "set Form1 1",
                              "drop Form1",

@@ -245,9 +245,10 @@ TEST(StartSound, OneFailureIsTriedAgain) {
         HeldFiles held;
         held.Put(u"C:\\s\\b.WAV", "sound");
         held.failures = failures;
-        Application app{platform::Platform{
-            player.loop, held, player.dialogs, player.monitors, player.imaging, player.textRenderer,
-            player.sound, player.video, player.system, player.trace, player.codePage, player.folders}};
+        Application app{platform::Platform{player.loop, held, player.dialogs, player.monitors,
+                                           player.imaging, player.textRenderer, player.sound,
+                                           player.video, player.system, player.trace,
+                                           player.codePage, player.folders}};
         app.state.SoundMode = 3;
         app.state.WavFile = u"C:\\s\\b.WAV";
         sound::StartSound(app);

@@ -9,8 +9,8 @@ namespace text {
 namespace {
 
 TEST(NaturalOrder, NumbersCountAsNumbersAndCaseDoesNot) {
-    const std::vector<Text> wanted{u"",       u"1.jpg",   u"2.jpg", u"10.jpg", u"a",
-                                   u"B",      u"c1b2",    u"c1b10", u"c２",    u"c10",
+    const std::vector<Text> wanted{u"",         u"1.jpg",     u"2.jpg", u"10.jpg", u"a",
+                                   u"B",        u"c1b2",      u"c1b10", u"c２",    u"c10",
                                    u"img9.png", u"IMG10.png", u"あ"};
     std::vector<Text> names = wanted;
     std::sort(names.begin(), names.end(), [](const Text& a, const Text& b) { return a < b; });

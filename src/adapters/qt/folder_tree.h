@@ -14,8 +14,8 @@ public:
     /// Reads folders by `folders`; null: the tree stays empty.
     explicit FolderTree(platform::Folders* folders) : folders_(folders) {}
 
-    /// The folder's row, with the folders above it read; not valid for one that is not there. A path
-    /// under another root than before makes the tree anew.
+    /// The folder's row, with the folders above it read; not valid for one that is not there. A
+    /// path under another root than before makes the tree anew.
     QModelIndex Find(const Text& path);
     /// Folders are read anew when they are asked for next.
     void Forget();

@@ -90,7 +90,8 @@ GridBinding::GridBinding(model::Grid& grid, QTableView& view, Gate& gate)
             [this] { ChosenByPerson(); });
     connect(view.horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int col) { Act([&] { grid_.Choose(0, col, 0, col); }); });
-    connect(&view, &QTableView::doubleClicked, this, [this] { Act([this] { grid_.PressAgain(); }); });
+    connect(&view, &QTableView::doubleClicked, this,
+            [this] { Act([this] { grid_.PressAgain(); }); });
     Sync();
 }
 
@@ -137,10 +138,9 @@ void GridBinding::ChosenByPerson() {
     const bool fromTop = current.row() == cells.top();
     const bool fromLeft = current.column() == cells.left();
     Act([&] {
-        grid_.Choose((fromTop ? cells.top() : cells.bottom()) + 1,
-                     fromLeft ? cells.left() : cells.right(),
-                     (fromTop ? cells.bottom() : cells.top()) + 1,
-                     fromLeft ? cells.right() : cells.left());
+        grid_.Choose(
+            (fromTop ? cells.top() : cells.bottom()) + 1, fromLeft ? cells.left() : cells.right(),
+            (fromTop ? cells.bottom() : cells.top()) + 1, fromLeft ? cells.right() : cells.left());
     });
 }
 

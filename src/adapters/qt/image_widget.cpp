@@ -37,10 +37,9 @@ void ImageWidget::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QImage pixels(reinterpret_cast<const uchar*>(picture->pixels.data()), picture->width,
-                        picture->height,
-                        picture->width * static_cast<qsizetype>(sizeof(platform::Pixel)),
-                        QImage::Format_RGB32);
+    const QImage pixels(
+        reinterpret_cast<const uchar*>(picture->pixels.data()), picture->width, picture->height,
+        picture->width * static_cast<qsizetype>(sizeof(platform::Pixel)), QImage::Format_RGB32);
     painter.drawImage(rect(), pixels);
 }
 

@@ -3,16 +3,13 @@
 #include <QAbstractButton>
 #include <QBackingStore>
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QUrl>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
@@ -63,11 +60,6 @@ void TakeMemory(QWidget& window) {
         QPainter(memory).fillRect(window.rect(), Qt::black);
     }
     store->endPaint();
-}
-
-bool HasFiles(const QDropEvent& event) {
-    const QList<QUrl> urls = event.mimeData()->urls();
-    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
 }
 
 }  // namespace
@@ -501,16 +493,9 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
                 this, [this] { TakeNewColors(); }, Qt::QueuedConnection);
             return false;
         case QEvent::DragEnter:
-        case QEvent::DragMove: {
-            auto& drag = *static_cast<QDropEvent*>(event);
-            if (HasFiles(drag) && TakerOfDrop(drag.position().toPoint())) {
-                drag.acceptProposedAction();
-                return true;
-            }
-            // Elsewhere in the window somebody may take them.
-            drag.setAccepted(event->type() == QEvent::DragEnter && HasFiles(drag) && TakesDrops());
+        case QEvent::DragMove:
+            Dragged(*static_cast<QDropEvent*>(event));
             return true;
-        }
         case QEvent::Drop:
             Dropped(*static_cast<QDropEvent*>(event));
             return true;
@@ -521,7 +506,9 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
 
 /// Enter and Esc press the buttons that the form names for them.
 void WindowView::PressButtonOf(int key) {
-    const char* property = key == kKeyEnter ? "enterPresses" : key == kKeyEscape ? "escPresses" : "";
+    const char* property = key == kKeyEnter    ? "enterPresses"
+                           : key == kKeyEscape ? "escPresses"
+                                               : "";
     const std::string name = root_->property(property).toString().toStdString();
     if (auto* button = dynamic_cast<model::Button*>(window_.FindControl(name))) {
         button->Press();
@@ -559,52 +546,6 @@ void WindowView::StateChangedByPerson() {
     if (root_->isVisible() && !fullScreen_ && state != window_.WindowState) {
         gate_.Guarded([&] { window_.WindowState = state; });
     }
-}
-
-bool WindowView::TakesDrops() const {
-    return window_.FilesDropped ||
-           std::any_of(bindings_.begin(), bindings_.end(), [](const auto& binding) {
-               return static_cast<bool>(binding->Control().FilesDropped);
-           });
-}
-
-/// The control at that place, or the window, that files can be dropped on; null where nobody
-/// takes them.
-model::VisibleControl* WindowView::TakerOfDrop(QPoint place) {
-    for (QWidget* widget = root_->childAt(place); widget && widget != root_;
-         widget = widget->parentWidget()) {
-        for (const auto& binding : bindings_) {
-            if (&binding->Widget() == widget && binding->Control().FilesDropped &&
-                binding->Control().Reachable()) {
-                return &binding->Control();
-            }
-        }
-    }
-    return window_.FilesDropped ? &window_ : nullptr;
-}
-
-void WindowView::Dropped(const QDropEvent& event) {
-    std::vector<Text> files;
-    for (const QUrl& url : event.mimeData()->urls()) {
-        if (url.isLocalFile()) {
-            files.push_back(FromQt(QFileInfo(url.toLocalFile()).absoluteFilePath()));
-        }
-    }
-    model::VisibleControl* taker = TakerOfDrop(event.position().toPoint());
-    if (!taker) {
-        return;
-    }
-    // Later, so that the program dragged from does not wait for boxes that come up here.
-    QMetaObject::invokeMethod(
-        this,
-        [this, taker, files] {
-            gate_.Guarded([&] {
-                if (window_.Reachable()) {
-                    taker->Drop(files);
-                }
-            });
-        },
-        Qt::QueuedConnection);
 }
 
 }  // namespace qt_adapter

@@ -76,6 +76,7 @@ private:
     void TakeNewColors();
     void StateChangedByPerson();
     void PressButtonOf(int key);
+    void Dragged(QDropEvent& drag);
     bool TakesDrops() const;
     model::VisibleControl* TakerOfDrop(QPoint place);
     void Dropped(const QDropEvent& event);

@@ -40,8 +40,8 @@ enum class ActionKind {
 /// When an action is due, counted in virtual milliseconds.
 struct Due {
     enum Kind {
-        Next,     // at the moment the action before began
-        After,    // so much later than that
+        Next,      // at the moment the action before began
+        After,     // so much later than that
         Absolute,  // after program start, but never before the action before it
         During     // at the next pump of what the action before it started
     } kind = Next;

@@ -331,7 +331,8 @@ bool ScriptedUser::Act(const Action& action, model::Window& window, model::Visib
             for (const Text& path : action.paths) {
                 paths.push_back(Absolute(path));
             }
-            return target.Drop(paths);
+            // Where the control takes none, they fall to the window around it.
+            return target.Drop(paths) || window.Drop(paths);
         }
         default:
             return Mouse(action, window, target);

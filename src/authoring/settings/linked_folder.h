@@ -5,8 +5,8 @@
 
 namespace authoring {
 
-/// Attaches the handlers of Form12. Its ＯＫ sets LinkedFolderFlag and LinkedFolder; the folder that
-/// holds the users' home folders and the root are refused with a message.
+/// Attaches the handlers of Form12. Its ＯＫ sets LinkedFolderFlag and LinkedFolder; the folder
+/// that holds the users' home folders and the root are refused with a message.
 void AttachLinkedFolder(model::Application& app);
 
 }  // namespace authoring

@@ -14,7 +14,7 @@ struct Form9 : Window {
 
     Form9() : Window("Form9", Text(kFirstCaption)) {}
 
-    ListBox List1{this, "List1"};
+    ListBox List1{this, "List1", kSelectMany};
     Label Label4{this, "Label4", u"0"};
     CheckBox Check1{this, "Check1"};
     CheckBox Check2{this, "Check2", u"繰り返し"};

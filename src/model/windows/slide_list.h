@@ -10,9 +10,9 @@ namespace model {
 struct Form3 : Window {
     Form3() : Window("Form3", u"スライドリスト") {}
 
-    ListBox List1{this, "List1"};        // paths, in play order: the master copy
-    ListBox List2{this, "List2"};        // schedule rows of 30 columns, as many as List1
-    Label Label4{this, "Label4", u"0"};  // row count
+    ListBox List1{this, "List1", kSelectMany};  // paths, in play order: the master copy
+    ListBox List2{this, "List2"};               // schedule rows of 30 columns, as many as List1
+    Label Label4{this, "Label4", u"0"};         // row count
     Button Command16{this, "Command16", u"ﾃｷｽﾄ編集"};
     Button Command17{this, "Command17", u"ﾃｷｽﾄ削除"};
     Button Command18{this, "Command18", u"連動録音"};

@@ -28,7 +28,7 @@ struct Form10 : Window {
         : Window(
               "Form10",
               u"WAV,MID,ＭＰ３ リスト（※パラピコの動画再生中はリスト音声再生が一時停止します）") {}
-    ListBox List1{this, "List1"};
+    ListBox List1{this, "List1", kSelectMany};
     Label Label4{this, "Label4", u"0"};
     CheckBox Check1{this, "Check1", u"ＫＶＳに保存あり"};
     CheckBox Check5{this, "Check5", u"+連動効果音再生あり"};
