@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "../tests/support/fake_platform.h"
 #include "adapters/posix/iconv_code_page.h"
 #include "adapters/robot/devices.h"
 #include "adapters/robot/no_video.h"
@@ -32,6 +33,7 @@ public:
     bool Exists(TextView) override { return true; }
     bool Read(TextView, std::string&, platform::FileError&, size_t) override { return false; }
     bool Write(TextView, std::string_view, platform::FileError&) override { return false; }
+    bool SetAside(TextView, TextView, Text&, platform::FileError&) override { return false; }
     int Readable(TextView) override { return 1; }
     std::optional<platform::DateTime> LastWrite(TextView) override { return platform::DateTime{1}; }
 };
@@ -132,9 +134,11 @@ int main() {
     robot::RobotSound sound(trace, loop);
     robot::NoVideo video;
     NoSystem system;
+    fakes::FakeFiles noFiles;
+    fakes::FakeFolders folders(noFiles);
     posix_adapter::IconvCodePage codePage;
-    Application app(
-        {loop, files, dialogs, monitors, imaging, text, sound, video, system, trace, codePage});
+    Application app({loop, files, dialogs, monitors, imaging, text, sound, video, system, trace,
+                     codePage, folders});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);
