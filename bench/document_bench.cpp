@@ -8,6 +8,7 @@
 
 #include "../tests/support/fake_platform.h"
 #include "document/show_document.h"
+#include "model/windows/slide_list.h"
 
 namespace {
 

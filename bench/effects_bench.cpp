@@ -8,6 +8,8 @@
 #include "adapters/qt/desktop.h"
 #include "adapters/robot/silent_platform.h"
 #include "model/application.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_screen.h"
 #include "picture/effect_plan.h"
 #include "picture/effects.h"
 #include "picture/screen.h"

@@ -13,6 +13,8 @@
 #include "macro/cutouts.h"
 #include "macro/motion.h"
 #include "model/application.h"
+#include "model/picture_controls.h"
+#include "model/windows/slide_screen.h"
 #include "picture/screen.h"
 
 namespace {

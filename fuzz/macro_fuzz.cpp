@@ -5,6 +5,9 @@
 #include "../tests/support/fake_platform.h"
 #include "macro/check.h"
 #include "macro/macro.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 
 namespace {
 

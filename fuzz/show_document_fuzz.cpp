@@ -4,6 +4,8 @@
 
 #include "../tests/support/fake_platform.h"
 #include "document/show_document.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 
 namespace {
 

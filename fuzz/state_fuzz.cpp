@@ -5,6 +5,9 @@
 #include "../tests/support/fake_platform.h"
 #include "document/cutout_points.h"
 #include "document/state_files.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 
 namespace {
 

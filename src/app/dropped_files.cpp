@@ -6,6 +6,7 @@
 #include "authoring/slide_list.h"
 #include "document/document_file.h"
 #include "document/link_document.h"
+#include "model/windows/main_window.h"
 #include "playback/full_screen.h"
 #include "playback/transport.h"
 #include "text/paths.h"

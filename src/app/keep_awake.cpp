@@ -1,5 +1,8 @@
 #include "app/keep_awake.h"
 
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
+
 namespace app {
 
 KeepAwake::KeepAwake(Application& application) : application_(application) {

@@ -1,5 +1,8 @@
 #include "app/link_start.h"
 
+#include "model/list_controls.h"
+#include "model/windows/link_list.h"
+
 namespace app {
 
 void TakeLinkList(Application& app) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "model/windows/main_window.h"
 #include "playback/transport.h"
 #include "text/numbers.h"
 

@@ -1,5 +1,7 @@
 #include "app/open_window.h"
 
+#include "model/windows/main_window.h"
+
 namespace app {
 
 bool CanOpen(Application& app, const model::Window& window) {

@@ -1,5 +1,9 @@
 #include "app/play_menu.h"
 
+#include "model/controls.h"
+#include "model/menu.h"
+#include "model/windows/main_window.h"
+
 namespace app {
 
 namespace {

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <string>
 
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+
 namespace app {
 
 namespace {

@@ -1,6 +1,8 @@
 #include "app/sound_menu.h"
 
 #include "app/open_window.h"
+#include "model/windows/declared_windows.h"
+#include "model/windows/sound_windows.h"
 #include "text/paths.h"
 
 namespace app {

@@ -1,5 +1,7 @@
 #include "app/timers.h"
 
+#include "model/controls.h"
+
 namespace app {
 
 namespace {

@@ -1,5 +1,7 @@
 #include "app/title_screen.h"
 
+#include "model/windows/main_window.h"
+
 namespace app {
 
 namespace {

@@ -4,6 +4,7 @@
 
 #include "document/line_reader.h"
 #include "document/line_writer.h"
+#include "model/windows/main_window.h"
 
 namespace app {
 

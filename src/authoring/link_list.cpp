@@ -1,5 +1,7 @@
 #include "authoring/link_list.h"
 
+#include "model/windows/link_list.h"
+
 namespace authoring {
 
 void ClearLinkList(Application& app) {

@@ -1,5 +1,7 @@
 #include "authoring/sound_list.h"
 
+#include "model/windows/sound_windows.h"
+
 namespace authoring {
 
 void ClearSoundList(Application& app) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/windows/main_window.h"
 #include "text/numbers.h"
 
 namespace document {

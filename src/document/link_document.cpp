@@ -3,6 +3,8 @@
 #include "document/document_file.h"
 #include "document/line_reader.h"
 #include "document/line_writer.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
 #include "text/paths.h"
 
 namespace document {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "model/application.h"
+#include "model/menu.h"
+#include "model/windows/main_window.h"
 
 namespace document {
 

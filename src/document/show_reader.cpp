@@ -10,6 +10,11 @@
 #include "document/show_document.h"
 #include "document/show_schedule.h"
 #include "document/state_files.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
+#include "model/windows/sound_windows.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 

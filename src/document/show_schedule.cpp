@@ -3,6 +3,8 @@
 #include <numeric>
 #include <vector>
 
+#include "model/list_controls.h"
+#include "model/windows/slide_list.h"
 #include "text/paths.h"
 
 namespace document {

@@ -4,6 +4,8 @@
 #include "document/line_writer.h"
 #include "document/show_document.h"
 #include "document/show_schedule.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "text/paths.h"
 
 namespace document {

@@ -5,6 +5,8 @@
 #include "document/line_reader.h"
 #include "document/line_writer.h"
 #include "document/unread_files.h"
+#include "model/windows/link_list.h"
+#include "model/windows/sound_windows.h"
 #include "text/paths.h"
 
 namespace document {

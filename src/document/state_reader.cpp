@@ -9,6 +9,8 @@
 #include "document/state_files.h"
 #include "document/state_lines.h"
 #include "document/unread_files.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 

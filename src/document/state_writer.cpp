@@ -3,6 +3,7 @@
 #include "document/line_writer.h"
 #include "document/state_files.h"
 #include "document/state_lines.h"
+#include "model/windows/slide_list.h"
 
 namespace document {
 

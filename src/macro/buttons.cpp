@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "macro/arguments.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "picture/screen.h"
 #include "platform/monitors.h"
 #include "text/numbers.h"

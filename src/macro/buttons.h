@@ -4,6 +4,9 @@
 #include <array>
 
 #include "macro/run.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 
 namespace macro {
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "macro/run.h"
+#include "model/picture_controls.h"
 
 namespace macro {
 

@@ -1,5 +1,7 @@
 #include "macro/flow_words.h"
 
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "text/numbers.h"
 
 namespace macro {

@@ -2,6 +2,8 @@
 
 #include "macro/buttons.h"
 #include "macro/cutouts.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 
 namespace macro {
 

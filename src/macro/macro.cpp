@@ -5,6 +5,7 @@
 #include "macro/jump_exit.h"
 #include "macro/reader.h"
 #include "macro/text_words.h"
+#include "model/windows/slide_screen.h"
 #include "text/paths.h"
 
 namespace macro {

@@ -7,6 +7,10 @@
 #include "macro/arguments.h"
 #include "macro/buttons.h"
 #include "macro/cutouts.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_screen.h"
 #include "text/numbers.h"
 
 namespace macro {

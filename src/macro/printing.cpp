@@ -4,6 +4,8 @@
 #include <cstdlib>
 
 #include "macro/text_words.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 
 namespace macro {
 

@@ -2,6 +2,7 @@
 
 #include "macro/keywords.h"
 #include "macro/text_drawing.h"
+#include "model/windows/slide_screen.h"
 
 namespace macro {
 

@@ -7,6 +7,8 @@
 #include "macro/printing.h"
 #include "macro/reader.h"
 #include "macro/text_words.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "text/numbers.h"
 
 namespace macro {

@@ -1,5 +1,9 @@
 #include "macro/run.h"
 
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
+
 namespace macro {
 
 namespace {

@@ -2,6 +2,11 @@
 
 #include "macro/arguments.h"
 #include "macro/buttons.h"
+#include "model/picture_controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_screen.h"
 #include "picture/overlay.h"
 
 namespace macro {

@@ -5,6 +5,8 @@
 #include "document/settings_to_controls.h"
 #include "macro/arguments.h"
 #include "macro/keywords.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
 #include "text/numbers.h"
 
 namespace macro {

@@ -5,6 +5,7 @@
 #include "macro/arguments.h"
 #include "macro/cutouts.h"
 #include "macro/named_files.h"
+#include "model/windows/main_window.h"
 #include "picture/video_window.h"
 #include "sound/sound.h"
 #include "sound/volume.h"

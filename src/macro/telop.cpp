@@ -4,6 +4,10 @@
 
 #include "macro/arguments.h"
 #include "macro/printing.h"
+#include "model/controls.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "text/numbers.h"
 
 namespace macro {

@@ -2,6 +2,8 @@
 
 #include "macro/printing.h"
 #include "macro/text_words.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
 
 namespace macro {
 

@@ -4,6 +4,8 @@
 #include <iterator>
 
 #include "macro/arguments.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "text/numbers.h"
 
 namespace macro {

@@ -2,6 +2,18 @@
 
 #include <algorithm>
 
+#include "model/windows/control_box.h"
+#include "model/windows/declared_windows.h"
+#include "model/windows/link_list.h"
+#include "model/windows/linked_folder.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
+#include "model/windows/sound_windows.h"
+#include "model/windows/text_display.h"
+#include "model/windows/video_window.h"
+
 namespace model {
 
 namespace {
@@ -13,6 +25,35 @@ void SizeMacroButton(Button& button) {
 }
 
 }  // namespace
+
+struct Windows::Made {
+    Form1 form1;
+    Form2 form2;
+    Form3 form3;
+    Form4 form4;
+    Form5 form5;
+    Form6 form6;
+    Form7 form7;
+    Form8 form8;
+    Form9 form9;
+    Form10 form10;
+    Form11 form11;
+    Form12 form12;
+    Form13 form13;
+    Form14 form14;
+    Form15 form15;
+    Form16 form16;
+    Form17 form17;
+    Form18 form18;
+    Form19 form19;
+    Form20 form20;
+    Form21 form21;
+    Form22 form22;
+    Form23 form23;
+    Form24 form24;
+    Slidescreen slidescreen;
+    Slidescreen2 slidescreen2;
+};
 
 Form1::Form1() : Window("Form1", u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10") {
     Width = 12600;  // a preview of 800 × 450 pixels, the screens' own proportions
@@ -51,7 +92,34 @@ std::array<Window*, 26> Windows::All() {
             &form22, &form23, &form24, &slidescreen, &slidescreen2};
 }
 
-Windows::Windows() = default;
+Windows::Windows()
+    : made_(std::make_unique<Made>()),
+      form1(made_->form1),
+      form2(made_->form2),
+      form3(made_->form3),
+      form4(made_->form4),
+      form5(made_->form5),
+      form6(made_->form6),
+      form7(made_->form7),
+      form8(made_->form8),
+      form9(made_->form9),
+      form10(made_->form10),
+      form11(made_->form11),
+      form12(made_->form12),
+      form13(made_->form13),
+      form14(made_->form14),
+      form15(made_->form15),
+      form16(made_->form16),
+      form17(made_->form17),
+      form18(made_->form18),
+      form19(made_->form19),
+      form20(made_->form20),
+      form21(made_->form21),
+      form22(made_->form22),
+      form23(made_->form23),
+      form24(made_->form24),
+      slidescreen(made_->slidescreen),
+      slidescreen2(made_->slidescreen2) {}
 
 Windows::~Windows() = default;
 
@@ -60,6 +128,10 @@ void Windows::SetPointer(MousePointerShape shape) {
                            static_cast<Window*>(&slidescreen2)}) {
         window->MousePointer = shape;
     }
+}
+
+int Windows::Pointer() const {
+    return form1.MousePointer;
 }
 
 int Windows::ShowCursor(bool show) {

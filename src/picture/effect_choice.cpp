@@ -1,5 +1,7 @@
 #include "picture/effect_choice.h"
 
+#include "model/picture_controls.h"
+#include "model/windows/picture_holder.h"
 #include "picture/effect_plan.h"
 #include "picture/screen.h"
 #include "text/numbers.h"

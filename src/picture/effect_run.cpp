@@ -1,5 +1,6 @@
 #include "picture/effect_run.h"
 
+#include "model/windows/slide_screen.h"
 #include "picture/pacer.h"
 #include "picture/screen.h"
 

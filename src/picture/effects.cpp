@@ -1,5 +1,6 @@
 #include "picture/effects.h"
 
+#include "model/windows/picture_holder.h"
 #include "picture/effect_choice.h"
 #include "picture/effect_run.h"
 #include "picture/overlay.h"

@@ -2,6 +2,10 @@
 
 #include <array>
 
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_screen.h"
 #include "picture/effects.h"
 #include "picture/screen.h"
 #include "text/numbers.h"

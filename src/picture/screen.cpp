@@ -3,6 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_screen.h"
+
 namespace picture {
 
 namespace {

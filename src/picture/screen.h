@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/application.h"
+#include "model/picture_controls.h"
 
 namespace picture {
 

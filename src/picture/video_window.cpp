@@ -1,5 +1,9 @@
 #include "picture/video_window.h"
 
+#include "model/controls.h"
+#include "model/picture_controls.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/video_window.h"
 #include "picture/film_place.h"
 #include "picture/screen.h"
 

@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
 #include "picture/load.h"
 #include "picture/screen.h"
 #include "playback/full_screen.h"

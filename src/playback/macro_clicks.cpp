@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "macro/cutouts.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "picture/video_window.h"
 #include "playback/control_box.h"
 #include "text/paths.h"

@@ -1,6 +1,7 @@
 #include "playback/step_sound.h"
 
 #include "document/linked_names.h"
+#include "model/windows/main_window.h"
 #include "sound/sound.h"
 #include "sound/volume.h"
 #include "text/paths.h"

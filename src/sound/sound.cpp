@@ -3,6 +3,11 @@
 #include <algorithm>
 
 #include "document/settings_to_controls.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
+#include "model/windows/sound_windows.h"
+#include "model/windows/video_window.h"
 #include "sound/volume.h"
 #include "text/numbers.h"
 

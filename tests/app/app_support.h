@@ -9,6 +9,8 @@
 
 #include "app/start_up.h"
 #include "document/state_files.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "support/fake_platform.h"
 
 namespace app_tests {

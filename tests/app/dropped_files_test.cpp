@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "app_support.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
 
 namespace app_tests {
 namespace {

@@ -4,6 +4,13 @@
 #include "app/exit.h"
 #include "app/timers.h"
 #include "app_support.h"
+#include "model/controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
 
 namespace app_tests {
 namespace {

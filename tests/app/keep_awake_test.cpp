@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/keep_awake.h"
+#include "model/windows/slide_screen.h"
 #include "playback/transport.h"
 #include "support/fake_platform.h"
 

@@ -2,6 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "menu_support.h"
+#include "model/picture_controls.h"
+#include "model/windows/declared_windows.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
+#include "model/windows/sound_windows.h"
 
 namespace app_tests {
 namespace {

@@ -4,6 +4,7 @@
 #include "app/main_menus.h"
 #include "app_support.h"
 #include "document/settings_to_controls.h"
+#include "model/windows/main_window.h"
 
 namespace app_tests {
 

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "menu_support.h"
+#include "model/menu.h"
+#include "model/windows/main_window.h"
 
 namespace app_tests {
 namespace {

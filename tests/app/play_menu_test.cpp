@@ -4,6 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "menu_support.h"
+#include "model/controls.h"
+#include "model/menu.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "playback/transport.h"
 
 namespace app_tests {

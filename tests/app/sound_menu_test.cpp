@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "menu_support.h"
+#include "model/windows/declared_windows.h"
+#include "model/windows/main_window.h"
+#include "model/windows/sound_windows.h"
 
 namespace app_tests {
 namespace {

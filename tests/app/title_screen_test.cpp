@@ -6,6 +6,8 @@
 #include <numeric>
 
 #include "app_support.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
 
 namespace app_tests {
 namespace {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "app_support.h"
+#include "model/windows/main_window.h"
 
 namespace app_tests {
 namespace {

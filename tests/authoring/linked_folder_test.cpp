@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "model/windows/linked_folder.h"
 #include "support/fake_platform.h"
 
 namespace authoring {

@@ -4,6 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "app/app_support.h"
+#include "model/controls.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/sound_windows.h"
 
 namespace authoring {
 namespace {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "model/windows/main_window.h"
+#include "model/windows/text_display.h"
 #include "support/fake_platform.h"
 
 namespace authoring {

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "document_support.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 
 namespace document_tests {
 namespace {

@@ -9,6 +9,12 @@
 #include "document/settings_to_controls.h"
 #include "document/state_files.h"
 #include "document_support.h"
+#include "model/controls.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/sound_windows.h"
+#include "model/windows/text_display.h"
 
 namespace document_tests {
 namespace {

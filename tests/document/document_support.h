@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "document/show_document.h"
+#include "model/list_controls.h"
+#include "model/windows/slide_list.h"
 #include "support/fake_platform.h"
 
 namespace document_tests {

@@ -4,6 +4,8 @@
 
 #include "document/cutout_points.h"
 #include "document/link_document.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
 #include "state_support.h"
 
 namespace document_tests {

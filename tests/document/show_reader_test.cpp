@@ -4,6 +4,10 @@
 
 #include "document/show_schedule.h"
 #include "document_support.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
+#include "model/windows/sound_windows.h"
 
 namespace document_tests {
 namespace {

@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "macro_support.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
 #include "playback/macro_clicks.h"
 
 namespace {

@@ -3,6 +3,8 @@
 
 #include "macro/cutouts.h"
 #include "macro_support.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
 
 namespace {
 

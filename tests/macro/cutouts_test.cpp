@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "macro_support.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
 #include "playback/macro_clicks.h"
 
 namespace {

@@ -8,6 +8,9 @@
 
 #include "macro/keywords.h"
 #include "macro_support.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "macro_support.h"
+#include "model/windows/main_window.h"
 
 namespace {
 

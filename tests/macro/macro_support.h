@@ -3,6 +3,8 @@
 
 #include "app/timers.h"
 #include "macro/macro.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "support/fake_platform.h"
 
 namespace macro_tests {

@@ -3,6 +3,9 @@
 
 #include "macro/motion.h"
 #include "macro_support.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include "macro/keywords.h"
 #include "macro_support.h"
+#include "model/windows/main_window.h"
 
 namespace {
 

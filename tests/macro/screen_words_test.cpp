@@ -7,6 +7,10 @@
 #include "adapters/imaging/qt_imaging.h"
 #include "adapters/posix/posix_files.h"
 #include "macro_support.h"
+#include "model/picture_controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
 #include "posix/temporary_folder.h"
 
 namespace {

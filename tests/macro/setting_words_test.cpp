@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "macro_support.h"
+#include "model/menu.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
 
 namespace {
 

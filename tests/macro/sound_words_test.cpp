@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "macro_support.h"
+#include "model/windows/main_window.h"
+#include "model/windows/video_window.h"
 #include "picture/video_window.h"
 
 namespace {

@@ -3,6 +3,7 @@
 
 #include "macro/telop.h"
 #include "macro_support.h"
+#include "model/windows/main_window.h"
 
 namespace {
 

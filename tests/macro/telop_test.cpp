@@ -3,6 +3,9 @@
 
 #include "app/timers.h"
 #include "macro/telop.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "playback/full_screen.h"
 #include "playback/transport.h"
 #include "support/fake_platform.h"

@@ -8,6 +8,7 @@
 
 #include "macro/printing.h"
 #include "macro_support.h"
+#include "model/windows/main_window.h"
 
 namespace {
 

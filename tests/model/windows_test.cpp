@@ -7,6 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
+#include "model/windows/sound_windows.h"
 #include "platform/event_loop.h"
 
 namespace model {

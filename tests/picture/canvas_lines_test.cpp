@@ -1,6 +1,9 @@
 // The full-screen canvas in 1080 lines: its size, pictures and effects on it.
 #include <gtest/gtest.h>
 
+#include "model/picture_controls.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_screen.h"
 #include "picture/effects.h"
 #include "picture/load.h"
 #include "picture/overlay.h"

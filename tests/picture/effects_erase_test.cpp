@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "effects_support.h"
+#include "model/windows/picture_holder.h"
 
 namespace picture {
 namespace {

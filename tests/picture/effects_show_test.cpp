@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "effects_support.h"
+#include "model/windows/picture_holder.h"
 
 namespace picture {
 namespace {

@@ -5,6 +5,9 @@
 #include <memory>
 #include <vector>
 
+#include "model/picture_controls.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_screen.h"
 #include "picture/effect_plan.h"
 #include "picture/effects.h"
 #include "picture/screen.h"

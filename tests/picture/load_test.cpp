@@ -2,6 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "model/controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/declared_windows.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
 #include "picture/screen.h"
 #include "support/fake_platform.h"
 

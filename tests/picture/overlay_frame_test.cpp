@@ -1,6 +1,7 @@
 // The bevel around a picture of a collage.
 #include <gtest/gtest.h>
 
+#include "model/picture_controls.h"
 #include "overlay_support.h"
 
 namespace picture {

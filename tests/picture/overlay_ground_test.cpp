@@ -1,6 +1,7 @@
 // The ground under a collage, and what stays on it.
 #include <gtest/gtest.h>
 
+#include "model/picture_controls.h"
 #include "overlay_support.h"
 
 namespace picture {

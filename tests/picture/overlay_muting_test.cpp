@@ -1,6 +1,8 @@
 // The previous picture of a collage is muted before the next one comes.
 #include <gtest/gtest.h>
 
+#include "model/picture_controls.h"
+#include "model/windows/picture_holder.h"
 #include "overlay_support.h"
 
 namespace picture {

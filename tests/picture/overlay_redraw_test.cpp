@@ -5,6 +5,9 @@
 
 #include "adapters/imaging/qt_imaging.h"
 #include "adapters/posix/posix_files.h"
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
 #include "overlay_support.h"
 #include "posix/temporary_folder.h"
 

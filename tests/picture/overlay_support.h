@@ -4,6 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "model/picture_controls.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_list.h"
 #include "picture/overlay.h"
 #include "playback/show_support.h"
 

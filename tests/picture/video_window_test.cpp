@@ -4,6 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "app/timers.h"
+#include "model/controls.h"
+#include "model/picture_controls.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/video_window.h"
 #include "support/fake_platform.h"
 
 namespace {

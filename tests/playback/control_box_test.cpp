@@ -1,6 +1,10 @@
 // The control box of a show in full screen: its place, its buttons, what each of them does.
 #include <gtest/gtest.h>
 
+#include "model/controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "show_support.h"
 
 namespace playback_tests {

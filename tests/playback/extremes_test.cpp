@@ -2,6 +2,8 @@
 // under each overlap: the show goes on and ends where it should.
 #include <gtest/gtest.h>
 
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_list.h"
 #include "show_support.h"
 
 namespace playback_tests {

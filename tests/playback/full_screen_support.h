@@ -1,6 +1,7 @@
 // Shows that run in full screen.
 #pragma once
 
+#include "model/windows/main_window.h"
 #include "show_support.h"
 
 namespace playback_tests {

@@ -3,6 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "full_screen_support.h"
+#include "model/controls.h"
+#include "model/picture_controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_list.h"
 
 namespace playback_tests {
 namespace {

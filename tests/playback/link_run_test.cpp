@@ -2,6 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "document/show_document.h"
+#include "model/windows/control_box.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "show_support.h"
 
 namespace playback_tests {

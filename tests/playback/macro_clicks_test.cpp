@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "macro/macro.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/video_window.h"
 #include "show_support.h"
 
 namespace playback_tests {

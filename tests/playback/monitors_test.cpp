@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "full_screen_support.h"
+#include "model/windows/control_box.h"
+#include "model/windows/picture_holder.h"
 
 namespace playback_tests {
 namespace {

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "full_screen_support.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
 #include "text/paths.h"
 
 namespace playback_tests {

@@ -6,6 +6,10 @@
 #include <vector>
 
 #include "app/timers.h"
+#include "model/controls.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
 #include "picture/screen.h"
 #include "picture/video_window.h"
 #include "playback/control_box.h"

@@ -6,6 +6,10 @@
 
 #include "document/show_document.h"
 #include "full_screen_support.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/video_window.h"
 #include "text/paths.h"
 
 namespace playback_tests {

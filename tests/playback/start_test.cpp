@@ -1,6 +1,8 @@
 // START in all its cases.
 #include <gtest/gtest.h>
 
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "show_support.h"
 
 namespace playback_tests {

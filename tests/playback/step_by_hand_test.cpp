@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "full_screen_support.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 
 namespace playback_tests {
 namespace {

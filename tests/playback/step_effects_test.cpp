@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "document/show_document.h"
+#include "model/windows/main_window.h"
 #include "show_support.h"
 
 namespace playback_tests {

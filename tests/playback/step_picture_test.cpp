@@ -1,6 +1,11 @@
 // One slide step: the picture branch, the video branch, load failures.
 #include <gtest/gtest.h>
 
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/video_window.h"
 #include "show_support.h"
 
 namespace playback_tests {

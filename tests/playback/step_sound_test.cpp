@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "model/windows/main_window.h"
 #include "show_support.h"
 #include "text/numbers.h"
 

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "document/show_document.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "show_support.h"
 
 namespace playback_tests {

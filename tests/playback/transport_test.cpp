@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "model/controls.h"
+#include "model/windows/main_window.h"
 #include "show_support.h"
 
 namespace playback_tests {

@@ -11,6 +11,8 @@
 
 #include "adapters/posix/posix_files.h"
 #include "document/state_files.h"
+#include "model/windows/link_list.h"
+#include "model/windows/slide_list.h"
 #include "support/fake_platform.h"
 #include "temporary_folder.h"
 

@@ -10,6 +10,8 @@
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/form_loader.h"
 #include "macro/macro.h"
+#include "model/picture_controls.h"
+#include "model/windows/slide_screen.h"
 #include "support/fake_platform.h"
 
 namespace {

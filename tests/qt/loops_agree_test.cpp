@@ -7,6 +7,9 @@
 #include "adapters/qt/desktop.h"
 #include "adapters/robot/virtual_loop.h"
 #include "app/timers.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_list.h"
 #include "playback/transport.h"
 #include "support/fake_platform.h"
 

@@ -7,6 +7,10 @@
 #include <QDBusReply>
 #include <QDialog>
 
+#include "model/controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "test_bus.h"
 
 namespace qt_tests {

@@ -9,6 +9,7 @@
 #include "adapters/qt/qt_monitors.h"
 #include "adapters/qt/qt_text_renderer.h"
 #include "adapters/qt/virtual_keys.h"
+#include "model/list_controls.h"
 
 namespace {
 

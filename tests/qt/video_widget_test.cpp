@@ -11,6 +11,7 @@
 
 #include "adapters/qt/desktop.h"
 #include "model/windows.h"
+#include "model/windows/video_window.h"
 
 namespace {
 

@@ -23,6 +23,13 @@
 #include "adapters/qt/convert.h"
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/form_loader.h"
+#include "model/controls.h"
+#include "model/menu.h"
+#include "model/picture_controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/picture_holder.h"
+#include "model/windows/slide_screen.h"
 
 namespace {
 

@@ -1,6 +1,8 @@
 // Clicks on pieces with a place: the shape takes them, what lies beside it does not.
 #include <gtest/gtest.h>
 
+#include "model/picture_controls.h"
+#include "model/windows/main_window.h"
 #include "robot_run.h"
 
 namespace robot {

@@ -5,6 +5,10 @@
 #include "adapters/robot/robot_dialogs.h"
 #include "adapters/robot/traced_system.h"
 #include "adapters/robot/window_tracer.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
+#include "model/windows/video_window.h"
 #include "support/fake_platform.h"
 
 namespace robot {

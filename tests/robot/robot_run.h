@@ -10,6 +10,7 @@
 #include <string>
 
 #include "adapters/robot/robot.h"
+#include "model/windows/main_window.h"
 #include "support/fake_platform.h"
 
 namespace robot {

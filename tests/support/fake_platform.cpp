@@ -1,6 +1,9 @@
 // What makes all the fakes is compiled once, and not in every test.
 #include "fake_platform.h"
 
+#include "model/controls.h"
+#include "model/windows/picture_holder.h"
+
 namespace fakes {
 
 FakePlatform::FakePlatform() {

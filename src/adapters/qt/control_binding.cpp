@@ -24,6 +24,10 @@
 #include "adapters/qt/stage_widget.h"
 #include "adapters/qt/video_widget.h"
 #include "model/controls.h"
+#include "model/grid.h"
+#include "model/list_controls.h"
+#include "model/picture_controls.h"
+#include "model/scroll_bar.h"
 #include "platform/monitors.h"
 
 namespace qt_adapter {

@@ -6,6 +6,7 @@
 #include <QScrollBar>
 
 #include "adapters/qt/virtual_keys.h"
+#include "model/list_controls.h"
 
 namespace qt_adapter {
 

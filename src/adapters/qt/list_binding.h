@@ -5,6 +5,7 @@
 
 #include "adapters/qt/control_binding.h"
 #include "adapters/qt/rows_model.h"
+#include "model/list_controls.h"
 
 namespace qt_adapter {
 

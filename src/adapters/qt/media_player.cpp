@@ -9,6 +9,10 @@
 #include <algorithm>
 
 #include "adapters/qt/convert.h"
+#include "model/controls.h"
+#include "model/windows/control_box.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 
 namespace qt_adapter {
 

@@ -8,6 +8,7 @@
 #include "document/show_document.h"
 #include "macro/check.h"
 #include "macro/macro.h"
+#include "model/windows/slide_list.h"
 #include "text/paths.h"
 
 namespace robot {

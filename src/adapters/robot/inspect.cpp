@@ -9,6 +9,9 @@
 #include "document/link_document.h"
 #include "document/show_document.h"
 #include "document/state_files.h"
+#include "model/windows/link_list.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_list.h"
 #include "text/paths.h"
 
 namespace robot {

@@ -7,6 +7,8 @@
 #include <system_error>
 #include <utility>
 
+#include "model/windows/main_window.h"
+
 namespace robot {
 
 namespace {

@@ -12,6 +12,8 @@
 #include "model/menu.h"
 #include "model/picture_controls.h"
 #include "model/scroll_bar.h"
+#include "model/windows/main_window.h"
+#include "model/windows/slide_screen.h"
 #include "platform/monitors.h"
 
 namespace robot {

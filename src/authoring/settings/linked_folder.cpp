@@ -1,6 +1,7 @@
 #include "authoring/settings/linked_folder.h"
 
 #include "authoring/shared/file_browser.h"
+#include "model/windows/linked_folder.h"
 #include "picture/screen.h"
 #include "text/paths.h"
 

@@ -1,5 +1,7 @@
 #include "authoring/settings/text_display.h"
 
+#include "model/windows/main_window.h"
+#include "model/windows/text_display.h"
 #include "picture/screen.h"
 
 namespace authoring {
