@@ -2,16 +2,6 @@
 
 #include <algorithm>
 
-#include "macro/buttons.h"
-#include "macro/cutouts.h"
-#include "macro/flow_words.h"
-#include "macro/grad_text.h"
-#include "macro/motion.h"
-#include "macro/rotated_text.h"
-#include "macro/screen_words.h"
-#include "macro/setting_words.h"
-#include "macro/sound_words.h"
-#include "macro/telop.h"
 #include "macro/text_words.h"
 #include "text/numbers.h"
 
@@ -34,20 +24,6 @@ Flow RunKeyword(const Keyword& keyword, Run& run) {
 }
 
 }  // namespace
-
-const std::vector<Keyword>& Keywords() {
-    using enum BadValue::Kind;
-    const auto Becomes = [](double value) { return BadValue{Replaced, value}; };
-    constexpr bool Uses = false, Rewrites = true;
-    static const std::vector<Keyword> keywords = {
-#define WORD(name, form, lowest, highest, bad, scope, number, digits, line, handler, ...) \
-    {name,   Form::form, {lowest, highest}, BadValue{bad}, Scope::scope, Number::number,  \
-     digits, line,       handler,           __VA_ARGS__},
-#include "macro/keywords.def"
-#undef WORD
-    };
-    return keywords;
-}
 
 NumberRead ReadNumber(const Keyword& keyword, TextView upperLine, size_t argStart) {
     NumberRead read;

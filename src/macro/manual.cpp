@@ -133,7 +133,7 @@ Text Entry(const Keyword& keyword) {
 }
 
 const Keyword* Find(TextView name) {
-    const auto& keywords = Keywords();
+    const auto keywords = Keywords();
     const auto row = std::find_if(keywords.begin(), keywords.end(),
                                   [&](const Keyword& keyword) { return keyword.name == name; });
     return row == keywords.end() ? nullptr : &*row;
