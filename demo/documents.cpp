@@ -31,7 +31,7 @@ bool WriteBytes(const QString& path, const QByteArray& bytes) {
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
 }
 
-/// Collects the lines of a document, numbers with the sign's blank and the blank behind.
+/// Collects the lines of a document, numbers with the sign's blank and the blank after them.
 class Lines {
 public:
     void Number(int value) {
@@ -103,7 +103,7 @@ QByteArray NewestShow(const QString& name, const QStringList& slides, QStringLis
     return lines.Bytes();
 }
 
-/// The form before linked folders, overlays and schedules: it ends behind the slides.
+/// The form before linked folders, overlays and schedules: it ends after the slides.
 QByteArray MiddleShow(const QString& name, const QStringList& slides) {
     Lines lines;
     WriteHead(lines, QStringLiteral("1vue3167"), name);

@@ -17,7 +17,7 @@ uint32_t Hash(int x, int y, uint32_t seed) {
 
 float Slope(int x, int y, float dx, float dy, uint32_t seed) {
     const uint32_t h = Hash(x, y, seed);
-    // Eight directions are enough: the eye sees no grid behind several octaves.
+    // Eight directions are enough: the eye sees no grid under several octaves.
     static constexpr float kX[] = {1, 0.7071f, 0, -0.7071f, -1, -0.7071f, 0, 0.7071f};
     static constexpr float kY[] = {0, 0.7071f, 1, 0.7071f, 0, -0.7071f, -1, -0.7071f};
     return kX[h & 7] * dx + kY[h & 7] * dy;

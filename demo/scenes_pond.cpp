@@ -29,7 +29,7 @@ KoiShape ShapeOf(const Koi& koi) {
         const float turn = koi.heading + kPi + koi.bend * std::sin(t * 4.2f) * (0.25f + t);
         const QPointF along(std::cos(turn), std::sin(turn));
         const QPointF across(-along.y(), along.x());
-        // Broad behind the head, thin before the tail.
+        // Broad at the head, thin before the tail.
         const float width = koi.length * 0.135f *
                                 std::pow(std::sin(kPi * std::pow(t, 0.52f) * 0.985f), 0.8f) *
                                 (1 - 0.42f * t) +

@@ -184,6 +184,16 @@ TEST_F(SettingWords, SizeAdjustmentCountsOtherwiseThanItsMenu) {
     EXPECT_EQ(app.windows.form4.Lead2.imaging->HeldSize().width, 30);
 }
 
+TEST_F(SettingWords, TextOriginMovesThePenOfTheWindowToo) {
+    GoFullScreen();
+    Play(u"CurrentY=7\r\n");
+    EXPECT_EQ(form1.Picture1.canvas.penY, 7) << "the window's pen counts from its canvas";
+    EXPECT_EQ(screen.P2.canvas.penY, 37);
+    Play(u"ScreenXY=0\r\n");
+    EXPECT_EQ(form1.Picture1.canvas.penY, 30) << "but here it takes the picture's place as well";
+    EXPECT_EQ(screen.P2.canvas.penY, 30);
+}
+
 TEST_F(SettingWords, TextOriginOfTheRunKeepsTheSettingsOwn) {
     for (const int16_t own : {int16_t(0), int16_t(1)}) {
         state.TextOriginScreen = own;

@@ -93,6 +93,15 @@ TEST_F(Drawing, LastLineOfTheFileIsDrawnWithoutALineEnd) {
     EXPECT_THAT(On(inWindow), ElementsAre("0,0 last FFFFFF"));
 }
 
+TEST_F(Drawing, ALineFeedOrTabThatEndsTheFileIsText) {
+    Play(u"LineSpace=5\n[テキスト]\nA\n\nB");
+    EXPECT_EQ(form1.Picture1.canvas.penY, 45 + 40 + 45) << "an empty line takes no space";
+    Play(u"LineSpace=5\n[テキスト]\nA\n\n");
+    EXPECT_EQ(form1.Picture1.canvas.penY, 45 + 45) << "the last line holds its line feed";
+    Play(u"Tab=4\n[テキスト]\nA\tB\t");
+    EXPECT_EQ(fake.trace.Of("text").back().String("text"), u"A   B\t");
+}
+
 TEST_F(Drawing, TextBeforeItsSectionIsNotDrawn) {
     Play(u"not a word\n[テキスト] behind\n");
     EXPECT_THAT(fake.textRenderer.drawn, IsEmpty());
