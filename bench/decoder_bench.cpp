@@ -1,5 +1,5 @@
-// What the decoder's process costs: an ordinary old picture (PCX, 640 × 480, 24 bits) behind the
-// door, less the time of the same decoder without a door; and the first picture of all, which
+// What the decoder's process costs: an ordinary old picture (PCX, 640 × 480, 24 bits) in the
+// sandbox, less the time of the same decoder without one; and the first picture of all, which
 // starts the process.
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "adapters/decoder/decode.h"
-#include "adapters/door/client.h"
+#include "adapters/sandbox/client.h"
 
 namespace {
 
@@ -81,29 +81,29 @@ bool IsPicture(int width, int height) {
 
 int main() {
     const std::vector<uint8_t> bytes = Pcx();
-    const door::Descriptor file(memfd_create("pcx", MFD_CLOEXEC));
+    const sandbox::Descriptor file(memfd_create("pcx", MFD_CLOEXEC));
     if (write(file.Get(), bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
         return 2;
     }
     bool right = true;
-    door::Client client;
-    const auto behindDoor = [&] {
-        const door::Result result = client.Decode(door::Kind::Pcx, file.Get(), {});
+    sandbox::Client client;
+    const auto sandboxed = [&] {
+        const sandbox::Result result = client.Decode(sandbox::Kind::Pcx, file.Get(), {});
         right = right && result.pixels && IsPicture(result.size.width, result.size.height);
     };
-    const double first = Milliseconds(behindDoor);
-    const double warm = Median(behindDoor);
+    const double first = Milliseconds(sandboxed);
+    const double warm = Median(sandboxed);
     decoder::WarmUp();
     const double bare = Median([&] {
-        const auto picture = decoder::Decode(door::Kind::Pcx, bytes, {});
+        const auto picture = decoder::Decode(sandbox::Kind::Pcx, bytes, {});
         right = right && picture && IsPicture(picture->size.width, picture->size.height);
     });
     if (!right) {
         std::puts("the picture does not decode");
         return 1;
     }
-    std::printf("behind the door %.2f ms, without one %.2f ms, the very first %.1f ms\n", warm,
-                bare, first);
+    std::printf("in the sandbox %.2f ms, without one %.2f ms, the very first %.1f ms\n", warm, bare,
+                first);
     std::printf("budget decoder-overhead-ms %.2f %.0f\n", warm - bare, kBudgetMs);
     return 0;
 }

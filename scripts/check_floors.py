@@ -13,14 +13,14 @@ FLOORS = {
     "text": 1, "platform": 2, "model": 3, "document": 4, "picture": 5, "sound": 5,
     "macro": 6, "playback": 7, "authoring": 8, "app": 9,
 }
-ADAPTERS = {"qt", "gstreamer", "cdio", "imaging", "door", "confine", "decoder", "svg",
+ADAPTERS = {"qt", "gstreamer", "cdio", "imaging", "sandbox", "confine", "decoder", "svg",
             "posix", "robot"}
 # The robot plays a person: it needs the windows on the screen and the trace's JSON.
-# The disc reader feeds the sound. Program and decoder's process talk through the door.
+# The disc reader feeds the sound. Program and decoder's process talk through the sandbox.
 ADAPTER_NEIGHBOURS = {"robot": {"qt", "posix"}, "qt": {"posix"}, "cdio": {"gstreamer"},
-                      "door": {"posix"}, "imaging": {"door", "posix"},
-                      "confine": {"door", "posix"}, "decoder": {"confine", "door", "posix"},
-                      "svg": {"confine", "door"}}
+                      "sandbox": {"posix"}, "imaging": {"sandbox", "posix"},
+                      "confine": {"sandbox", "posix"}, "decoder": {"confine", "sandbox", "posix"},
+                      "svg": {"confine", "sandbox"}}
 # Standard headers whose whole purpose is forbidden in the logic.
 FORBIDDEN_HEADERS = {
     "thread": "one thread runs the logic", "mutex": "one thread runs the logic",

@@ -85,7 +85,7 @@ echo "-- pictures that other processes decode"
 # A grey pixel, uncompressed: head, no palette, no resources, no layers, the way of storing, pixel.
 printf '8BPS\0\1\0\0\0\0\0\0\0\1\0\0\0\1\0\0\0\1\0\10\0\1%b\0\0\200' \
     '\0\0\0\0\0\0\0\0\0\0\0\0' >"$scratch/grey.psd"
-cp "$source/tests/door/drawings/shapes.svg" "$scratch"
+cp "$source/tests/sandbox/drawings/shapes.svg" "$scratch"
 printf 'vue2\r\na.kvs\r\n 3000 \r\n 1 \r\n 7 \r\n*.wav\r\n 2 \r\ngrey.psd\r\nshapes.svg\r\n' \
     >"$scratch/pictures.kvs"
 printf '%s\n' "choose $scratch/pictures.kvs" "menu mnuOPEN" "click Form1.Command1" "+6000 quit" \

@@ -1,4 +1,4 @@
-// The one door to audio.
+// The one way to audio.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// The one door to moving pictures: one player for the whole program.
+// The one way to moving pictures: one player for the whole program.
 #pragma once
 
 #include <algorithm>

@@ -19,11 +19,11 @@
 #include <functional>
 #include <utility>
 
-#include "adapters/door/process.h"
+#include "adapters/sandbox/process.h"
 
 namespace {
 
-using door::Role;
+using sandbox::Role;
 
 constexpr int kUnlimited = 99;
 
@@ -147,7 +147,7 @@ TEST(Limits, NoNamespacesOfTheirOwn) {
 
 TEST(Limits, OnlyTheProgramsSocketStopsTakingMessages) {
     EXPECT_EQ(ErrorOf(Role::Raster, [] { return shutdown(4, SHUT_RD) == 0; }), EPERM);
-    EXPECT_EQ(ErrorOf(Role::Raster, [] { return shutdown(door::kProcessSocket, SHUT_WR) == 0; }),
+    EXPECT_EQ(ErrorOf(Role::Raster, [] { return shutdown(sandbox::kProcessSocket, SHUT_WR) == 0; }),
               EPERM);
 }
 
@@ -213,10 +213,10 @@ TEST(Limits, MemoryIsBounded) {
 TEST(Limits, AnAnswerIsBounded) {
     EXPECT_EQ(
         ErrorOf(Role::Raster,
-                [] { return ftruncate(memfd_create("fits", 0), door::kMostPixelBytes) == 0; }),
+                [] { return ftruncate(memfd_create("fits", 0), sandbox::kMostPixelBytes) == 0; }),
         0);
     const int status = StatusOf(Role::Raster, [] {
-        return ftruncate(memfd_create("large", 0), door::kMostPixelBytes + 1);
+        return ftruncate(memfd_create("large", 0), sandbox::kMostPixelBytes + 1);
     });
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ);
 }

@@ -8,7 +8,7 @@
 namespace {
 
 using decoder::Picture;
-using door::Kind;
+using sandbox::Kind;
 
 /// No picture, or one that is what it says.
 void ExpectSound(Kind kind, const FileBytes& file) {
@@ -94,7 +94,7 @@ TEST(Damaged, SizesOfNothingAndOfFarTooMuch) {
 
 TEST(Damaged, OneKindIsNotReadAsAnother) {
     const FileBytes png = Sample("sources/card_ppm.png");
-    for (int kind = 0; kind <= door::kLastKind; ++kind) {
+    for (int kind = 0; kind <= sandbox::kLastKind; ++kind) {
         EXPECT_FALSE(decoder::Decode(static_cast<Kind>(kind), png, {})) << kind;
     }
     EXPECT_FALSE(decoder::Decode(Kind::None, Sample("psd_rgb_raw.psd"), {}));

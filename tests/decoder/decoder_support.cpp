@@ -45,8 +45,8 @@ Picture Source(const std::string& name) {
     return picture;
 }
 
-door::Kind KindOfSample(const std::string& name) {
-    using door::Kind;
+sandbox::Kind KindOfSample(const std::string& name) {
+    using sandbox::Kind;
     constexpr std::pair<const char*, Kind> kKinds[] = {
         {"psd", Kind::Psd},   {"tga", Kind::Tga},   {"pcx", Kind::Pcx}, {"cal", Kind::Cal},
         {"mac", Kind::Mac},   {"img", Kind::Img},   {"msp", Kind::Msp}, {"wpg", Kind::Wpg},
@@ -86,7 +86,7 @@ std::vector<std::string> SampleNames() {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(PARAPICO_SAMPLES)) {
         const std::string name = entry.path().filename().string();
-        if (entry.is_regular_file() && KindOfSample(name) != door::Kind::None) {
+        if (entry.is_regular_file() && KindOfSample(name) != sandbox::Kind::None) {
             names.push_back(name);
         }
     }

@@ -17,7 +17,7 @@ FileBytes Sample(const std::string& name);
 decoder::Picture Source(const std::string& name);
 
 /// The kind that the beginning of a sample's name says.
-door::Kind KindOfSample(const std::string& name);
+sandbox::Kind KindOfSample(const std::string& name);
 
 /// Distances of the colour parts between two pictures of one size.
 struct Difference {

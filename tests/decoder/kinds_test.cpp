@@ -251,7 +251,7 @@ TEST(Kinds, ScannedDrawingsRunInEightDirections) {
         ASSERT_NE(at, std::string::npos);
         changed.replace(at, 16, "rorient: " + three(line) + "," + three(lines));
         const auto picture =
-            decoder::Decode(door::Kind::Cal,
+            decoder::Decode(sandbox::Kind::Cal,
                             {reinterpret_cast<const uint8_t*>(changed.data()), changed.size()}, {});
         ASSERT_TRUE(picture);
         const bool sideways = across(line) == 0;

@@ -308,7 +308,7 @@ def make_toolkit_kinds():
     run("pamtotiff", "-g4", mono, to="toolkit/tif_fax4.tif")
     run("ffmpeg", "-v", "error", "-y", "-i", source("alpha.pam"), "toolkit/tif_alpha.tif")
     # The toolkit's reader refuses plain ones of 24 bits, and tiles larger than the picture: these
-    # two are read behind the door.
+    # two are read in the sandbox.
     for name, side in (("plain", "16"), ("large", "128")):
         run("tiffcp", "-c", "none", "-t", "-w", side, "-l", side, plain,
             f"toolkit/tif_tiled_{name}.tif")
@@ -324,7 +324,7 @@ def make_toolkit_kinds():
     put("toolkit/bmp_runs4.bmp", by_hand.bmp_runs4(src.INDEXES16, src.PALETTE16))
     put("toolkit/bmp_16.bmp", by_hand.bmp([[by_hand.fifteen_bits(p) for p in row]
                                            for row in src.FIVE_BITS], 16))
-    # Words of 16 bits whose bits are told: behind the door.
+    # Words of 16 bits whose bits are told: in the sandbox.
     put("bmp_555.bmp", by_hand.bmp([[by_hand.fifteen_bits(p) for p in row]
                                     for row in src.FIVE_BITS], 16,
                                    masks=(0x7C00, 0x3E0, 0x1F)))

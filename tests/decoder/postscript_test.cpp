@@ -15,7 +15,7 @@ constexpr uint32_t kRed = 0xFFFF0000u, kGreen = 0xFF00FF00u, kBlue = 0xFF0000FFu
 constexpr uint32_t kWhite = 0xFFFFFFFFu;
 
 std::optional<Picture> Draw(const std::string& text, Size wanted = {}) {
-    return decoder::Decode(door::Kind::Eps,
+    return decoder::Decode(sandbox::Kind::Eps,
                            {reinterpret_cast<const uint8_t*>(text.data()), text.size()}, wanted);
 }
 
@@ -49,19 +49,19 @@ TEST(PostScript, DrawsTheBoxAtItsOwnSize) {
          {"eps_plain.eps", "eps_hires.eps", "eps_atend.eps", "eps_cr.eps", "eps_crlf.eps",
           "eps_negative.eps", "eps_not_declared.eps", "eps_dos.eps"}) {
         SCOPED_TRACE(file);
-        ExpectDrawing(decoder::Decode(door::Kind::Eps, Sample(file), {}), {60, 40});
+        ExpectDrawing(decoder::Decode(sandbox::Kind::Eps, Sample(file), {}), {60, 40});
     }
 }
 
 TEST(PostScript, DrawsAtTheWantedSize) {
     const FileBytes file = Sample("eps_plain.eps");
     for (const Size size : {Size{600, 400}, Size{120, 400}, Size{30, 20}, Size{1920, 1280}}) {
-        ExpectDrawing(decoder::Decode(door::Kind::Eps, file, size), size);
+        ExpectDrawing(decoder::Decode(sandbox::Kind::Eps, file, size), size);
     }
 }
 
 TEST(PostScript, WithoutALegibleBoxThereIsNoPicture) {
-    EXPECT_FALSE(decoder::Decode(door::Kind::Eps, Sample("eps_no_box.eps"), {}));
+    EXPECT_FALSE(decoder::Decode(sandbox::Kind::Eps, Sample("eps_no_box.eps"), {}));
     EXPECT_FALSE(Draw("%!PS\n%%BoundingBox: (atend)\nshowpage\n"));
     EXPECT_FALSE(Draw("%!PS\n%%BoundingBox: 0 0 20000 20000\nshowpage\n"));  // above the limit
 }

@@ -35,7 +35,7 @@ QByteArray PngHeader(int width, int height);
 class ImagingFolder {
 public:
     /// Without options a picture has all the time that a slow machine may need.
-    explicit ImagingFolder(const door::ClientOptions& decoder = {"", {}, 600000})
+    explicit ImagingFolder(const sandbox::ClientOptions& decoder = {"", {}, 600000})
         : imaging_(files_, true, decoder) {}
 
     Text Put(const std::string& name, const QByteArray& bytes) {

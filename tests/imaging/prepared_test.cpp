@@ -338,7 +338,7 @@ TEST_F(Prepared, DrawingsAreDrawnAheadAndFailuresAreHeld) {
 }
 
 /// Pictures whose decoder does what they say.
-struct PreparedBehindDoor : ::testing::Test {
+struct PreparedSandboxed : ::testing::Test {
     ImagingFolder folder{{PARAPICO_STAND_IN, {"limited"}, 60000}};
     std::unique_ptr<platform::ImagingControl> control = folder.Control();
 
@@ -348,7 +348,7 @@ struct PreparedBehindDoor : ::testing::Test {
     }
 };
 
-TEST_F(PreparedBehindDoor, TheWorkerHasAProcessOfItsOwn) {
+TEST_F(PreparedSandboxed, TheWorkerHasAProcessOfItsOwn) {
     // Another one: what was shown is held without decoding once its time stamp is old enough.
     const Text other = folder.Put("b.psd", "8BPScount"), path = folder.Put("a.psd", "8BPScount");
     EXPECT_EQ(Counted(other), 1u);
@@ -361,7 +361,7 @@ TEST_F(PreparedBehindDoor, TheWorkerHasAProcessOfItsOwn) {
     EXPECT_EQ(Counted(path), 3u);
 }
 
-TEST_F(PreparedBehindDoor, AFailureIsHeldUntilTheFileChanges) {
+TEST_F(PreparedSandboxed, AFailureIsHeldUntilTheFileChanges) {
     const Text path = folder.Put("a.psd", "8BPSthrow");
     folder.Imaging().Prepare({{path, {}}});
     folder.Imaging().Prepared().Finish();
@@ -371,7 +371,7 @@ TEST_F(PreparedBehindDoor, AFailureIsHeldUntilTheFileChanges) {
     EXPECT_EQ(Counted(path), 1u);
 }
 
-TEST_F(PreparedBehindDoor, WhatSaysNothingOfTheFileIsNotHeld) {
+TEST_F(PreparedSandboxed, WhatSaysNothingOfTheFileIsNotHeld) {
     ImagingFolder nowhere({"/nonexistent", {}, 60000});
     nowhere.Imaging().Prepare({{nowhere.Put("a.psd", "8BPSpicture"), {}}});
     nowhere.Imaging().Prepared().Finish();

@@ -11,7 +11,7 @@
 
 namespace confine {
 
-using door::Descriptor;
+using sandbox::Descriptor;
 
 namespace {
 
@@ -106,13 +106,13 @@ bool Add(const Descriptor& ruleset, const std::string& folder, std::span<const R
     return done;
 }
 
-bool AddRole(const Descriptor& ruleset, door::Role role) {
+bool AddRole(const Descriptor& ruleset, sandbox::Role role) {
     switch (role) {
-        case door::Role::Raster:
+        case sandbox::Role::Raster:
             return true;
-        case door::Role::Eps:
+        case sandbox::Role::Eps:
             return Add(ruleset, "", kDrawingRules) && Add(ruleset, "", kEpsRules);
-        case door::Role::Svg: {
+        case sandbox::Role::Svg: {
             const char* home = std::getenv("HOME");
             return Add(ruleset, "", kDrawingRules) &&
                    (home == nullptr || Add(ruleset, home, kHomeRules));
@@ -123,7 +123,7 @@ bool AddRole(const Descriptor& ruleset, door::Role role) {
 
 }  // namespace
 
-bool ConfineFiles(door::Role role) {
+bool ConfineFiles(sandbox::Role role) {
     const long version = KernelVersion();
     if (version < 1) {
         return true;

@@ -20,7 +20,7 @@ namespace {
 /// By role. Raster needs each of them: the standard ones, the socket, what tells the memory, the
 /// empty device, a file and its pixels. Interpreter and toolkit need 10 and 9, more with more
 /// fonts.
-constexpr rlim_t kMostDescriptors[door::kRoles] = {8, 24, 16};
+constexpr rlim_t kMostDescriptors[sandbox::kRoles] = {8, 24, 16};
 
 #if defined(__SANITIZE_ADDRESS__)
 // Its shadow takes more addresses than any limit.
@@ -43,10 +43,10 @@ int watched = -1;
 
 }  // namespace
 
-void FollowProgram(door::Role role) {
+void FollowProgram(sandbox::Role role) {
     // A helper would outlive this process: the signal's handler takes it along. It is not asked
     // for before the process leads its own group.
-    if (role == door::Role::Eps && getpgrp() == getpid()) {
+    if (role == sandbox::Role::Eps && getpgrp() == getpid()) {
         signal(SIGTERM, KillGroup);
         prctl(PR_SET_PDEATHSIG, SIGTERM);
     } else {
@@ -54,9 +54,9 @@ void FollowProgram(door::Role role) {
     }
 }
 
-bool LimitProcess(door::Role role) {
+bool LimitProcess(sandbox::Role role) {
     return (!kLimitsMemory || LimitForGood(RLIMIT_AS, kMostMemory)) &&
-           LimitForGood(RLIMIT_FSIZE, door::kMostPixelBytes) &&
+           LimitForGood(RLIMIT_FSIZE, sandbox::kMostPixelBytes) &&
            LimitForGood(RLIMIT_NOFILE, kMostDescriptors[static_cast<int>(role)]) &&
            LimitForGood(RLIMIT_CORE, 0) && prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
            ConfineFiles(role) && ConfineSystemCalls(role);

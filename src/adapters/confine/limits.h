@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "adapters/door/message.h"
+#include "adapters/sandbox/message.h"
 
 namespace confine {
 
@@ -18,7 +18,7 @@ constexpr uint64_t kMostKept = uint64_t{512} << 20;
 constexpr uint64_t kMostKeptAddresses = uint64_t{1} << 30;
 
 /// The process ends when its program does, with all that it started. Call first.
-void FollowProgram(door::Role role);
+void FollowProgram(sandbox::Role role);
 
 /// Once and for good, for this process and all that it starts: memory, length of written files,
 /// number of open ones, no dumps, no new rights. Memory without a name (memfd) counts as files: as
@@ -27,7 +27,7 @@ void FollowProgram(door::Role role);
 /// what is installed with it; Svg: libraries and fonts can be read; neither can write. False when
 /// the system refuses what must be there; where the kernel cannot confine the files that are opened
 /// (before 5.13), drawings go on and can read what the user can.
-bool LimitProcess(door::Role role);
+bool LimitProcess(sandbox::Role role);
 
 /// From now on the process has this much processor time; then it dies of SIGXCPU.
 void AllowProcessorTime(int seconds);

@@ -8,30 +8,31 @@
 #include <string_view>
 
 #include "adapters/confine/limits.h"
-#include "adapters/door/process.h"
-#include "adapters/door/transfer.h"
+#include "adapters/sandbox/process.h"
+#include "adapters/sandbox/transfer.h"
 
 namespace confine {
 
-using door::Answer;
-using door::Descriptor;
-using door::Request;
+using sandbox::Answer;
+using sandbox::Descriptor;
+using sandbox::Request;
 
 namespace {
 
 /// What the program would not believe is not sent.
-bool Sound(const door::Picture& picture) {
-    return door::FitsBound(picture.size) &&
+bool Sound(const sandbox::Picture& picture) {
+    return sandbox::FitsBound(picture.size) &&
            picture.pixels.size() ==
                static_cast<size_t>(picture.size.width) * static_cast<size_t>(picture.size.height);
 }
 
 void Measure(const Request& request, std::span<const uint8_t> file, const Service& service,
              Answer& answer) {
-    const auto size = service.measure ? service.measure(static_cast<door::Kind>(request.kind), file)
-                                      : std::nullopt;
+    const auto size = service.measure
+                          ? service.measure(static_cast<sandbox::Kind>(request.kind), file)
+                          : std::nullopt;
     if (size && !size->Empty()) {
-        answer.what = door::kMeasured;
+        answer.what = sandbox::kMeasured;
         answer.width = size->width;
         answer.height = size->height;
     }
@@ -39,14 +40,14 @@ void Measure(const Request& request, std::span<const uint8_t> file, const Servic
 
 Descriptor Decode(const Request& request, std::span<const uint8_t> file, const Service& service,
                   Answer& answer) {
-    const auto picture = service.decode(static_cast<door::Kind>(request.kind), file,
+    const auto picture = service.decode(static_cast<sandbox::Kind>(request.kind), file,
                                         {request.width, request.height});
     Descriptor pixels;
     if (picture && Sound(*picture)) {
-        pixels = door::MakePixels(picture->pixels);
+        pixels = sandbox::MakePixels(picture->pixels);
     }
     if (pixels.Valid()) {
-        answer.what = door::kDecoded;
+        answer.what = sandbox::kDecoded;
         answer.bitsPerPixel = static_cast<uint32_t>(picture->bitsPerPixel);
         answer.width = picture->size.width;
         answer.height = picture->size.height;
@@ -58,8 +59,8 @@ Descriptor AnswerOne(const Request& request, int file, const Service& service, A
     answer.serial = request.serial;
     Descriptor pixels;
     try {
-        if (const auto bytes = door::ReadFile(file)) {
-            if (request.task == door::kMeasure) {
+        if (const auto bytes = sandbox::ReadFile(file)) {
+            if (request.task == sandbox::kMeasure) {
                 Measure(request, *bytes, service, answer);
             } else {
                 pixels = Decode(request, *bytes, service, answer);
@@ -78,12 +79,13 @@ int Serve(int socket, const Service& service) {
     constexpr int kForever = -1;
     const MemoryUse atFirst = UsedMemory();
     while (true) {
-        const door::Received received = door::Receive(socket, kForever);
-        if (received.state == door::Received::State::Gone) {
+        const sandbox::Received received = sandbox::Receive(socket, kForever);
+        if (received.state == sandbox::Received::State::Gone) {
             return 0;
         }
-        const auto request = door::ParseRequest(received.Bytes(), received.descriptors.size());
-        if (!request || door::RoleOf(static_cast<door::Kind>(request->kind)) != service.role) {
+        const auto request = sandbox::ParseRequest(received.Bytes(), received.descriptors.size());
+        if (!request ||
+            sandbox::RoleOf(static_cast<sandbox::Kind>(request->kind)) != service.role) {
             return 1;
         }
         AllowProcessorTime(kPictureSeconds);
@@ -96,7 +98,7 @@ int Serve(int socket, const Service& service) {
             // Ahead of the answer: a request that came behind it would go down with the process.
             shutdown(socket, SHUT_RD);
         }
-        if (!door::Send(socket, door::BytesOf(answer), pixels.Get())) {
+        if (!sandbox::Send(socket, sandbox::BytesOf(answer), pixels.Get())) {
             return 1;
         }
         if (helperLives) {
@@ -112,9 +114,9 @@ void RunService(int argc, char** argv, const std::vector<Service>& services) {
     constexpr int kWrongUsage = 2;
     const std::string_view name = argc > 1 ? argv[1] : "";
     // A helper must not hold the program's socket: its end tells the program of this process's.
-    if (fcntl(door::kProcessSocket, F_SETFD, FD_CLOEXEC) == 0) {
+    if (fcntl(sandbox::kProcessSocket, F_SETFD, FD_CLOEXEC) == 0) {
         for (const Service& service : services) {
-            if (name != door::kRoleNames[static_cast<int>(service.role)]) {
+            if (name != sandbox::kRoleNames[static_cast<int>(service.role)]) {
                 continue;
             }
             FollowProgram(service.role);
@@ -123,7 +125,7 @@ void RunService(int argc, char** argv, const std::vector<Service>& services) {
             }
             WatchMemory();
             // Nothing is tidied up at the end: libraries would only want what they cannot have.
-            _exit(LimitProcess(service.role) ? Serve(door::kProcessSocket, service) : 1);
+            _exit(LimitProcess(service.role) ? Serve(sandbox::kProcessSocket, service) : 1);
         }
     }
     _exit(kWrongUsage);

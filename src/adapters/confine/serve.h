@@ -1,4 +1,4 @@
-// A process behind the door: one request after the other, within limits.
+// A process of the sandbox: one request after the other, within limits.
 #pragma once
 
 #include <functional>
@@ -6,22 +6,23 @@
 #include <span>
 #include <vector>
 
-#include "adapters/door/message.h"
-#include "adapters/door/picture.h"
+#include "adapters/sandbox/message.h"
+#include "adapters/sandbox/picture.h"
 
 namespace confine {
 
 /// What a process does in one role. What the functions throw is a picture that failed.
 struct Service {
-    door::Role role = door::Role::Raster;
+    sandbox::Role role = sandbox::Role::Raster;
     /// Does ahead of the limits what cannot be done behind them. May be empty.
     std::function<void()> warmUp;
     /// `wanted` is empty for the picture's own size.
-    std::function<std::optional<door::Picture>(door::Kind, std::span<const uint8_t> file,
-                                               platform::Size wanted)>
+    std::function<std::optional<sandbox::Picture>(sandbox::Kind, std::span<const uint8_t> file,
+                                                  platform::Size wanted)>
         decode;
     /// A drawing's own size, however large. Empty where that takes drawing it.
-    std::function<std::optional<platform::Size>(door::Kind, std::span<const uint8_t> file)> measure;
+    std::function<std::optional<platform::Size>(sandbox::Kind, std::span<const uint8_t> file)>
+        measure;
     /// Whether a program that `decode` started still runs. May be empty where it starts none.
     std::function<bool()> helperLives;
 };

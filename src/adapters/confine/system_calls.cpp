@@ -12,7 +12,7 @@
 #include <cerrno>
 #include <span>
 
-#include "adapters/door/process.h"
+#include "adapters/sandbox/process.h"
 
 namespace confine {
 
@@ -147,7 +147,7 @@ bool AllowForAll(scmp_filter_ctx filter) {
         {SCMP_SYS(tgkill), 1, {Equal(0, self)}},
         {SCMP_SYS(kill), 1, {Equal(0, 0)}},
         // No more requests.
-        {SCMP_SYS(shutdown), 2, {Equal(0, door::kProcessSocket), Equal(1, SHUT_RD)}},
+        {SCMP_SYS(shutdown), 2, {Equal(0, sandbox::kProcessSocket), Equal(1, SHUT_RD)}},
         // Flags of a descriptor, and a second one; no locks, no signals to an owner.
         {SCMP_SYS(fcntl), 1, {Equal(1, F_GETFD)}},
         {SCMP_SYS(fcntl), 1, {Equal(1, F_SETFD)}},
@@ -188,13 +188,13 @@ bool AllowRaster(scmp_filter_ctx filter) {
     return Allow(filter, rules) && AllowClone(filter, CLONE_THREAD);
 }
 
-bool AllowRole(scmp_filter_ctx filter, door::Role role) {
+bool AllowRole(scmp_filter_ctx filter, sandbox::Role role) {
     switch (role) {
-        case door::Role::Raster:
+        case sandbox::Role::Raster:
             return AllowRaster(filter);
-        case door::Role::Eps:
+        case sandbox::Role::Eps:
             return AllowReading(filter) && Allow(filter, kForStarting) && AllowClone(filter, 0);
-        case door::Role::Svg:
+        case sandbox::Role::Svg:
             return AllowReading(filter) && Allow(filter, kForEvents) &&
                    AllowClone(filter, CLONE_THREAD);
     }
@@ -203,7 +203,7 @@ bool AllowRole(scmp_filter_ctx filter, door::Role role) {
 
 }  // namespace
 
-bool ConfineSystemCalls(door::Role role) {
+bool ConfineSystemCalls(sandbox::Role role) {
     scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ERRNO(EPERM));
     if (filter == nullptr) {
         return false;

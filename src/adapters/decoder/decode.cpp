@@ -12,7 +12,7 @@ namespace decoder {
 
 namespace {
 
-using door::Kind;
+using sandbox::Kind;
 using Bytes = std::span<const uint8_t>;
 
 struct Row {

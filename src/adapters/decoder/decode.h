@@ -5,12 +5,12 @@
 #include <optional>
 #include <span>
 
-#include "adapters/door/kind.h"
-#include "adapters/door/picture.h"
+#include "adapters/sandbox/kind.h"
+#include "adapters/sandbox/picture.h"
 
 namespace decoder {
 
-using door::Picture;
+using sandbox::Picture;
 
 /// Pixels of the largest picture that is decoded: two of its copies fit the process's memory.
 constexpr int64_t kMostPixels = int64_t{1} << 27;
@@ -23,7 +23,7 @@ void WarmUp();
 /// at, empty for the drawing's own (72 dots an inch). Nothing for a damaged file, or one above the
 /// limits; never throws. May crash, hang or use up the memory on a hostile file: the caller's
 /// process has limits.
-std::optional<Picture> Decode(door::Kind kind, std::span<const uint8_t> file,
+std::optional<Picture> Decode(sandbox::Kind kind, std::span<const uint8_t> file,
                               platform::Size wanted);
 
 }  // namespace decoder

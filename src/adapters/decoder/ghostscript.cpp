@@ -17,15 +17,15 @@
 #include <string>
 #include <utility>
 
-#include "adapters/door/transfer.h"
+#include "adapters/sandbox/transfer.h"
 
 namespace decoder {
 
 namespace {
 
 using Bytes = std::span<const uint8_t>;
-using door::Descriptor;
 using platform::Size;
+using sandbox::Descriptor;
 using std::chrono::steady_clock;
 
 /// Where the interpreter's messages go.
@@ -219,7 +219,7 @@ std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
     if (int64_t{size.width} * size.height > kMostPixels) {
         return std::nullopt;
     }
-    const Descriptor input = door::MakeMemory("drawing", postScript);
+    const Descriptor input = sandbox::MakeMemory("drawing", postScript);
     std::array<int, 2> ends = {-1, -1};
     if (input.Get() < 0 || Nowhere() < 0 || pipe2(ends.data(), O_CLOEXEC) != 0) {
         return std::nullopt;

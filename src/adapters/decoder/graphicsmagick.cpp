@@ -16,7 +16,7 @@ namespace decoder {
 namespace {
 
 using Bytes = std::span<const uint8_t>;
-using door::kPctHead;
+using sandbox::kPctHead;
 
 struct Free {
     void operator()(ImageInfo* info) const { DestroyImageInfo(info); }
@@ -142,7 +142,7 @@ std::optional<Picture> DecodeByMagick(const char* format, Bytes file) {
 std::optional<Picture> DecodePct(Bytes file) {
     const std::string_view data(reinterpret_cast<const char*>(file.data()), file.size());
     std::vector<uint8_t> headed;
-    if (!door::IsPctAt(data, kPctHead) && door::IsPctAt(data, 0)) {
+    if (!sandbox::IsPctAt(data, kPctHead) && sandbox::IsPctAt(data, 0)) {
         // As it lies on the clipboard, without the empty head of a file.
         headed.resize(kPctHead);
         headed.insert(headed.end(), file.begin(), file.end());

@@ -6,8 +6,8 @@
 
 int main(int argc, char** argv) {
     confine::RunService(argc, argv,
-                        {{door::Role::Raster, decoder::WarmUp, decoder::Decode, {}, {}},
-                         {door::Role::Eps, decoder::WarmUpGhostscript, decoder::Decode,
-                          [](door::Kind, auto file) { return decoder::MeasurePostScript(file); },
+                        {{sandbox::Role::Raster, decoder::WarmUp, decoder::Decode, {}, {}},
+                         {sandbox::Role::Eps, decoder::WarmUpGhostscript, decoder::Decode,
+                          [](sandbox::Kind, auto file) { return decoder::MeasurePostScript(file); },
                           decoder::InterpreterLives}});
 }

@@ -109,7 +109,7 @@ bool ReadingContext::MustEnd() const {
 }
 
 bool FitsMemory(Size size) {
-    return door::FitsBound(size);
+    return sandbox::FitsBound(size);
 }
 
 bool operator==(const FileIdentity& a, const FileIdentity& b) {
@@ -125,7 +125,7 @@ std::optional<FileIdentity> IdentityOf(const std::string& nativePath) {
 }
 
 // One look at the start serves both.
-static_assert(kSniffBytes == door::kStartBytes);
+static_assert(kSniffBytes == sandbox::kStartBytes);
 
 /// An open picture file with its reader set up.
 class PictureReader {
@@ -146,11 +146,11 @@ public:
         kind_ = SniffKind(ViewOf(start));
         if (kind_ == Kind::Svg) {
             // The toolkit's reader would hold up the program for hours, or open what is named.
-            foreign_ = door::Kind::Svg;
+            foreign_ = sandbox::Kind::Svg;
         } else if (kind_ == Kind::Bmp && HasBmpWords(ViewOf(start))) {
-            foreign_ = door::Kind::Bmp;
+            foreign_ = sandbox::Kind::Bmp;
         } else if (kind_ == Kind::None) {
-            foreign_ = door::KindOf(ViewOf(start), ViewOf(End()), path);
+            foreign_ = sandbox::KindOf(ViewOf(start), ViewOf(End()), path);
         } else {
             reader_.setDecideFormatFromContent(false);
             reader_.setAutoDetectImageFormat(false);
@@ -160,9 +160,9 @@ public:
         }
     }
 
-    door::Kind Foreign() const { return foreign_; }
+    sandbox::Kind Foreign() const { return foreign_; }
 
-    door::Result DecodeAs(door::Kind kind, Size wanted) {
+    sandbox::Result DecodeAs(sandbox::Kind kind, Size wanted) {
         return Noted(context_.decoder.Decode(kind, file_.handle(), wanted));
     }
 
@@ -174,14 +174,14 @@ public:
 
     /// The size of what is decoded elsewhere; the pixels too where nothing less tells it.
     bool AskSize(PictureFile& into) {
-        const bool measurable = door::RoleOf(foreign_) != door::Role::Raster;
-        const door::Result result = measurable
-                                        ? Noted(context_.decoder.Measure(foreign_, file_.handle()))
-                                        : DecodeAs(foreign_, {});
+        const bool measurable = sandbox::RoleOf(foreign_) != sandbox::Role::Raster;
+        const sandbox::Result result =
+            measurable ? Noted(context_.decoder.Measure(foreign_, file_.handle()))
+                       : DecodeAs(foreign_, {});
         into.own_ = result.size;
         into.foreignDepth_ = measurable ? kDrawnDepth : result.bitsPerPixel;
         into.ready_ = result.pixels;
-        return result.outcome == door::Outcome::Decoded;
+        return result.outcome == sandbox::Outcome::Decoded;
     }
 
     bool ReadHeader(PictureFile& into) {
@@ -234,11 +234,11 @@ public:
 
 private:
     /// What hindered a decoding that said nothing of the file is noted.
-    door::Result Noted(door::Result result) {
-        if (result.outcome == door::Outcome::Large) {
+    sandbox::Result Noted(sandbox::Result result) {
+        if (result.outcome == sandbox::Outcome::Large) {
             context_.hindrance = Hindrance::Large;
-        } else if (result.outcome == door::Outcome::Missing ||
-                   result.outcome == door::Outcome::Lied) {
+        } else if (result.outcome == sandbox::Outcome::Missing ||
+                   result.outcome == sandbox::Outcome::Lied) {
             context_.hindrance = Hindrance::Passing;
         }
         return result;
@@ -249,7 +249,7 @@ private:
     }
 
     QByteArray End() {
-        constexpr auto kEnd = static_cast<qint64>(door::kEndBytes);
+        constexpr auto kEnd = static_cast<qint64>(sandbox::kEndBytes);
         file_.seek(std::max(file_.size() - kEnd, qint64{0}));
         return file_.read(kEnd);
     }
@@ -258,7 +258,7 @@ private:
     ReadableFile file_;
     QImageReader reader_;
     Kind kind_ = Kind::None;
-    door::Kind foreign_ = door::Kind::None;
+    sandbox::Kind foreign_ = sandbox::Kind::None;
     FileIdentity identity_;
 };
 
@@ -267,7 +267,7 @@ bool PictureFile::Recognises(const std::string& nativePath, ReadingContext& cont
     try {
         PictureReader reader(nativePath, context);
         PictureFile header;
-        return reader.Foreign() != door::Kind::None || reader.ReadHeader(header);
+        return reader.Foreign() != sandbox::Kind::None || reader.ReadHeader(header);
     } catch (const std::bad_alloc&) {
         return false;
     }
@@ -281,8 +281,8 @@ std::shared_ptr<PictureFile> PictureFile::Open(const std::string& nativePath,
         result->path_ = nativePath;
         PictureReader reader(nativePath, context);
         reader.Identify(*result);
-        const bool read = reader.Foreign() == door::Kind::None ? reader.ReadHeader(*result)
-                                                               : reader.AskSize(*result);
+        const bool read = reader.Foreign() == sandbox::Kind::None ? reader.ReadHeader(*result)
+                                                                  : reader.AskSize(*result);
         return read ? result : nullptr;
     } catch (const std::bad_alloc&) {
         context.hindrance = Hindrance::Passing;
@@ -322,7 +322,7 @@ BitmapPtr PictureFile::DecodeHere(Size size, int* depth, ReadingContext& context
     }
     if (image.isNull() && kind_ == Kind::Tiff) {
         // Tiles larger than the picture, for one, are too much for the toolkit's reader.
-        const door::Result result = reader.DecodeAs(door::Kind::Tif, {});
+        const sandbox::Result result = reader.DecodeAs(sandbox::Kind::Tif, {});
         if (depth != nullptr) {
             *depth = result.bitsPerPixel;
         }
@@ -354,7 +354,7 @@ BitmapPtr PictureFile::Decode(Size size, int* depth, ReadingContext& context) co
     if (!FitsMemory(size) || !FitsMemory(decoded)) {
         return nullptr;
     }
-    const bool foreign = foreign_ != door::Kind::None;
+    const bool foreign = foreign_ != sandbox::Kind::None;
     if (foreign && depth != nullptr) {
         *depth = foreignDepth_;
     }

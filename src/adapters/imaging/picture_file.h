@@ -10,14 +10,14 @@
 #include <string>
 #include <utility>
 
-#include "adapters/door/client.h"
 #include "adapters/imaging/sniff.h"
+#include "adapters/sandbox/client.h"
 #include "platform/imaging.h"
 
 namespace imaging {
 
 /// Largest picture that is decoded, as opaque pixels.
-constexpr int64_t kMostBytes = door::kMostPixelBytes;
+constexpr int64_t kMostBytes = sandbox::kMostPixelBytes;
 bool FitsMemory(platform::Size size);
 
 /// Which file it is, and in what state of its content. The last change of the inode counts too:
@@ -42,7 +42,7 @@ enum class Hindrance {
 
 /// What each thread that reads pictures has of its own.
 struct ReadingContext {
-    explicit ReadingContext(door::ClientOptions options = {})
+    explicit ReadingContext(sandbox::ClientOptions options = {})
         : decoder(std::move(options), &giveUp) {}
 
     /// A picture begins, or a later decoding of it: nothing hinders it yet, and it may take this
@@ -57,7 +57,7 @@ struct ReadingContext {
     /// May be set by another thread: from then on reads fail, so that a decoder ends soon.
     std::atomic<bool> giveUp{false};
     Hindrance hindrance = Hindrance::None;
-    door::Client decoder;
+    sandbox::Client decoder;
 
 private:
     double begunAt_ = 0;  // seconds of the thread's processor time
@@ -65,14 +65,14 @@ private:
 
 /// A file whose header was read. Immutable; stays usable when the file is gone, but for decoding.
 /// One thread may open it and another one decode it. SVG, and what the toolkit does not read, is
-/// decoded behind the door.
+/// decoded in the sandbox.
 class PictureFile {
 public:
     /// False where the file's start shows that Open would fail. Decodes nothing, never throws.
     static bool Recognises(const std::string& nativePath, ReadingContext& context);
 
     /// Nullptr where the file is no plain file, cannot be opened, is of no known kind or has an
-    /// unreadable header. Waits for nothing but the decoder behind the door; never throws. Where
+    /// unreadable header. Waits for nothing but the decoder in the sandbox; never throws. Where
     /// nothing less tells the size, the picture is decoded here, and the first Decode has it ready.
     static std::shared_ptr<PictureFile> Open(const std::string& nativePath,
                                              ReadingContext& context);
@@ -83,7 +83,9 @@ public:
     platform::Size OwnSize() const { return own_; }
 
     /// True for a drawing without pixels of its own, sharp at every size.
-    bool IsDrawing() const { return foreign_ == door::Kind::Svg || foreign_ == door::Kind::Eps; }
+    bool IsDrawing() const {
+        return foreign_ == sandbox::Kind::Svg || foreign_ == sandbox::Kind::Eps;
+    }
 
     /// Whether decoding at this size is less work than decoding whole.
     bool DecodesScaledTo(platform::Size size) const;
@@ -109,7 +111,7 @@ private:
 
     std::string path_;
     Kind kind_ = Kind::None;
-    door::Kind foreign_ = door::Kind::None;  // what is decoded behind the door
+    sandbox::Kind foreign_ = sandbox::Kind::None;  // what is decoded in the sandbox
     int foreignDepth_ = 0;
     mutable std::atomic<platform::BitmapPtr> ready_;  // of the own size, until the first Decode
     FileIdentity identity_;

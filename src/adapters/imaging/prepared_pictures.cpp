@@ -52,15 +52,15 @@ LoadedPicture LoadPicture(const std::string& nativePath, const FitFunction& fit,
 
 namespace {
 
-/// What is decoded whole behind the door comes whole into this process as well.
-door::ClientOptions Bounded(door::ClientOptions options) {
+/// What is decoded whole in the sandbox comes whole into this process as well.
+sandbox::ClientOptions Bounded(sandbox::ClientOptions options) {
     options.mostPixels = std::min<int64_t>(options.mostPixels, kMostWorkingBytes / 4);
     return options;
 }
 
 }  // namespace
 
-PreparedPictures::PreparedPictures(door::ClientOptions decoder)
+PreparedPictures::PreparedPictures(sandbox::ClientOptions decoder)
     : context_(Bounded(std::move(decoder))) {}
 
 PreparedPictures::~PreparedPictures() {

@@ -41,7 +41,7 @@ public:
         platform::FitFunction fit;  // called on the worker: a pure function of values it holds
     };
 
-    explicit PreparedPictures(door::ClientOptions decoder = {});
+    explicit PreparedPictures(sandbox::ClientOptions decoder = {});
     /// Waits for the worker, whose reader is told to give up.
     ~PreparedPictures();
     PreparedPictures(const PreparedPictures&) = delete;

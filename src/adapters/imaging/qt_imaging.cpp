@@ -232,7 +232,7 @@ private:
 
 }  // namespace
 
-QtImaging::QtImaging(platform::Files& files, bool prepares, const door::ClientOptions& decoder)
+QtImaging::QtImaging(platform::Files& files, bool prepares, const sandbox::ClientOptions& decoder)
     : files_(files), prepares_(prepares), context_(decoder), prepared_(decoder) {
     // What a damaged file, or a decoding that was given up, lets the readers say is for nobody.
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false");

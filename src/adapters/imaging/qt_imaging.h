@@ -1,16 +1,16 @@
 // The imaging control over Qt's picture readers.
 #pragma once
 
-#include "adapters/door/client.h"
 #include "adapters/imaging/prepared_pictures.h"
+#include "adapters/sandbox/client.h"
 #include "platform/files.h"
 #include "platform/imaging.h"
 
 namespace imaging {
 
 /// PNG, JPEG, BMP, TIFF, GIF and WebP, told apart by content. SVG, what is none of these, and what
-/// the toolkit reads wrongly of them (BMP of 16 bits, some tiled TIFFs) is decoded behind the door.
-/// Pictures above 1 GiB of pixels are refused, behind the door above half of it, but JPEG and
+/// the toolkit reads wrongly of them (BMP of 16 bits, some tiled TIFFs) is decoded in the sandbox.
+/// Pictures above 1 GiB of pixels are refused, in the sandbox above half of it, but JPEG and
 /// drawings where the fitted size does. Everything runs on the caller's thread but what is
 /// prepared, which has one of its own; nothing throws.
 class QtImaging : public platform::Imaging {
@@ -18,7 +18,7 @@ public:
     /// `files` must outlive this object, and this object its controls. With `prepares` false
     /// Prepare does nothing.
     explicit QtImaging(platform::Files& files, bool prepares = true,
-                       const door::ClientOptions& decoder = {});
+                       const sandbox::ClientOptions& decoder = {});
 
     Text VersionText() const override;
     std::unique_ptr<platform::ImagingControl> MakeControl() override;

@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <cstring>
 
-#include "adapters/door/message.h"
+#include "adapters/sandbox/message.h"
 
 namespace svg {
 
@@ -29,11 +29,11 @@ struct Drawing {
     QImageReader reader;
 };
 
-door::Picture OverWhite(const QImage& drawn) {
+sandbox::Picture OverWhite(const QImage& drawn) {
     QImage image(drawn.size(), QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter(&image).drawImage(0, 0, drawn);
-    door::Picture picture{{image.width(), image.height()}, drawn.depth(), {}};
+    sandbox::Picture picture{{image.width(), image.height()}, drawn.depth(), {}};
     picture.pixels.resize(static_cast<size_t>(image.width()) * static_cast<size_t>(image.height()));
     for (int y = 0; y < image.height(); ++y) {
         std::memcpy(
@@ -46,24 +46,24 @@ door::Picture OverWhite(const QImage& drawn) {
 }  // namespace
 
 void WarmUp() {
-    QImageReader::setAllocationLimit(static_cast<int>(door::kMostPixelBytes >> 20));
+    QImageReader::setAllocationLimit(static_cast<int>(sandbox::kMostPixelBytes >> 20));
     constexpr char kText[] =
         "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
         "<text>a\xE5\xAD\x97</text></svg>";
-    Draw(door::Kind::Svg, {reinterpret_cast<const uint8_t*>(kText), sizeof kText - 1}, {});
+    Draw(sandbox::Kind::Svg, {reinterpret_cast<const uint8_t*>(kText), sizeof kText - 1}, {});
 }
 
-std::optional<platform::Size> Measure(door::Kind, std::span<const uint8_t> file) {
+std::optional<platform::Size> Measure(sandbox::Kind, std::span<const uint8_t> file) {
     const QSize size = Drawing(file).reader.size();
     return size.isEmpty() ? std::nullopt
                           : std::optional(platform::Size{size.width(), size.height()});
 }
 
-std::optional<door::Picture> Draw(door::Kind, std::span<const uint8_t> file,
-                                  platform::Size wanted) {
+std::optional<sandbox::Picture> Draw(sandbox::Kind, std::span<const uint8_t> file,
+                                     platform::Size wanted) {
     Drawing drawing(file);
     const QSize own = drawing.reader.size();
-    if (!door::FitsBound(wanted.Empty() ? platform::Size{own.width(), own.height()} : wanted)) {
+    if (!sandbox::FitsBound(wanted.Empty() ? platform::Size{own.width(), own.height()} : wanted)) {
         return std::nullopt;
     }
     if (!wanted.Empty()) {

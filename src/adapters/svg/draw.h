@@ -6,8 +6,8 @@
 #include <optional>
 #include <span>
 
-#include "adapters/door/kind.h"
-#include "adapters/door/picture.h"
+#include "adapters/sandbox/kind.h"
+#include "adapters/sandbox/picture.h"
 
 namespace svg {
 
@@ -15,11 +15,11 @@ namespace svg {
 void WarmUp();
 
 /// The drawing's own size, however large. Nothing for what is no drawing.
-std::optional<platform::Size> Measure(door::Kind kind, std::span<const uint8_t> file);
+std::optional<platform::Size> Measure(sandbox::Kind kind, std::span<const uint8_t> file);
 
 /// The drawing at `wanted`, or at its own size if that is empty, over white. Nothing for a damaged
 /// one. May hang on a hostile file, crash, or use up the memory: the process has limits.
-std::optional<door::Picture> Draw(door::Kind kind, std::span<const uint8_t> file,
-                                  platform::Size wanted);
+std::optional<sandbox::Picture> Draw(sandbox::Kind kind, std::span<const uint8_t> file,
+                                     platform::Size wanted);
 
 }  // namespace svg

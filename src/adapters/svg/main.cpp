@@ -13,5 +13,5 @@ int main(int argc, char** argv) {
         application = std::make_unique<QGuiApplication>(argc, argv);
         svg::WarmUp();
     };
-    confine::RunService(argc, argv, {{door::Role::Svg, warmUp, svg::Draw, svg::Measure, {}}});
+    confine::RunService(argc, argv, {{sandbox::Role::Svg, warmUp, svg::Draw, svg::Measure, {}}});
 }

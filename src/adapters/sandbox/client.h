@@ -1,4 +1,4 @@
-// The program's side of the door: has pictures decoded that the toolkit does not read.
+// The program's side of the sandbox: has pictures decoded that the toolkit does not read.
 #pragma once
 
 #include <atomic>
@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "adapters/door/kind.h"
-#include "adapters/door/process.h"
+#include "adapters/sandbox/kind.h"
+#include "adapters/sandbox/process.h"
 #include "platform/imaging.h"
 
-namespace door {
+namespace sandbox {
 
 struct ClientOptions {
     std::string program;                 // empty: each role's own
@@ -72,4 +72,4 @@ private:
     uint32_t serial_ = 0;
 };
 
-}  // namespace door
+}  // namespace sandbox

@@ -1,4 +1,4 @@
-#include "adapters/door/transfer.h"
+#include "adapters/sandbox/transfer.h"
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <type_traits>
 
-namespace door {
+namespace sandbox {
 
 namespace {
 
@@ -88,4 +88,4 @@ platform::BitmapPtr ReadPixels(int memory, platform::Size size) {
     return bitmap;
 }
 
-}  // namespace door
+}  // namespace sandbox

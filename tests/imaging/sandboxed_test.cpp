@@ -8,7 +8,7 @@ namespace {
 using platform::Size;
 
 /// Its decoder does what the file says behind the mark of a kind.
-class BehindDoor : public ::testing::Test {
+class Sandboxed : public ::testing::Test {
 protected:
     /// The number that the decoder counted up to with this picture, or -1.
     int64_t Counted(const Text& path) {
@@ -19,7 +19,7 @@ protected:
     std::unique_ptr<platform::ImagingControl> control_ = folder_.Control();
 };
 
-TEST_F(BehindDoor, APictureIsHeldAsAnyOther) {
+TEST_F(Sandboxed, APictureIsHeldAsAnyOther) {
     const Text path = folder_.Put("a.psd", "8BPSpicture");
     ASSERT_TRUE(control_->ReadInformation(path));
     ASSERT_TRUE(control_->Load(path, [](Size own) {
@@ -37,7 +37,7 @@ TEST_F(BehindDoor, APictureIsHeldAsAnyOther) {
     EXPECT_EQ(control_->Picture()->width, 4);
 }
 
-TEST_F(BehindDoor, InformationDecodesNothing) {
+TEST_F(Sandboxed, InformationDecodesNothing) {
     const Text path = folder_.Put("a.psd", "8BPScount");
     ASSERT_TRUE(control_->ReadInformation(path));
     EXPECT_EQ(Counted(path), 1);
@@ -46,7 +46,7 @@ TEST_F(BehindDoor, InformationDecodesNothing) {
     EXPECT_EQ(Counted(path), 3) << "the process still counts";
 }
 
-TEST_F(BehindDoor, AFileThatChangedInBetweenIsDecodedAnew) {
+TEST_F(Sandboxed, AFileThatChangedInBetweenIsDecodedAnew) {
     const Text path = folder_.Put("a.psd", "8BPScount");
     ASSERT_TRUE(control_->ReadInformation(path));
     folder_.Put("a.psd", "8BPSpicture");
@@ -57,7 +57,7 @@ TEST_F(BehindDoor, AFileThatChangedInBetweenIsDecodedAnew) {
     EXPECT_FALSE(control_->Load(path, {}));
 }
 
-TEST_F(BehindDoor, WhatFailsOrCrashesIsUnreadableAndTheNextIsNot) {
+TEST_F(Sandboxed, WhatFailsOrCrashesIsUnreadableAndTheNextIsNot) {
     for (const char* word : {"no such word", "crash", "throw", "too few pixels", "spin"}) {
         const Text path = folder_.Put("bad.psd", QByteArray("8BPS") + word);
         EXPECT_FALSE(control_->Load(path, {})) << word;
@@ -67,7 +67,7 @@ TEST_F(BehindDoor, WhatFailsOrCrashesIsUnreadableAndTheNextIsNot) {
     }
 }
 
-TEST(BehindDoorMissing, WithoutTheProgramOnlyThoseKindsAreUnreadable) {
+TEST(SandboxMissing, WithoutTheProgramOnlyThoseKindsAreUnreadable) {
     ImagingFolder folder({"/nonexistent", {}, 1000});
     const auto control = folder.Control();
     EXPECT_FALSE(control->Load(folder.Put("a.psd", "8BPSpicture"), {}));

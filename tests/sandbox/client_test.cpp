@@ -1,5 +1,5 @@
 // The program's side against processes that serve, and against all that do not.
-#include "adapters/door/client.h"
+#include "adapters/sandbox/client.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -13,30 +13,30 @@
 #include <filesystem>
 #include <thread>
 
-#include "adapters/door/transfer.h"
-#include "door/door_support.h"
+#include "adapters/sandbox/transfer.h"
+#include "sandbox/sandbox_support.h"
 
 namespace {
 
-using door::Client;
-using door::Kind;
-using door::Outcome;
-using door::Result;
+using sandbox::Client;
+using sandbox::Kind;
+using sandbox::Outcome;
+using sandbox::Result;
 
 /// Generous for those that are to answer; those that hang are given the short one.
 constexpr int kLongLimit = 600000, kShortLimit = 300;
 
-door::ClientOptions StandIn(const std::string& manner, int limit = kLongLimit) {
+sandbox::ClientOptions StandIn(const std::string& manner, int limit = kLongLimit) {
     return {PARAPICO_STAND_IN, {manner}, limit};
 }
 
 Result Decode(Client& client, const std::string& content = "picture", Kind kind = Kind::Pcx,
               platform::Size wanted = {}) {
-    const door::Descriptor file = FileOf(content);
+    const sandbox::Descriptor file = FileOf(content);
     return client.Decode(kind, file.Get(), wanted);
 }
 
-TEST(DoorClient, APictureComes) {
+TEST(SandboxClient, APictureComes) {
     Client client(StandIn("limited"));
     const Result result = Decode(client);
     ASSERT_EQ(result.outcome, Outcome::Decoded);
@@ -46,7 +46,7 @@ TEST(DoorClient, APictureComes) {
     EXPECT_THAT(result.pixels->pixels, testing::ElementsAre(0xFF102030u, 0xFF405060u));
 }
 
-TEST(DoorClient, ADrawingHasAProcessOfItsOwnAndIsToldTheSize) {
+TEST(SandboxClient, ADrawingHasAProcessOfItsOwnAndIsToldTheSize) {
     Client client(StandIn("limited"));
     ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
     EXPECT_EQ(Children().size(), 1u);
@@ -58,7 +58,7 @@ TEST(DoorClient, ADrawingHasAProcessOfItsOwnAndIsToldTheSize) {
     EXPECT_EQ(Decode(client, "wanted", Kind::Eps, {40000, 40000}).outcome, Outcome::Failed);
 }
 
-TEST(DoorClient, ADrawingIsMeasured) {
+TEST(SandboxClient, ADrawingIsMeasured) {
     Client client(StandIn("limited"));
     const Result result = client.Measure(Kind::Svg, FileOf("100000x3").Get());
     EXPECT_EQ(result.outcome, Outcome::Decoded);
@@ -70,7 +70,7 @@ TEST(DoorClient, ADrawingIsMeasured) {
     EXPECT_EQ(client.Measure(Kind::Pcx, FileOf("1x1").Get()).outcome, Outcome::Failed);
 }
 
-TEST(DoorClient, OneProcessServesAllPictures) {
+TEST(SandboxClient, OneProcessServesAllPictures) {
     Client client(StandIn("limited"));
     for (const char* word : {"picture", "no such word", "throw", "too few pixels", "picture"}) {
         Decode(client, word);
@@ -84,7 +84,7 @@ TEST(DoorClient, OneProcessServesAllPictures) {
     EXPECT_EQ(Children(), before);
 }
 
-TEST(DoorClient, TheProcessOpensNoFile) {
+TEST(SandboxClient, TheProcessOpensNoFile) {
     Client client(StandIn("limited"));
     for (const Kind kind : {Kind::Pcx, Kind::Eps, Kind::Svg}) {
         const Result result = Decode(client, "open", kind);
@@ -93,7 +93,7 @@ TEST(DoorClient, TheProcessOpensNoFile) {
     }
 }
 
-TEST(DoorClient, ACrashAndASpinCostOnePicture) {
+TEST(SandboxClient, ACrashAndASpinCostOnePicture) {
     Client client(StandIn("limited"));
     for (const char* word : {"crash", "spin"}) {
         EXPECT_EQ(Decode(client, word).outcome, Outcome::Died) << word;
@@ -102,7 +102,7 @@ TEST(DoorClient, ACrashAndASpinCostOnePicture) {
     }
 }
 
-TEST(DoorClient, BadProcessesAreSeenThroughAndEnded) {
+TEST(SandboxClient, BadProcessesAreSeenThroughAndEnded) {
     const std::pair<const char*, Outcome> manners[] = {{"ends at once", Outcome::Died},
                                                        {"crash", Outcome::Died},
                                                        {"close", Outcome::Died},
@@ -136,7 +136,7 @@ TEST(DoorClient, BadProcessesAreSeenThroughAndEnded) {
     }
 }
 
-TEST(DoorClient, AFileWithANameIsNoPixels) {
+TEST(SandboxClient, AFileWithANameIsNoPixels) {
     Client client(StandIn("plain file"));
     EXPECT_EQ(Decode(client).outcome, Outcome::Lied);
 }
@@ -147,7 +147,7 @@ uint32_t FirstPixel(Client& client, const std::string& word, Kind kind = Kind::P
     return result.pixels ? result.pixels->pixels[0] & 0xFFFFFFu : 0;
 }
 
-TEST(DoorClient, AProcessThatKeepsMuchMemoryEndsBehindItsAnswer) {
+TEST(SandboxClient, AProcessThatKeepsMuchMemoryEndsBehindItsAnswer) {
 #if defined(__SANITIZE_ADDRESS__)
     GTEST_SKIP() << "the sanitizer's own memory has no limit";
 #endif
@@ -167,7 +167,7 @@ TEST(DoorClient, AProcessThatKeepsMuchMemoryEndsBehindItsAnswer) {
     EXPECT_LT(FirstPixel(client, "count"), 3u);
 }
 
-TEST(DoorClient, AHelperThatGoesOnEndsBehindTheAnswerWithItsProcess) {
+TEST(SandboxClient, AHelperThatGoesOnEndsBehindTheAnswerWithItsProcess) {
     Client client(StandIn("limited"));
     for (int i = 0; i < 20; ++i) {
         EXPECT_EQ(FirstPixel(client, "count", Kind::Eps), 1u);
@@ -177,7 +177,7 @@ TEST(DoorClient, AHelperThatGoesOnEndsBehindTheAnswerWithItsProcess) {
     }
 }
 
-TEST(DoorClient, AHangEndsAtTheLimit) {
+TEST(SandboxClient, AHangEndsAtTheLimit) {
     Client client(StandIn("hang", kShortLimit));
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(Decode(client).outcome, Outcome::Late);
@@ -185,14 +185,14 @@ TEST(DoorClient, AHangEndsAtTheLimit) {
     EXPECT_TRUE(Children().empty());
 }
 
-TEST(DoorClient, AnAnswerTooManyIsNotTheNextPictures) {
+TEST(SandboxClient, AnAnswerTooManyIsNotTheNextPictures) {
     Client client(StandIn("twice"));
     EXPECT_EQ(Decode(client).outcome, Outcome::Decoded);
     EXPECT_EQ(Decode(client).outcome, Outcome::Lied);
     EXPECT_EQ(Decode(client).outcome, Outcome::Decoded);
 }
 
-TEST(DoorClient, MemoryThatShrinksMeanwhileHarmsNobody) {
+TEST(SandboxClient, MemoryThatShrinksMeanwhileHarmsNobody) {
     Client client(StandIn("shrinking"));
     for (int i = 0; i < 20; ++i) {
         const Result result = Decode(client);
@@ -200,7 +200,7 @@ TEST(DoorClient, MemoryThatShrinksMeanwhileHarmsNobody) {
     }
 }
 
-TEST(DoorClient, AProcessThatWasKilledBetweenPicturesIsReplacedUnseen) {
+TEST(SandboxClient, AProcessThatWasKilledBetweenPicturesIsReplacedUnseen) {
     Client client(StandIn("limited"));
     ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
     const auto children = Children();
@@ -216,7 +216,7 @@ TEST(DoorClient, AProcessThatWasKilledBetweenPicturesIsReplacedUnseen) {
     EXPECT_EQ(Children().size(), 1u);
 }
 
-TEST(DoorClient, WhatTheProcessStartedGoesWithIt) {
+TEST(SandboxClient, WhatTheProcessStartedGoesWithIt) {
     Client client(StandIn("with child"));
     const Result result = Decode(client, "picture", Kind::Eps);
     ASSERT_EQ(result.outcome, Outcome::Decoded);
@@ -226,7 +226,7 @@ TEST(DoorClient, WhatTheProcessStartedGoesWithIt) {
     EXPECT_TRUE(IsGone(child));
 }
 
-TEST(DoorClient, WithoutAnExecutableNothingIsDecoded) {
+TEST(SandboxClient, WithoutAnExecutableNothingIsDecoded) {
     for (const char* program : {"/nonexistent/decoder", "/etc/passwd", "/"}) {
         Client client({program, {}, kLongLimit});
         EXPECT_EQ(Decode(client).outcome, Outcome::Missing) << program;
@@ -237,7 +237,7 @@ TEST(DoorClient, WithoutAnExecutableNothingIsDecoded) {
     EXPECT_EQ(Decode(client, "picture", Kind::None).outcome, Outcome::Failed);
 }
 
-TEST(DoorClient, AnExecutableThatDoesNotStartIsToldOfOnce) {
+TEST(SandboxClient, AnExecutableThatDoesNotStartIsToldOfOnce) {
     static int round = 0;  // each executable is told of once in the life of the program
     const std::string missing = "/nonexistent/teller" + std::to_string(++round);
     const auto told = [](const std::string& program) {
@@ -254,7 +254,7 @@ TEST(DoorClient, AnExecutableThatDoesNotStartIsToldOfOnce) {
     EXPECT_NE(told(missing + "/other"), "");
 }
 
-TEST(DoorClient, ManyPicturesAndCrashesLeaveNothingBehind) {
+TEST(SandboxClient, ManyPicturesAndCrashesLeaveNothingBehind) {
     Client client(StandIn("limited"));
     ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
     const int descriptors = OpenDescriptors();
@@ -268,9 +268,9 @@ TEST(DoorClient, ManyPicturesAndCrashesLeaveNothingBehind) {
     EXPECT_EQ(Children().size(), 1u);
 }
 
-TEST(DoorClient, TheProcessGetsNothingOfTheProgram) {
+TEST(SandboxClient, TheProcessGetsNothingOfTheProgram) {
     setenv("PARAPICO_TEST_SECRET", "1", 1);
-    const door::Descriptor leak(dup(STDIN_FILENO));  // not closed on exec
+    const sandbox::Descriptor leak(dup(STDIN_FILENO));  // not closed on exec
     {
         Client client(StandIn("limited"));
         ASSERT_EQ(Decode(client).outcome, Outcome::Decoded);
@@ -303,7 +303,7 @@ TEST(DoorClient, TheProcessGetsNothingOfTheProgram) {
     EXPECT_TRUE(Children().empty());
 }
 
-TEST(DoorClient, EachThreadCanHaveItsOwn) {
+TEST(SandboxClient, EachThreadCanHaveItsOwn) {
     std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([] {
@@ -319,11 +319,11 @@ TEST(DoorClient, EachThreadCanHaveItsOwn) {
     EXPECT_TRUE(Children().empty());
 }
 
-TEST(DoorClient, ProcessesEndWithTheProgram) {
+TEST(SandboxClient, ProcessesEndWithTheProgram) {
     int ends[2];
     ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
-    const door::Descriptor in(ends[0]);
-    door::Descriptor out(ends[1]);
+    const sandbox::Descriptor in(ends[0]);
+    sandbox::Descriptor out(ends[1]);
     const pid_t program = fork();
     if (program == 0) {
         // Left without a word, as a program that crashes leaves.
@@ -341,7 +341,7 @@ TEST(DoorClient, ProcessesEndWithTheProgram) {
         ASSERT_GT(child, 0);
         EXPECT_TRUE(IsGone(child));
     }
-    door::EndProcess({program, door::Descriptor()});
+    sandbox::EndProcess({program, sandbox::Descriptor()});
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "adapters/door/client.h"
+#include "adapters/sandbox/client.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -8,9 +8,9 @@
 #include <set>
 #include <utility>
 
-#include "adapters/door/transfer.h"
+#include "adapters/sandbox/transfer.h"
 
-namespace door {
+namespace sandbox {
 
 namespace {
 
@@ -147,4 +147,4 @@ void Client::Forget(Role role) {
     }
 }
 
-}  // namespace door
+}  // namespace sandbox

@@ -5,20 +5,20 @@
 #include <chrono>
 
 #include "adapters/decoder/ghostscript.h"
-#include "adapters/door/client.h"
-#include "door/door_support.h"
+#include "adapters/sandbox/client.h"
+#include "sandbox/sandbox_support.h"
 
 namespace {
 
-using door::Client;
-using door::Kind;
-using door::Outcome;
-using door::Result;
+using sandbox::Client;
+using sandbox::Kind;
+using sandbox::Outcome;
+using sandbox::Result;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 /// Far behind the limits of the process itself, whose doing is looked at.
-const door::ClientOptions kPatient{"", {}, 600000};
+const sandbox::ClientOptions kPatient{"", {}, 600000};
 const std::string kPage =
     "%!PS\n%%BoundingBox: 0 0 8 8\n1 0 0 setrgbcolor 0 0 8 8 rectfill showpage\n";
 const std::string kLoop = "{} loop\n";
@@ -75,7 +75,7 @@ TEST(DrawingProcess, AnEndlessLoopBehindThePageIsNotWaitedFor) {
 }
 
 TEST(DrawingProcess, AnEndlessLoopWithoutAPageFailsInTime) {
-    EXPECT_LT(decoder::kDrawingTime, milliseconds(door::ClientOptions().limitMilliseconds));
+    EXPECT_LT(decoder::kDrawingTime, milliseconds(sandbox::ClientOptions().limitMilliseconds));
     Client client(kPatient);
     ExpectPage(client, kPage);
     const pid_t process = OnlyChild();

@@ -1,5 +1,5 @@
 // What kind a file is: by its marks, else by its name.
-#include "adapters/door/kind.h"
+#include "adapters/sandbox/kind.h"
 
 #include <gtest/gtest.h>
 
@@ -11,13 +11,13 @@
 
 namespace {
 
-using door::Kind;
+using sandbox::Kind;
 using namespace std::string_literals;
 
 Kind OfBytes(const std::string& bytes, const std::string& name = "name") {
-    const size_t tail = bytes.size() - std::min(bytes.size(), door::kEndBytes);
-    return door::KindOf(std::string_view(bytes).substr(0, door::kStartBytes),
-                        std::string_view(bytes).substr(tail), name);
+    const size_t tail = bytes.size() - std::min(bytes.size(), sandbox::kEndBytes);
+    return sandbox::KindOf(std::string_view(bytes).substr(0, sandbox::kStartBytes),
+                           std::string_view(bytes).substr(tail), name);
 }
 
 std::string At(size_t offset, const std::string& bytes) {
@@ -157,7 +157,7 @@ TEST(Kinds, ContentBeatsTheExtension) {
 }
 
 TEST(Kinds, EmptyAndOneByteFiles) {
-    EXPECT_EQ(door::KindOf("", "", "a.tga"), Kind::None);
+    EXPECT_EQ(sandbox::KindOf("", "", "a.tga"), Kind::None);
     for (int byte = 0; byte < 256; ++byte) {
         const std::string bytes(1, static_cast<char>(byte));
         EXPECT_EQ(OfBytes(bytes), Kind::None) << byte;

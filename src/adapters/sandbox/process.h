@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "adapters/door/message.h"
+#include "adapters/sandbox/message.h"
 
-namespace door {
+namespace sandbox {
 
 struct Process {
     pid_t id = -1;      // leads a process group of its own
@@ -32,4 +32,4 @@ std::optional<Process> StartProcess(const std::string& program,
 /// Ends the process and all that it started, at once, and leaves no trace of it.
 void EndProcess(const Process& process);
 
-}  // namespace door
+}  // namespace sandbox

@@ -1,4 +1,4 @@
-#include "adapters/door/process.h"
+#include "adapters/sandbox/process.h"
 
 #include <fcntl.h>
 #include <signal.h>
@@ -11,7 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-namespace door {
+namespace sandbox {
 
 namespace fs = std::filesystem;
 
@@ -136,4 +136,4 @@ void EndProcess(const Process& process) {
     }
 }
 
-}  // namespace door
+}  // namespace sandbox

@@ -13,21 +13,21 @@
 
 #include "adapters/confine/limits.h"
 #include "adapters/confine/serve.h"
-#include "adapters/door/process.h"
-#include "adapters/door/transfer.h"
+#include "adapters/sandbox/process.h"
+#include "adapters/sandbox/transfer.h"
 
 namespace {
 
-using door::Answer;
-using door::Descriptor;
-using door::kProcessSocket;
-using door::Request;
+using sandbox::Answer;
+using sandbox::Descriptor;
+using sandbox::kProcessSocket;
+using sandbox::Request;
 
 constexpr std::array<uint32_t, 2> kPixels = {0xFF102030u, 0x00405060u};
 
 Request NextRequest() {
-    const door::Received received = door::Receive(kProcessSocket, -1);
-    const auto request = door::ParseRequest(received.Bytes(), received.descriptors.size());
+    const sandbox::Received received = sandbox::Receive(kProcessSocket, -1);
+    const auto request = sandbox::ParseRequest(received.Bytes(), received.descriptors.size());
     if (!request) {
         _exit(0);
     }
@@ -37,7 +37,7 @@ Request NextRequest() {
 Answer GoodAnswer(const Request& request) {
     Answer answer;
     answer.serial = request.serial;
-    answer.what = request.task == door::kMeasure ? door::kMeasured : door::kDecoded;
+    answer.what = request.task == sandbox::kMeasure ? sandbox::kMeasured : sandbox::kDecoded;
     answer.bitsPerPixel = 8;
     answer.width = 2;
     answer.height = 1;
@@ -45,8 +45,8 @@ Answer GoodAnswer(const Request& request) {
 }
 
 void SendAnswer(const Answer& answer) {
-    const Descriptor pixels = door::MakePixels(kPixels);
-    door::Send(kProcessSocket, door::BytesOf(answer), pixels.Get());
+    const Descriptor pixels = sandbox::MakePixels(kPixels);
+    sandbox::Send(kProcessSocket, sandbox::BytesOf(answer), pixels.Get());
 }
 
 /// Any bytes with any number of descriptors.
@@ -70,7 +70,7 @@ void SendRaw(const void* bytes, size_t size, std::initializer_list<int> descript
 
 void AnswerWith(const std::string& manner, const Request& request) {
     Answer answer = GoodAnswer(request);
-    const Descriptor pixels = door::MakePixels(kPixels);
+    const Descriptor pixels = sandbox::MakePixels(kPixels);
     const int memory = pixels.Get();
     if (manner == "no descriptor") {
         SendRaw(&answer, sizeof answer, {});
@@ -146,8 +146,8 @@ void WithChild() {
         }
     }
     const std::array<uint32_t, 2> pixels = {static_cast<uint32_t>(child), 0};
-    const Descriptor memory = door::MakePixels(pixels);
-    door::Send(kProcessSocket, door::BytesOf(answer), memory.Get());
+    const Descriptor memory = sandbox::MakePixels(pixels);
+    sandbox::Send(kProcessSocket, sandbox::BytesOf(answer), memory.Get());
     NextRequest();
     raise(SIGKILL);
 }
@@ -158,8 +158,8 @@ constexpr size_t kMiB = size_t{1} << 20;
 pid_t helper = -1;
 
 /// The real frame around a decoder that does what the file says.
-std::optional<door::Picture> DecodeWord(door::Kind, std::span<const uint8_t> file,
-                                        platform::Size wanted) {
+std::optional<sandbox::Picture> DecodeWord(sandbox::Kind, std::span<const uint8_t> file,
+                                           platform::Size wanted) {
     static uint32_t decoded = 0;
     ++decoded;
     std::string word(file.begin(), file.end());
@@ -185,7 +185,7 @@ std::optional<door::Picture> DecodeWord(door::Kind, std::span<const uint8_t> fil
                 pause();
             }
         }
-        return door::Picture{{1, 1}, 24, {static_cast<uint32_t>(helper)}};
+        return sandbox::Picture{{1, 1}, 24, {static_cast<uint32_t>(helper)}};
     } else if (word == "spin") {
         confine::AllowProcessorTime(1);
         while (true) {
@@ -197,23 +197,23 @@ std::optional<door::Picture> DecodeWord(door::Kind, std::span<const uint8_t> fil
     } else if (word == "throw") {
         throw std::runtime_error("damaged");
     } else if (word == "too few pixels") {
-        return door::Picture{{100, 100}, 24, {1, 2, 3}};
+        return sandbox::Picture{{100, 100}, 24, {1, 2, 3}};
     } else if (word == "open") {
         const bool opened = open("/etc/passwd", O_RDONLY) >= 0;
-        return door::Picture{{1, 1}, 24, {opened ? 1u : 0u}};
+        return sandbox::Picture{{1, 1}, 24, {opened ? 1u : 0u}};
     } else if (word == "count") {
-        return door::Picture{{1, 1}, 16, {decoded}};
+        return sandbox::Picture{{1, 1}, 16, {decoded}};
     } else if (word == "wanted") {
-        return door::Picture{
+        return sandbox::Picture{
             {1, 1}, 24, {static_cast<uint32_t>(wanted.width << 8 | wanted.height)}};
     } else if (word != "picture") {
         return std::nullopt;
     }
-    return door::Picture{{2, 1}, 4, {kPixels.begin(), kPixels.end()}};
+    return sandbox::Picture{{2, 1}, 4, {kPixels.begin(), kPixels.end()}};
 }
 
 /// Two numbers, in words.
-std::optional<platform::Size> MeasureWord(door::Kind, std::span<const uint8_t> file) {
+std::optional<platform::Size> MeasureWord(sandbox::Kind, std::span<const uint8_t> file) {
     const std::string word(file.begin(), file.end());
     platform::Size size;
     return std::sscanf(word.c_str(), "%dx%d", &size.width, &size.height) == 2 ? std::optional(size)
@@ -221,9 +221,9 @@ std::optional<platform::Size> MeasureWord(door::Kind, std::span<const uint8_t> f
 }
 
 int Limited(const std::string& roleName) {
-    const door::Role role = roleName == "eps"   ? door::Role::Eps
-                            : roleName == "svg" ? door::Role::Svg
-                                                : door::Role::Raster;
+    const sandbox::Role role = roleName == "eps"   ? sandbox::Role::Eps
+                               : roleName == "svg" ? sandbox::Role::Svg
+                                                   : sandbox::Role::Raster;
     confine::FollowProgram(role);
     confine::WatchMemory();
     return confine::LimitProcess(role)

@@ -1,4 +1,4 @@
-#include "adapters/door/message.h"
+#include "adapters/sandbox/message.h"
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -8,7 +8,7 @@
 #include <chrono>
 #include <cstring>
 
-namespace door {
+namespace sandbox {
 
 namespace {
 
@@ -165,4 +165,4 @@ bool Send(int socket, std::span<const uint8_t> bytes, int descriptor) {
     return sent == static_cast<ssize_t>(bytes.size());
 }
 
-}  // namespace door
+}  // namespace sandbox

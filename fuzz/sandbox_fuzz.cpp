@@ -1,5 +1,5 @@
-// Any bytes, with any number of descriptors of any length, as a message to either side of the door:
-// never a crash, what is taken is in range, and no descriptor stays open.
+// Any bytes, with any number of descriptors of any length, as a message to either side of the
+// sandbox: never a crash, what is taken is in range, and no descriptor stays open.
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/socket.h>
@@ -9,8 +9,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "adapters/door/message.h"
-#include "adapters/door/transfer.h"
+#include "adapters/sandbox/message.h"
+#include "adapters/sandbox/transfer.h"
 
 namespace {
 
@@ -30,18 +30,18 @@ struct Head {
 };
 constexpr size_t kMostSent = 24;
 
-door::Descriptor MakeDescriptor(const Head& head) {
+sandbox::Descriptor MakeDescriptor(const Head& head) {
     constexpr uint8_t kPipe = 1, kDevice = 2;
     if (head.kind == kPipe) {
         int ends[2];
         Require(pipe2(ends, O_CLOEXEC) == 0);
         close(ends[1]);
-        return door::Descriptor(ends[0]);
+        return sandbox::Descriptor(ends[0]);
     }
     if (head.kind == kDevice) {
-        return door::Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC));
+        return sandbox::Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC));
     }
-    door::Descriptor memory(memfd_create("fuzz", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+    sandbox::Descriptor memory(memfd_create("fuzz", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     Require(ftruncate(memory.Get(), (head.kilobytes % 4096) * 1024 + head.remainder) == 0);
     return memory;
 }
@@ -67,30 +67,31 @@ void SendRaw(int socket, const uint8_t* data, size_t size, int descriptor, size_
 }
 
 /// The decoder's side.
-void TakeRequest(const door::Received& received) {
-    const auto request = door::ParseRequest(received.Bytes(), received.descriptors.size());
+void TakeRequest(const sandbox::Received& received) {
+    const auto request = sandbox::ParseRequest(received.Bytes(), received.descriptors.size());
     if (!request) {
         return;
     }
-    Require(request->kind >= 1 && request->kind <= door::kLastKind);
+    Require(request->kind >= 1 && request->kind <= sandbox::kLastKind);
     Require(received.descriptors.size() == 1);
-    const auto file = door::ReadFile(received.descriptors[0].Get());
-    Require(!file || (!file->empty() && file->size() <= door::kMostFileBytes));
+    const auto file = sandbox::ReadFile(received.descriptors[0].Get());
+    Require(!file || (!file->empty() && file->size() <= sandbox::kMostFileBytes));
 }
 
 /// The program's side.
-void TakeAnswer(const door::Received& received, uint8_t asked) {
-    door::Request request;
-    request.task = asked % 2 == 0 ? door::kDecode : door::kMeasure;
+void TakeAnswer(const sandbox::Received& received, uint8_t asked) {
+    sandbox::Request request;
+    request.task = asked % 2 == 0 ? sandbox::kDecode : sandbox::kMeasure;
     request.kind = asked;
-    const auto answer = door::ParseAnswer(received.Bytes(), received.descriptors.size(), request);
-    if (!answer || answer->what != door::kDecoded) {
-        Require(!answer || answer->what == door::kFailed || asked % 2 == 1);
+    const auto answer =
+        sandbox::ParseAnswer(received.Bytes(), received.descriptors.size(), request);
+    if (!answer || answer->what != sandbox::kDecoded) {
+        Require(!answer || answer->what == sandbox::kFailed || asked % 2 == 1);
         return;
     }
     const platform::Size size{answer->width, answer->height};
-    Require(door::FitsBound(size));
-    const auto bitmap = door::ReadPixels(received.descriptors[0].Get(), size);
+    Require(sandbox::FitsBound(size));
+    const auto bitmap = sandbox::ReadPixels(received.descriptors[0].Get(), size);
     Require(!bitmap || (bitmap->width == size.width && bitmap->pixels[0] >> 24 == 0xFF));
 }
 
@@ -109,10 +110,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     {
         int ends[2];
         Require(socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) == 0);
-        const door::Descriptor here(ends[0]), there(ends[1]);
-        const door::Descriptor sent = MakeDescriptor(head);
+        const sandbox::Descriptor here(ends[0]), there(ends[1]);
+        const sandbox::Descriptor sent = MakeDescriptor(head);
         SendRaw(here.Get(), data, size, sent.Get(), head.descriptors % (kMostSent + 1));
-        const door::Received received = door::Receive(there.Get(), 0);
+        const sandbox::Received received = sandbox::Receive(there.Get(), 0);
         TakeRequest(received);
         TakeAnswer(received, head.asked);
     }

@@ -9,11 +9,11 @@
 #include <span>
 #include <vector>
 
-#include "adapters/door/kind.h"
 #include "adapters/posix/descriptor.h"
+#include "adapters/sandbox/kind.h"
 #include "platform/imaging.h"
 
-namespace door {
+namespace sandbox {
 
 using posix_adapter::Descriptor;
 
@@ -90,4 +90,4 @@ std::span<const uint8_t> BytesOf(const Message& message) {
     return {reinterpret_cast<const uint8_t*>(&message), sizeof message};
 }
 
-}  // namespace door
+}  // namespace sandbox

@@ -6,10 +6,10 @@
 #include <span>
 #include <vector>
 
-#include "adapters/door/message.h"
+#include "adapters/sandbox/message.h"
 #include "platform/canvas.h"
 
-namespace door {
+namespace sandbox {
 
 /// Largest picture file that is read.
 constexpr int64_t kMostFileBytes = int64_t{512} << 20;
@@ -29,4 +29,4 @@ Descriptor MakePixels(std::span<const uint32_t> pixels);
 /// fit the bound. May throw std::bad_alloc.
 platform::BitmapPtr ReadPixels(int memory, platform::Size size);
 
-}  // namespace door
+}  // namespace sandbox

@@ -1,4 +1,4 @@
-// Files and processes of the tests of the door.
+// Files and processes of the tests of the sandbox.
 #pragma once
 
 #include <sys/types.h>
@@ -8,12 +8,12 @@
 
 #include "adapters/posix/descriptor.h"
 
-namespace door {
+namespace sandbox {
 using posix_adapter::Descriptor;
 }
 
 /// An open file that holds this.
-door::Descriptor FileOf(const std::string& content);
+sandbox::Descriptor FileOf(const std::string& content);
 
 int OpenDescriptors();
 

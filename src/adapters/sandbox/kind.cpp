@@ -1,9 +1,9 @@
-#include "adapters/door/kind.h"
+#include "adapters/sandbox/kind.h"
 
 #include <algorithm>
 #include <cstddef>
 
-namespace door {
+namespace sandbox {
 
 namespace {
 
@@ -183,4 +183,4 @@ Kind KindOf(std::string_view start, std::string_view end, std::string_view name)
     return weakPct ? Kind::Pct : kind;
 }
 
-}  // namespace door
+}  // namespace sandbox

@@ -6,7 +6,7 @@
 
 #include "platform/imaging.h"
 
-namespace door {
+namespace sandbox {
 
 struct Picture {
     platform::Size size;
@@ -14,4 +14,4 @@ struct Picture {
     std::vector<uint32_t> pixels;  // 0xFFRRGGBB, row by row; what is transparent lies over white
 };
 
-}  // namespace door
+}  // namespace sandbox

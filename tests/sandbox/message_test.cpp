@@ -1,5 +1,5 @@
 // What counts as a message between program and decoder.
-#include "adapters/door/message.h"
+#include "adapters/sandbox/message.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -9,14 +9,14 @@
 
 #include <cstring>
 
-#include "adapters/door/transfer.h"
+#include "adapters/sandbox/transfer.h"
 
 namespace {
 
-using door::Answer;
-using door::Descriptor;
-using door::Received;
-using door::Request;
+using sandbox::Answer;
+using sandbox::Descriptor;
+using sandbox::Received;
+using sandbox::Request;
 
 struct Pair {
     Pair() {
@@ -30,14 +30,14 @@ struct Pair {
 
 Request GoodRequest() {
     Request request;
-    request.task = door::kDecode;
-    request.kind = static_cast<uint32_t>(door::Kind::Pcx);
+    request.task = sandbox::kDecode;
+    request.kind = static_cast<uint32_t>(sandbox::Kind::Pcx);
     request.serial = 7;
     return request;
 }
 
 bool Accepted(const Request& request, size_t descriptors = 1) {
-    return door::ParseRequest(door::BytesOf(request), descriptors).has_value();
+    return sandbox::ParseRequest(sandbox::BytesOf(request), descriptors).has_value();
 }
 
 TEST(Requests, EveryFieldIsChecked) {
@@ -45,7 +45,7 @@ TEST(Requests, EveryFieldIsChecked) {
     EXPECT_FALSE(Accepted(GoodRequest(), 0));
     EXPECT_FALSE(Accepted(GoodRequest(), 2));
     Request request = GoodRequest();
-    request.mark = door::kAnswerMark;
+    request.mark = sandbox::kAnswerMark;
     EXPECT_FALSE(Accepted(request));
     for (const auto& [kind, accepted] :
          {std::pair(0u, false), {1u, true}, {18u, true}, {19u, false}, {0x101u, false}}) {
@@ -69,15 +69,15 @@ TEST(Requests, EveryFieldIsChecked) {
         request.height = height;
         EXPECT_EQ(Accepted(request), accepted) << width << 'x' << height;
     }
-    const auto bytes = door::BytesOf(request);
-    EXPECT_FALSE(door::ParseRequest(bytes.first(bytes.size() - 1), 1));
-    EXPECT_FALSE(door::ParseRequest({}, 1));
+    const auto bytes = sandbox::BytesOf(request);
+    EXPECT_FALSE(sandbox::ParseRequest(bytes.first(bytes.size() - 1), 1));
+    EXPECT_FALSE(sandbox::ParseRequest({}, 1));
 }
 
 Answer GoodAnswer() {
     Answer answer;
     answer.serial = 7;
-    answer.what = door::kDecoded;
+    answer.what = sandbox::kDecoded;
     answer.bitsPerPixel = 24;
     answer.width = 3;
     answer.height = 2;
@@ -85,7 +85,7 @@ Answer GoodAnswer() {
 }
 
 bool Accepted(const Answer& answer, size_t descriptors = 1) {
-    return door::ParseAnswer(door::BytesOf(answer), descriptors, GoodRequest()).has_value();
+    return sandbox::ParseAnswer(sandbox::BytesOf(answer), descriptors, GoodRequest()).has_value();
 }
 
 TEST(Answers, EveryFieldIsChecked) {
@@ -97,7 +97,7 @@ TEST(Answers, EveryFieldIsChecked) {
         uint32_t value;
         bool accepted;
     };
-    for (const auto& [field, value, accepted] : {Case{&Answer::mark, door::kRequestMark, false},
+    for (const auto& [field, value, accepted] : {Case{&Answer::mark, sandbox::kRequestMark, false},
                                                  {&Answer::serial, 8, false},
                                                  {&Answer::serial, 6, false},
                                                  {&Answer::what, 2, false},
@@ -133,20 +133,20 @@ TEST(Answers, AFailureHoldsNothing) {
 
 TEST(Answers, OnlyDrawingsAreMeasured) {
     Request request = GoodRequest();
-    request.task = door::kMeasure;
+    request.task = sandbox::kMeasure;
     EXPECT_FALSE(Accepted(request));
-    request.kind = static_cast<uint32_t>(door::Kind::Svg);
+    request.kind = static_cast<uint32_t>(sandbox::Kind::Svg);
     EXPECT_TRUE(Accepted(request));
     Answer answer;
     answer.serial = 7;
-    answer.what = door::kMeasured;
+    answer.what = sandbox::kMeasured;
     // However large: it is only a size.
     answer.width = answer.height = INT32_MAX;
-    EXPECT_TRUE(door::ParseAnswer(door::BytesOf(answer), 0, request));
-    EXPECT_FALSE(door::ParseAnswer(door::BytesOf(answer), 1, request));
-    EXPECT_FALSE(door::ParseAnswer(door::BytesOf(GoodAnswer()), 1, request));
+    EXPECT_TRUE(sandbox::ParseAnswer(sandbox::BytesOf(answer), 0, request));
+    EXPECT_FALSE(sandbox::ParseAnswer(sandbox::BytesOf(answer), 1, request));
+    EXPECT_FALSE(sandbox::ParseAnswer(sandbox::BytesOf(GoodAnswer()), 1, request));
     answer.height = 0;
-    EXPECT_FALSE(door::ParseAnswer(door::BytesOf(answer), 0, request));
+    EXPECT_FALSE(sandbox::ParseAnswer(sandbox::BytesOf(answer), 0, request));
     request.width = request.height = 5;
     EXPECT_FALSE(Accepted(request));
     request.width = request.height = 0;
@@ -157,10 +157,10 @@ TEST(Answers, OnlyDrawingsAreMeasured) {
 TEST(Socket, AMessageComesWithItsFile) {
     const Pair pair;
     const Descriptor file(open("/dev/null", O_RDONLY | O_CLOEXEC));
-    ASSERT_TRUE(door::Send(pair.here.Get(), door::BytesOf(GoodRequest()), file.Get()));
-    const Received received = door::Receive(pair.there.Get(), 1000);
+    ASSERT_TRUE(sandbox::Send(pair.here.Get(), sandbox::BytesOf(GoodRequest()), file.Get()));
+    const Received received = sandbox::Receive(pair.there.Get(), 1000);
     ASSERT_EQ(received.state, Received::State::Message);
-    EXPECT_TRUE(door::ParseRequest(received.Bytes(), received.descriptors.size()));
+    EXPECT_TRUE(sandbox::ParseRequest(received.Bytes(), received.descriptors.size()));
     ASSERT_EQ(received.descriptors.size(), 1u);
     EXPECT_NE(received.descriptors[0].Get(), file.Get());
     EXPECT_NE(fcntl(received.descriptors[0].Get(), F_GETFD) & FD_CLOEXEC, 0);
@@ -168,20 +168,20 @@ TEST(Socket, AMessageComesWithItsFile) {
 
 TEST(Socket, NothingAndTheEndAreToldApart) {
     Pair pair;
-    EXPECT_EQ(door::Receive(pair.there.Get(), 0).state, Received::State::Nothing);
-    EXPECT_EQ(door::Receive(pair.there.Get(), 5).state, Received::State::Nothing);
+    EXPECT_EQ(sandbox::Receive(pair.there.Get(), 0).state, Received::State::Nothing);
+    EXPECT_EQ(sandbox::Receive(pair.there.Get(), 5).state, Received::State::Nothing);
     pair.here.Close();
-    EXPECT_EQ(door::Receive(pair.there.Get(), -1).state, Received::State::Gone);
+    EXPECT_EQ(sandbox::Receive(pair.there.Get(), -1).state, Received::State::Gone);
     // No signal ends this test.
-    EXPECT_FALSE(door::Send(pair.there.Get(), door::BytesOf(GoodRequest()), -1));
-    EXPECT_EQ(door::Receive(-1, 0).state, Received::State::Gone);
+    EXPECT_FALSE(sandbox::Send(pair.there.Get(), sandbox::BytesOf(GoodRequest()), -1));
+    EXPECT_EQ(sandbox::Receive(-1, 0).state, Received::State::Gone);
 }
 
 TEST(Socket, AMessageTooLongIsNone) {
     const Pair pair;
     const std::array<uint8_t, 65> bytes{};
-    ASSERT_TRUE(door::Send(pair.here.Get(), bytes, -1));
-    const Received received = door::Receive(pair.there.Get(), 1000);
+    ASSERT_TRUE(sandbox::Send(pair.here.Get(), bytes, -1));
+    const Received received = sandbox::Receive(pair.there.Get(), 1000);
     EXPECT_EQ(received.state, Received::State::Message);
     EXPECT_EQ(received.Bytes().size(), 0u);
 }
@@ -189,7 +189,7 @@ TEST(Socket, AMessageTooLongIsNone) {
 TEST(Socket, WhoDoesNotReadIsNotWaitedFor) {
     const Pair pair;
     int sent = 0;
-    while (sent < 100000 && door::Send(pair.here.Get(), door::BytesOf(GoodRequest()), -1)) {
+    while (sent < 100000 && sandbox::Send(pair.here.Get(), sandbox::BytesOf(GoodRequest()), -1)) {
         ++sent;
     }
     EXPECT_GT(sent, 0);
@@ -199,18 +199,18 @@ TEST(Socket, WhoDoesNotReadIsNotWaitedFor) {
 TEST(Pixels, ComeBackOpaque) {
     const std::array<uint32_t, 6> pixels = {0xFF000001, 0x00000002, 0x80000003,
                                             0xFF000004, 0xFF000005, 0xFFFFFFFF};
-    const Descriptor memory = door::MakePixels(pixels);
-    const platform::BitmapPtr bitmap = door::ReadPixels(memory.Get(), {3, 2});
+    const Descriptor memory = sandbox::MakePixels(pixels);
+    const platform::BitmapPtr bitmap = sandbox::ReadPixels(memory.Get(), {3, 2});
     ASSERT_TRUE(bitmap);
     EXPECT_EQ(bitmap->width, 3);
     EXPECT_EQ(bitmap->height, 2);
     EXPECT_THAT(bitmap->pixels, testing::ElementsAre(0xFF000001, 0xFF000002, 0xFF000003, 0xFF000004,
                                                      0xFF000005, 0xFFFFFFFF));
     // As many pixels, and so another picture; that is the decoder's to say.
-    EXPECT_TRUE(door::ReadPixels(memory.Get(), {6, 1}));
+    EXPECT_TRUE(sandbox::ReadPixels(memory.Get(), {6, 1}));
     for (const platform::Size size :
          {platform::Size{3, 3}, {3, 1}, {0, 0}, {-3, -2}, {65536, 65536}}) {
-        EXPECT_FALSE(door::ReadPixels(memory.Get(), size));
+        EXPECT_FALSE(sandbox::ReadPixels(memory.Get(), size));
     }
 }
 
@@ -219,29 +219,29 @@ TEST(Pixels, AreReadFromMemoryOnly) {
     ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
     const Descriptor in(ends[0]), out(ends[1]), folder(open("/", O_RDONLY | O_CLOEXEC));
     for (const int descriptor : {in.Get(), folder.Get(), -1}) {
-        EXPECT_FALSE(door::ReadPixels(descriptor, {1, 1}));
+        EXPECT_FALSE(sandbox::ReadPixels(descriptor, {1, 1}));
     }
 }
 
 TEST(Files, AreReadWholeWhateverTheirOffset) {
     const std::array<uint32_t, 2> words = {0x04030201, 0x08070605};
-    const Descriptor file = door::MakePixels(words);
+    const Descriptor file = sandbox::MakePixels(words);
     ASSERT_EQ(lseek(file.Get(), 5, SEEK_SET), 5);
-    const auto bytes = door::ReadFile(file.Get());
+    const auto bytes = sandbox::ReadFile(file.Get());
     ASSERT_TRUE(bytes);
     EXPECT_THAT(*bytes, testing::ElementsAre(1, 2, 3, 4, 5, 6, 7, 8));
     EXPECT_EQ(lseek(file.Get(), 0, SEEK_CUR), 5);
 }
 
 TEST(Files, EmptyHugeAndOtherOnesAreNot) {
-    const Descriptor empty = door::MakePixels({});
-    EXPECT_FALSE(door::ReadFile(empty.Get()));
+    const Descriptor empty = sandbox::MakePixels({});
+    EXPECT_FALSE(sandbox::ReadFile(empty.Get()));
     // Only its length is huge; nothing of it is read.
-    ASSERT_EQ(ftruncate(empty.Get(), door::kMostFileBytes + 1), 0);
-    EXPECT_FALSE(door::ReadFile(empty.Get()));
+    ASSERT_EQ(ftruncate(empty.Get(), sandbox::kMostFileBytes + 1), 0);
+    EXPECT_FALSE(sandbox::ReadFile(empty.Get()));
     const Descriptor device(open("/dev/zero", O_RDONLY | O_CLOEXEC));
-    EXPECT_FALSE(door::ReadFile(device.Get()));
-    EXPECT_FALSE(door::ReadFile(-1));
+    EXPECT_FALSE(sandbox::ReadFile(device.Get()));
+    EXPECT_FALSE(sandbox::ReadFile(-1));
 }
 
 }  // namespace

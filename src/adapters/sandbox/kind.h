@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace door {
+namespace sandbox {
 
 /// The numbers stand in messages between program and decoder.
 enum class Kind : uint8_t {
@@ -48,4 +48,4 @@ bool IsPctAt(std::string_view data, size_t at);
 /// `name` is a path or a bare name. An empty file is no picture.
 Kind KindOf(std::string_view start, std::string_view end, std::string_view name);
 
-}  // namespace door
+}  // namespace sandbox

@@ -1,4 +1,4 @@
-#include "door/door_support.h"
+#include "sandbox/sandbox_support.h"
 
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -48,8 +48,8 @@ bool Comes(const std::function<bool()>& condition) {
 
 }  // namespace
 
-door::Descriptor FileOf(const std::string& content) {
-    door::Descriptor file(memfd_create("file", MFD_CLOEXEC));
+sandbox::Descriptor FileOf(const std::string& content) {
+    sandbox::Descriptor file(memfd_create("file", MFD_CLOEXEC));
     EXPECT_EQ(write(file.Get(), content.data(), content.size()),
               static_cast<ssize_t>(content.size()));
     return file;

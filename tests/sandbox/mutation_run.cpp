@@ -1,8 +1,8 @@
 // mutation_run COUNT FOLDER…: damages the sample pictures of some folders in many ways and has each
-// decoded behind the door, by the real client and processes. The same damage in every run, and as
+// decoded in the sandbox, by the real client and processes. The same damage in every run, and as
 // much of it for every kind. Fails when a kind has no sample that decodes, when an answer does not
 // come within the limit or many come near it, when an intact picture does not decode, or when
-// anything is left behind. What crashes a decoder is no failure: the door is there for it.
+// anything is left behind. What crashes a decoder is no failure: the sandbox is there for it.
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -20,14 +20,14 @@
 #include <string_view>
 #include <vector>
 
-#include "adapters/door/client.h"
-#include "adapters/door/kind.h"
+#include "adapters/sandbox/client.h"
+#include "adapters/sandbox/kind.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-using door::Kind;
-using door::Outcome;
+using sandbox::Kind;
+using sandbox::Outcome;
 
 constexpr int kLimitMilliseconds = 10000;
 /// What the system needs beside the limit, on a busy machine.
@@ -66,8 +66,8 @@ Kind KindOf(const std::string& bytes, const std::string& name) {
     if (name == "bmp_16.bmp" || name == "bmp_555.bmp" || name == "bmp_565.bmp") {
         return Kind::Bmp;
     }
-    return door::KindOf(all.substr(0, door::kStartBytes),
-                        all.substr(all.size() - std::min(all.size(), door::kEndBytes)), name);
+    return sandbox::KindOf(all.substr(0, sandbox::kStartBytes),
+                           all.substr(all.size() - std::min(all.size(), sandbox::kEndBytes)), name);
 }
 
 void ReadSamples(const fs::path& folder, std::vector<Sample>& samples) {
@@ -147,8 +147,8 @@ std::string Damaged(const Sample& sample, const std::vector<Sample>& all, Random
     }
 }
 
-door::Descriptor FileOf(const std::string& bytes) {
-    door::Descriptor file(memfd_create("damaged", MFD_CLOEXEC));
+sandbox::Descriptor FileOf(const std::string& bytes) {
+    sandbox::Descriptor file(memfd_create("damaged", MFD_CLOEXEC));
     if (write(file.Get(), bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
         std::perror("memfd");
         std::exit(2);
@@ -177,7 +177,7 @@ struct Run {
 
     void DecodeDamaged(const std::string& name, Kind kind, const std::string& bytes) {
         const auto start = std::chrono::steady_clock::now();
-        const door::Result result = client.Decode(kind, FileOf(bytes).Get(), {});
+        const sandbox::Result result = client.Decode(kind, FileOf(bytes).Get(), {});
         const double took =
             std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
                 .count();
@@ -202,7 +202,7 @@ struct Run {
         }
     }
 
-    door::Client client{{"", {}, kLimitMilliseconds}};
+    sandbox::Client client{{"", {}, kLimitMilliseconds}};
     std::map<Outcome, int> outcomes;
     double longest = 0;
     int slow = 0;
@@ -222,7 +222,7 @@ Samples Decodable(Run& run, const std::vector<Sample>& all) {
             run.Fail(sample.name + " does not decode");
         }
     }
-    for (int kind = 1; kind <= door::kLastKind; ++kind) {
+    for (int kind = 1; kind <= sandbox::kLastKind; ++kind) {
         if (!samples.contains(static_cast<Kind>(kind))) {
             run.Fail("no sample of kind " + std::to_string(kind));
         }
