@@ -13,9 +13,9 @@
 #include <mutex>
 #include <thread>
 
+#include "adapters/commands/silent_platform.h"
 #include "adapters/imaging/qt_imaging.h"
 #include "adapters/qt/desktop.h"
-#include "adapters/robot/silent_platform.h"
 #include "app/timers.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
@@ -230,7 +230,7 @@ int main(int argc, char** argv) {
     }
     qt_adapter::Desktop desktop(argc, argv, {});
     NoTrace trace;
-    robot::SilentPlatform silent("");
+    commands::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     imaging::QtImaging imaging(rest.files);
     WatchedLoop loop(desktop.Loop());

@@ -5,8 +5,8 @@
 #include <ctime>
 #include <memory>
 
+#include "adapters/commands/silent_platform.h"
 #include "adapters/qt/desktop.h"
-#include "adapters/robot/silent_platform.h"
 #include "model/application.h"
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_screen.h"
@@ -61,7 +61,7 @@ double CoresOf(Application& app, int number, const LengthTrace& trace) {
 int main(int argc, char** argv) {
     qt_adapter::Desktop desktop(argc, argv, {true, {{0, 0, kFullHd.width, kFullHd.height}}});
     LengthTrace trace;
-    robot::SilentPlatform silent("");
+    commands::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     Application app({desktop.Loop(), rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,

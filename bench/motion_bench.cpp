@@ -8,8 +8,8 @@
 #include <fstream>
 #include <memory>
 
+#include "adapters/commands/silent_platform.h"
 #include "adapters/qt/desktop.h"
-#include "adapters/robot/silent_platform.h"
 #include "macro/cutouts.h"
 #include "macro/motion.h"
 #include "model/application.h"
@@ -120,7 +120,7 @@ double PlainCopies() {
 
 int main(int argc, char** argv) {
     qt_adapter::Desktop desktop(argc, argv, {true, {{0, 0, kFullHd.width, kFullHd.height}}});
-    robot::SilentPlatform silent("");
+    commands::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     const auto make = [&](platform::EventLoop& loop) {
         auto app = std::make_unique<Application>(

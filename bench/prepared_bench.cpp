@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "adapters/commands/silent_platform.h"
 #include "adapters/imaging/qt_imaging.h"
 #include "adapters/posix/posix_files.h"
 #include "adapters/qt/desktop.h"
-#include "adapters/robot/silent_platform.h"
 #include "model/application.h"
 #include "model/controls.h"
 #include "model/windows/main_window.h"
@@ -74,7 +74,7 @@ void SetUpShow(Application& app, const std::vector<Text>& paths) {
 /// Median over the rounds.
 double Measure(qt_adapter::Desktop& desktop, platform::Files& files, bool prepares,
                const std::vector<Text>& paths) {
-    robot::SilentPlatform silent("");
+    commands::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     imaging::QtImaging imaging(files, prepares);
     NoTrace trace;

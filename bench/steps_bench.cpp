@@ -8,11 +8,11 @@
 
 #include "../tests/support/fake_platform.h"
 #include "adapters/posix/iconv_code_page.h"
-#include "adapters/robot/devices.h"
-#include "adapters/robot/no_video.h"
-#include "adapters/robot/robot_dialogs.h"
-#include "adapters/robot/robot_sound.h"
-#include "adapters/robot/virtual_loop.h"
+#include "adapters/virtual/no_video.h"
+#include "adapters/virtual/virtual_dialogs.h"
+#include "adapters/virtual/virtual_loop.h"
+#include "adapters/virtual/virtual_monitors.h"
+#include "adapters/virtual/virtual_sound.h"
 #include "app/timers.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
@@ -128,14 +128,14 @@ double HeapBytes() {
 
 int main() {
     SlideCount trace;
-    robot::VirtualLoop loop(platform::FromCalendar({2026, 1, 1, 12, 0, 0}));
+    virtual_adapter::VirtualLoop loop(platform::FromCalendar({2026, 1, 1, 12, 0, 0}));
     AnyFiles files;
-    robot::RobotDialogs dialogs(trace);
-    robot::RobotMonitors monitors({});
+    virtual_adapter::VirtualDialogs dialogs(trace);
+    virtual_adapter::VirtualMonitors monitors({});
     PlainImaging imaging;
     NoText text;
-    robot::RobotSound sound(trace, loop);
-    robot::NoVideo video;
+    virtual_adapter::VirtualSound sound(trace, loop);
+    virtual_adapter::NoVideo video;
     NoSystem system;
     fakes::FakeFiles noFiles;
     fakes::FakeFolders folders(noFiles);

@@ -14,10 +14,12 @@ FLOORS = {
     "macro": 6, "playback": 7, "authoring": 8, "app": 9,
 }
 ADAPTERS = {"qt", "gstreamer", "cdio", "imaging", "sandbox", "confine", "decoder", "svg",
-            "posix", "robot"}
-# The robot plays a person: it needs the windows on the screen and the trace's JSON.
+            "posix", "tracing", "virtual", "commands", "robot"}
+# The robot plays a person on the virtual clock; what happens goes into the trace.
 # The disc reader feeds the sound. Program and decoder's process talk through the sandbox.
-ADAPTER_NEIGHBOURS = {"robot": {"qt", "posix"}, "qt": {"posix"}, "cdio": {"gstreamer"},
+ADAPTER_NEIGHBOURS = {"tracing": {"posix"}, "virtual": {"tracing"},
+                      "commands": {"posix", "tracing", "virtual"},
+                      "robot": {"posix", "tracing", "virtual"}, "qt": {"posix"}, "cdio": {"gstreamer"},
                       "sandbox": {"posix"}, "imaging": {"sandbox", "posix"},
                       "confine": {"sandbox", "posix"}, "decoder": {"confine", "sandbox", "posix"},
                       "svg": {"confine", "sandbox"}}
@@ -40,6 +42,9 @@ def folder_of(path):
     parts = path.parts
     if parts[0] == "adapters" and len(parts) > 2:
         return ("adapter", parts[1])
+    # Put whole programs together: they see everything, and main.cpp alone sees them.
+    if parts[0] == "programs":
+        return ("programs", parts[0])
     if len(parts) > 1:
         return ("floor", parts[0])
     return ("root", parts[0])
@@ -52,8 +57,10 @@ def offence_of_quoted(kind, name, target):
         return "write the folder: \"folder/file.h\""
     if target_kind == "floor" and target_name not in FLOORS:
         return f"unknown folder {target_name}"
-    if kind == "root" or (kind, name) == (target_kind, target_name):
+    if kind in {"root", "programs"} or (kind, name) == (target_kind, target_name):
         return None
+    if target_kind == "programs":
+        return "only main.cpp sees programs/"
     if kind == "floor":
         if target_kind == "adapter":
             return "the logic does not see adapters"

@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "adapters/qt/desktop.h"
-#include "adapters/robot/virtual_loop.h"
+#include "adapters/virtual/virtual_loop.h"
 #include "app/timers.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
@@ -130,7 +130,7 @@ constexpr const char* kStory =
     "slide 5\nslide 6\nat 0\n";
 
 TEST(LoopsAgree, OnTheVirtualClock) {
-    robot::VirtualLoop loop(platform::FromCalendar({2026, 1, 1, 12, 0, 0}));
+    virtual_adapter::VirtualLoop loop(platform::FromCalendar({2026, 1, 1, 12, 0, 0}));
     EXPECT_EQ(Play(loop), kStory);
 }
 

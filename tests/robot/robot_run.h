@@ -45,7 +45,7 @@ public:
         return robot->ExitStatus();
     }
 
-    VirtualLoop& Loop() { return robot->Loop(); }
+    virtual_adapter::VirtualLoop& Loop() { return robot->Loop(); }
     /// "expect"-like message of the script's line.
     std::string Told(int line, const std::string& message) const {
         return scriptFile + ":" + std::to_string(line) + ": " + message + "\n";

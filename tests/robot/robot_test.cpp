@@ -325,7 +325,7 @@ TEST(Robot, QueuedAnswersMeetTheirBoxes) {
     RobotRun run("answer no\ninput 七\ninput\nclick Form1.Command1\n");
     std::string got;
     run.windows.form1.Command1.Click = [&] {
-        RobotDialogs& dialogs = run.robot->Dialogs();
+        virtual_adapter::VirtualDialogs& dialogs = run.robot->Dialogs();
         got += dialogs.Message(u"?", platform::kYesNoQuestion, u"") == platform::Answer::No;
         got += dialogs.Input(u"", u"", u"1") == Text(u"七");
         got += dialogs.Input(u"", u"", u"1") == std::nullopt;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "robot/media_bytes.h"
+#include "support/media_bytes.h"
 
 namespace media {
 

@@ -5,14 +5,14 @@
 #include <optional>
 #include <string>
 
-#include "adapters/robot/devices.h"
 #include "adapters/robot/options.h"
-#include "adapters/robot/robot_dialogs.h"
-#include "adapters/robot/robot_sound.h"
-#include "adapters/robot/robot_video.h"
 #include "adapters/robot/scripted_user.h"
-#include "adapters/robot/virtual_loop.h"
-#include "adapters/robot/window_tracer.h"
+#include "adapters/tracing/window_tracer.h"
+#include "adapters/virtual/virtual_dialogs.h"
+#include "adapters/virtual/virtual_loop.h"
+#include "adapters/virtual/virtual_monitors.h"
+#include "adapters/virtual/virtual_sound.h"
+#include "adapters/virtual/virtual_video.h"
 
 namespace robot {
 
@@ -29,11 +29,11 @@ public:
     Robot(const Robot&) = delete;
     Robot& operator=(const Robot&) = delete;
 
-    VirtualLoop& Loop() { return loop_; }
-    RobotDialogs& Dialogs() { return dialogs_; }
-    RobotMonitors& Monitors() { return monitors_; }
-    RobotSound& Sound() { return sound_; }
-    RobotVideo& Video() { return video_; }
+    virtual_adapter::VirtualLoop& Loop() { return loop_; }
+    virtual_adapter::VirtualDialogs& Dialogs() { return dialogs_; }
+    virtual_adapter::VirtualMonitors& Monitors() { return monitors_; }
+    virtual_adapter::VirtualSound& Sound() { return sound_; }
+    virtual_adapter::VirtualVideo& Video() { return video_; }
 
     /// The program folder: the one asked for, or a temporary one that exists as long as the robot.
     const std::string& AppFolder() const { return appFolder_; }
@@ -46,12 +46,12 @@ public:
     int ExitStatus() { return user_.ExitStatus(); }
 
 private:
-    VirtualLoop loop_;
-    RobotDialogs dialogs_;
-    RobotMonitors monitors_;
-    RobotSound sound_;
-    RobotVideo video_;
-    WindowTracer windows_;
+    virtual_adapter::VirtualLoop loop_;
+    virtual_adapter::VirtualDialogs dialogs_;
+    virtual_adapter::VirtualMonitors monitors_;
+    virtual_adapter::VirtualSound sound_;
+    virtual_adapter::VirtualVideo video_;
+    tracing::WindowTracer windows_;
     ScriptedUser user_;
     std::string appFolder_;
     bool ownsAppFolder_ = false;

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "adapters/robot/robot_dialogs.h"
 #include "adapters/robot/script.h"
-#include "adapters/robot/virtual_loop.h"
-#include "adapters/robot/window_tracer.h"
+#include "adapters/tracing/window_tracer.h"
+#include "adapters/virtual/virtual_dialogs.h"
+#include "adapters/virtual/virtual_loop.h"
 #include "model/application.h"
 
 namespace robot {
@@ -21,12 +21,12 @@ using ShotFunction = std::function<bool(model::Window&, const std::string& file)
 /// shown or lies under a modal one, has no effect. An action that cannot be done at all (a row
 /// that is not there, a picture that cannot be saved) is a fault of the script: it is told and
 /// ends the run.
-class ScriptedUser : public Actions {
+class ScriptedUser : public virtual_adapter::Actions {
 public:
     struct Surroundings {
-        VirtualLoop& loop;
-        RobotDialogs& dialogs;
-        WindowTracer& windows;
+        virtual_adapter::VirtualLoop& loop;
+        virtual_adapter::VirtualDialogs& dialogs;
+        tracing::WindowTracer& windows;
         platform::Trace& trace;
         std::ostream& out;  // printed values
         std::ostream& err;  // failed expectations and faults

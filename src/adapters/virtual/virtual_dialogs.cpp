@@ -1,0 +1,66 @@
+#include "adapters/virtual/virtual_dialogs.h"
+
+#include <utility>
+
+#include "adapters/tracing/box_events.h"
+
+namespace virtual_adapter {
+
+namespace {
+
+using platform::Answer;
+
+/// What of the flags tells the buttons, and its values.
+constexpr int kButtonMask = 15;
+constexpr int kOkCancel = 1;
+constexpr int kYesNoCancel = 3;
+
+template <class T>
+std::optional<T> Take(std::deque<T>& queue) {
+    if (queue.empty()) {
+        return std::nullopt;
+    }
+    T value = std::move(queue.front());
+    queue.pop_front();
+    return value;
+}
+
+/// The button that a queued answer presses in a box with these buttons.
+Answer Pressed(Answer wanted, int buttons) {
+    const bool agrees = wanted == Answer::Ok || wanted == Answer::Yes;
+    switch (buttons) {
+        case platform::kYesNo:
+            return agrees ? Answer::Yes : Answer::No;
+        case kYesNoCancel:
+            return wanted == Answer::Ok ? Answer::Yes : wanted;
+        case kOkCancel:
+            return agrees ? Answer::Ok : Answer::Cancel;
+        default:
+            return Answer::Ok;
+    }
+}
+
+}  // namespace
+
+Answer VirtualDialogs::Message(TextView text, int flags, TextView title) {
+    const std::optional<Answer> queued = Take(answers_);
+    const Answer answer = Pressed(queued.value_or(Answer::Ok), flags & kButtonMask);
+    tracing::TraceMessage(trace_, text, flags, title, answer, !queued);
+    return answer;
+}
+
+std::optional<Text> VirtualDialogs::Input(TextView prompt, TextView title, TextView initial) {
+    const std::optional<std::optional<Text>> queued = Take(inputs_);
+    const std::optional<Text> answer = queued ? *queued : std::optional<Text>(initial);
+    tracing::TraceInput(trace_, prompt, title, initial, answer, !queued);
+    return answer;
+}
+
+std::optional<Text> VirtualDialogs::ChooseFile(const FileRequest& request) {
+    const std::optional<std::optional<Text>> queued = Take(files_);
+    const std::optional<Text> path = queued ? *queued : std::nullopt;
+    tracing::TraceFileDialog(trace_, request, path, !queued);
+    return path;
+}
+
+}  // namespace virtual_adapter

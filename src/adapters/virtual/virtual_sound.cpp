@@ -1,0 +1,78 @@
+#include "adapters/virtual/virtual_sound.h"
+
+#include <algorithm>
+
+#include "adapters/virtual/media_length.h"
+
+namespace virtual_adapter {
+
+namespace {
+
+using TraceValue = decltype(platform::TraceField::value);
+
+constexpr int kAsynchronous = 1;
+constexpr int kWaitPollMs = 10;
+
+constexpr TextView kMidiType = u"sequencer";
+constexpr TextView kTypes[] = {u"waveaudio", kMidiType, u"MPEGVideo"};
+
+}  // namespace
+
+Text VirtualSound::MciSendString(TextView command) {
+    const Text result = Answer(platform::ParseSoundCommand(command));
+    trace_.Event("mci", {{"command", Text(command)}, {"result", result}});
+    return result;
+}
+
+Text VirtualSound::Answer(const platform::SoundCommand& command) {
+    if (command.verb == u"open") {
+        Open(command);
+        return {};
+    }
+    const auto found = pieces_.find(command.device);
+    if (found == pieces_.end()) {
+        return {};
+    }
+    Piece& piece = found->second;
+    if (command.verb == u"play" && command.rest.starts_with(u"from ")) {
+        piece.ends = loop_.Milliseconds() + piece.milliseconds;
+    } else if (command.verb == u"stop") {
+        piece.ends = 0;
+    } else if (command.verb == u"close") {
+        pieces_.erase(found);
+    } else if (command.verb == u"status" && command.rest == u"mode") {
+        return loop_.Milliseconds() < piece.ends ? u"playing" : u"stopped";
+    }
+    return {};
+}
+
+void VirtualSound::Open(const platform::SoundCommand& command) {
+    const bool known =
+        std::find(std::begin(kTypes), std::end(kTypes), command.type) != std::end(kTypes);
+    if (!known || command.device.empty() || !files_ || !files_->Find(command.file) ||
+        pieces_.contains(command.device)) {
+        return;
+    }
+    const std::optional<MediaLength> length = LengthOfMediaFile(*files_, command.file);
+    const bool plays = length && (command.type != kMidiType || length->kind == MediaKind::Midi);
+    pieces_[command.device].milliseconds = plays ? length->milliseconds : 0;
+}
+
+void VirtualSound::SndPlaySound(const std::optional<Text>& file, int flags) {
+    trace_.Event("sndPlaySound", {{"file", file ? TraceValue(*file) : TraceValue(nullptr)},
+                                  {"flags", static_cast<double>(flags)}});
+    const int mine = ++played_;
+    if (!file || (flags & kAsynchronous) != 0 || !files_) {
+        return;
+    }
+    const std::optional<MediaLength> length = LengthOfMediaFile(*files_, *file);
+    const double end = loop_.Milliseconds() + (length ? length->milliseconds : 0);
+    // Ended early by the sound after it.
+    while (played_ == mine && loop_.Milliseconds() < end) {
+        const double left = end - loop_.Milliseconds();
+        loop_.Sleep(std::clamp(static_cast<int>(left), 1, kWaitPollMs));
+        loop_.PumpEvents();
+    }
+}
+
+}  // namespace virtual_adapter

@@ -1,0 +1,46 @@
+// A sound device whose files take their time on the virtual clock and make no sound.
+#pragma once
+
+#include <map>
+
+#include "platform/event_loop.h"
+#include "platform/files.h"
+#include "platform/sound.h"
+#include "platform/sound_command.h"
+#include "platform/trace.h"
+
+namespace virtual_adapter {
+
+/// Traces every command (event "mci": command, result; "sndPlaySound": file or null, flags).
+/// Understood are: open "FILE" type TYPE alias NAME, play NAME from 1, stop NAME, close NAME,
+/// status NAME mode ("playing" or "stopped"). Every file that exists can be opened; what cannot be
+/// played, or does not tell its length, is "stopped" as soon as it plays.
+/// Everything else answers with the empty text, as there is no CD drive. A sound that is played
+/// synchronously lets its length pass, with the loop pumping.
+class VirtualSound : public platform::Sound {
+public:
+    VirtualSound(platform::Trace& trace, platform::EventLoop& loop) : trace_(trace), loop_(loop) {}
+
+    /// Where files are found; without it none can be opened.
+    void Follow(platform::Files& files) { files_ = &files; }
+
+    Text MciSendString(TextView command) override;
+    void SndPlaySound(const std::optional<Text>& file, int flags) override;
+
+private:
+    struct Piece {
+        double milliseconds = 0;
+        double ends = 0;  // ms of the loop; over: it does not play
+    };
+
+    Text Answer(const platform::SoundCommand& command);
+    void Open(const platform::SoundCommand& command);
+
+    platform::Trace& trace_;
+    platform::EventLoop& loop_;
+    platform::Files* files_ = nullptr;
+    std::map<Text, Piece> pieces_;  // by alias
+    int played_ = 0;                // sounds that SndPlaySound has begun or ended
+};
+
+}  // namespace virtual_adapter
