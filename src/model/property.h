@@ -1,6 +1,7 @@
 // Properties that announce their changes, and events that handlers attach to.
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -82,15 +83,22 @@ private:
     T value_;
 };
 
-/// One handler; calling an event without one does nothing.
+/// One handler, which only one subject may set; calling an event without one does nothing.
 template <class... Arguments>
 class Event {
 public:
     template <class Handler>
     Event& operator=(Handler handler) {
+        assert(!handler_ && "a second subject attaches to the same event");
         handler_ = std::move(handler);
         return *this;
     }
+    Event& operator=(std::nullptr_t) {
+        handler_ = nullptr;
+        return *this;
+    }
+    /// The event without its handler, for another one in its place.
+    Event& Anew() { return *this = nullptr; }
     /// False when nobody listens.
     bool operator()(Arguments... arguments) const {
         if (!handler_) {

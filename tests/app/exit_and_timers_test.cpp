@@ -256,7 +256,7 @@ TEST(TimerRunner, IntervalOfZeroStops) {
 TEST(TimerRunner, HandlerMayStopItsOwnTimer) {
     Ticking around;
     app::TimerRunner runner(around.app);
-    around.timer.Tick = [&] {
+    around.timer.Tick.Anew() = [&] {
         around.ticks.push_back(around.loop.Milliseconds());
         around.timer.Enabled = false;
     };

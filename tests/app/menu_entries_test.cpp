@@ -329,7 +329,7 @@ TEST(OpenedWindows, TheFolderOfLinkedFilesIsModal) {
     form12.HasView = true;
     menus.form1.Show();
     bool modal = false;
-    form12.OnActivate = [&] {
+    form12.OnActivate.Anew() = [&] {
         modal = form12.Modal;
         form12.Unload();
     };

@@ -27,7 +27,7 @@ TEST(PlayMenu, EveryEntryPressesItsButtonAndIsEnabledAsItIs) {
         SCOPED_TRACE(entry->Name());
         EXPECT_EQ(entry->Caption(), button->Caption());
         int pressed = 0;
-        button->Click = [&] { ++pressed; };
+        button->Click.Anew() = [&] { ++pressed; };
         button->Enabled = true;
         EXPECT_TRUE(entry->Enabled);
         entry->Click();

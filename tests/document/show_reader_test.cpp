@@ -531,7 +531,7 @@ TEST(ShowReader, LaysTheFullScreensGround) {
     screen.Height = 75;
     screen.P2.Left = 15;
     int applied = 0;
-    screen.ApplyOverlayBackground = [&] { ++applied; };
+    screen.ApplyOverlayBackground.Anew() = [&] { ++applied; };
     overlaid.app.state.PreviousPictureOnScreen = 1;
     overlaid.Read(FullDocument());
     EXPECT_EQ(applied, 1);

@@ -319,7 +319,7 @@ TEST_F(Cutouts, ALineThatShowsCountsAsText) {
 
 TEST_F(Cutouts, TheFullScreenTakesTheKeyboard) {
     int focused = 0;
-    screen.P2.SetFocus = [&] { ++focused; };
+    screen.P2.SetFocus.Anew() = [&] { ++focused; };
     Play(u"PICPB1(0,\"star.bmp\",\"\")");
     EXPECT_EQ(focused, 0);
     GoFullScreen();

@@ -29,7 +29,7 @@ struct MacroShow {
         screen.P2.SetSize(800 * 15, 600 * 15);
         screen.P3.SetSize(800 * 15, 600 * 15);
         screen.P4.SetSize(800 * 15, 600 * 15);
-        form1.Timer3.Tick = [this] { state.MacroDelayWaiting = 0; };
+        form1.Timer3.Tick.Anew() = [this] { state.MacroDelayWaiting = 0; };
     }
 
     /// Runs the text as the macro of slide 1.

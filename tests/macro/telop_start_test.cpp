@@ -12,8 +12,8 @@ using macro_tests::MacroShow;
 /// Canvases of 640 and 800 pixels; a character is 10 pixels wide.
 struct TelopStart : testing::Test, MacroShow {
     TelopStart() {
-        form1.Timer4.Tick = [this] { macro::ScrollTelopInWindow(app); };
-        screen.Timer1.Tick = [this] { macro::ScrollTelopOnScreen(app); };
+        form1.Timer4.Tick.Anew() = [this] { macro::ScrollTelopInWindow(app); };
+        screen.Timer1.Tick.Anew() = [this] { macro::ScrollTelopOnScreen(app); };
     }
 };
 

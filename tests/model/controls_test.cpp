@@ -313,7 +313,7 @@ TEST(MenuArray, ChecksOneEntry) {
 TEST(MenuArray, TellsWhichEntryWasChosen) {
     SampleWindow window;
     std::vector<int> chosen;
-    window.mnuKOU.Click = [&](int index) { chosen.push_back(index); };
+    window.mnuKOU.Click.Anew() = [&](int index) { chosen.push_back(index); };
     window.mnuKOU(2).Click();
     window.mnuKOU(0).Click();
     EXPECT_EQ(chosen, (std::vector<int>{2, 0}));

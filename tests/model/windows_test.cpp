@@ -85,7 +85,7 @@ TEST(Window, HiddenWindowIsUnloadedToo) {
 
 TEST(Window, HandlerMayRefuseTheUnload) {
     Sample window;
-    window.OnQueryUnload = [](bool& stay) { stay = true; };
+    window.OnQueryUnload.Anew() = [](bool& stay) { stay = true; };
     window.Show();
     EXPECT_FALSE(window.Unload());
     EXPECT_TRUE(window.Visible);
@@ -95,7 +95,7 @@ TEST(Window, HandlerMayRefuseTheUnload) {
 TEST(Window, UnloadInsideItsUnloadDoesNothing) {
     Sample window;
     int unloads = 0;
-    window.OnUnload = [&] {
+    window.OnUnload.Anew() = [&] {
         ++unloads;
         EXPECT_TRUE(window.Unloading());
         EXPECT_TRUE(window.Unload());
@@ -108,7 +108,7 @@ TEST(Window, UnloadInsideItsUnloadDoesNothing) {
 
 TEST(Window, LeavingItsUnloadByAnExceptionLeavesNoMark) {
     Sample window;
-    window.OnUnload = [] { throw platform::ProgramEnd{}; };
+    window.OnUnload.Anew() = [] { throw platform::ProgramEnd{}; };
     window.Show();
     EXPECT_THROW(window.Unload(), platform::ProgramEnd);
     EXPECT_FALSE(window.Unloading());

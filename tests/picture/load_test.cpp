@@ -303,7 +303,7 @@ struct Failing : Loading {
         form1.Timer1.Interval = 3000;
         form1.Picture1.SetPicture(std::make_shared<platform::Bitmap>(10, 10));
         windows.form4.Picture1.SetPicture(std::make_shared<platform::Bitmap>(10, 10));
-        windows.form5.OnUnload = [this] { ++unloadedViews; };
+        windows.form5.OnUnload.Anew() = [this] { ++unloadedViews; };
         windows.form5.Load();
         windows.SetPointer(model::kPointerArrowBusy);
     }

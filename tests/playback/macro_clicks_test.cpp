@@ -16,7 +16,7 @@ protected:
         show.state.ControlBoxFlag = 0;
         show.state.FullStartConfirm = 1;
         show.form1.Command4.Click();
-        show.screen.P2.SetFocus = [this] { ++focused; };
+        show.screen.P2.SetFocus.Anew() = [this] { ++focused; };
         show.windows.slidescreen2.Hide();
         show.sound.played.clear();
         show.state.UserInputSeen = 0;

@@ -119,8 +119,8 @@ TEST_F(VideoView, ANewPictureAsksForARepaint) {
 TEST_F(VideoView, ClicksAndKeysReachThePlayer) {
     int clicks = 0;
     std::vector<int> keys, windowKeys;
-    windows.form24.WindowsMediaPlayer1.Click = [&] { ++clicks; };
-    windows.form24.KeyDown = [&](int key) { windowKeys.push_back(key); };
+    windows.form24.WindowsMediaPlayer1.Click.Anew() = [&] { ++clicks; };
+    windows.form24.KeyDown.Anew() = [&](int key) { windowKeys.push_back(key); };
     windows.form24.Show();
     const QPointF place(20, 20);
     for (const auto kind : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
@@ -135,7 +135,7 @@ TEST_F(VideoView, ClicksAndKeysReachThePlayer) {
     };
     press(Qt::Key_Escape);  // nobody listens at the player: the window gets it
     EXPECT_EQ(windowKeys, std::vector<int>{27});
-    windows.form24.WindowsMediaPlayer1.KeyDown = [&](int key) { keys.push_back(key); };
+    windows.form24.WindowsMediaPlayer1.KeyDown.Anew() = [&](int key) { keys.push_back(key); };
     press(Qt::Key_Escape);
     press(Qt::Key_Return);
     EXPECT_EQ(keys, (std::vector<int>{27, 13}));

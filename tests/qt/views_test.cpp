@@ -203,14 +203,14 @@ TEST_F(Views, ClicksAndKeysOnACanvas) {
     windows.slidescreen.Visible = true;
     int clicks = 0;
     std::vector<int> boxKeys, windowKeys;
-    windows.slidescreen.P2.Click = [&] { ++clicks; };
-    windows.slidescreen.KeyDown = [&](int key) { windowKeys.push_back(key); };
+    windows.slidescreen.P2.Click.Anew() = [&] { ++clicks; };
+    windows.slidescreen.KeyDown.Anew() = [&](int key) { windowKeys.push_back(key); };
     QWidget* canvas = WidgetOf(windows.slidescreen.P2);
     EXPECT_EQ(canvas->size(), QSize(640, 480));
     ClickAt(*canvas);
     EXPECT_EQ(clicks, 1);
     PressKey(*canvas, Qt::Key_Insert);  // no handler on the box: the window's turn
-    windows.slidescreen.P2.KeyDown = [&](int key) { boxKeys.push_back(key); };
+    windows.slidescreen.P2.KeyDown.Anew() = [&](int key) { boxKeys.push_back(key); };
     PressKey(*canvas, Qt::Key_Escape);
     PressKey(*canvas, Qt::Key_A);
     EXPECT_EQ(windowKeys, std::vector<int>{45});
@@ -241,7 +241,7 @@ TEST_F(Views, WindowFollowsAndIsFollowed) {
     windows.form1.Visible = true;
     EXPECT_TRUE(root->isVisible());
     int resizes = 0;
-    windows.form1.OnResize = [&] { ++resizes; };
+    windows.form1.OnResize.Anew() = [&] { ++resizes; };
     windows.form1.Width = 900 * 15;
     EXPECT_EQ(root->width(), 900);
     EXPECT_EQ(resizes, 0) << "the program's own change is no person's";
@@ -280,7 +280,7 @@ TEST_F(Views, CloseButtonUnloadsAndARefusalKeepsTheWindow) {
     windows.form1.Load();
     windows.form1.Visible = true;
     bool stay = true;
-    windows.form1.OnQueryUnload = [&](bool& refuse) { refuse = stay; };
+    windows.form1.OnQueryUnload.Anew() = [&](bool& refuse) { refuse = stay; };
     QWidget* root = desktop.WidgetOf(windows.form1);
     root->close();
     EXPECT_TRUE(root->isVisible());
@@ -294,7 +294,7 @@ TEST_F(Views, CloseButtonUnloadsAndARefusalKeepsTheWindow) {
 TEST_F(Views, DroppedFilesArriveAsPaths) {
     windows.form1.Visible = true;
     std::vector<Text> dropped;
-    windows.form1.FilesDropped = [&](const std::vector<Text>& files) { dropped = files; };
+    windows.form1.FilesDropped.Anew() = [&](const std::vector<Text>& files) { dropped = files; };
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile("/pics/夜明け.kvs"), QUrl("http://example.invalid/x")});
     QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -389,7 +389,7 @@ TEST_F(Views, RadioMarksFollowTheModelOnly) {
     EXPECT_EQ(chosen, 0);
     EXPECT_FALSE(ActionOf(array(0))->isChecked()) << "the handler refused by doing nothing";
     EXPECT_TRUE(ActionOf(array(1))->isChecked());
-    array.Click = [&](int index) { array.Check(index); };
+    array.Click.Anew() = [&](int index) { array.Check(index); };
     ActionOf(array(0))->trigger();
     EXPECT_TRUE(ActionOf(array(0))->isChecked());
     EXPECT_FALSE(ActionOf(array(1))->isChecked());
@@ -399,7 +399,7 @@ TEST_F(Views, RadioMarksFollowTheModelOnly) {
 
 TEST_F(Views, EntryUnderADisabledMenuCannotBeChosen) {
     int chosen = 0;
-    windows.form1.mnuTIME.Click = [&] { ++chosen; };
+    windows.form1.mnuTIME.Click.Anew() = [&] { ++chosen; };
     windows.form1.mnuOPTION.Enabled = false;
     ActionOf(windows.form1.mnuTIME)->trigger();
     EXPECT_EQ(chosen, 0);

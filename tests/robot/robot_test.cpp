@@ -286,7 +286,7 @@ TEST(Robot, ModalWindowTakesAllInput) {
         windows.form3.Show();
         run.Loop().RunUntil([&] { return !windows.form3.Visible; });
         order += ')';
-        windows.form1.Command1.Click = [&] { order += '1'; };
+        windows.form1.Command1.Click.Anew() = [&] { order += '1'; };
     };
     windows.form3.Click = [&] {
         order += '3';
