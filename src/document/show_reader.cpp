@@ -253,10 +253,6 @@ void ShowReader::LayScreenGround() {
         }
         return;
     }
-    screen.P2.Cls();
-    screen.P2.Left = 0;
-    screen.P2.Top = 0;
-    screen.P2.SetSize(screen.Width, screen.Height);
     screen.ApplyOverlayBackground();
 }
 

@@ -30,14 +30,12 @@ EffectSettings EraseSettings(const model::ShowState& state) {
 }
 
 bool ErasesNothing(const model::ShowState& state) {
-    return state.FullScreenActive != 1 || state.PreviousPictureOnScreen != 1 ||
-           (state.SlideIndex == 1 && state.EraseSkipOnce == 1) ||
+    return state.FullScreenActive != 1 || (state.SlideIndex == 1 && state.EraseSkipOnce == 1) ||
            state.EraseEffect == kNoEraseEffect || state.LastWasVideo == 1;
 }
 
 void ErasePicture(Application& app) {
     model::ShowState& state = app.state;
-    state.EraseSkipOnce = 0;
     ChooseEraseEffect(app);
     EffectScene scene(app);
     RunEffect(
@@ -78,7 +76,11 @@ void ShowAtOnce(Application& app) {
 void RunEraseEffect(Application& app) {
     app.state.EffectStop = 0;
     if (!ErasesNothing(app.state)) {
-        ErasePicture(app);
+        // Also before an empty canvas, where a show begins: slide 1 of its next pass erases.
+        app.state.EraseSkipOnce = 0;
+        if (app.state.PreviousPictureOnScreen == 1) {
+            ErasePicture(app);
+        }
     }
     ReleaseEffectContext(app);
 }

@@ -16,9 +16,9 @@ void ShowAtOnce(Application& app);
 
 /// Takes the picture off P2 by the effect that EraseEffect asks for (CurrentEraseEffect), clears
 /// P2 and gives up the effect context. Only the latter outside full screen, where no picture stands
-/// on the screen (PreviousPictureOnScreen), before slide 1 of a new window (EraseSkipOnce), for
-/// EraseEffect 12 and after a video. Runs handlers
-/// meanwhile; EffectStop clears at once.
+/// on the screen (PreviousPictureOnScreen), before slide 1 of a new window (EraseSkipOnce, which
+/// any later slide clears), for EraseEffect 12 and after a video. Runs handlers meanwhile;
+/// EffectStop clears at once.
 void RunEraseEffect(Application& app);
 
 /// A new full-screen window: sequences of effects begin anew, and the first slide erases nothing.

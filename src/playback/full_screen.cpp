@@ -397,7 +397,10 @@ void AttachFullScreen(Application& app) {
     slidescreen.Timer1.Tick = [&app] { macro::ScrollTelopOnScreen(app); };
     slidescreen.OnActivate = [&app] { Form_Activate(app); };
     slidescreen.OnUnload = [&app] { Form_Unload(app); };
-    slidescreen.ApplyOverlayBackground = [&app] { picture::ApplyOverlayBackground(app); };
+    slidescreen.ApplyOverlayBackground = [&app] {
+        picture::SizeLayers(app);
+        picture::ApplyOverlayBackground(app);
+    };
     slidescreen.Click = [&app] { Screen_Click(app); };
     slidescreen.KeyDown = [&app](int code) { Screen_KeyDown(app, code); };
     slidescreen.P2.Click = [&app] { P2_Click(app); };

@@ -146,6 +146,9 @@ TEST(EraseEffect, SkippedItOnlyGivesUpTheContext) {
         [](model::ShowState& state) { state.LastWasVideo = 1; },
         [](model::ShowState& state) { state.PreviousPictureOnScreen = 0; },
     };
+    // Where nothing stands, slide 2 counts all the same.
+    const int skipsOnceAfter[] = {1, 1, 1, 1, 0};
+    size_t row = 0;
     for (const auto& reason : reasons) {
         Erasing at(0, {64, 48}, {61, 43});
         at.state.EraseSkipOnce = 1;
@@ -157,7 +160,7 @@ TEST(EraseEffect, SkippedItOnlyGivesUpTheContext) {
         EXPECT_TRUE(at.WholePictureStands());
         EXPECT_EQ(at.state.EffectDcValid, 0);
         EXPECT_EQ(at.state.EffectDc, nullptr);
-        EXPECT_EQ(at.state.EraseSkipOnce, 1);
+        EXPECT_EQ(at.state.EraseSkipOnce, skipsOnceAfter[row++]);
         EXPECT_EQ(at.state.EffectStop, 0);
         EXPECT_TRUE(at.trace.Of("effect").empty());
     }

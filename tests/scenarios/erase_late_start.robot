@@ -12,5 +12,5 @@ expect PreviousPictureOnScreen 0
 @2000 click Form1.Command1
 @2003 expect StepBusy 0
 expect PreviousPictureOnScreen 1
-expect EraseSkipOnce 1
-@5450 expect EraseSkipOnce 0
+expect EraseSkipOnce 0
+@5450 expect SlideIndex 4

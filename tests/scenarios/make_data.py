@@ -23,10 +23,13 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   extremes.kvs  line dot line e, in full screen, effects in turn
   effects.kvs   a b c as full.kvs, effects in turn, erased as shown
   late_start.kvs  a until 2020, b c as full.kvs, erased from the top
+  joins.kvs     a from 12:01 of every day, b, from the top again, likewise
   gone_films.kvs  a gone.mp4 gone.mp4 b, likewise
   bad_middle.kvs  a text.jpg b, likewise
   erased.kvs    a b, likewise
   erased.kvl    erased.kvs twice
+  piled.kvs     a b in full screen, with overlap, not from a place of chance
+  piled.kvl     one.kvs, then piled.kvs
   high.kvs      tall in full screen, shown from the top
   avi.kvs       clip.avi until 2020; text.jpg; clip.avi; a; b from 2030; c until 2030
   failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
@@ -159,7 +162,7 @@ def mp4(milliseconds, width=0, height=0, turned=False):
 
 def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1,
                   effects=(11, 12), sound=7, wav_file="", midi_file="", mp3_file="", sync=0,
-                  sounds=(), over_mp3=0, over_list=0):
+                  sounds=(), over_mp3=0, over_list=0, overlay=0):
     """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
     def number(value):
         return (f" {value}" if value >= 0 else str(value)) + " "
@@ -170,9 +173,9 @@ def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_f
               number(effects[0]), number(-30), number(effects[1]), number(-30), number(10), number(10), number(1),
               "1", number(20), number(20), number(0), midi_file, number(sync), number(0), number(random),
               number(0), number(0), "", number(len(slides))]
-    # Overlay 0 0, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
+    # Overlay and its size, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
     # mode, always full screen (0 is on), speed, load mode, two linked WAV options.
-    after = ["480", *map(number, (0, 0, 0, 0, 1, 0, 0, 0, 1 if sounds else 0)),
+    after = ["480", *map(number, (overlay, 0, 0, 0, 1, 0, 0, 0, 1 if sounds else 0)),
              *([number(len(sounds)), *sounds] if sounds else []), number(0), mp3_file,
              *map(number, (1 if sound == 8 else 0, always_full, 0, 0, over_mp3, over_list))]
     return before + list(slides) + after + ["-" + row for row in rows]
@@ -335,7 +338,11 @@ def main():
     }
     for name, (slides, rows) in erased.items():
         files[name + ".kvs"] = document(lines_of_show(slides, rows, always_full=0, effects=(11, 0)))
+    files["joins.kvs"] = document(lines_of_show(
+        five[:2], [row("", "12:01"), BLANK_ROW], repeat=0, always_full=0, effects=(11, 0)))
     files["erased.kvl"] = document(["1vue3167", "erased.kvl", " 2 ", "erased.kvs", "erased.kvs"])
+    files["piled.kvs"] = document(lines_of_show(five[:2], always_full=0, overlay=1))
+    files["piled.kvl"] = document(["1vue3167", "piled.kvl", " 2 ", "one.kvs", "piled.kvs"])
     files["high.kvs"] = document(lines_of_show(["tall.png"], always_full=0, effects=(0, 12)))
     files["clip.avi"] = b"RIFF" + struct.pack("<I", 4) + b"AVI "
     files["avi.kvs"] = document(lines_of_show(

@@ -25,8 +25,8 @@ struct Slidescreen : Window {
     Button menu4{this, "menu4"};
     Button menu5{this, "menu5"};
 
-    /// Fills the layers' ground with the overlay background in force. Attached by the pictures'
-    /// side; documents call it after they changed the settings.
+    /// Sizes the layers and fills them with the overlay background in force. Attached by the
+    /// pictures' side; documents call it after they changed the settings.
     Event<> ApplyOverlayBackground;
 };
 
