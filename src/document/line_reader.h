@@ -22,6 +22,9 @@ public:
 
     bool AtEnd() const { return place_ == content_.size(); }
 
+    /// Anything but blanks and line ends is left.
+    bool HoldsMore() const { return content_.find_first_not_of(u" \r\n", place_) != Text::npos; }
+
     /// All characters up to the line's end.
     TextView Line();
 

@@ -46,7 +46,7 @@ Taken ReadLinks(Application& app, LineReader& reader) {
         for (int32_t i = 0; i < std::min(count, model::kLinkListLast); ++i) {
             form9.List1.AddItem(text::WithFolder(state.AppFolder, reader.Line()));
         }
-        whole = count <= model::kLinkListLast;
+        whole = count <= model::kLinkListLast && !reader.HoldsMore();
     } catch (const ReadFailure&) {
         // Kept: what stands before the fault is in force, and nothing is said.
     }
@@ -76,7 +76,7 @@ Taken ReadSounds(Application& app, LineReader& reader) {
             form10.List1.AddItem(std::move(path));
             state.SoundListCount = static_cast<int16_t>(i);
         }
-        whole = true;
+        whole = !reader.HoldsMore();
     } catch (const ReadFailure&) {
         // Kept: what stands before the fault is the list.
     }

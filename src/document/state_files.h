@@ -8,8 +8,8 @@
 
 namespace document {
 
-/// What was had from a state file. Partly: reading stopped at a fault, or at what there is no room
-/// for.
+/// What was had from a state file. Partly: reading stopped at a fault, at what there is no room
+/// for, or ahead of lines that the form does not have.
 enum class Taken { Nothing, Partly, Whole };
 
 /// autstart.dat: the whole state of the last run, of any age of the file. Missing, unreadable or

@@ -33,6 +33,7 @@ public:
     void ReadLines();
     /// The oldest files are a number and no more.
     bool EndsBehindNumber() const { return tag_.empty() && reader_.AtEnd(); }
+    bool HoldsMore() const { return reader_.HoldsMore(); }
 
 private:
     void ReadHead(const StateLine& line);
@@ -242,7 +243,7 @@ Taken ReadStateFile(Application& app, TextView path) {
         form3.Label4.Caption = text::Trim(text::Str(form3.List1.ListCount()));
         FollowAllSettings(app);
         if (whole) {
-            taken = Taken::Whole;
+            taken = reader.HoldsMore() ? Taken::Partly : Taken::Whole;
             CentreMainWindow(app);
             TakeIdentity(app);
         }

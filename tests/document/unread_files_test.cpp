@@ -97,6 +97,7 @@ TEST(UnreadFiles, MissingEmptyAndWholeOnesAreReplacedWithoutAWord) {
                            {kStatePath, TextOf(Before(FullState(), "MonitorIndex"))},
                            {kSoundList, u"WAV3.4\r\n 1 \r\na.wav\r\n"},
                            {kSoundList, u"WAV3.4\r\n 0 \r\n"},
+                           {kSoundList, u"WAV3.4\r\n 1 \r\na.wav\r\n \r\n\r\n"},
                            {kLinks, u"KVSV3\r\n 1 \r\n 0 \r\n 0 \r\n\r\n 1 \r\nb.kvs\r\n"}}) {
         KeepingProgram program;
         program.PutText(row.path, row.content);
@@ -125,6 +126,9 @@ TEST(UnreadFiles, DamagedAndForeignOnesAreSetAside) {
                            {kStatePath, u" 0 \r\nrest\r\n"},
                            {kStatePath, TextOf(Before(FullState(), "SoundMode"))},
                            {kStatePath, TextOf(With(FullState(), "RepeatFlag", u"often"))},
+                           {kStatePath, TextOf(FullState()) + u"of a later version\r\n"},
+                           {kSoundList, u"WAV3.4\r\n 1 \r\na.wav\r\nb.wav\r\n"},
+                           {kLinks, u"KVSV3\r\n 1 \r\n 0 \r\n 0 \r\n\r\n 0 \r\nb.kvs\r\n"},
                            {kSoundList, u"WAV3.3\r\n 1 \r\na.wav\r\n"},
                            {kSoundList, u"WAV3.4\r\n 2 \r\na.wav\r\n"},
                            {kLinks, u"KVSV4\r\n 1 \r\n"},
