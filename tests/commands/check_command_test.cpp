@@ -148,6 +148,38 @@ TEST_F(CheckCommand, ShowLooksThroughEverySlidesMacroWithItsPlace) {
     EXPECT_EQ(Run({first}), 0);
 }
 
+TEST_F(CheckCommand, FilmsCountAsSlidesAndHaveNoMacro) {
+    for (const char* name : {"a.avi", "b.mp4", "c.png"}) {
+        Put(name, u"");
+    }
+    Put("a.txt", u"はじめに\r\n");
+    Put("b.txt", u"撮影の記録\r\n");
+    // The third of three slides.
+    const std::string macro = Put("c.txt", u"YesNoPB(-2,1)\r\n");
+    EXPECT_EQ(Run({PutShow(u"a.avi\r\nb.mp4\r\nc.png\r\n", 3)}), 1);
+    EXPECT_EQ(out.str(), macro +
+                             ":1:12: YESNOPBの移動先がスライドリストの外です → "
+                             "最後のスライドへ移ります（移動数を直してください）\n");
+}
+
+TEST_F(CheckCommand, LinkDocumentStandsForItsShows) {
+    const std::string macro = Put("a.txt", u"Tab=1\r\n");
+    Put("a.png", u"");
+    PutShow(u"a.png\r\n", 1);
+    const std::string links =
+        Put("all.kvl", u"1vue3167\r\nall.kvl\r\n 2 \r\nない.kvs\r\nshow.kvs\r\n");
+    EXPECT_EQ(Run({"--json", links}), 1);
+    const QJsonArray rows = Json();
+    ASSERT_EQ(rows.size(), 2);
+    EXPECT_EQ(rows[0].toObject()["file"].toString().toStdString(), links);
+    EXPECT_EQ(rows[0].toObject()["line"].toInt(), 4);
+    EXPECT_EQ(rows[0].toObject()["effect"].toString(),
+              QStringLiteral("知らせたあと次の文書へ進みます"));
+    EXPECT_EQ(rows[1].toObject()["file"].toString().toStdString(), macro);
+    EXPECT_EQ(Run({Put("bad.kvl", u"これは文書ではありません\r\n")}), 1);
+    EXPECT_NE(out.str().find("この文書は読めません"), std::string::npos);
+}
+
 TEST_F(CheckCommand, DocumentThatCannotBeReadIsAFinding) {
     EXPECT_EQ(Run({Put("bad.kvs", u"これは文書ではありません\r\n")}), 1);
     EXPECT_NE(out.str().find("この文書は読めません"), std::string::npos);

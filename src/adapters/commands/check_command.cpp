@@ -5,10 +5,11 @@
 
 #include "adapters/commands/fresh_program.h"
 #include "adapters/posix/json.h"
+#include "document/link_document.h"
 #include "document/show_document.h"
 #include "macro/check.h"
 #include "macro/macro.h"
-#include "model/windows/slide_list.h"
+#include "model/windows/link_list.h"
 #include "text/paths.h"
 
 namespace commands {
@@ -17,6 +18,13 @@ namespace {
 
 using posix_adapter::JsonNumber;
 using posix_adapter::JsonUtf8;
+
+const macro::Finding kRefused{1,
+                              1,
+                              u"この文書は読めません",
+                              u"開くことができません",
+                              u"パラピコの文書か確かめてください",
+                              "document"};
 
 constexpr int kNothing = 0, kFound = 1, kWrongUsage = 2;
 
@@ -101,12 +109,11 @@ void CheckShow(Report& report, const Text& path) {
     }
     document::ReadShowDocument(app, path);
     if (state.ShowAbort == 1) {
-        report.Take(path, {{1, 1, u"この文書は読めません", u"開くことができません",
-                            u"パラピコの文書か確かめてください", "document"}});
+        report.Take(path, {kRefused});
         return;
     }
     SlideLines lines(content);
-    const int count = app.windows.form3.List1.ListCount();
+    const int count = state.SlideList.Count();
     for (int i = 1; i <= count; ++i) {
         const Text slide = state.SlideList(i);
         state.SlideIndex = static_cast<int16_t>(i);
@@ -118,12 +125,39 @@ void CheckShow(Report& report, const Text& path) {
                                                          : u"続けるかどうかを尋ねます",
                                 u"ファイルを戻すか、スライドを消してください", "file"}});
         }
-        const Text macroFile = macro::MacroFile(app);
+        // Films run no macro: a text beside one is something else.
+        const Text macroFile = text::IsVideoKind(slide) ? Text() : macro::MacroFile(app);
         Text source;
         if (!macroFile.empty() && ReadText(app, macroFile, source, true)) {
             const macro::CheckedSlide checked{text::FolderPart(slide), i,    count,
                                               report.screen,           path, &app.platform.system};
             report.Take(macroFile, macro::CheckMacro(app.platform.files, checked, source));
+        }
+    }
+}
+
+/// Every show of a link document, as it stands on its own.
+void CheckLinks(Report& report, const Text& path) {
+    FreshProgram program(path);
+    Application& app = program.app;
+    Text content;
+    if (!ReadText(app, path, content, false)) {
+        report.unreadable.push_back(text::ToUtf8(path));
+        return;
+    }
+    if (!document::ReadLinkDocument(app, path)) {
+        report.Take(path, {kRefused});
+        return;
+    }
+    SlideLines lines(content);
+    for (const Text& show : app.windows.form9.List1.Rows()) {
+        const int line = lines.Of(text::BareName(show));
+        if (app.platform.files.Exists(show)) {
+            CheckShow(report, show);
+        } else {
+            report.Take(path, {{line, 1, u"「" + show + u"」がありません",
+                                u"知らせたあと次の文書へ進みます",
+                                u"ファイルを戻すか、リストから消してください", "file"}});
         }
     }
 }
@@ -190,7 +224,11 @@ int RunCheckCommand(const std::vector<std::string>& arguments, std::ostream& out
     }
     for (const std::string& file : files) {
         const Text path = AbsolutePath(file);
-        (text::KindOf(path) == u"KVS" ? CheckShow : CheckMacroFile)(report, path);
+        const Text kind = text::KindOf(path);
+        const auto check = kind == u"KVS"   ? CheckShow
+                           : kind == u"KVL" ? CheckLinks
+                                            : CheckMacroFile;
+        check(report, path);
     }
     Print(report, json, out);
     for (const std::string& file : report.unreadable) {
