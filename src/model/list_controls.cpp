@@ -143,7 +143,7 @@ bool FolderList::Open(TextView path) {
     if (!Reachable() || (folders && !folders->IsFolder(path))) {
         return false;
     }
-    Path = Text(path);
+    Path = text::WithoutSeparator(path);
     return true;
 }
 
@@ -177,6 +177,9 @@ DriveList::DriveList(Window* window, std::string name)
 bool DriveList::Open(TextView path) {
     if (!Reachable() || (folders && !folders->IsFolder(path))) {
         return false;
+    }
+    if (Drive() == path) {
+        Change();  // the browser went elsewhere, and comes back to the place
     }
     Drive = Text(path);
     return true;

@@ -189,6 +189,11 @@ void RestoreTextOrigin(ShowState& state) {
     state.TextOriginByMacro = 0;
 }
 
+void ChooseTextOrigin(ShowState& state, int16_t origin) {
+    state.TextOriginScreen = origin;
+    state.TextOriginByMacro = 0;
+}
+
 int16_t OwnTextOrigin(const ShowState& state) {
     return state.TextOriginByMacro == 1 ? state.TextOriginOwn : state.TextOriginScreen;
 }

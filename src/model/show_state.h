@@ -144,6 +144,8 @@ bool StepOutlived(const ShowState& state);
 void SetTextOriginOfRun(ShowState& state, int16_t origin);
 /// The setting's own value comes back after what a macro set.
 void RestoreTextOrigin(ShowState& state);
+/// A person chooses the setting, also while a macro's value is in force: it holds and is saved.
+void ChooseTextOrigin(ShowState& state, int16_t origin);
 /// The value to save.
 int16_t OwnTextOrigin(const ShowState& state);
 

@@ -47,6 +47,15 @@ Text WithSeparator(TextView folder) {
     return Text(folder) + (native || slashesOnly ? u'/' : u'\\');
 }
 
+Text WithoutSeparator(TextView folder) {
+    const TextView separators = IsNativePath(folder) ? TextView(u"/") : TextView(u"\\/");
+    while (folder.size() > 1 && separators.find(folder.back()) != TextView::npos &&
+           folder[folder.size() - 2] != u':') {
+        folder.remove_suffix(1);
+    }
+    return Text(folder);
+}
+
 Text WithDefaultExtension(TextView path, TextView extension) {
     const bool hasPoint = Right(path, 4).find(u'.') != Text::npos;
     return hasPoint ? Text(path) : Text(path) + Text(extension);

@@ -26,6 +26,9 @@ Text WithFolder(TextView folder, TextView path);
 /// The folder with exactly one separator of its own kind at the end, unless it ends in one.
 Text WithSeparator(TextView folder);
 
+/// The folder without separators at its end; a root keeps its own.
+Text WithoutSeparator(TextView folder);
+
 /// `extension` added unless the last four characters hold a '.': ".kvs", ".kvl".
 Text WithDefaultExtension(TextView path, TextView extension);
 

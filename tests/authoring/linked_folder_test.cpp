@@ -76,6 +76,17 @@ TEST_F(LinkedFolder, TakesTheChosenFolder) {
     EXPECT_TRUE(around.dialogs.messages.empty());
 }
 
+TEST_F(LinkedFolder, APlaceThatIsChosenAgainLeadsBackToIt) {
+    form12.Show();
+    form12.Check1.Press();
+    const Text home = form12.Drive1.Drive();
+    EXPECT_TRUE(form12.Dir1.Open(u"D:\\sounds\\"));
+    EXPECT_EQ(form12.Text1.Content(), u"D:\\sounds");
+    EXPECT_TRUE(form12.Drive1.Open(home));
+    EXPECT_EQ(form12.Dir1.Path(), home);
+    EXPECT_EQ(form12.Text1.Content(), home);
+}
+
 TEST_F(LinkedFolder, TheTextCountsLessItsLastSeparator) {
     form12.Show();
     form12.Check1.Press();

@@ -52,6 +52,20 @@ TEST_F(TextDisplay, OptionsChooseTheOrigin) {
     EXPECT_FALSE(form15.Option2.Value);
 }
 
+/// In a paused show: STOP brings the setting back, and that is what the person chose meanwhile.
+TEST_F(TextDisplay, AChoiceOutlastsWhatAMacroSet) {
+    state.TextOriginScreen = 0;
+    model::SetTextOriginOfRun(state, 1);
+    form15.Show();
+    EXPECT_TRUE(form15.Option2.Value);
+    form15.Option1.Press();
+    form15.Option2.Press();
+    EXPECT_EQ(state.TextOriginScreen, 1);
+    EXPECT_EQ(model::OwnTextOrigin(state), 1);
+    model::RestoreTextOrigin(state);
+    EXPECT_EQ(state.TextOriginScreen, 1);
+}
+
 TEST_F(TextDisplay, TheMenusCheckMovesWithTheBox) {
     state.TextMacroFlag = 1;
     form15.Show();

@@ -54,6 +54,17 @@ TEST(WithSeparator, AddsOneOfTheFoldersOwnKind) {
     EXPECT_EQ(text::WithSeparator(u""), u"");
 }
 
+TEST(WithoutSeparator, LeavesRootsAlone) {
+    EXPECT_EQ(text::WithoutSeparator(u"/home/"), u"/home");
+    EXPECT_EQ(text::WithoutSeparator(u"/home//"), u"/home");
+    EXPECT_EQ(text::WithoutSeparator(u"/home\\"), u"/home\\");
+    EXPECT_EQ(text::WithoutSeparator(u"C:\\pic\\"), u"C:\\pic");
+    EXPECT_EQ(text::WithoutSeparator(u"C:\\pic/"), u"C:\\pic");
+    for (const TextView whole : {u"/", u"C:\\", u"C:/", u"\\", u"/home", u"C:", u""}) {
+        EXPECT_EQ(text::WithoutSeparator(whole), whole);
+    }
+}
+
 TEST(WithDefaultExtension, LooksAtTheLastFourCharacters) {
     EXPECT_EQ(text::WithDefaultExtension(u"show", u".kvs"), u"show.kvs");
     EXPECT_EQ(text::WithDefaultExtension(u"show.txt", u".kvs"), u"show.txt");

@@ -32,8 +32,9 @@ void Form_Load(Application& app) {
 }
 
 bool IsRefused(Application& app, const Text& folder) {
-    return folder == u"/" || folder == app.platform.folders.HomeFolders() ||
-           text::Upper(folder) == u"C:\\";
+    const Text upper = text::Upper(folder);
+    return folder == u"/" || folder == app.platform.folders.HomeFolders() || upper == u"C:\\" ||
+           upper == u"C:\\USERS";
 }
 
 /// The root keeps its separator.

@@ -33,8 +33,8 @@ void AttachTextDisplay(Application& app) {
     model::Form15& form15 = app.windows.form15;
     form15.OnLoad = [&app] { FollowSettings(app); };
     form15.OnActivate = [&app] { Form_Activate(app); };
-    form15.Option1.Click = [&app] { app.state.TextOriginScreen = 0; };
-    form15.Option2.Click = [&app] { app.state.TextOriginScreen = 1; };
+    form15.Option1.Click = [&app] { model::ChooseTextOrigin(app.state, 0); };
+    form15.Option2.Click = [&app] { model::ChooseTextOrigin(app.state, 1); };
     form15.Check1.Click = [&app] { Check1_Click(app); };
     form15.Command1.Click = [&form15] { form15.Unload(); };
 }
