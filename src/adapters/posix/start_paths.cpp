@@ -2,17 +2,29 @@
 
 #include <filesystem>
 
+#include "adapters/posix/path_finder.h"
+
 namespace posix_adapter {
 
 namespace fs = std::filesystem;
 
 std::string AbsoluteIfFile(const std::string& argument) {
-    std::error_code error;
-    if (argument.empty() || argument[0] == '/' || !fs::exists(argument, error)) {
+    if (argument.empty() || argument[0] == '/') {
         return argument;
     }
-    const fs::path absolute = fs::absolute(argument, error);
-    return error ? argument : absolute.lexically_normal().string();
+    std::error_code error;
+    if (fs::exists(argument, error)) {
+        const fs::path absolute = fs::absolute(argument, error);
+        return error ? argument : absolute.lexically_normal().string();
+    }
+    const bool ownRoot = argument[0] == '\\' || argument.find(':') != std::string::npos;
+    const fs::path here = fs::current_path(error);
+    if (ownRoot || error) {
+        return argument;
+    }
+    return PathFinder("")
+        .Find(text::FromUtf8((here / "").string()) + text::FromUtf8(argument))
+        .value_or(argument);
 }
 
 std::string AssetsFolder(const std::string& sourceFolder) {

@@ -5,8 +5,8 @@
 
 namespace posix_adapter {
 
-/// The argument as an absolute native path when a file or folder of that name exists from the
-/// current folder; otherwise the argument as typed.
+/// The argument as an absolute native path when a file or folder of that name, or of one that
+/// differs by case only, exists from the current folder; otherwise the argument as typed.
 std::string AbsoluteIfFile(const std::string& argument);
 
 /// Folder of the shipped files: "../share/parapico/assets" beside the executable of an installed
