@@ -73,7 +73,7 @@ struct Bench {
         video.onFrame = [&] {
             repaint();
             const uint8_t* now = video.Frame().pixels;
-            painted += now != last ? 1 : 0;  // a call may also tell of a state
+            painted += now != last ? 1 : 0;  // a call may also report a state
             last = now;
         };
         video.SetUrl(text::FromUtf8(file));

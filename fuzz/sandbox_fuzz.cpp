@@ -20,11 +20,11 @@ void Require(bool holds) {
     }
 }
 
-/// What the input says ahead of the message itself.
+/// What the input says before the message itself.
 struct Head {
     uint8_t descriptors = 0;  // as they are sent, up to kMostSent
     uint8_t kind = 0;         // of what the descriptors are
-    uint16_t kilobytes = 0;   // length of the memory behind them
+    uint16_t kilobytes = 0;   // length of the memory that they stand for
     uint8_t remainder = 0;    // and bytes beyond
     uint8_t asked = 0;        // what the answer is to answer
 };

@@ -1,5 +1,5 @@
 // Input boxes of the menus that ask for a number. An empty entry or a cancel leaves everything as
-// it was; what lies outside the range is told. All but the slide interval then ask again. Digits,
+// it was; a box refuses what is out of range. All but the slide interval then ask again. Digits,
 // sign and point may be full-width ones, as a Japanese keyboard gives them.
 #pragma once
 
@@ -12,7 +12,7 @@ namespace app {
 void AskSlideInterval(Application& app);
 
 /// What the chosen show (erase) effect works with: the number of slits for the slit effects, that
-/// of blocks for the mosaic, both where the effect is drawn by lot or in turn.
+/// of blocks for the mosaic, both where the effect is chosen at random or in turn.
 void AskShowEffectCounts(Application& app);
 void AskEraseEffectCounts(Application& app);
 

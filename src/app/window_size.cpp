@@ -99,7 +99,7 @@ void RestoreWindowSize(Application& app, bool roomy) {
 void NoteWindowSize(Application& app) {
     const model::Form1& form1 = app.windows.form1;
     const platform::Size room = app.platform.monitors.Room();
-    // Of maximising, the new size may be told before the new state.
+    // When the window is maximised, the new size may be reported before the new state.
     const bool fills =
         form1.Width / kTwipsPerPixel >= room.width && form1.Height / kTwipsPerPixel >= room.height;
     if (form1.WindowState == kWindowNormal && !fills) {

@@ -9,7 +9,7 @@ namespace authoring {
 /// new document. False, and nothing changed, on a no.
 bool NewDocument(Application& app);
 
-/// Asks for a show document and reads it. False on cancel: then nothing has changed. True tells
+/// Asks for a show document and reads it. False on cancel: then nothing has changed. True says
 /// that one was chosen; a refused one leaves ShowAbort at 1 and perhaps an empty list.
 bool OpenDocument(Application& app);
 /// The same for a document that was chosen already.

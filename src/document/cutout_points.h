@@ -10,7 +10,7 @@
 namespace document {
 
 constexpr TextView kCutoutHeader = u"KVS_PICTYPE_DATA";
-/// Points that are taken; those behind are ignored.
+/// Points that are taken; later ones are ignored.
 constexpr size_t kCutoutPointsMost = 5000;
 
 /// Pixels from the object's top left.

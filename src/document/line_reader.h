@@ -29,10 +29,10 @@ public:
     TextView Line();
 
     /// Leading blanks dropped; ends at a comma or at the line's end, and the next read begins
-    /// behind that.
+    /// after that.
     TextView Item();
 
-    /// An item with the line to itself: what stands behind its comma is lost.
+    /// An item with the line to itself: what follows its comma is lost.
     TextView ItemOfLine();
 
     /// An item that holds one decimal number, with or without blanks around it; an empty item is
@@ -46,7 +46,7 @@ public:
     int16_t Count16();
 
 private:
-    /// Text from `place_` up to `end`, behind which reading goes on.
+    /// Text from `place_` up to `end`, after which reading goes on.
     TextView TakeUpTo(size_t end);
 
     Text content_;

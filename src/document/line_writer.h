@@ -10,7 +10,7 @@ namespace document {
 
 class LineWriter {
 public:
-    /// A line end inside the value, which a file's name can hold, becomes a blank: the lines behind
+    /// A line end inside the value, which a file's name can hold, becomes a blank: later lines
     /// stay in their places.
     void Line(TextView line) {
         const size_t start = content_.size();
@@ -20,7 +20,7 @@ public:
                         isLineEnd, u' ');
         content_ += u"\r\n";
     }
-    /// With a blank for a plus sign in front and a blank behind.
+    /// With a blank for a plus sign in front and a blank at the end.
     void Number(double value) { Line(text::PrintedNumber(value)); }
 
     const Text& Content() const { return content_; }

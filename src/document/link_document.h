@@ -6,7 +6,7 @@
 namespace document {
 
 /// Reads the document into Form9's list; the caller sets BaseFolder first. Sets LinkDocumentPath,
-/// LinkDocumentName and the window's caption. False after a failure, which is told as with show
+/// LinkDocumentName and the window's caption. False after a failure, which is reported as with show
 /// documents: the platform's words, or the message of a refused file. Either ends the program
 /// (ProgramEnd) while LoadingFromStart is 1.
 bool ReadLinkDocument(Application& app, TextView path);

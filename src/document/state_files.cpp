@@ -48,7 +48,7 @@ Taken ReadLinks(Application& app, LineReader& reader) {
         }
         whole = count <= model::kLinkListLast && !reader.HoldsMore();
     } catch (const ReadFailure&) {
-        // Kept: what stands before the fault is in force, and nothing is said.
+        // Kept: what stands before the fault is in force, and no box comes up.
     }
     form9.Check1.Value = state.LinkAutoFlag;
     form9.Check2.Value = state.LinkRepeat;

@@ -10,7 +10,7 @@ constexpr TextView kStateTag = u"V2.1a3567893sp6";
 /// Files with another first line are older still: that line is AutoStartFlag.
 constexpr TextView kTaggedState = u"V2";
 
-/// A line ahead of the slides.
+/// A line before the slides.
 struct StateLine {
     const char16_t* block;  // the tags of files that hold the line begin so
     model::FieldPointer field;
@@ -56,7 +56,7 @@ inline constexpr StateLine kStateHead[] = {
     {u"V2.1a3567", &model::ShowState::SoundSyncFlag},
 };
 
-/// A line behind the CD programme. The file may end ahead of any of them.
+/// A line after the CD programme. The file may end before any of them.
 struct StateTailLine {
     model::FieldPointer field;
     int otherwise;  // where the file has ended; texts are empty

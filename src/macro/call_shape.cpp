@@ -12,7 +12,7 @@ bool IsComment(TextView line, size_t at) {
     return line.substr(at).starts_with(u"//");
 }
 
-/// Reads the field at `at` up to the comma, bracket or comment behind it, where `at` then stands.
+/// Reads the field at `at` up to the comma, bracket or comment after it, where `at` then stands.
 CallField TakeField(TextView line, size_t& at) {
     const size_t start = at;
     CallField field;

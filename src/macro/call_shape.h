@@ -13,7 +13,7 @@ struct CallField {
     bool quoted = false;  // begins with a quote
     bool closed = false;  // and has its second one
     TextView inner;       // between the quotes; the whole text without them
-    TextView stray;       // behind the second quote
+    TextView stray;       // after the second quote
     bool absent = false;  // stands for a value that is not written
 };
 

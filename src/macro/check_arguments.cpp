@@ -93,7 +93,7 @@ void CheckFiles(const ArgumentCheck& check) {
     }
     const TextView cut = BeforeComment(check.line);
     if (std::count(cut.begin(), cut.end(), u'"') % 2 != 0) {
-        return;  // a name that a comment or the line's end cuts is told of elsewhere
+        return;  // a name that a comment or the line's end cuts is reported elsewhere
     }
     const auto path = name == u"MOVIE" ? NamedVideo : NamedFile;
     const auto parts = QuotedParts(cut);

@@ -15,7 +15,7 @@ struct CallForm {
     const char16_t* word;
     const char16_t* fields;
     size_t required;
-    bool cutAtComment;  // the player drops what stands behind the first "//"
+    bool cutAtComment;  // the player drops what follows the first "//"
     const char16_t* unopened;
     const char16_t* tooFew;
 };
@@ -162,7 +162,7 @@ private:
         return within;
     }
 
-    /// Numbers may be left out ahead of the text. Afterwards the text is the third value.
+    /// Numbers may be left out before the text. Afterwards the text is the third value.
     void AlignTelop() {
         auto& fields = shape_.fields;
         const auto text = std::find_if(fields.begin(), fields.end(),
@@ -286,7 +286,7 @@ private:
         }
     }
 
-    /// The player goes on to the last ')' ahead of a comment.
+    /// The player goes on to the last ')' before a comment.
     void CheckTelopEnd() {
         const TextView cut = BeforeComment(line_);
         const size_t end =

@@ -53,7 +53,7 @@ private:
     int kage_ = 0;
     bool coloured_ = false, toldColour_ = false;
     Shift zureX_{5}, zureY_{3};
-    bool offScreen_ = false;  // told since the pen was placed
+    bool offScreen_ = false;  // reported since the pen was placed
     std::set<int> toldPlaces_;
     std::bitset<63> shown_, dataNamed_;
     bool shapedByData_ = false;
@@ -62,7 +62,7 @@ private:
     std::vector<Step> loop_;
     size_t stepsLeft_ = 10000;  // of all turns of all loops
     bool replaying_ = false;
-    TextView endedBy_;  // the word behind which nothing is run
+    TextView endedBy_;  // the word after which nothing is run
     bool toldEnd_ = false;
 };
 

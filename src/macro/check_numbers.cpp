@@ -83,7 +83,7 @@ TextView PlainNumber(TextView part) {
     return whole + fraction > 0 ? part.substr(0, at) : TextView();
 }
 
-/// What of a number behind '=' is written: up to a blank or a comment.
+/// What of a number after '=' is written: up to a blank or a comment.
 TextView WrittenNumber(TextView upper, size_t start) {
     TextView rest = upper.substr(std::min(start, upper.size()));
     rest = rest.substr(std::min(rest.find_first_not_of(u" \t"), rest.size()));
@@ -224,9 +224,9 @@ void CheckPosition(FindingList& found, const Keyword& keyword, TextView upper, s
     const Text place = u"横" + Shown(x) + u"％、縦" + Shown(y) + u"％として扱われます";
     const TextView ownX = written.substr(0, own);
     const TextView ownY = own == TextView::npos ? TextView() : written.substr(own + 1);
-    const size_t behind = start + keyword.digits;
+    const size_t end = start + keyword.digits;
     const bool cut = own != TextView::npos &&
-                     static_cast<size_t>(column) - 1 + own + 1 + PlainNumber(ownY).size() > behind;
+                     static_cast<size_t>(column) - 1 + own + 1 + PlainNumber(ownY).size() > end;
     if (cut) {
         found.Add(Flaw::Length, column, u"POSITIONの値は「=」から8文字までです", place,
                   u"8文字以内で書いてください");

@@ -18,7 +18,7 @@ struct FieldRule {
     Rounding rounding = Rounding::Nearest;
     double lowest = -32768, highest = 32767;
     const char16_t* outside = nullptr;  // effect of a value beyond; null: the nearer end
-    double tolerance = 0;               // beyond, of which nothing is said
+    double tolerance = 0;               // beyond, without a finding
 };
 
 /// A number between the brackets of a call.

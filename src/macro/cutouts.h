@@ -20,10 +20,10 @@ Flow NameCutoutData(Run& run, double);
 /// PICPBTYPE=n: shape of the pieces that follow.
 Flow SetCutoutShape(Run& run, double shape);
 /// PICPBnn(jump,"picture","action"): shows a piece; with an empty picture removes it. A picture
-/// that cannot be loaded leaves a piece without size; nothing is told.
+/// that cannot be loaded leaves a piece without size, silently.
 Flow ShowCutout(Run& run, double);
 
-/// Number of the piece that a line's two characters behind a word of five letters name; nullopt
+/// Number of the piece that a line's two characters after a word of five letters name; nullopt
 /// where there is no such piece.
 std::optional<int> CutoutIndex(TextView line);
 

@@ -12,7 +12,7 @@ Flow EndLoop(Run& run, double);
 Flow SleepFor(Run& run, double seconds);
 /// Waits, then leaves the slide; the last one ends the show.
 Flow EndAfter(Run& run, double seconds);
-/// One slide further than the same number in a menu or behind Yes: kept.
+/// Kept: one slide further than the same number in a menu or with Yes.
 Flow Skip(Run& run, double slides);
 /// 1 locks, 2 unlocks; others change nothing.
 Flow Lock(Run& run, double mode);

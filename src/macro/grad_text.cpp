@@ -19,7 +19,7 @@ struct Ramp {
     std::array<int, kChannels> channels, steps;
 };
 
-/// What stands behind the sixth comma up to the closing quote, else up to the last ')'; without the
+/// What follows the sixth comma up to the closing quote, else up to the last ')'; without the
 /// quotes.
 Text GradText(TextView line) {
     size_t start = 0;

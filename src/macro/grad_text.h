@@ -5,7 +5,7 @@
 
 namespace macro {
 
-/// GRAD(r,g,b,r,g,b,"text"): first colour, last colour. Both pens end behind the text.
+/// GRAD(r,g,b,r,g,b,"text"): first colour, last colour. Both pens end after the text.
 Flow DrawGradText(Run& run, double);
 
 }  // namespace macro

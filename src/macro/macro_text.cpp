@@ -75,7 +75,7 @@ Text NewMacroText(Application& app, TextView slide) {
     if (!state.PendingMacroText.empty()) {
         return text + state.PendingMacroText + Text(kLineEnd);
     }
-    // To be overwritten by the first line of text, so no line end stands behind it.
+    // To be overwritten by the first line of text, so no line end follows it.
     return state.UserHeaderFlag == 1 ? text + text::Upper(text::BareName(slide)) : text;
 }
 

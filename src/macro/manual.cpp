@@ -105,7 +105,7 @@ Text Wrapped(TextView text) {
 
 Text NumberLines(const Keyword& keyword) {
     const bool anyNumber = keyword.range.lowest == keyword.range.highest;
-    // The numbers of POSITION have a form of their own, told in its text.
+    // The numbers of POSITION have a form of their own, which its text describes.
     if (keyword.name == u"POSITION") {
         return {};
     }

@@ -1,4 +1,4 @@
-// What the manual says before and behind its list of words. Lines of at most 88 columns.
+// What the manual says before and after its list of words. Lines of at most 88 columns.
 #pragma once
 
 #include <span>

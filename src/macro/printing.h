@@ -32,7 +32,7 @@ void MovePen(int& coordinate, int by);
 /// The canvas of the mode in force.
 platform::Canvas& CanvasInForce(Application& app);
 
-/// Tells of a text that was put at `place` of the canvas in force in its colour and font, unless
+/// Traces a text that was put at `place` of the canvas in force in its colour and font, unless
 /// nothing is seen of it.
 void TraceText(Run& run, platform::Offset place, TextView text);
 

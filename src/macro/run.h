@@ -6,7 +6,7 @@
 
 namespace macro {
 
-/// How reading goes on behind a word.
+/// How reading goes on after a word.
 enum class Flow {
     GoOn,
     Jump,    // leave by way of the jump exit: another slide was chosen
@@ -27,13 +27,13 @@ struct Run {
 
     Text MacroLine;       // as written, with its carriage return
     Text MacroLineUpper;  // the same in upper case
-    size_t ArgStart = 1;  // behind the first '='; 1 without one
+    size_t ArgStart = 1;  // after the first '='; 1 without one
 
-    int TextMode = 0;          // 1 behind the line that begins the text
+    int TextMode = 0;          // 1 after the line that begins the text
     int CurrentXValue = 0;     // pixels: left margin, place of buttons and pieces
     int KageKind = 0;          // 0 none, 1 shadow, 2 black outline, 3 white outline
     int ZureX = 5, ZureY = 3;  // pixels: shadow's offset
-    int DelayMs = 0;           // behind each line of text
+    int DelayMs = 0;           // after each line of text
     int TabWidth = 0;          // columns, 0 unset
     int LoopCount = 0;
     size_t LoopPosition = 0;  // characters read up to and with the line of LOOP

@@ -10,7 +10,7 @@ Flow SetBorderless(Run& run, double value);
 Flow SetBackColor(Run& run, double);
 Flow SetPictureScale(Run& run, double percent);
 Flow SetInterval(Run& run, double seconds);
-/// POSITION=x.y in percent: kept, what stands behind the point is a whole number, so 10.5 means 5
+/// POSITION=x.y in percent. Kept: what follows the point is a whole number, so 10.5 means 5
 /// percent from the top. Without a point as PICRND.
 Flow SetPosition(Run& run, double);
 Flow SetPictureRandom(Run& run, double mode);

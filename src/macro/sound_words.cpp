@@ -27,7 +27,7 @@ struct FileCall {
     int mode = 0;  // -1: none of 0, 1, 2
 };
 
-/// The first quoted text, and the number between the comma behind it and the last ')'.
+/// The first quoted text, and the number between the comma after it and the last ')'.
 FileCall ReadFileCall(TextView upperLine) {
     const TextView line = BeforeComment(upperLine);
     FileCall call{Text(Quoted(line))};

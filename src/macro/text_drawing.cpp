@@ -9,7 +9,7 @@ namespace macro {
 
 namespace {
 
-Flow WaitBehindLine(Run& run) {
+Flow WaitAfterLine(Run& run) {
     model::ShowState& state = run.state;
     if (run.DelayMs <= 0 || run.MacroLineUpper.empty()) {
         return Flow::GoOn;
@@ -22,7 +22,7 @@ Flow WaitBehindLine(Run& run) {
     do {
         WaitOnePass(run.app);
     } while (state.MacroDelayWaiting == 1 && !Stopping(state));
-    // Also ahead of a jump: a tick left over would cut the next slide's first wait short.
+    // Also before a jump: a tick left over would cut the next slide's first wait short.
     timer.Enabled = false;
     if (state.FullScreenClosed == 1) {
         state.MacroButtonsShown = 0;
@@ -46,7 +46,7 @@ Flow DrawTextLine(Run& run) {
             MovePen(canvas->penY, run.state.LineSpaceExtra);
         }
     }
-    return WaitBehindLine(run);
+    return WaitAfterLine(run);
 }
 
 }  // namespace macro

@@ -48,7 +48,7 @@ void SetSwitch(Run& run, bool platform::Font::*part, double value) {
     }
 }
 
-/// Takes the place of a moving word's line: the word named reads its number from behind '='.
+/// Takes the place of a moving word's line: the word named reads its number after '='.
 Flow Rewrite(Run& run, TextView word, double sum) {
     SetLine(run, Text(word) + u" =" + text::Str(sum));
     run.ArgStart = run.MacroLine.find(u'=') + 2;

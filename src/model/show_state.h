@@ -76,7 +76,7 @@ struct ShowState {
     /// Full path of an object's picture, for the trace.
     std::array<Text, 64> CutoutPicture;
 
-    /// The monitors by number, in twips; zeros behind the last one.
+    /// The monitors by number, in twips; zeros after the last one.
     std::array<int32_t, kMonitorsMost> MonitorLeft{}, MonitorTop{}, MonitorRight{}, MonitorBottom{};
     int MonitorCount = 0;
     /// Far edges of them all, in twips.

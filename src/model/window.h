@@ -36,8 +36,8 @@ public:
     Event<> OnDeactivate;  // another window took the keyboard
     Event<> OnPaint;  // it was painted after another window had covered it, or for the first time
 
-    /// Somebody shows this window. One that nobody can see must not be opened by a menu, least of
-    /// all in place of another window.
+    /// A view shows this window. A menu must not open one without a view, least of all in place
+    /// of another window.
     bool HasView = false;
 
     /// Fires OnLoad unless the window is loaded.

@@ -9,7 +9,7 @@ constexpr int kRandomEffect = 9;
 constexpr int kSequentialEffect = 10;
 
 /// Sets PictureX and PictureY (pixels, also negative) for the picture of Form4 on the monitor in
-/// use: by the place that a macro gave (PicturePositionFixed), in the middle, or by lot (two random
+/// use: by the place that a macro gave (PicturePositionFixed), in the middle, or at random (two
 /// numbers, x first). From here on it counts as the one on the screen (PlacedWidthPx,
 /// PlacedHeightPx, PreviousPictureOnScreen).
 void PlacePicture(Application& app);

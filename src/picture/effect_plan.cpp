@@ -68,7 +68,7 @@ void WalkStrips(Making& making) {
     }
 }
 
-/// Four bands that are drawn together, behind one pause.
+/// Four bands that are drawn together, after one pause.
 void AddCycle(Making& making, const std::array<Rect, 4>& areas) {
     const bool seen = std::any_of(areas.begin(), areas.end(),
                                   [&](const Rect& area) { return making.Sees(area); });
@@ -139,7 +139,7 @@ int PartWidth(int extent, int count) {
     return std::max(kThinnestPart, extent / count);
 }
 
-/// Every pass goes over all slits and adds a band to each. Its own pause comes ahead of the first
+/// Every pass goes over all slits and adds a band to each. Its own pause comes before the first
 /// band that is seen.
 void WalkSlits(Making& making) {
     const int slit = PartWidth(Extent(making), making.settings.slits);
@@ -156,7 +156,7 @@ void WalkSlits(Making& making) {
     }
 }
 
-/// Blocks are drawn by lot with replacement: some come twice, some never, and one row and column
+/// Blocks are drawn at random with replacement: some come twice, some never, and one row and column
 /// of them lie beyond the edge. The whole picture makes up for it in the end.
 void ScatterBlocks(Making& making) {
     const int blocks = making.settings.blocks;

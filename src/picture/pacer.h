@@ -16,7 +16,7 @@ constexpr double kFrameMs = 16;
 class Pacer {
 public:
     /// The course begins now and is `length` ms long, the sum of the pauses to come. `stopped`
-    /// is asked ahead of every pause and after every pump.
+    /// is asked before every pause and after every pump.
     Pacer(platform::EventLoop& loop, double length, std::function<bool()> stopped);
 
     /// Pauses `milliseconds`; not at all once it is stopped. Pumps at least once a frame while it

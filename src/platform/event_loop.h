@@ -9,9 +9,9 @@
 
 namespace platform {
 
-/// Thrown to leave the program from any depth. Adapters carry it over their toolkit's frames:
-/// the pumping call of the logic that lies below throws it again. Nobody else catches it but
-/// the program's outermost frame.
+/// Thrown to leave the program from any depth. Adapters hold it while their toolkit's frames
+/// return, and the pumping call of the logic below throws it again. Only the program's outermost
+/// frame catches it for good.
 struct ProgramEnd {
     int exitStatus = 0;
 };

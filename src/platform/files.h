@@ -45,7 +45,7 @@ public:
     /// Permissions and symbolic links of an existing file are kept.
     virtual bool Write(TextView path, std::string_view content, FileError& error) = 0;
 
-    /// Renames what `path` names to its present name and `mark` behind it, in the same folder; a
+    /// Renames what `path` names to its present name followed by `mark`, in the same folder; a
     /// number follows where that name is taken: nothing is ever replaced. The new bare name goes to
     /// `name`. False with `error` set where it cannot be renamed.
     virtual bool SetAside(TextView path, TextView mark, Text& name, FileError& error) = 0;

@@ -24,7 +24,7 @@ public:
     /// window's frame, in the units of windows: pixels before the desktop scales them.
     virtual Size Room() = 0;
     /// Asks the desktop to neither blank nor lock the monitors until asked with false. Returns at
-    /// once; a desktop that cannot do it is nobody's business.
+    /// once; that a desktop cannot do it is not reported.
     virtual void KeepAwake(bool on) = 0;
     /// Given by the program: called from inside a pump after a monitor came, went or changed.
     std::function<void()> onChanged;

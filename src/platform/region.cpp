@@ -18,7 +18,7 @@ struct Edge {
     int64_t bottom;
     int turn;  // 1 downwards, -1 upwards
 
-    /// First column whose centre lies at or behind the edge in the middle of that row.
+    /// First column whose centre lies at or right of the edge in the middle of that row.
     int64_t ColumnAt(int64_t row) const {
         // x + (row + 1/2 - y) * width / height - 1/2, rounded up; all times 2 * height.
         const int64_t numerator = 2 * height * x + (2 * (row - y) + 1) * width - height;

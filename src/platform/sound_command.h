@@ -19,7 +19,7 @@ struct SoundCommand {
 /// gives an empty verb.
 SoundCommand ParseSoundCommand(TextView command);
 
-/// A whole number that is all of `value` but blanks ahead of it; `otherwise` where it is none or
+/// A whole number that is all of `value` but blanks before it; `otherwise` where it is none or
 /// does not fit.
 int WholeNumber(TextView value, int otherwise);
 

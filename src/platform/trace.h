@@ -1,4 +1,4 @@
-// What the program did, told as it happens, one event a line.
+// What the program does, written as it happens, one event a line.
 #pragma once
 
 #include <initializer_list>
@@ -20,7 +20,7 @@ struct TraceField {
 class Trace {
 public:
     virtual ~Trace() = default;
-    /// The implementation adds the time and the event's name. Costs nothing when nobody listens.
+    /// The implementation adds the time and the event's name. Costs nothing without a trace.
     virtual void Event(std::string_view event, std::initializer_list<TraceField> fields) = 0;
 };
 

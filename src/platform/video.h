@@ -45,8 +45,8 @@ inline Size Fitted(Size shape, Size room) {
 class Video {
 public:
     virtual ~Video() = default;
-    /// Opens the file and closes the one before, without playing it. Empty: closes only. A file
-    /// that cannot be had is told by Status alone.
+    /// Opens the file and closes the one before, without playing it. Empty: closes only. Only
+    /// Status says that a file cannot be had.
     virtual void SetUrl(TextView path) = 0;
     /// From the beginning, or on from a pause. Nothing happens without a file.
     virtual void Play() = 0;

@@ -29,11 +29,11 @@ Text DecodeFile(std::string_view bytes, const CodePage& codePage);
 /// and it holds a sequence of three bytes or more: for files that people write by hand.
 Text DecodeHandWrittenFile(std::string_view bytes, const CodePage& codePage);
 
-/// UTF-8 behind a byte-order mark.
+/// UTF-8 with a byte-order mark first.
 std::string MarkedUtf8(TextView value);
 
 /// Bytes to write: the code page, or, where one character has no form in it, the whole text as
-/// UTF-8 behind a byte-order mark.
+/// UTF-8 with a byte-order mark first.
 std::string EncodeFile(TextView value, const CodePage& codePage);
 
 }  // namespace text

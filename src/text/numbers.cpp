@@ -34,7 +34,7 @@ std::string Condensed(TextView value) {
     return result;
 }
 
-/// Value of the digits behind a prefix &H or &O.
+/// Value of the digits after a prefix &H or &O.
 double ReadRadix(const std::string& digits, int base) {
     double value = 0;
     size_t at = 0;
@@ -51,7 +51,7 @@ double ReadRadix(const std::string& digits, int base) {
         }
         value = value * base + digit;
     }
-    // A mark '&' behind the digits says 32 bits: &HFFFF& is 65535.
+    // A mark '&' after the digits says 32 bits: &HFFFF& is 65535.
     const bool markedLong = at < digits.size() && digits[at] == '&';
     if (!markedLong && value > 0x7FFF && value <= 0xFFFF) {
         return value - 0x10000;

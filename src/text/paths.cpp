@@ -4,7 +4,7 @@ namespace text {
 
 namespace {
 
-/// Place behind the folder part; 0 when the path has none.
+/// Place after the folder part; 0 when the path has none.
 size_t NamePlace(TextView path) {
     const TextView enders = IsNativePath(path) ? TextView(u"/") : TextView(u"\\/:");
     const size_t last = path.find_last_of(enders);

@@ -10,7 +10,7 @@ namespace text {
 /// True for a path that begins with '/'.
 bool IsNativePath(TextView path);
 
-/// What stands behind the last separator or ':'. A path with neither is returned whole.
+/// What follows the last separator or ':'. A path with neither is returned whole.
 Text BareName(TextView path);
 
 /// The path up to and with its last separator or ':'; empty when it has neither.

@@ -27,7 +27,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{u"   C:\\a\\x.kvs", u"C:\\a\\x.kvs", 1},
                     Case{u"\"C:\\a b\\x.kvs\"", u"C:\\a b\\x.kvs", 1},
                     Case{u"  \"C:\\a b\\x.KVL\"", u"C:\\a b\\x.KVL", 2},
-                    // Everything ahead of the drive letter falls away.
+                    // Everything before the drive letter falls away.
                     Case{u"/open D:\\x.Kvs", u"/open D:\\x.Kvs", 1},  // but not of a native path
                     Case{u"-open D:\\x.Kvs", u"D:\\x.Kvs", 1},
                     Case{u"\"C:\\x.kvs\" \"D:\\y.kvl\"", u"C:\\x.kvs", 1},

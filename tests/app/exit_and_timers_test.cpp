@@ -31,7 +31,7 @@ TEST(Exit, UnloadsTheWindowsInTheirOrderAfterTheFiles) {
         window->Load();
     }
     EXPECT_THROW(app::ExitProgram(around.app), platform::ProgramEnd);
-    // The video window goes with the sound, ahead of the files.
+    // The video window goes with the sound, before the files.
     EXPECT_EQ(unloaded,
               (Names{"Form24", "form2", "Form3", "Form4", "Form5", "Form6", "Form7", "form8",
                      "Form9", "Form10", "Form11", "Form12", "form13", "Form14"}));
@@ -165,7 +165,7 @@ TEST(SaveState, BeforeTheStateWasReadWritesNothing) {
     EXPECT_TRUE(program.around.files.written.empty());
 }
 
-TEST(Exit, AFullDiskIsToldAndTheOldFilesStay) {
+TEST(Exit, AFullDiskIsReportedAndTheOldFilesStay) {
     Program program;
     Program::PutState(program.around, {.slides = {u"C:\\show\\a.png"}});
     const std::string before = program.around.files.Get(u"C:\\app\\autstart.dat")->content;

@@ -263,7 +263,7 @@ TEST(HelpMenu, OpensTheProgramsOwnTexts) {
     }
 }
 
-TEST(OpenedWindows, OneThatThisVersionLacksIsToldOfAndTheMainWindowStays) {
+TEST(OpenedWindows, OneThatThisVersionLacksIsReportedAndTheMainWindowStays) {
     Menus menus;
     model::Windows& windows = menus.app.windows;
     model::Form1& form1 = menus.form1;

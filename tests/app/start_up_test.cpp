@@ -108,7 +108,7 @@ TEST(StartUp, ClearsLabelsAndMacroSlots) {
     }
 }
 
-TEST(StartUp, ReadsTheVersionBehindTheImagingControlsName) {
+TEST(StartUp, ReadsTheVersionAfterTheImagingControlsName) {
     Program program;
     program.around.imaging.version = u"Imaging 1, 1996";
     program.Run();

@@ -73,7 +73,7 @@ TEST(Open, TheFirstPictureIsAskedForAndForgottenWithTheDocument) {
     EXPECT_TRUE(desk.imaging.wanted.empty());
 }
 
-TEST(Open, FolderEndsBehindTheLastSeparatorOrColon) {
+TEST(Open, FolderEndsAfterTheLastSeparatorOrColon) {
     Desk desk;
     desk.PutText(u"E:x.kvs", ShowOf({u"a.png"}));
     desk.Open(u"E:x.kvs");
@@ -94,7 +94,7 @@ TEST(Open, CancelChangesNothing) {
     EXPECT_TRUE(desk.files.read.empty());
 }
 
-TEST(Open, RefusedDocumentIsToldAndMarked) {
+TEST(Open, RefusedDocumentIsReportedAndMarked) {
     Desk desk;
     desk.PutText(u"C:\\show\\bad.kvs", u"vue\r\n");
     EXPECT_TRUE(desk.Open(u"C:\\show\\bad.kvs"));

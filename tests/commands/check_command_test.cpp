@@ -106,7 +106,7 @@ TEST_F(CheckCommand, WrongUsageAndUnreadableFilesAreStatusTwo) {
         EXPECT_EQ(Run({path}), 2) << path;
         EXPECT_NE(err.str().find(path), std::string::npos);
     }
-    // What could be read is told all the same.
+    // What could be read is reported all the same.
     const std::string odd = Put("b.txt", u"Tab=1\r\n");
     EXPECT_EQ(Run({folder.Path("missing.txt"), odd}), 2);
     EXPECT_NE(out.str().find("TAB"), std::string::npos);
@@ -129,7 +129,7 @@ TEST_F(CheckCommand, ShowTellsMissingPicturesAtTheirLines) {
 TEST_F(CheckCommand, ShowLooksThroughEverySlidesMacroWithItsPlace) {
     Put("a.png", u"");
     Put("b.png", u"");
-    // Two slides: one ahead of the first is the last, one ahead of the last is none.
+    // Two slides: one before the first is the last, one before the last is none.
     const std::string first = Put("a.txt", u"Menu1(1,\"次\")\r\nYesNoPB(0,-1)\r\n");
     const std::string second = Put("b.txt", u"PlayWav(\"x.wav\",0)\r\nMenu1(1,\"次\")\r\n");
     const std::string show = PutShow(u"a.png\r\nb.png\r\n", 2);

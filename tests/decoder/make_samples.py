@@ -324,7 +324,7 @@ def make_toolkit_kinds():
     put("toolkit/bmp_runs4.bmp", by_hand.bmp_runs4(src.INDEXES16, src.PALETTE16))
     put("toolkit/bmp_16.bmp", by_hand.bmp([[by_hand.fifteen_bits(p) for p in row]
                                            for row in src.FIVE_BITS], 16))
-    # Words of 16 bits whose bits are told: in the sandbox.
+    # Words of 16 bits whose masks are stated: read in the sandbox.
     put("bmp_555.bmp", by_hand.bmp([[by_hand.fifteen_bits(p) for p in row]
                                     for row in src.FIVE_BITS], 16,
                                    masks=(0x7C00, 0x3E0, 0x1F)))

@@ -1,4 +1,4 @@
-"""Writers of kinds and variants that no program at hand writes."""
+"""Writers of kinds and variants that no installed program writes."""
 import struct
 
 from sample_sources import bits, packed
@@ -352,7 +352,7 @@ def bmp_file(width, height, bpp, data, palette=(), packing=0, masks=()):
 
 
 def bmp(rows, bpp, top_down=False, masks=()):
-    """`masks`: the bits of red, green and blue in a pixel, where they are told."""
+    """`masks`: the bits of red, green and blue in a pixel, where they are stated."""
     lines = [b"".join(row) for row in (rows if top_down else rows[::-1])]
     data = b"".join(line + bytes(-len(line) % 4) for line in lines)
     return bmp_file(len(rows[0]), -len(rows) if top_down else len(rows), bpp, data,
@@ -431,7 +431,7 @@ def turned(data, quarters):
         return out
 
     def places(inner, moved):
-        """The pieces of items that lie behind this box have moved on."""
+        """The pieces of items that lie after this box have moved on."""
         version, sizes = inner[0], inner[4]
         at = 8
         out = bytearray(inner)

@@ -62,7 +62,7 @@ TEST(SettingsToControls, DocumentsLeaveTheOtherMenusAlone) {
     form1.mnuSIZE.Check(2);
     form1.mnuKOU.Check(0);
     document::FollowDocumentSettings(program.app);
-    EXPECT_TRUE(form1.mnuSIZE(2).Checked);  // SizeAdjust is 1, but no document's business
+    EXPECT_TRUE(form1.mnuSIZE(2).Checked);  // SizeAdjust is 1, but no document sets it
     EXPECT_TRUE(form1.mnuKOU(7).Checked);
 }
 

@@ -140,7 +140,7 @@ TEST(LinkDocument, ComesBackAsItWasWritten) {
     EXPECT_EQ(second.State().LinkDocumentName, u"all.kvl");
 }
 
-TEST(LinkDocument, AFailedWriteIsToldAndChangesNothing) {
+TEST(LinkDocument, AFailedWriteIsReportedAndChangesNothing) {
     for (const bool opening : {true, false}) {
         LinkProgram program;
         program.files.writeError = u"失敗";

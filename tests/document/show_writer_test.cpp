@@ -166,7 +166,7 @@ TEST(ShowWriter, TakesTheIdentityAndRebuildsTheSchedule) {
     EXPECT_EQ(program.State().ResumeIndex, 5);
 }
 
-TEST(ShowWriter, SlidesBehindAnAviKeepTheirSchedule) {
+TEST(ShowWriter, SlidesAfterAnAviKeepTheirSchedule) {
     Program program;
     const Text filmRow = u"2030/02/0304:05" + Text(15, u' ');
     Lines lines = With(FullDocument(), 26, {u" 3 "});

@@ -309,7 +309,7 @@ TEST(StateFile, FilesThatEndEarlierTakeTheDefaults) {
         for (const auto& [field, value] : defaults) {
             if (PlaceOf(full, field) >= lines.size()) {
                 EXPECT_EQ(Value(program, field), (std::variant<double, Text>(value)))
-                    << field << " of a file that ends ahead of " << end;
+                    << field << " of a file that ends before " << end;
             }
         }
         if (PlaceOf(full, "Mp3File") >= lines.size()) {
@@ -517,7 +517,7 @@ TEST(StateFile, RandomStatesComeBackAsTheyWere) {
     }
 }
 
-TEST(StateFile, AFailedWriteIsToldAndKeepsTheOldFile) {
+TEST(StateFile, AFailedWriteIsReportedAndKeepsTheOldFile) {
     StateProgram program;
     program.Read(FullState());
     const std::string before = program.Written();
@@ -530,7 +530,7 @@ TEST(StateFile, AFailedWriteIsToldAndKeepsTheOldFile) {
     EXPECT_EQ(program.Written(), before);
 }
 
-TEST(StateFile, AFileNameWithALineEndSpoilsNothingBehindIt) {
+TEST(StateFile, AFileNameWithALineEndSpoilsNothingAfterIt) {
     StateProgram program;
     program.Read(FullState());
     program.app.windows.form3.List1.SetRow(0, u"/home/a\r\n 7 \nb.jpg");

@@ -97,7 +97,7 @@ inline Text TextOf(const StateLines& lines) {
     return result;
 }
 
-/// Place of the first line of that name; behind the last when there is none.
+/// Place of the first line of that name; after the last when there is none.
 inline size_t PlaceOf(const StateLines& lines, const std::string& field) {
     size_t place = 0;
     while (place < lines.size() && lines[place].field != field) {
@@ -106,7 +106,7 @@ inline size_t PlaceOf(const StateLines& lines, const std::string& field) {
     return place;
 }
 
-/// The lines ahead of the first of that name.
+/// The lines before the first of that name.
 inline StateLines Before(StateLines lines, const std::string& field) {
     lines.resize(PlaceOf(lines, field));
     return lines;

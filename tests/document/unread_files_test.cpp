@@ -21,7 +21,7 @@ struct KeepingProgram : StateProgram {
         document::ReadSoundListFile(app);
         document::ReadLinkStateFile(app);
         document::ReadStateFile(app);
-        dialogs.messages.clear();  // the platform's words about the sound list are its own affair
+        dialogs.messages.clear();  // what the platform says of the sound list is not looked at
     }
     void WriteAll() {
         document::WriteLinkStateFile(app);
@@ -41,7 +41,7 @@ struct KeepingProgram : StateProgram {
     }
 };
 
-TEST(UnreadFiles, UnreadableOnesAreSetAsideOnceAndTold) {
+TEST(UnreadFiles, UnreadableOnesAreSetAsideOnceAndReported) {
     KeepingProgram program;
     const Text state = kStatePath;
     for (const Text& path : {state, kLinks, kSoundList}) {

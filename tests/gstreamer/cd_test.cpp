@@ -82,7 +82,7 @@ TEST(GstCd, ADiscThatIsPutInLaterIsFoundByTheNextOpening) {
     EXPECT_EQ(Ask(studio, "ready"), "true");
 }
 
-TEST(GstCd, TracksArePlayedAndTheDeviceStopsBehindThem) {
+TEST(GstCd, TracksArePlayedAndTheDeviceStopsAfterThem) {
     struct Row {
         const char* range;
         std::vector<int> heard;
@@ -143,7 +143,7 @@ TEST(GstCd, TracksOfDataAreLeftOut) {
     EXPECT_EQ(Heard(), (std::vector<int>{20, 35, 7}));
 }
 
-TEST(GstCd, ThePositionMovesAndStaysBehindAStop) {
+TEST(GstCd, ThePositionMovesAndStaysAfterAStop) {
     Studio studio({}, Holding({{0, 750, true}, {750, 7500, true}}));
     studio.Send("open cdaudio");
     studio.Send("set cdaudio time format tmsf");

@@ -50,7 +50,7 @@ TEST(GstOutput, WithoutAServerThatWorksASilentOneKeepsTheTime) {
     EXPECT_GE(MillisecondsOfPlaying(studio), 280);
 }
 
-TEST(GstOutput, ADeviceThatGoesAwayInMidPlayIsGoneOnWithoutFromThere) {
+TEST(GstOutput, ADeviceThatGoesAwayWhilePlayingIsGoneOnWithoutFromThere) {
     for (const char* kind : {"waveaudio", "sequencer"}) {
         Studio studio({"testsink"});
         SetTestSink(2);
@@ -83,7 +83,7 @@ TEST(GstOutput, APieceThatWaitsForPlayCanBeLeft) {
             studio.Write("a",
                          kind == std::string("waveaudio") ? WaveBytes(Tone(60)) : MidiBytes(60000));
             studio.Open("a", kind, "wav");
-            // Behind the format come the samples, which wait.
+            // After the format come the samples, which wait.
             ASSERT_TRUE(Eventually([] { return SeenByTestSink().rate != 0; }));
             studio.Send(leave);
             studio.sound.reset();

@@ -142,7 +142,7 @@ TEST(GstSoundFormats, EverySampleOfAWaveFileIsPlayed) {
     }
 }
 
-TEST(GstSoundFormats, JunkBehindTheDataIsNotPlayedAndCutsNothing) {
+TEST(GstSoundFormats, JunkAfterTheDataIsNotPlayedAndCutsNothing) {
     const TestSink sink =
         Played(WaveBytes(Tone(0.25)) + std::string("junk\xff\xff\xff\x7f") + std::string(99, 'x'));
     EXPECT_EQ(sink.samples.size(), 2000u);

@@ -1,5 +1,5 @@
-// The sink "testsink": keeps its samples, and fails or dawdles when told to. It passes no time: a
-// stream runs through it as fast as it is read.
+// The sink "testsink": keeps its samples, and fails or dawdles when a test asks for it. It passes
+// no time: a stream runs through it as fast as it is read.
 #include <gst/audio/audio.h>
 #include <gst/base/gstbasesink.h>
 

@@ -158,7 +158,7 @@ TEST(HostileDrawings, CostTheirSlideAndNoMore) {
     const std::string fifo = patient.Folder().Path("fifo.png");
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     const std::string image = "<image width='50' height='50' xlink:href='";
-    // What is said of a drawing that takes no time is the reader's affair.
+    // A drawing that takes no time may be read or refused.
     using Loads = std::optional<bool>;
     const std::tuple<const char*, std::string, Loads> drawings[] = {
         {"uses", NestedUses(10), {}},

@@ -7,7 +7,7 @@ namespace {
 
 using platform::Size;
 
-/// Its decoder does what the file says behind the mark of a kind.
+/// Its decoder does what the file says after the mark of a kind.
 class Sandboxed : public ::testing::Test {
 protected:
     /// The number that the decoder counted up to with this picture, or -1.

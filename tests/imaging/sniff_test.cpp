@@ -30,7 +30,7 @@ TEST(Sniff, TakesNothingElse) {
     EXPECT_STREQ(imaging::ReaderName(Kind::None), "");
 }
 
-TEST(Sniff, FindsSvgBehindWhatMayPrecedeIt) {
+TEST(Sniff, FindsSvgAfterWhatMayPrecedeIt) {
     EXPECT_EQ(SniffKind("<svg xmlns='x'>"), Kind::Svg);
     EXPECT_EQ(SniffKind("\xEF\xBB\xBF\r\n <?xml version='1.0'?>\n<!-- <html> -->\n<svg>"),
               Kind::Svg);

@@ -58,7 +58,7 @@ struct CheckRows : testing::Test {
     }
 };
 
-TEST_F(CheckRows, NumbersBehindAnEqualsSign) {
+TEST_F(CheckRows, NumbersAfterAnEqualsSign) {
     ExpectRows({
         {u"Delay", 1, 6, "equals", u"0 として"},
         {u"Kage 2 //影=3", 1, 5, "equals", u"値は 3 として"},
@@ -299,7 +299,7 @@ TEST_F(CheckRows, LinesThatAreNotWhatTheyLook) {
         {u"Kage=1\nRGB(1,2,3)\nZureX=12\n[テキスト]\n海\nKage=2\n空", 3, 7, "range",
          u"10 になります"},
     });
-    ExpectSilent({u"[テキスト]\nCurrent affairs (2)", u"YesNoPB(1,0)\nCls", u"Skip=0\nCls",
+    ExpectSilent({u"[テキスト]\nCurrent matters (2)", u"YesNoPB(1,0)\nCls", u"Skip=0\nCls",
                   u"Kage=2\nQBColor=1\n[テキスト]\n海", u"ZureX=12\nKage=1"});
 }
 

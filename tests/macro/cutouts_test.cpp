@@ -89,7 +89,7 @@ TEST_F(Cutouts, APieceStandsInBothWindowsWhereThePensAre) {
     EXPECT_EQ(lines[0].String("state"), u"shown");
 }
 
-TEST_F(Cutouts, TheTwoCharactersBehindTheWordAreTheNumber) {
+TEST_F(Cutouts, TheTwoCharactersAfterTheWordAreTheNumber) {
     const std::pair<TextView, int> written[] = {
         {u"PICPB00(0,\"\",\"\")", 0},  {u"PICPB0(0,\"\",\"\")", 0},   {u"PICPB3(0,\"\",\"\")", 3},
         {u"PICPB62(0,\"\",\"\")", 62}, {u"PICPB63(0,\"\",\"\")", -1}, {u"PICPB-1(0,\"\",\"\")", -1},

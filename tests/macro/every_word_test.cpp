@@ -215,7 +215,7 @@ TEST(EveryWord, LineOfAnUnknownWordChangesNone) {
         SCOPED_TRACE(text::ToUtf8(row.word));
         const auto show = Ready(row);
         show->fake.loop.Run(1);
-        // A blank ahead of every line: none is a word, and no text has begun.
+        // A blank before every line: none is a word, and no text has begun.
         Text macro = u" " + Text(row.macro);
         for (size_t at = macro.find(u'\n'); at != Text::npos; at = macro.find(u'\n', at + 1)) {
             macro.insert(at + 1, u" ");

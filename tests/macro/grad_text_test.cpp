@@ -106,7 +106,7 @@ TEST_F(Grad, InTheTextSectionTheNextLineIsOneDown) {
     EXPECT_EQ(fake.textRenderer.drawn.back().color, Rgb(200, 0, 0)) << "the last colour stays";
 }
 
-TEST_F(Grad, IsToldAsOneText) {
+TEST_F(Grad, IsTracedAsOneText) {
     Play(u"CurrentX=20\nGrad(0,0,0,200,0,0,\"ab\")\n");
     const auto texts = fake.trace.Of("text");
     ASSERT_EQ(texts.size(), 1u);

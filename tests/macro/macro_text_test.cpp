@@ -81,7 +81,7 @@ TEST_F(MacroText, HeaderFileTakesTheTemplatesPlaceLineByLine) {
     app.state.UserHeaderFlag = 0;
     files.Put(u"C:\\app\\header.txt", Bytes(u"Kage=1\n") + "Tab=4\n\n" + Bytes(u"[テキスト]"));
     EXPECT_TRUE(macro::EditMacroText(app, slide));
-    EXPECT_EQ(Content(), Bytes(u"Kage=1\nTab=4\n\n[テキスト]\n")) << "and no name behind it";
+    EXPECT_EQ(Content(), Bytes(u"Kage=1\nTab=4\n\n[テキスト]\n")) << "and no name after it";
     EXPECT_THAT(system.opened, ElementsAre(file));
 }
 
@@ -127,7 +127,7 @@ TEST_F(MacroText, NamesOfTheFileAreThoseOfTheReader) {
     EXPECT_TRUE(files.Exists(u"D:\\texts\\umi01.txt"));
 }
 
-TEST_F(MacroText, FailureIsToldAndNothingOpens) {
+TEST_F(MacroText, FailureIsReportedAndNothingOpens) {
     files.writeError = u"full";
     EXPECT_FALSE(macro::EditMacroText(app, slide));
     EXPECT_FALSE(macro::EditMacroText(app, u"x"));
@@ -139,7 +139,7 @@ TEST_F(MacroText, FailureIsToldAndNothingOpens) {
     EXPECT_THAT(system.opened, IsEmpty());
 }
 
-TEST_F(MacroText, EditorThatDoesNotStartIsTold) {
+TEST_F(MacroText, EditorThatDoesNotStartIsReported) {
     system.opens = false;
     EXPECT_TRUE(macro::EditMacroText(app, slide));
     ASSERT_EQ(dialogs.messages.size(), 1u);

@@ -1,4 +1,4 @@
-// MOVPB and OVERPIC: paths, bounds, what comes back behind a piece, and the time it takes.
+// MOVPB and OVERPIC: paths, bounds, what comes back where a piece was, and the time it takes.
 #include <gtest/gtest.h>
 
 #include "macro/motion.h"

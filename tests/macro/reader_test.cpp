@@ -109,7 +109,7 @@ TEST_F(Reader, DelayTakesThreeDecimalsOfItsFiveCharacters) {
     EXPECT_EQ(form1.Timer3.Interval(), 123);
 }
 
-TEST_F(Reader, PenGoesToTheMarginBehindEveryLine) {
+TEST_F(Reader, PenGoesToTheMarginAfterEveryLine) {
     form1.Picture1.canvas.penX = 99;
     Play(u"CurrentX=20\r\nnothing\r\n");
     EXPECT_EQ(form1.Picture1.canvas.penX, 20);
@@ -119,7 +119,7 @@ TEST_F(Reader, PenGoesToTheMarginBehindEveryLine) {
     EXPECT_EQ(form1.Picture1.canvas.penX, 20);
 }
 
-TEST_F(Reader, TextBeginsBehindItsMark) {
+TEST_F(Reader, TextBeginsAfterItsMark) {
     GoFullScreen();
     screen.P2.canvas.Fill(0x123456);
     Play(u"before\r\n[テキスト]  //text\r\nafter\r\n");

@@ -1,5 +1,5 @@
 // The check says nothing of what the program itself writes: the template of a new macro file, alone
-// and with each recipe for cut-out pieces behind it.
+// and with each recipe for cut-out pieces after it.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -20,7 +20,7 @@ std::string Data(const char* name) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// Recipes by number. The data file has "# number" ahead of each; its holes are filled in.
+/// Recipes by number. The data file has "# number" before each; its holes are filled in.
 std::map<int, std::string> Recipes() {
     std::map<int, std::string> recipes;
     int number = -1;
@@ -83,7 +83,7 @@ TEST_F(Written, TemplateIsSilentLineByLineAndWhole) {
     }
 }
 
-TEST_F(Written, RecipesAreSilentBehindTheTemplateAndAddedToAFile) {
+TEST_F(Written, RecipesAreSilentAfterTheTemplateAndAddedToAFile) {
     const auto recipes = Recipes();
     EXPECT_EQ(recipes.size(), size_t{kRecipes});
     for (const auto& [number, lines] : recipes) {

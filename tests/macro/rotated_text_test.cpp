@@ -83,7 +83,7 @@ TEST_F(Rotated, ShadowsDifferAndTheTextKeepsTheCanvassColour) {
     EXPECT_EQ(drawn[2].color, 0xFFFFFFu);
     EXPECT_EQ(drawn[2].x, 0);
     EXPECT_EQ(drawn[3].color, 0xFFFFFFu);
-    EXPECT_EQ(drawn[7].color, 0xFFFFFFu) << "and the lines behind it take it over";
+    EXPECT_EQ(drawn[7].color, 0xFFFFFFu) << "and the lines after it take it over";
 }
 
 TEST_F(Rotated, OutlineIsDrawnOnceMoreAtItsLastPlace) {

@@ -108,7 +108,7 @@ TEST_F(SettingWords, PlaceOfThePictureInPercent) {
     Play(u"Position=-5.100\r\n");
     EXPECT_EQ(state.PicturePositionXFactor, 0);
     Play(u"Position=100     .5\r\n");
-    EXPECT_EQ(state.PicturePositionFixed, 0) << "the point lies behind the eighth character";
+    EXPECT_EQ(state.PicturePositionFixed, 0) << "the point lies after the eighth character";
 }
 
 TEST_F(SettingWords, PlaceWithoutAPointIsByChanceOrInTheMiddle) {

@@ -61,7 +61,7 @@ TEST_F(Telop, ALineThatEndsExactlyAtTheEdgeIsStillThere) {
     EXPECT_EQ(form1.Label1.Caption(), u"now");
 }
 
-TEST_F(Telop, OneThatRunsOnceEndsBehindTheEdge) {
+TEST_F(Telop, OneThatRunsOnceEndsAfterTheEdge) {
     app.state.TelopRunning = 1;
     screen.Timer1.Interval = 50;
     screen.Timer1.Enabled = true;

@@ -1,4 +1,4 @@
-// Lines of the text section: where and in which colours they are drawn, and the waits behind them.
+// Lines of the text section: where and in which colours they are drawn, and the waits after them.
 // A character is half its size in points wide, a line twice the size high: 10 and 40 pixels at the
 // size that a slide begins with.
 #include <gmock/gmock.h>
@@ -69,7 +69,7 @@ TEST_F(Drawing, OnlyTheFullScreensCanvasCountsFromThePicture) {
         << "one line below 100: the word's own line comes first";
 }
 
-TEST_F(Drawing, SpaceComesBehindEveryLineThatIsNotEmpty) {
+TEST_F(Drawing, SpaceComesAfterEveryLineThatIsNotEmpty) {
     Play(u"LineSpace=5\n[テキスト]\nA\n\nB\nQBColor=12\nC\n");
     EXPECT_THAT(On(inWindow), ElementsAre("0,0 A FFFFFF", "0,85 B FFFFFF", "0,170 C 0000FF"))
         << "neither the empty line nor the one of a word takes the space";
@@ -103,7 +103,7 @@ TEST_F(Drawing, ALineFeedOrTabThatEndsTheFileIsText) {
 }
 
 TEST_F(Drawing, TextBeforeItsSectionIsNotDrawn) {
-    Play(u"not a word\n[テキスト] behind\n");
+    Play(u"not a word\n[テキスト] more\n");
     EXPECT_THAT(fake.textRenderer.drawn, IsEmpty());
 }
 
@@ -195,7 +195,7 @@ TEST_F(Drawing, TellsOfEveryLineThatIsSeen) {
     EXPECT_EQ(fake.trace.Of("text").back().Number("x"), 8) << "the canvas of the mode in force";
 }
 
-TEST_F(Drawing, WaitsBehindEveryLineThatIsNotEmpty) {
+TEST_F(Drawing, WaitsAfterEveryLineThatIsNotEmpty) {
     Play(u"Delay=0.1\n[テキスト]\nA\n\nQBColor=1\nB\n");
     // The tick comes in the pump at 100 ms; 20 ms more pass before the flag is looked at.
     EXPECT_EQ(Now(), 240);

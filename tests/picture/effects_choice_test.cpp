@@ -29,7 +29,7 @@ TEST(EffectPlace, MiddleRoundsHalfPixelsToTheEvenOne) {
     }
 }
 
-TEST(EffectPlace, ByLotXFirst) {
+TEST(EffectPlace, AtRandomXFirst) {
     Screening at({200, 100}, {40, 60});
     at.state.PicturePosition = 1;
     at.loop.randomNumbers = {0.25, 0.999};
@@ -48,7 +48,7 @@ TEST(EffectPlace, AMacrosPlaceGoesFirst) {
     PlacePicture(at.app);
     EXPECT_EQ(at.state.PictureX, 160);
     EXPECT_EQ(at.state.PictureY, 4);
-    EXPECT_EQ(at.loop.randomNumbers.size(), 1u) << "nothing is drawn by lot";
+    EXPECT_EQ(at.loop.randomNumbers.size(), 1u) << "nothing is drawn at random";
 }
 
 TEST(EffectChoice, RandomRangeAndItsUnevenEnds) {

@@ -165,8 +165,8 @@ TEST(EffectPlan, EveryGeometryAtEverySizeAndSpeed) {
     }
 }
 
-TEST(EffectPlan, MosaicBlocksByLot) {
-    // 20 by 33 in fives: blocks of 4 by 6, 5 columns and 5 rows, and one more of each by lot.
+TEST(EffectPlan, MosaicBlocksAtRandom) {
+    // 20 by 33 in fives: blocks of 4 by 6, 5 columns and 5 rows, and one more of each at random.
     Numbers numbers{{0, 0, 0.999, 0.999, 0.5, 0.34, 0.166, 0.167}};
     const EffectPlan plan =
         PlanEffect(8, {.blocks = 5}, false, {20, 33}, kCanvas, [&numbers] { return numbers(); });
@@ -211,7 +211,7 @@ TEST(EffectPlan, SettingsBeyondTheirRangeAreTakenAsTheNearest) {
     EXPECT_EQ(Areas(Plan(0, {.speed = 32767}, {3, 30})), (Rects{{0, 0, 3, 32761}}));
 }
 
-/// Pauses ahead of and behind the first band of a 100 by 100 picture.
+/// Pauses before and after the first band of a 100 by 100 picture.
 std::pair<double, double> FirstPauses(int number, const EffectSettings& settings) {
     Numbers numbers;
     const EffectPlan plan =

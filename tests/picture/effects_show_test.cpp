@@ -15,8 +15,8 @@ using picture_tests::RuleAreas;
 using picture_tests::Screening;
 using platform::Size;
 
-/// When the bands of the effects 0 to 7 are drawn, by the pause `p` of a band: wipes pause behind
-/// a band; centre and outside ahead of a cycle of four; slits ahead of each, and once more ahead
+/// When the bands of the effects 0 to 7 are drawn, by the pause `p` of a band: wipes pause after
+/// a band; centre and outside before a cycle of four; slits before each, and once more before
 /// of a pass of `perPass`. What is off the canvas is not paused for.
 std::vector<double> DrawnAt(int number, const std::vector<Rect>& areas, const Rect& canvas,
                             double p, int perPass) {
@@ -113,7 +113,7 @@ TEST(ShowEffect, MosaicShowsWhatTheNumbersSayAndThenTheWhole) {
     at.loop.onPump = [&] {
         const int blocks = static_cast<int>((at.loop.Milliseconds() + 1e-6) / 12.945);
         const bool right = at.Shows([&](int x, int y) {
-            // The closing copy comes with the last block, ahead of the last yield.
+            // The closing copy comes with the last block, before the last yield.
             for (int i = 0; i < std::min(blocks, 100); ++i) {
                 const int left = 2 * static_cast<int>(drawn[size_t(2 * i)] * 6);
                 const int top = 2 * static_cast<int>(drawn[size_t(2 * i + 1)] * 6);
@@ -131,7 +131,7 @@ TEST(ShowEffect, MosaicShowsWhatTheNumbersSayAndThenTheWhole) {
     EXPECT_NEAR(at.loop.Milliseconds(), 1294.5, 1);
 }
 
-TEST(ShowEffect, NoneBringsThePictureWholeBehindOneYield) {
+TEST(ShowEffect, NoneBringsThePictureWholeAfterOneYield) {
     for (const int16_t effect : {11, 12, -1, 32767}) {
         Screening at({40, 32}, {33, 20});
         at.state.ShowEffect = effect;
@@ -185,7 +185,7 @@ TEST(ShowEffect, YieldsOnceAFrame) {
     Screening at({1920, 1080}, {1920, 1080});
     at.state.ShowEffect = 0;
     RunShowEffect(at.app);
-    // 1080 × 1.85 ms in frames of 16 ms, and one yield ahead of the closing copy.
+    // 1080 × 1.85 ms in frames of 16 ms, and one yield before the closing copy.
     EXPECT_EQ(at.loop.pumps, 125 + 1);
     for (const int sleep : at.loop.sleeps) {
         EXPECT_LE(sleep, 16);
@@ -216,7 +216,7 @@ TEST(ShowEffect, AStopAtAnyYieldShowsTheWholePictureAtOnce) {
             };
             RunShowEffect(at.app);
             EXPECT_EQ(at.loop.Milliseconds(), stopped) << number;
-            EXPECT_EQ(at.loop.pumps, stopAt + 1) << number << ": one yield ahead of the copy";
+            EXPECT_EQ(at.loop.pumps, stopAt + 1) << number << ": one yield before the copy";
             EXPECT_TRUE(at.WholePictureStands()) << number;
             EXPECT_EQ(at.state.EffectStop, 0);
             EXPECT_EQ(at.trace.Of("effect").at(0).Number("ms"), stopped);

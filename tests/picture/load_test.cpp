@@ -374,7 +374,7 @@ TEST(LoadFailure, AsksAndRemovesOnYes) {
     at.ExpectEntryRemoved();
 }
 
-TEST(LoadFailure, TakesItsOwnRowsFromBehindAFilmThatTheListsLeaveOut) {
+TEST(LoadFailure, TakesItsOwnRowsAfterAFilmThatTheListsLeaveOut) {
     Loading at;
     AviFirst(at);
     at.state.SlideIndex = 3;
@@ -404,7 +404,7 @@ TEST(LoadFailure, FilmsThatAreLeftGoOn) {
     Loading at;
     AviFirst(at);
     at.state.ListErrorDelete = 1;
-    for (const int16_t slide : {2, 2, 3}) {  // those behind move up
+    for (const int16_t slide : {2, 2, 3}) {  // later ones move up
         at.state.SlideIndex = slide;
         HandleLoadFailure(at.app);
     }

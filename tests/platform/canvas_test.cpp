@@ -95,7 +95,7 @@ TEST(CanvasCover, IsDrawnWhenItIsLookedAt) {
     EXPECT_EQ(canvas.Point(0, 0), kRed);
 }
 
-TEST(CanvasCover, LiesUnderWhatIsDrawnBehindIt) {
+TEST(CanvasCover, LiesUnderWhatIsDrawnAfterIt) {
     const auto picture = std::make_shared<const Bitmap>(2, 2, platform::ToPixel(kWhite));
     const Bitmap dot(1, 1, platform::ToPixel(kBlack));
     const Bitmap quarter(2, 2, platform::ToPixel(kBlack));
@@ -249,7 +249,7 @@ TEST(CanvasStretchBlt, TakesTheNearestPixel) {
     EXPECT_EQ(canvas.Pixels().Row(1)[1], source.Row(1)[1]);
 }
 
-TEST(CanvasChanges, AreToldOnceUntilTaken) {
+TEST(CanvasChanges, AreReportedOnceUntilTaken) {
     Canvas canvas = MakeCanvas(10, 10);
     int told = 0;
     canvas.onChanged = [&] { ++told; };

@@ -90,11 +90,11 @@ TEST(FullScreenStart, BeginsAtARequestedSlideWithoutAQuestion) {
     EXPECT_EQ(show.state.JumpRequested, 0);
 }
 
-TEST(FullScreenStart, GoesOnBehindTheSlideLastShown) {
+TEST(FullScreenStart, GoesOnAfterTheSlideLastShown) {
     struct {
         int16_t resume;
         int slide;
-    } const cases[] = {{2, 3}, {3, 1}};  // behind the last slide: from the top
+    } const cases[] = {{2, 3}, {3, 1}};  // after the last slide: from the top
     for (const auto& one : cases) {
         Show show;
         show.state.StartOption = 1;
@@ -200,7 +200,7 @@ TEST(FullScreenUnload, TakesTheLockOfAMacroOffWithTheShow) {
 TEST(FullScreenStart, PauseDuringTheFirstStepHoldsTheShow) {
     Show show;
     show.state.ControlBoxFlag = 0;
-    // START has ended what scrolled before; the question comes behind that.
+    // START has ended what scrolled before; the question comes after that.
     show.state.FullStartConfirm = 0;
     show.dialogs.whileOpen = [&](const auto&) { show.state.TelopRunning = 1; };
     show.loop.At(500, [&] { show.windows.slidescreen2.Command3.Click(); });

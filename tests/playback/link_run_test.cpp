@@ -107,7 +107,7 @@ TEST(LinkRun, EveryDocumentBeginsWithoutWhatMacrosSetBefore) {
     EXPECT_EQ(show.state.Mp3VolumeOffset, 0);
 }
 
-TEST(LinkRun, SlidesBehindAFilmThatTheListLeavesOutKeepTheirSchedule) {
+TEST(LinkRun, SlidesAfterAFilmThatTheListLeavesOutKeepTheirSchedule) {
     LinkShow show({u"x"});
     Show other(0);
     for (const char16_t* name : {u"f.avi", u"1.png", u"2.png"}) {
@@ -259,7 +259,7 @@ TEST(LinkRun, ADocumentThatLosesItsSlidesOnDiskCountsAsEmpty) {
     EXPECT_FALSE(show.screen.Loaded);
 }
 
-TEST(LinkRun, DocumentsThatCannotBeOpenedAreToldAndPassedOver) {
+TEST(LinkRun, DocumentsThatCannotBeOpenedAreReportedAndPassedOver) {
     struct {
         std::vector<Text> documents;
         const char* names;
@@ -281,7 +281,7 @@ TEST(LinkRun, DocumentsThatCannotBeOpenedAreToldAndPassedOver) {
     }
 }
 
-TEST(LinkRun, TheyAreToldInEachRound) {
+TEST(LinkRun, TheyAreReportedInEachRound) {
     LinkShow show({u"gone", u"b"});
     show.state.LinkRepeat = 1;
     show.Run();
@@ -422,7 +422,7 @@ TEST(LinkRun, PreviousReachesTheLastSlideOfTheDocumentBefore) {
     EXPECT_EQ(show.state.SlideIndex, 0) << "before the first document there is nothing";
 }
 
-TEST(LinkRun, NextReachesTheFirstSlideOfTheDocumentBehind) {
+TEST(LinkRun, NextReachesTheFirstSlideOfTheDocumentAfter) {
     LinkShow show({u"a", u"b"});
     show.Run();
     show.box.Command3.Click();
@@ -435,7 +435,7 @@ TEST(LinkRun, NextReachesTheFirstSlideOfTheDocumentBehind) {
     EXPECT_TRUE(show.box.Command4.Enabled);
     show.box.Command2.Click();
     show.loop.Run(3000);
-    EXPECT_FALSE(show.screen.Loaded) << "START behind the last slide ends the run with its tick";
+    EXPECT_FALSE(show.screen.Loaded) << "START after the last slide ends the run with its tick";
 }
 
 TEST(LinkRun, StartAtADocumentsEndGoesOnWithTheNext) {

@@ -94,7 +94,7 @@ TEST_F(MacroClicks, AnObjectStartsItsProgramForTheDocument) {
     show.state.CutoutAction[5] = u"  C:\\My Tools\\t.exe ";
     show.state.CutoutAction[6] = u" C:\\t.Exe";
     show.screen.Picture1(5).Click();
-    EXPECT_TRUE(show.system.started.empty()) << "the blank behind it hides the kind";
+    EXPECT_TRUE(show.system.started.empty()) << "the blank after it hides the kind";
     show.screen.Picture1(6).Click();
     ASSERT_EQ(show.system.started.size(), 1u);
     EXPECT_EQ(show.system.started[0].first, u"C:\\t.Exe");

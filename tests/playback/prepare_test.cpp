@@ -1,4 +1,4 @@
-// Which pictures are asked for ahead of their slides.
+// Which pictures are asked for before their slides.
 #include "playback/prepare.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +37,7 @@ TEST(PrepareShow, TheNextSlideWhileOneStands) {
     EXPECT_EQ(Wanted(show), "1.png") << "a repeating show goes on with its first";
 }
 
-TEST(PrepareShow, NothingBehindTheLastOfAShowThatEnds) {
+TEST(PrepareShow, NothingAfterTheLastOfAShowThatEnds) {
     Show show(2);
     show.state.RepeatFlag = 1;
     show.Start();
@@ -77,7 +77,7 @@ TEST(PrepareShow, SlidesOutOfScheduleArePassedOver) {
 
 TEST(PrepareShow, ANewPassComparesSchedulesWithTheClock) {
     Show show(3);
-    // Until a second behind the start: on show in the first pass, gone in the second.
+    // Until a second after the start: on show in the first pass, gone in the second.
     show.Schedule(1, Text(16, u' '), u"2026/01/01 12:00");
     show.Start();
     EXPECT_EQ(show.Shown(), Numbers{1});
@@ -98,7 +98,7 @@ TEST(PrepareShow, NothingWhereEverySlideIsOutOfSchedule) {
     EXPECT_EQ(Wanted(show), "");
 }
 
-TEST(PrepareShow, ThePictureBehindAVideoIsAskedForBeforeItPlays) {
+TEST(PrepareShow, ThePictureAfterAVideoIsAskedForBeforeItPlays) {
     Show show(0);
     show.AddSlide(u"C:\\pic\\a.mp4");
     show.files.Put(u"C:\\pic\\a.mp4", "film");
@@ -310,7 +310,7 @@ TEST(PrepareStart, WhereTheShowWasLeft) {
     EXPECT_EQ(Wanted(show), "3.png");
     show.state.ResumeIndex = 3;
     playback::PrepareStart(show.app, false);
-    EXPECT_EQ(Wanted(show), "1.png") << "there is nothing behind the last";
+    EXPECT_EQ(Wanted(show), "1.png") << "there is nothing after the last";
 }
 
 TEST(PrepareStart, NothingInRandomOrderAndBeforeALinkRun) {

@@ -138,7 +138,7 @@ TEST(StepEntry, ClearsTheMacroObjectsOfTheSlideBefore) {
     EXPECT_EQ(show.state.StepBusy, 0);
 }
 
-TEST(StepEntry, AStopRequestEndsTheStepBehindTheEntry) {
+TEST(StepEntry, AStopRequestEndsTheStepAfterTheEntry) {
     Show show;
     show.state.StopRequest = 1;
     show.state.ShowAbort = 1;
@@ -256,7 +256,7 @@ TEST(StepSync, TheNextPictureComesWhenTheSoundHasEnded) {
     show.loop.At(4995, [&] { show.playing = false; });
     show.loop.Run(4000);  // the tick of 3000 waits inside and runs over
     EXPECT_EQ(show.Shown(), (Numbers{1, 2}));
-    // The pass of 5000 asks before it pumps, so that of 5010 is the first to hear of the end.
+    // The pass of 5000 asks before it pumps, so that of 5010 is the first to see the end.
     EXPECT_EQ(show.loop.Milliseconds(), 5020);
     EXPECT_EQ(show.loop.sleeps, Numbers(202, 10));
 }

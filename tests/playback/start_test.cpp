@@ -126,7 +126,7 @@ TEST(Start, GoesOnWhereTheLastShowEnded) {
         int16_t resume;
         int first;
     };
-    // Behind the last slide it begins at the top; -1 is left by a first slide that was removed.
+    // After the last slide it begins at the top; -1 is left by a first slide that was removed.
     for (const Setting& setting : {Setting{0, 1}, {1, 2}, {2, 3}, {3, 1}, {9, 1}, {-1, 1}}) {
         Show show;
         show.state.StartOption = 1;

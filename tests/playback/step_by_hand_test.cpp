@@ -61,7 +61,7 @@ TEST(StepByHand, OntoAVideoLeavesTheShowPausedAndFree) {
             show.Back();
             EXPECT_EQ(show.Shown(), (Numbers{1, 2, 2})) << place << missing;
             show.On();
-            show.GoOn();  // behind the last slide: from the top after one interval
+            show.GoOn();  // after the last slide: from the top after one interval
             EXPECT_EQ(show.state.ShowRunning, 1);
             show.loop.Run(3000);
             EXPECT_EQ(show.Shown(), (Numbers{1, 2, 2, 1})) << place << missing;
@@ -95,7 +95,7 @@ TEST(StepByHand, TheVideoOfARunningShowHoldsPauseBackForItsShortTick) {
     EXPECT_EQ(show.state.StepBusy, 0);
 }
 
-TEST(StepByHand, ASlideOutOfScheduleBehindAVideoFreesPause) {
+TEST(StepByHand, ASlideOutOfScheduleAfterAVideoFreesPause) {
     Show show(2);
     show.files.Put(u"C:\\pic\\film.mp4", "film");
     show.form3.List1.SetRow(0, u"C:\\pic\\film.mp4");

@@ -74,7 +74,7 @@ TEST(StepEffects, AnEmptyScreenIsNotErased) {
          }},
         {"a macro asked for a clean screen",
          [](EffectShow& show) { show.state.ResetScreenOnce = 1; }},
-        {"the picture was erased ahead of a missing film",
+        {"the picture was erased before a missing film",
          [](EffectShow& show) {
              show.AddSlide(u"C:\\pic\\gone.mp4");
              show.Step(4);
@@ -100,7 +100,7 @@ TEST(StepEffects, AnEmptyScreenIsNotErased) {
     }
 }
 
-TEST(StepEffects, BehindAFailingPictureTheOldOneIsErasedAsItStood) {
+TEST(StepEffects, AfterAFailingPictureTheOldOneIsErasedAsItStood) {
     EffectShow show;
     show.Break(2);
     show.state.ListErrorDelete = 1;
@@ -126,7 +126,7 @@ TEST(StepEffects, APictureThatComesWithAnotherModeIsNotMutedOntoCleanGround) {
     EXPECT_EQ(std::count(show.imaging.log.begin(), show.imaging.log.end(), "gray"), 0);
 }
 
-TEST(StepEffects, BehindAVideoNothingIsErased) {
+TEST(StepEffects, AfterAVideoNothingIsErased) {
     EffectShow show(1);
     show.files.Put(u"C:\\pic\\v.mp4", "video");
     show.AddSlide(u"C:\\pic\\v.mp4");
@@ -135,7 +135,7 @@ TEST(StepEffects, BehindAVideoNothingIsErased) {
     show.GoFullScreen();
     show.Step(1);
     show.Step(2);
-    EXPECT_EQ(show.Effects(), Effects{"erase 0"}) << "the picture goes ahead of the video";
+    EXPECT_EQ(show.Effects(), Effects{"erase 0"}) << "the picture goes before the video";
     show.state.StepBusy = 0;
     show.Step(3);
     EXPECT_EQ(show.Effects(), Effects{"erase 0"});
@@ -176,7 +176,7 @@ TEST(StepEffects, AClickDuringAnEffectShowsThePictureAndClosesNothing) {
 }
 
 TEST(StepEffects, TheWindowCanBeClosedAtAnyYield) {
-    // The first show effect begins at 0, the erase at 3000 or later, the next show behind it.
+    // The first show effect begins at 0, the erase at 3000 or later, the next show after it.
     for (const bool endsShow : {true, false}) {
         for (double moment = 20; moment < 4300;
              moment += moment < 600 || moment > 3000 ? 60 : 600) {

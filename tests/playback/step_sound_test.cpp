@@ -483,7 +483,7 @@ TEST(StepMainChannel, TheDefaultSoundIsHeardAtEveryPicture) {
     }
 }
 
-TEST(StepMainChannel, BehindAPictureWithoutOneTheSameSoundPlaysAgain) {
+TEST(StepMainChannel, AfterAPictureWithoutOneTheSameSoundPlaysAgain) {
     Show show(2);
     show.state.SoundMode = 1;
     show.files.Put(u"C:\\pic\\2.wav", "sound");

@@ -173,7 +173,7 @@ TEST_F(Player, FullScreenHasButtonsOfItsOwn) {
               "box Command3, box Command4, box Command5, box Command2, box Command1");
 }
 
-TEST_F(Player, NothingIsPressedBehindABoxOrWithoutAWindow) {
+TEST_F(Player, NothingIsPressedUnderABoxOrWithoutAWindow) {
     Paused();
     QDialog box;
     box.setModal(true);

@@ -1,4 +1,4 @@
-// What is said on the session bus to keep the screen from blanking, on a bus of the test's own.
+// What is sent on the session bus to keep the screen from blanking, on a bus of the test's own.
 #include "adapters/qt/screen_keeper.h"
 
 #include <gtest/gtest.h>

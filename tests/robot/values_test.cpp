@@ -94,7 +94,7 @@ TEST_F(Values, ListsGiveTheirRowsAndCounts) {
     EXPECT_EQ(Read("Form3.List1.ListIndex"), "-1");
 }
 
-TEST_F(Values, WhatIsNotThereIsTold) {
+TEST_F(Values, WhatIsNotThereIsReported) {
     EXPECT_EQ(Read("Form99.Caption"), "! no such window: Form99");
     EXPECT_EQ(Read("Form1.Nothing"), "! Form1 has no control or property Nothing");
     EXPECT_EQ(Read("Form1.Command99.Caption"), "! Form1 has no control Command99");

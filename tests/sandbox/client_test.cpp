@@ -147,7 +147,7 @@ uint32_t FirstPixel(Client& client, const std::string& word, Kind kind = Kind::P
     return result.pixels ? result.pixels->pixels[0] & 0xFFFFFFu : 0;
 }
 
-TEST(SandboxClient, AProcessThatKeepsMuchMemoryEndsBehindItsAnswer) {
+TEST(SandboxClient, AProcessThatKeepsMuchMemoryEndsAfterItsAnswer) {
 #if defined(__SANITIZE_ADDRESS__)
     GTEST_SKIP() << "the sanitizer's own memory has no limit";
 #endif
@@ -167,7 +167,7 @@ TEST(SandboxClient, AProcessThatKeepsMuchMemoryEndsBehindItsAnswer) {
     EXPECT_LT(FirstPixel(client, "count"), 3u);
 }
 
-TEST(SandboxClient, AHelperThatGoesOnEndsBehindTheAnswerWithItsProcess) {
+TEST(SandboxClient, AHelperThatGoesOnEndsAfterTheAnswerWithItsProcess) {
     Client client(StandIn("limited"));
     for (int i = 0; i < 20; ++i) {
         EXPECT_EQ(FirstPixel(client, "count", Kind::Eps), 1u);
@@ -237,8 +237,8 @@ TEST(SandboxClient, WithoutAnExecutableNothingIsDecoded) {
     EXPECT_EQ(Decode(client, "picture", Kind::None).outcome, Outcome::Failed);
 }
 
-TEST(SandboxClient, AnExecutableThatDoesNotStartIsToldOfOnce) {
-    static int round = 0;  // each executable is told of once in the life of the program
+TEST(SandboxClient, AnExecutableThatDoesNotStartIsReportedOnce) {
+    static int round = 0;  // each executable is reported once in the life of the program
     const std::string missing = "/nonexistent/teller" + std::to_string(++round);
     const auto told = [](const std::string& program) {
         Client client({program, {}, kLongLimit});
@@ -277,7 +277,7 @@ TEST(SandboxClient, TheProcessGetsNothingOfTheProgram) {
         const auto children = Children();
         ASSERT_EQ(children.size(), 1u);
         const std::string process = "/proc/" + std::to_string(children[0]);
-        // What belongs to the picture is closed a moment behind the answer.
+        // What belongs to the picture is closed a moment after the answer.
         std::vector<std::string> open;
         for (int i = 0; i < 60000 && open.size() != 5; ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(i == 0 ? 0 : 1));
@@ -326,7 +326,7 @@ TEST(SandboxClient, ProcessesEndWithTheProgram) {
     sandbox::Descriptor out(ends[1]);
     const pid_t program = fork();
     if (program == 0) {
-        // Left without a word, as a program that crashes leaves.
+        // Closed without a message, as by a program that crashes.
         Client client(StandIn("limited"));
         Decode(client);
         Decode(client, "picture", Kind::Eps);

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// What the system tells of a process.
+/// What the system says of a process.
 struct Standing {
     int id = 0, parent = 0, group = 0;
     char state = 0;

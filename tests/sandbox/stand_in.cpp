@@ -154,7 +154,7 @@ void WithChild() {
 
 constexpr size_t kMiB = size_t{1} << 20;
 
-/// A program that goes on behind its picture.
+/// A program that goes on after its picture.
 pid_t helper = -1;
 
 /// The real frame around a decoder that does what the file says.

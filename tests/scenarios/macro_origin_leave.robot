@@ -1,5 +1,5 @@
 # SCREENXY holds over the slides of a run; STOP and START bring the setting's own value back. The
-# program is left in mid-show; the next run is macro_origin_next.robot.
+# program is left during a show; the next run is macro_origin_next.robot.
 choose edge_origin.kvs
 menu mnuOPEN
 click Form1.Command1

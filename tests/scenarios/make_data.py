@@ -41,7 +41,7 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   pieces.kvs    m1 m2 a: m1.txt shows six shapes, one of each, m2.txt a chosen jump and motion
   pieces_full.kvs the same in the full screen
   pieces_slow.kvs the same, eight seconds a slide
-  media.kvs     s1 a, c.mp3 behind them: s1.txt plays a wave, fades, shows a film, starts a program
+  media.kvs     s1 a, with c.mp3 as their background: s1.txt plays a wave, fades, shows a film, starts a program
   words.kvs     s2 s3 a in the full screen: s2.txt sets what the menus set, s3.txt filters and clears
 s1 (black), s2 (left half black, right half white), s3 (the same): 320x240.
 m1, m2 (320x240, shaded) have macro files beside them; star.png (60x40) is their piece, cut.dat a
@@ -63,7 +63,7 @@ Documents with sound (all without repetition):
   common.kvs    a b c, common sound (vue1.wav)
   linked.kvs    a b c, linked WAV, waits for its end
   same.kvs      a a c, linked WAV, does not wait
-  back_wav.kvs  a b c d, back.wav behind them
+  back_wav.kvs  a b c d, with back.wav as their background
   midi.kvs      a b, linked MIDI
   mp3.kvs       a b c, linked MP3
   list.kvs      a b c d e, sound list b.wav, gone.wav, a.mid
@@ -71,7 +71,7 @@ Documents with sound (all without repetition):
   over_list.kvs a b c d, sound list b.wav, gone.wav, back.wav, linked WAV on top, does not wait
   over_fade.kvs as fade.kvs, linked WAV on top
   quoted.kvs    quo"te.png b, linked WAV, waits for its end; quo"te.wav has 5000 ms
-  garbled.kvs   a b, no_sound.wav behind them
+  garbled.kvs   a b, with no_sound.wav as their background
   film.kvs      a film.mp4 b
   cinema.kvs    a cinema.mp4 b
   cinema_full.kvs the same in the full screen

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Latin-1, so that what a rule leaves to the code page can be told from UTF-8.
+/// Latin-1, so that what a rule leaves to the code page differs from UTF-8.
 class Latin : public text::CodePage {
 public:
     std::optional<std::string> Encode(TextView value) const override {

@@ -71,7 +71,7 @@ TEST(SafeNumber, ReadsDigitByDigitWhereValFails) {
     EXPECT_EQ(SafeNumber(u"-1E400"), -1400);
     // A '-' anywhere makes it negative. 10^6, by ten at E, plus 4×10^4, by ten at X and at '-'.
     EXPECT_EQ(SafeNumber(u"1E400X-"), -1400);
-    // Behind the point: 5 is 5/10; E moves the place on, so 4 is 4/100 and the zeros nothing.
+    // After the point: 5 is 5/10; E moves the place on, so 4 is 4/100 and the zeros nothing.
     EXPECT_DOUBLE_EQ(SafeNumber(u"1.5E400"), 1.54);
     EXPECT_EQ(SafeNumber(u"12abc"), 12);
     EXPECT_EQ(SafeNumber(u"abc"), 0);

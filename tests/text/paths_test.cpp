@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(BareName, StandsBehindTheLastSeparatorOrDrive) {
+TEST(BareName, StandsAfterTheLastSeparatorOrDrive) {
     EXPECT_EQ(text::BareName(u"C:\\pics\\a.jpg"), u"a.jpg");
     EXPECT_EQ(text::BareName(u"C:a.jpg"), u"a.jpg");
     EXPECT_EQ(text::BareName(u"pics/a.jpg"), u"a.jpg");

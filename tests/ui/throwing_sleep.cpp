@@ -1,4 +1,4 @@
-// Loaded ahead of the C library: from the moment that the file $PARAPICO_THROW exists, the
+// Loaded before the C library: from the moment that the file $PARAPICO_THROW exists, the
 // program's own thread gets an exception that nobody expects where it sleeps.
 #include <sys/syscall.h>
 #include <time.h>

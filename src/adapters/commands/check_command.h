@@ -7,7 +7,7 @@
 
 namespace commands {
 
-/// `arguments`: all behind the program's name, the first being "--check": show documents (.kvs,
+/// `arguments`: all after the program's name, the first being "--check": show documents (.kvs,
 /// with the macro of every slide) and macro files, "--json", and "--screen WxH", where texts have
 /// to stay. Prints a line for each finding, "FILE:LINE:COLUMN: what is wrong → what will
 /// happen（what to do）", or one JSON array of objects with file, line, column, wrong, effect,

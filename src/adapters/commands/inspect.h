@@ -7,8 +7,8 @@
 
 namespace commands {
 
-/// `arguments`: all behind the program's name; the first is "--inspect" or "--resave". Prints what
-/// the command has to tell on `out`, failures on `err`. Exit status: 0 accepted, 1 refused or the
+/// `arguments`: all after the program's name; the first is "--inspect" or "--resave". Prints the
+/// result on `out`, failures on `err`. Exit status: 0 accepted, 1 refused or the
 /// output could not be written, 2 wrong usage.
 int RunDocumentCommand(const std::vector<std::string>& arguments, std::ostream& out,
                        std::ostream& err);

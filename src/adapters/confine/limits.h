@@ -36,7 +36,7 @@ struct MemoryUse {
     uint64_t addresses = 0, resident = 0;  // bytes
 };
 
-/// Opens what tells the memory that is used, which cannot be opened behind the limits. Call once.
+/// Opens what says how much memory is used; it cannot be opened under the limits. Call once.
 void WatchMemory();
 
 /// Of this process now. Zeros where WatchMemory was not called, or failed.

@@ -95,7 +95,7 @@ int Serve(int socket, const Service& service) {
         const bool helperLives = service.helperLives && service.helperLives();
         const bool last = helperLives || HasGrown(atFirst, UsedMemory());
         if (last) {
-            // Ahead of the answer: a request that came behind it would go down with the process.
+            // Before the answer: a request that came after it would be lost with the process.
             shutdown(socket, SHUT_RD);
         }
         if (!sandbox::Send(socket, sandbox::BytesOf(answer), pixels.Get())) {

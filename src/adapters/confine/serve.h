@@ -14,7 +14,7 @@ namespace confine {
 /// What a process does in one role. What the functions throw is a picture that failed.
 struct Service {
     sandbox::Role role = sandbox::Role::Raster;
-    /// Does ahead of the limits what cannot be done behind them. May be empty.
+    /// Does before the limits hold what they would forbid. May be empty.
     std::function<void()> warmUp;
     /// `wanted` is empty for the picture's own size.
     std::function<std::optional<sandbox::Picture>(sandbox::Kind, std::span<const uint8_t> file,
@@ -27,7 +27,7 @@ struct Service {
     std::function<bool()> helperLives;
 };
 
-/// Answers on the socket until the program closes its end: 0, the exit status. Also ends behind an
+/// Answers on the socket until the program closes its end: 0, the exit status. Also ends after an
 /// answer once a helper goes on or much memory did not come back: takes no more requests from
 /// before that answer on, and ends its whole group where there is a helper. Another status for a
 /// message that is none, or when no answer can be sent.

@@ -1,4 +1,4 @@
-// Scanned drawings of one bit a pixel, stored like a fax behind a header of text.
+// Scanned drawings of one bit a pixel, stored like a fax after a header of text.
 #pragma once
 
 #include "adapters/decoder/decode.h"

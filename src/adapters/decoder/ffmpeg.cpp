@@ -44,7 +44,7 @@ Owned<AVFrame> DecodeFrame(AVCodecID id, Bytes file) {
     }
     context->thread_count = 1;
     context->max_pixels = kMostPixels;
-    // The library wants room behind the data, which a packet of its own has.
+    // The library wants room after the data, which a packet of its own has.
     if (av_new_packet(packet.get(), static_cast<int>(file.size())) != 0) {
         return nullptr;
     }
@@ -127,7 +127,7 @@ size_t Big(Bytes data, size_t at, size_t bytes) {
     return value;
 }
 
-/// Whether the channel behind the colours is transparency: not where it has a name of another
+/// Whether the channel after the colours is transparency: not where it has a name of another
 /// purpose, as a kept selection has.
 bool PsdHasTransparency(Bytes file) {
     constexpr size_t kHeadBytes = 26, kAlphaNames = 1006;

@@ -165,7 +165,7 @@ void ReadPage(int fd, Size size, std::chrono::milliseconds timeLimit, std::vecto
 /// The interpreter that was started last and has not been seen to end; -1 for none.
 pid_t running = -1;
 
-/// It mostly ends by itself behind its page, or when nobody reads on.
+/// It mostly ends by itself after its page, or when its output is no longer read.
 void AwaitEnd() {
     constexpr int kTurns = 50;
     constexpr timespec kTurn{0, 1000000};
@@ -226,7 +226,7 @@ std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
     }
     Descriptor result(ends[0]);
     Descriptor output(ends[1]);
-    // Had before there is an interpreter, whom nobody would wait for if it could not be had.
+    // Allocated before the interpreter starts: if this failed later, nothing would wait for it.
     std::vector<uint8_t> read(PixelBytes(size) + kMostHead);
     running = Start(CommandLine(*box, size), input.Get(), output.Get());
     output.Close();
@@ -234,7 +234,7 @@ std::optional<Picture> DrawPostScript(Bytes file, Size wanted,
         return std::nullopt;
     }
     ReadPage(result.Get(), size, timeLimit, read);
-    // Behind the process's limits no single process can be killed: one that goes on is left to the
+    // Under the process's limits no single process can be killed: one that goes on is left to the
     // caller.
     result.Close();
     kill(running, SIGKILL);

@@ -27,7 +27,7 @@ std::optional<platform::Size> MeasurePostScript(std::span<const uint8_t> file);
 bool InterpreterLives();
 
 /// Draws the first page's box at `wanted` pixels, or a pixel a point. Fails without a legible box,
-/// and where the interpreter takes more than `timeLimit`. An interpreter that goes on behind its
+/// and where the interpreter takes more than `timeLimit`. An interpreter that goes on after its
 /// page and cannot be ended alone is left to the caller, who may call again only when it is gone.
 constexpr std::chrono::seconds kDrawingTime{8};
 std::optional<Picture> DrawPostScript(std::span<const uint8_t> file, platform::Size wanted,

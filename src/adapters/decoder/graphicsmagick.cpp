@@ -25,7 +25,7 @@ struct Free {
 using InfoPtr = std::unique_ptr<ImageInfo, Free>;
 using ImagePtr = std::unique_ptr<Image, Free>;
 
-/// What a call reports; nobody reads it.
+/// What a call reports; it is not read.
 struct Report {
     Report() { GetExceptionInfo(&info); }
     ~Report() { DestroyExceptionInfo(&info); }

@@ -5,7 +5,7 @@
 
 namespace decoder {
 
-/// Both versions: plain rows ("DanM"), and rows of runs behind a table of their lengths ("LinS").
+/// Both versions: plain rows ("DanM"), and rows of runs after a table of their lengths ("LinS").
 std::optional<Picture> DecodeMsp(std::span<const uint8_t> file);
 
 }  // namespace decoder

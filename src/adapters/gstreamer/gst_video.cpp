@@ -37,7 +37,7 @@ struct GstVideo::Core : std::enable_shared_from_this<GstVideo::Core> {
     std::atomic<bool> told{false};  // a call of onFrame is on its way
     std::mutex mutex;
     VideoState state = VideoState::Loading;
-    GstVideo* owner;  // null: nobody is told any more
+    GstVideo* owner;  // null: there is nobody left to call
     Post post;
 
     // The worker's alone.
@@ -65,7 +65,7 @@ struct GstVideo::Core : std::enable_shared_from_this<GstVideo::Core> {
     void Leave();
 };
 
-/// The window hears of many pictures by one call.
+/// One call announces many pictures.
 void GstVideo::Core::Tell() {
     if (told.exchange(true)) {
         return;
@@ -238,7 +238,7 @@ void GstVideo::Core::Take(StreamEvent event, int ofBuild) {
     }
 }
 
-/// Nobody is told any more, and everything is freed on the worker.
+/// Calls the owner no more; everything is freed on the worker.
 void GstVideo::Core::Leave() {
     {
         const std::lock_guard lock(mutex);

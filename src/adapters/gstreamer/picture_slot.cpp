@@ -83,7 +83,7 @@ void PictureSlot::Turn(const GstTagList& tags) {
     g_object_set(flip_.get(), "video-direction", turn_, nullptr);
 }
 
-/// What the decoder says ahead of its pictures.
+/// What the decoder says before its pictures.
 void PictureSlot::TakeEvent(GstEvent& event) {
     const std::lock_guard lock(mutex_);
     if (GST_EVENT_TYPE(&event) == GST_EVENT_TAG) {
@@ -169,7 +169,7 @@ GstElement* PictureSlot::MakeTail() {
     };
     gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_EVENT_DOWNSTREAM, hear,
                       new Shared(shared_from_this()), forget);
-    // A new size is this bin's own affair: the decoder is not asked to set itself up anew.
+    // This bin alone follows a new size: the decoder is not asked to set itself up anew.
     const auto keep = [](GstPad*, GstPadProbeInfo* info, gpointer) {
         return GST_EVENT_TYPE(gst_pad_probe_info_get_event(info)) == GST_EVENT_RECONFIGURE
                    ? GST_PAD_PROBE_DROP

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kEndPollMs = 20;
 constexpr int kPositionPollMs = 100;
-constexpr int kStalledPolls = 250;  // five seconds without progress behind the last sample
+constexpr int kStalledPolls = 250;  // five seconds without progress after the last sample
 
 }  // namespace
 
@@ -40,7 +40,7 @@ struct Player::Core : std::enable_shared_from_this<Player::Core> {
     bool started = false;
     bool silent = false;
     int startedRequest = 0;
-    double offset = 0;  // seconds of the piece ahead of this pipeline's time 0
+    double offset = 0;  // seconds of the piece before this pipeline's time 0
     gint64 lastPosition = -1;
     int stalled = 0;
     bool running = false;  // this pipeline has come to play
@@ -134,7 +134,7 @@ void Player::Core::Build(double from) {
         post(StreamEvent::Error);
         return;
     }
-    if (from == 0) {  // a seek needs the samples, and nothing is set ahead of going on
+    if (from == 0) {  // a seek needs the samples, and nothing is set before going on
         CloseGate(*entry);
     }
     gst_element_set_state(pipeline.get(), GST_STATE_PAUSED);
@@ -147,7 +147,7 @@ void Player::Core::Drop() {
     ++build;
     worker.Poll(0, nullptr);
     DropPipeline(pipeline);
-    OpenGate();  // behind the pipeline's end: nothing of it is heard any more
+    OpenGate();  // after the pipeline's end: nothing of it is heard any more
 }
 
 void Player::Core::Start(int forRequest) {

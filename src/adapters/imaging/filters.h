@@ -1,4 +1,4 @@
-// Filters: a new bitmap of the same size. They throw bad_alloc where memory does not do.
+// Filters: a new bitmap of the same size. They throw bad_alloc where memory is short.
 #pragma once
 
 #include "platform/canvas.h"

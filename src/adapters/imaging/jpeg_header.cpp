@@ -25,7 +25,7 @@ bool IsFrame(int marker) {
            marker != kExtension && marker != kArithmeticTables;
 }
 
-/// Frame header behind its length: precision, height, width, components with their sampling.
+/// Frame header after its length: precision, height, width, components with their sampling.
 JpegHeader ReadFrame(int marker, const QByteArray& frame) {
     JpegHeader header;
     // C2, C6, CA, CE: the frames that come in passes.

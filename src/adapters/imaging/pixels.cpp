@@ -53,7 +53,7 @@ BitmapPtr OverWhite(QImage image) {
     for (int y = 0; y < image.height(); ++y) {
         const Pixel* row = reinterpret_cast<const Pixel*>(image.constScanLine(y));
         result->pixels.insert(result->pixels.end(), row, row + image.width());
-        // While the row is at hand.
+        // While the row is in the cache.
         for (Pixel* p = result->Row(y); p != result->Row(y + 1); ++p) {
             *p = alpha ? OverWhite(*p) : *p | kOpaque;
         }
@@ -76,7 +76,7 @@ BitmapPtr Nearest(const Bitmap& source, platform::Size size) {
 BitmapPtr TwoLevels(const Bitmap& source) {
     constexpr int kMiddle = 128;
     auto result = std::make_shared<Bitmap>(source.width, source.height);
-    // Errors in sixteenths, with one place before and behind the row.
+    // Errors in sixteenths, with one place before and after the row.
     const auto places = static_cast<size_t>(source.width) + 2;
     std::vector<int> present(places), below(places);
     for (int y = 0; y < source.height; ++y) {

@@ -1,4 +1,4 @@
-// Pictures decoded ahead of their Load, by one thread that has nothing else to do.
+// Pictures decoded before their Load, by one thread that has nothing else to do.
 #pragma once
 
 #include <condition_variable>
@@ -42,7 +42,7 @@ public:
     };
 
     explicit PreparedPictures(sandbox::ClientOptions decoder = {});
-    /// Waits for the worker, whose reader is told to give up.
+    /// Waits for the worker, whose reader is made to give up.
     ~PreparedPictures();
     PreparedPictures(const PreparedPictures&) = delete;
     PreparedPictures& operator=(const PreparedPictures&) = delete;
@@ -58,7 +58,7 @@ public:
                                       const platform::FitFunction& fit);
 
     /// The picture of a Load, whether taken from here or not: where it is wanted again by the first
-    /// Prepare behind the next Load, as the picture before that one, it is held without decoding.
+    /// Prepare after the next Load, as the picture before that one, it is held without decoding.
     void Remember(const std::string& nativePath, const platform::FitFunction& fit,
                   const LoadedPicture& loaded);
 

@@ -5,7 +5,7 @@
 
 namespace posix_adapter {
 
-/// Japanese sentence for an errno value; one without a sentence of its own is told with its number.
+/// Japanese sentence for an errno value; one without a sentence of its own is named by its number.
 Text ErrorText(int error);
 
 }  // namespace posix_adapter

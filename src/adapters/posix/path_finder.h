@@ -25,7 +25,7 @@ public:
     /// Native path of what exists under this path; nullopt when nothing does.
     std::optional<std::string> Find(TextView path);
 
-    /// As Find; parts from the first missing one on are put behind it as they are written. Empty
+    /// As Find; parts from the first missing one on are appended as they are written. Empty
     /// when the path has no place on this machine (a drive that the table lacks).
     std::string Target(TextView path);
 
@@ -38,7 +38,7 @@ private:
     };
     struct Listing {
         timespec changed{};
-        bool settled = false;  // no change can hide behind an equal time stamp
+        bool settled = false;  // an equal time stamp can hide no change
         std::unordered_map<std::u16string, std::string> names;  // by folded name
     };
 

@@ -22,8 +22,8 @@ bool IsPlainFile(const std::string& nativePath, struct stat& status) {
     return stat(nativePath.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-/// Whole content; 0 or the errno value of what failed. The size told beforehand is a hint only:
-/// a file may grow meanwhile, and some tell none.
+/// Whole content; 0 or the errno value of what failed. The size asked for before is a hint only:
+/// a file may grow meanwhile, and some have none.
 int ReadAll(int fd, size_t sizeHint, size_t limit, std::string& content) {
     constexpr size_t kStep = 64u << 10;
     std::string read;

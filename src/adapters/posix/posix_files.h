@@ -36,11 +36,11 @@ private:
 /// EISDIR for a folder, ENODEV for a fifo or device.
 Descriptor OpenPlainFile(const std::string& nativePath);
 
-/// Replaces the file behind `nativePath` (links followed) by `content`, whole or not at all; keeps
+/// Replaces the file at `nativePath` (links followed) by `content`, whole or not at all; keeps
 /// mode and owner of an existing file. 0, or the errno value of what failed.
 int ReplaceFile(const std::string& nativePath, std::string_view content);
 
-/// Renames a file or folder (a link itself) to `nativePath + mark`, or with "-2", "-3"… behind it
+/// Renames a file or folder (a link itself) to `nativePath + mark`, or with "-2", "-3"… added
 /// where that name is taken; nothing is replaced. The new path goes to `kept`. 0, or errno.
 int RenameAside(const std::string& nativePath, const std::string& mark, std::string& kept);
 

@@ -89,7 +89,7 @@ std::optional<std::string> UserFolder(const std::string& variable) {
         while (path.size() > 1 && path.ends_with('/')) {
             path.pop_back();
         }
-        // A folder that the person does without is said to be home itself.
+        // A folder that the person does without is given as home itself.
         if (path != home && IsNativeFolder(path)) {
             return path;
         }
@@ -146,7 +146,7 @@ std::vector<Text> PosixFolders::Names(TextView path, bool folders) {
     const std::optional<std::string> native = files_.Find(path);
     const std::unique_ptr<DIR, FolderCloser> handle(native ? opendir(native->c_str()) : nullptr);
     while (const dirent* entry = handle ? readdir(handle.get()) : nullptr) {
-        // A name that is no UTF-8 cannot be told as text, so nobody could open it by that.
+        // A name that is no UTF-8 has no form as text, so it could not be opened by that.
         if (entry->d_name[0] != '.' && text::IsUtf8(entry->d_name) &&
             IsOfKind(*native, *entry, folders)) {
             names.push_back(text::FromUtf8(entry->d_name));

@@ -1,5 +1,5 @@
-// The end that comes from outside: signals, the session's end, a lost display, an exception that
-// nobody takes.
+// The end that comes from outside: signals, the session's end, a lost display, an uncaught
+// exception.
 #pragma once
 
 #include <QObject>
@@ -13,7 +13,7 @@ class QSocketNotifier;
 
 namespace qt_adapter {
 
-/// How a program is left when it is asked to end from outside. Nobody is asked anything then.
+/// How a program is left when it is asked to end from outside. No box asks anything then.
 struct Ending {
     std::function<void()> leave;  // by an exception, once everything is saved
     std::function<void()> save;   // and goes on

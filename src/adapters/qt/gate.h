@@ -34,7 +34,7 @@ public:
     /// An exception is on its way out: loops must return.
     bool Leaving() const { return static_cast<bool>(pending_); }
 
-    /// While one lives nobody is there: no box comes up, each counts as closed by its frame.
+    /// While one lives no person is there: no box comes up, each counts as closed by its frame.
     class Unattended {
     public:
         explicit Unattended(Gate& gate) : gate_(gate) { ++gate_.unattended_; }

@@ -11,7 +11,7 @@
 namespace qt_adapter {
 
 /// A command presses the button that a person would press: the full screen's box has its own. What
-/// the desktop is told is read from the main window's buttons and caption. Nothing happens while a
+/// the desktop shows is read from the main window's buttons and caption. Nothing happens while a
 /// box waits for an answer, or while neither the main window nor the full screen is up.
 class MediaPlayer : public QDBusVirtualObject, public model::Listener {
 public:

@@ -68,7 +68,7 @@ void MenuBinding::AddChildren(model::MenuEntry& entry, QWidget& menu) {
         if (array.isEmpty()) {
             continue;
         }
-        // The group gives the round marks; which one is set is the model's affair.
+        // The group gives the round marks; the model decides which one is set.
         QActionGroup*& group = groups[array];
         if (!group) {
             group = new QActionGroup(&menu);

@@ -1,4 +1,4 @@
-// The question before a show starts a program. Nobody answers it unwittingly.
+// The question before a show starts a program. It cannot be answered by accident.
 #pragma once
 
 #include <QDialog>

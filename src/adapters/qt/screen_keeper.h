@@ -6,7 +6,7 @@
 
 namespace qt_adapter {
 
-/// Requests are sent from a thread of its own, so that a desktop that hangs holds nobody up. A
+/// Requests are sent from a thread of its own, so that a desktop that hangs holds nothing up. A
 /// desktop that takes no such request is passed over in silence. The desktop forgets a request when
 /// the program ends, however it ends.
 class ScreenKeeper {

@@ -1,4 +1,4 @@
-// The desktop's session bus, reached without holding anybody up.
+// The desktop's session bus, reached without holding anything up.
 #pragma once
 
 #include <QDBusConnection>

@@ -95,7 +95,7 @@ std::optional<ScriptValue> ReadProperty(const model::Control& control, std::stri
     return std::nullopt;
 }
 
-/// `rest` is what stands behind the window's name: a list, a control's property, or a property of
+/// `rest` is what follows the window's name: a list, a control's property, or a property of
 /// the window itself.
 std::optional<ScriptValue> ReadFromWindow(const model::Window& window, std::string_view rest,
                                           std::string& error) {
@@ -263,7 +263,7 @@ private:
         return std::nullopt;
     }
 
-    /// What stands behind a backslash.
+    /// What follows a backslash.
     std::optional<char16_t> Escaped() {
         static constexpr std::string_view kNames = "\"\\/bfnrt";
         static constexpr char16_t kMeant[] = u"\"\\/\b\f\n\r\t";

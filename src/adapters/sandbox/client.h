@@ -14,7 +14,7 @@ namespace sandbox {
 
 struct ClientOptions {
     std::string program;                 // empty: each role's own
-    std::vector<std::string> arguments;  // behind the role's name
+    std::vector<std::string> arguments;  // after the role's name
     /// For one picture, the start of the process included. Measuring has a third of it.
     int limitMilliseconds = 10000;
     /// Larger pictures are not taken over.
@@ -28,7 +28,7 @@ enum class Outcome {
     Died,     // its process crashed, ran out of time or memory, or closed
     Late,     // no answer within the limit
     Lied,     // an answer that is none
-    Missing,  // no process can be started; standard error is told once for each executable
+    Missing,  // no process can be started; standard error says so once for each executable
     Large,    // more than mostPixels
 };
 

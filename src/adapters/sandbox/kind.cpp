@@ -15,7 +15,7 @@ struct Mark {
     size_t offset;
     std::string_view bytes;
 };
-/// Behind the size and the frame.
+/// After the size and the frame.
 constexpr size_t kPctMark = 10;
 constexpr std::string_view kSecondPct = "\0\x11\x02\xFF"sv;
 constexpr Mark kMarks[] = {

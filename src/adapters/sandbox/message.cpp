@@ -136,7 +136,7 @@ Received Receive(int socket, int milliseconds) {
         result.size = cut ? 0 : static_cast<size_t>(size);
         result.state = Received::State::Message;
     } else {
-        // An empty message is taken for the end as well: nobody sends one.
+        // An empty message is taken for the end as well: none is ever sent.
         result.state = Received::State::Gone;
         result.descriptors = size == 0 ? DescriptorsOf(header) : std::vector<Descriptor>();
     }

@@ -46,7 +46,7 @@ struct Request {
 constexpr uint32_t kDecode = 1, kMeasure = 2;
 
 /// Comes with one descriptor, the pixels, when the picture was decoded; else with none. What is not
-/// told is 0.
+/// known is 0.
 struct Answer {
     uint32_t mark = kAnswerMark;
     uint32_t serial = 0;

@@ -23,7 +23,7 @@ std::string Home() {
     return home != nullptr ? home : "/";
 }
 
-/// What the user's variables say is not the decoder's business, and the names of files least.
+/// The decoder gets none of the user's variables but HOME: they may hold the names of files.
 std::vector<std::string> Environment() {
     // One thread: pictures are small, and starting threads takes longer than it saves.
     std::vector<std::string> result = {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "HOME=" + Home(),
@@ -128,7 +128,7 @@ void EndProcess(const Process& process) {
     if (process.id <= 0) {
         return;
     }
-    // Until it is waited for nobody else can get its number, be it dead already. The group goes
+    // Until it is waited for its number cannot be given away, even if it is dead. The group goes
     // first: what the process started must not stay behind.
     kill(-process.id, SIGKILL);
     kill(process.id, SIGKILL);
