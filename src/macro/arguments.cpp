@@ -70,13 +70,16 @@ Text Unwrapped(TextView value) {
     return result;
 }
 
-Text QuotedField(TextView field, Text (*otherwise)(TextView)) {
-    const Text trimmed = text::Trim(field);
-    if (!trimmed.starts_with(u'"')) {
-        return otherwise(field);
+Text CallText(TextView line, size_t before, Text (*otherwise)(TextView)) {
+    const auto fields = CallFields(line, before + 1);
+    if (fields.size() <= before) {
+        return {};
     }
-    const size_t closing = trimmed.find(u'"', 1);
-    return closing == Text::npos ? otherwise(field) : trimmed.substr(1, closing - 1);
+    const TextView field = fields[before];
+    TextView rest = line.substr(static_cast<size_t>(field.data() - line.data()));
+    rest.remove_prefix(std::min(rest.find_first_not_of(u' '), rest.size()));
+    const size_t closing = rest.starts_with(u'"') ? rest.find(u'"', 1) : TextView::npos;
+    return closing == TextView::npos ? otherwise(field) : Text(rest.substr(1, closing - 1));
 }
 
 double NumberField(const std::vector<TextView>& fields, size_t index) {

@@ -27,9 +27,10 @@ Text Unquoted(TextView text);
 /// Trimmed; where a '"' begins it, without that and without the last character, whatever it is.
 Text Unwrapped(TextView text);
 
-/// The text of a call's last field: one that begins with a '"' ends at its next one, wherever else
-/// a ')' stands behind; without a next one it is `otherwise` of the field.
-Text QuotedField(TextView field, Text (*otherwise)(TextView));
+/// The text behind so many values of a call: one that begins with a '"' ends at its next one,
+/// wherever a ')' stands; without a next one it is `otherwise` of the last field. Empty where there
+/// are fewer values.
+Text CallText(TextView line, size_t before, Text (*otherwise)(TextView));
 
 /// Reads as a number, 0 where the field is not there.
 double NumberField(const std::vector<TextView>& fields, size_t index);

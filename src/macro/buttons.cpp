@@ -169,7 +169,7 @@ Flow MenuButton(Run& run, double) {
         }
         state.MenuJump[entry] = jump.value_or(0);
         state.MenuActive[entry] = 1;
-        const Text caption = fields.size() > 1 ? QuotedField(fields[1], Unwrapped) : Text();
+        const Text caption = CallText(run.MacroLine, 1, Unwrapped);
         const int text = run.app.platform.textRenderer.Measure({}, caption).width;
         const int width = std::clamp(text + kMenuMargin, kMenuWidth[0], kMenuWidth[1]);
         for (model::Button* button : {&inWindow, &onScreen}) {

@@ -259,14 +259,15 @@ void TraceCutout(Application& app, int index, TextView what) {
 }
 
 Flow NameCutoutData(Run& run, double) {
-    const auto fields = CallFields(BeforeComment(run.MacroLineUpper), 2);
+    const TextView line = BeforeComment(run.MacroLineUpper);
+    const auto fields = CallFields(line, 2);
     const auto index = text::ToInt16(NumberField(fields, 0));
     if (!index || *index > kLastCutout) {
         return Flow::GoOn;
     }
     run.state.PicPbType = kDataFileShape;
     if (*index >= 0) {
-        const Text name = fields.size() > 1 ? QuotedField(fields[1], Unwrapped) : Text();
+        const Text name = CallText(line, 1, Unwrapped);
         run.state.CutoutDataFile[static_cast<size_t>(*index)] =
             name.empty() ? Text() : NamedFile(run.app.platform.files, SlideFolder(run.app), name);
     }

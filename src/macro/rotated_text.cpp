@@ -32,7 +32,7 @@ Rotated ReadRotated(const Run& run) {
     };
     const double angle = std::clamp(NumberField(fields, 2), 0.0, kFullTurn);
     return {side(0), side(1), static_cast<int>(std::lround(10 * angle)),
-            fields.size() > 3 ? Printable(QuotedField(fields[3], Unquoted)) : Text()};
+            Printable(CallText(run.MacroLine, 3, Unquoted))};
 }
 
 /// Kept: blanks up to as many as the text has bytes too few for two a character. They are seen

@@ -152,6 +152,7 @@ TEST_F(Buttons, CaptionEndsAtItsQuoteWhateverACommentHolds) {
         {u"Menu1(1,\"スキップ\")  //メニュー番号(画面移動数)", u"スキップ"},
         {u"Menu1(1, \"a(b)\" ) (x)", u"a(b)"},
         {u"Menu1(1,\"\")  //x)", u""},
+        {u"Menu1(1,\"a)b\"", u"a)b"},  // its bracket is missing
         // Without a closing quote: up to the last ')', less the last character.
         {u"Menu1(1,\"ab)", u"a"},
         {u"Menu1(1,ab)", u"ab"},
