@@ -1,5 +1,7 @@
 #include "app/radio_choices.h"
 
+#include "model/effect_speed.h"
+
 namespace app {
 
 const std::vector<RadioChoice>& RadioChoices() {
@@ -67,7 +69,8 @@ const std::vector<RadioChoice>& RadioChoices() {
          u"（この設定はＫＶＳファイルに保存されません）"},
         {&S::EffectSpeedFixed,
          1,
-         {{&S::ShowEffectSpeed, kFixedEffectSpeed}, {&S::EraseEffectSpeed, kFixedEffectSpeed}},
+         {{&S::ShowEffectSpeed, model::kFixedEffectSpeed},
+          {&S::EraseEffectSpeed, model::kFixedEffectSpeed}},
          u"",
          u""},
         {&S::CdRepeatFlag,

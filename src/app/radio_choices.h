@@ -24,7 +24,4 @@ struct RadioChoice {
 };
 const std::vector<RadioChoice>& RadioChoices();
 
-/// Speed that both effects get when it is fixed.
-constexpr int16_t kFixedEffectSpeed = -30;
-
 }  // namespace app

@@ -1,6 +1,7 @@
 #include "app/sound_menu.h"
 
 #include "app/open_window.h"
+#include "model/sound_modes.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/sound_windows.h"
 #include "text/paths.h"
@@ -9,16 +10,6 @@ namespace app {
 
 namespace {
 
-enum Mode : int {
-    kCommonSound = 0,
-    kLinkedWav = 1,
-    kWav = 3,
-    kMidi = 4,
-    kLinkedMidi = 5,
-    kSoundList = 6,
-    kMp3 = 8,
-    kLinkedMp3 = 9
-};
 constexpr int16_t kTrackOrder = 0;
 constexpr int16_t kProgrammeOrder = 2;
 constexpr TextView kNoDefaultSound = u"*.wav";
@@ -32,15 +23,15 @@ struct ModeBox {
 };
 
 constexpr ModeBox kModeBoxes[] = {
-    {kCommonSound, platform::kPlain, u"効果音設定",
+    {model::kCommonSound, platform::kPlain, u"効果音設定",
      u"画面切換後に、共通ＷＡＶファイル（VUE1.WAV）の効果音をならします。"},
-    {kLinkedWav, platform::kYesNoQuestion, u"画像連動(WAV)",
+    {model::kLinkedWavSound, platform::kYesNoQuestion, u"画像連動(WAV)",
      u"画面切換後に、画像ファイルと同一名称で拡張子がＷＡＶのファイルの効果音をならします。\r\n"
      u"例)　test.jpg → test.wav を再生"},
-    {kLinkedMidi, platform::kYesNoQuestion, u"画像連動(MIDI)",
+    {model::kLinkedMidiSound, platform::kYesNoQuestion, u"画像連動(MIDI)",
      u"画面切換後に、画像ファイルと同一名称で拡張子がＭＩＤのファイルがあれば再生します。\r\n"
      u"例)　test.jpg → test.mid を再生"},
-    {kLinkedMp3, platform::kYesNoQuestion, u"画像連動(MP3)",
+    {model::kLinkedMp3Sound, platform::kYesNoQuestion, u"画像連動(MP3)",
      u"画面切換後に、画像ファイルと同一名称で拡張子がＭＰ３のファイルがあれば再生します。\r\n"
      u"  例)　test.jpg → test.mp3 を再生\r\n(※再生中の曲は自動的にフェードアウトします｡)"},
 };
@@ -86,25 +77,22 @@ bool PrepareSoundMode(Application& app, int mode) {
     if (!BoxAllows(app, mode)) {
         return false;
     }
+    if (model::RowOfSoundMode(mode).starts == model::SoundModeRow::Starts::OnAndOn) {
+        app.state.SoundPaused = 0;
+    }
     model::Windows& windows = app.windows;
     switch (mode) {
-        case kLinkedWav:
+        case model::kLinkedWavSound:
             AskDefaultSound(app);
             break;
-        case kWav:
-            app.state.SoundPaused = 0;
+        case model::kWavSound:
             OpenWindow(app, windows.form2);
             break;
-        case kMidi:
-            app.state.SoundPaused = 0;
+        case model::kMidiSound:
             OpenWindow(app, windows.form8);
             break;
-        case kMp3:
-            app.state.SoundPaused = 0;
+        case model::kMp3Sound:
             OpenWindow(app, windows.form17);
-            break;
-        case kSoundList:
-            app.state.SoundPaused = 0;
             break;
         default:
             break;
@@ -114,8 +102,8 @@ bool PrepareSoundMode(Application& app, int mode) {
 
 void FollowSoundMode(Application& app) {
     model::Form13& form13 = app.windows.form13;
-    form13.Option1.Value = app.state.SoundMode != kLinkedMp3;
-    form13.Option2.Value = app.state.SoundMode == kLinkedMp3;
+    form13.Option1.Value = app.state.SoundMode != model::kLinkedMp3Sound;
+    form13.Option2.Value = app.state.SoundMode == model::kLinkedMp3Sound;
 }
 
 void FollowCdOrder(Application& app, int16_t orderBefore) {

@@ -1,5 +1,6 @@
 #include "document/settings_to_controls.h"
 
+#include "model/sound_modes.h"
 #include "model/windows/link_list.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
@@ -12,24 +13,6 @@ namespace {
 
 using model::Form1;
 using model::ShowState;
-
-/// Linked WAVs can sound, so that their synchronisation and place mean something.
-bool LinkedWavPossible(const ShowState& state) {
-    switch (state.SoundMode) {
-        case 0:
-        case 1:
-        case 6:
-            return true;
-        case 2:
-            return state.CdPlusLinkedWav == 0;
-        case 4:
-            return state.MidiLinkedWavFlag == 1;
-        case 8:
-            return state.Mp3LinkedWavFlag == 1;
-        default:
-            return false;
-    }
-}
 
 void CheckMenus(Application& app, bool all) {
     for (const RadioMenu& menu : RadioMenus()) {
@@ -77,15 +60,16 @@ const std::vector<RadioMenu>& RadioMenus() {
 void FollowMenuVisibility(Application& app) {
     const ShowState& state = app.state;
     Form1& form1 = app.windows.form1;
-    form1.mnuCDM.Visible = state.SoundMode == 2;
+    form1.mnuCDM.Visible = state.SoundMode == model::kCdSound;
     form1.mnuHKSP.Visible = state.EffectSpeedFixed == 0;
     form1.mnuSKSP.Visible = state.EffectSpeedFixed == 0;
     form1.mnuKAHAI.Visible = state.OverlayMode != 0;
     form1.mnuCD.Visible = state.CdOrder == 0;
     form1.mnuCDRP.Visible = state.CdOrder == 0;
-    const bool linkedMusic = state.SoundMode == 5 || state.SoundMode == 9;
-    form1.mnuDOUKI.Visible = LinkedWavPossible(state);
-    form1.mnuKOICHI.Visible = LinkedWavPossible(state) || linkedMusic;
+    // No step waits for linked MIDI and MP3.
+    const bool linkedMusic = model::SoundModeInForce(state).piece == &ShowState::LinkedMediaPath;
+    form1.mnuDOUKI.Visible = model::SoundsWithPictures(state) && !linkedMusic;
+    form1.mnuKOICHI.Visible = model::SoundsWithPictures(state);
 }
 
 void FollowDocumentSettings(Application& app) {

@@ -10,7 +10,9 @@
 #include "document/show_document.h"
 #include "document/show_schedule.h"
 #include "document/state_files.h"
+#include "model/effect_speed.h"
 #include "model/picture_controls.h"
+#include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
@@ -22,9 +24,7 @@ namespace document {
 
 namespace {
 
-constexpr int16_t kFixedEffectSpeed = -30;
 constexpr int kFastestEffectSpeed = 10;
-enum SoundModes : int16_t { kMidiSound = 4, kSoundListSound = 6, kNoSound = 7, kMp3Sound = 8 };
 constexpr TextView kNoDefaultSound = u"*.wav";
 
 class ShowReader {
@@ -122,9 +122,9 @@ void ShowReader::ReadTiming() {
 void ShowReader::ReadSoundAndEffects() {
     state_.SoundMode = reader_.Int16();
     // The modes' numbers meant something else before their blocks were added.
-    if (tag_ == u"vue2" || (state_.SoundMode == kSoundListSound && !Holds(u"vue316789")) ||
-        (state_.SoundMode == kMidiSound && !Holds(u"vue3167"))) {
-        state_.SoundMode = kNoSound;
+    if (tag_ == u"vue2" || (state_.SoundMode == model::kListSound && !Holds(u"vue316789")) ||
+        (state_.SoundMode == model::kMidiSound && !Holds(u"vue3167"))) {
+        state_.SoundMode = model::kNoSound;
     }
     const TextView defaultSound = reader_.Line();
     state_.DefaultEffectSound = defaultSound == kNoDefaultSound
@@ -285,13 +285,13 @@ void ShowReader::ReadMp3AndModes() {
     state_.Mp3File = reader_.AtEnd() ? Text() : PathLineOrEmpty();
     state_.Mp3ModeFlag = Int16Or(0);
     if (state_.Mp3ModeFlag == 1) {
-        state_.SoundMode = kMp3Sound;
+        state_.SoundMode = model::kMp3Sound;
     }
     state_.AlwaysFullFlag = Int16Or(1);
     state_.EffectSpeedFixed = Int16Or(0);
     if (state_.EffectSpeedFixed == 1) {
-        state_.ShowEffectSpeed = kFixedEffectSpeed;
-        state_.EraseEffectSpeed = kFixedEffectSpeed;
+        state_.ShowEffectSpeed = model::kFixedEffectSpeed;
+        state_.EraseEffectSpeed = model::kFixedEffectSpeed;
     }
     state_.LoadMode = Int16Or(0);
 }

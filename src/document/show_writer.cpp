@@ -4,6 +4,7 @@
 #include "document/line_writer.h"
 #include "document/show_document.h"
 #include "document/show_schedule.h"
+#include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "text/paths.h"
@@ -54,7 +55,7 @@ const Text& ShowWriter::Write(TextView path) {
 }
 
 void ShowWriter::WriteSoundAndEffects() {
-    lines_.Number(state_.SoundMode == 8 ? 7 : state_.SoundMode);
+    lines_.Number(state_.SoundMode == model::kMp3Sound ? int{model::kNoSound} : state_.SoundMode);
     Path(state_.DefaultEffectSound);
     Path(state_.WavFile);
     for (int16_t value :
@@ -110,7 +111,7 @@ void ShowWriter::WriteSoundList() {
 void ShowWriter::WriteModesAndRows() {
     lines_.Number(state_.MidiLinkedWavFlag);
     Path(state_.Mp3File);
-    lines_.Number(state_.SoundMode == 8 ? 1 : 0);
+    lines_.Number(state_.SoundMode == model::kMp3Sound ? 1 : 0);
     for (int16_t value : {state_.AlwaysFullFlag, state_.EffectSpeedFixed, state_.LoadMode,
                           state_.Mp3LinkedWavFlag, state_.SoundListCheck5}) {
         lines_.Number(value);
@@ -138,7 +139,7 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
         state.LinkedFolderFlag = 0;
         state.LinkedFolder.clear();
     }
-    state.Mp3ModeFlag = state.SoundMode == 8 ? 1 : 0;
+    state.Mp3ModeFlag = state.SoundMode == model::kMp3Sound ? 1 : 0;
     RebuildSchedule(app);
     form1.MousePointer = model::kPointerNormal;
     state.DocumentPath = path;

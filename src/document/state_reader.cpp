@@ -9,6 +9,7 @@
 #include "document/state_files.h"
 #include "document/state_lines.h"
 #include "document/unread_files.h"
+#include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "text/numbers.h"
@@ -19,8 +20,6 @@ namespace document {
 namespace {
 
 using model::ShowState;
-
-constexpr int16_t kMp3Sound = 8;
 
 class StateReader {
 public:
@@ -84,7 +83,7 @@ void StateReader::ReadLines() {
         ReadTail(line);
     }
     if (state_.Mp3ModeFlag == 1) {
-        state_.SoundMode = kMp3Sound;
+        state_.SoundMode = model::kMp3Sound;
     }
     ReadLinkedWavFlagsAndRows();
     state_.MonitorIndex = Int16OrZero();

@@ -3,6 +3,7 @@
 #include "document/line_writer.h"
 #include "document/state_files.h"
 #include "document/state_lines.h"
+#include "model/sound_modes.h"
 #include "model/windows/slide_list.h"
 
 namespace document {
@@ -10,9 +11,6 @@ namespace document {
 namespace {
 
 using model::ShowState;
-
-constexpr int16_t kNoSound = 7;
-constexpr int16_t kMp3Sound = 8;
 
 void WriteField(LineWriter& lines, const ShowState& state, const model::FieldPointer& field) {
     if (field == model::FieldPointer(&ShowState::TextOriginScreen)) {
@@ -71,9 +69,10 @@ LineWriter StateLines(Application& app) {
 
 bool WriteStateFile(Application& app) {
     ShowState& state = app.state;
-    state.Mp3ModeFlag = state.SoundMode == kMp3Sound ? 1 : 0;
-    if (state.SoundMode == kMp3Sound) {
-        state.SoundMode = kNoSound;  // Kept: not put back, for the reader or the exit follows.
+    state.Mp3ModeFlag = state.SoundMode == model::kMp3Sound ? 1 : 0;
+    if (state.SoundMode == model::kMp3Sound) {
+        state.SoundMode =
+            model::kNoSound;  // Kept: not put back, for the reader or the exit follows.
     }
     return WriteProgramFile(app, StateFilePath(app), StateLines(app).Content());
 }

@@ -5,6 +5,7 @@
 #include "document/settings_to_controls.h"
 #include "macro/arguments.h"
 #include "macro/keywords.h"
+#include "model/effect_speed.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
 #include "text/numbers.h"
@@ -14,7 +15,6 @@ namespace macro {
 namespace {
 
 constexpr size_t kColorDigits = 6;
-constexpr int16_t kFixedEffectSpeed = -30;
 constexpr int16_t kNoShowEffect = 11, kNoEraseEffect = 12;
 constexpr int kOverlayModes = 5;
 constexpr int kLargestOverlaySize = 6;
@@ -134,8 +134,8 @@ Flow SetEffectSpeedFixed(Run& run, double mode) {
     }
     // Also with another number: what is fixed goes back to its speed.
     if (state.EffectSpeedFixed != 0) {
-        state.ShowEffectSpeed = kFixedEffectSpeed;
-        state.EraseEffectSpeed = kFixedEffectSpeed;
+        state.ShowEffectSpeed = model::kFixedEffectSpeed;
+        state.EraseEffectSpeed = model::kFixedEffectSpeed;
     }
     return Flow::GoOn;
 }

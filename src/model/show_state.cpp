@@ -4,6 +4,8 @@
 #include <limits>
 #include <map>
 
+#include "model/effect_speed.h"
+
 namespace model {
 
 namespace {
@@ -169,8 +171,8 @@ void ZeroReset(ShowState& state) {
           &ShowState::LinkRepeat,         &ShowState::LinkCheck3}) {
         state.*field = 0;
     }
-    state.ShowEffectSpeed = -30;
-    state.EraseEffectSpeed = -30;
+    state.ShowEffectSpeed = kFixedEffectSpeed;
+    state.EraseEffectSpeed = kFixedEffectSpeed;
     state.ListShowPicture = 1;
 }
 

@@ -1,6 +1,7 @@
 #include "playback/step_sound.h"
 
 #include "document/linked_names.h"
+#include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "sound/sound.h"
 #include "sound/volume.h"
@@ -9,6 +10,8 @@
 namespace playback {
 
 namespace {
+
+using BesideVideo = model::SoundModeRow::BesideVideo;
 
 constexpr int kSyncPollMs = 10;
 constexpr int kFadeStep = 20;
@@ -51,37 +54,25 @@ void StartSecondChannel(Application& app) {
 
 void StartMainChannel(Application& app) {
     model::ShowState& state = app.state;
-    Text path;
-    switch (state.SoundMode) {
-        case 5:
-            path = LinkedToSlide(app, u"mid");
-            break;
-        case 9:
-            path = LinkedToSlide(app, u"mp3");
-            break;
-        case 0:
-            path = state.AppFolder + u"vue1.wav";
-            break;
-        default:
-            path = LinkedToSlide(app, u"wav");
-            break;
-    }
+    const model::SoundModeRow& mode = model::SoundModeInForce(state);
+    const bool linked = mode.linked != nullptr;
+    Text path = linked ? LinkedToSlide(app, mode.linked) : sound::CommonSound(state);
     if (!app.platform.files.Exists(path)) {
         // A later picture with the linked sound of before starts it again, and the default sound
         // is heard at every picture.
         state.LastSoundFile.clear();
-        const bool takesDefault = state.SoundMode == 1 || state.SoundMode == 2;
-        path = takesDefault ? DefaultSound(state) : Text();
+        path = mode.takesDefault ? DefaultSound(state) : Text();
         if (path.empty() || !app.platform.files.Exists(path)) {
             return;  // what plays goes on
         }
     }
-    if (state.SoundMode != 0 && path == state.LastSoundFile) {
+    if (linked && path == state.LastSoundFile) {
         return;  // stopping it would forget that it was played
     }
     sound::StopSound(app);
-    const bool media = state.SoundMode == 5 || state.SoundMode == 9;
-    (media ? state.LinkedMediaPath : state.LinkedWavPath) = path;
+    if (linked) {
+        state.*mode.piece = path;
+    }
     sound::StartSound(app);
 }
 
@@ -91,26 +82,18 @@ bool RunsForward(const Application& app) {
     return !app.windows.form1.Command1.Enabled && !model::StepOutlived(app.state);
 }
 
-bool PlaysSecondChannel(const model::ShowState& state) {
-    return (state.SoundMode == 4 && state.MidiLinkedWavFlag == 1) ||
-           (state.SoundMode == 8 && state.Mp3LinkedWavFlag == 1) ||
-           (state.SoundMode == 6 && state.SoundListCheck5 == 1);
-}
-
 bool WaitForLinkedSound(Application& app) {
     model::ShowState& state = app.state;
-    const bool modeWaits =
-        sound::PlaysPerPicture(state) || state.SoundMode == 6 || PlaysSecondChannel(state);
     if (state.SoundPlaying != 1 || state.SoundSyncFlag != 0 || state.SkipSyncWaitOnce != 0 ||
-        !RunsForward(app) || !modeWaits) {
+        !RunsForward(app) || !model::SoundsWithPictures(state)) {
         return true;
     }
     const WaitMark mark(state);
+    const TextView question =
+        model::PlaysLinkedOnTop(state) ? u"status wav_ren mode" : u"status wav mode";
     // Kept: linked MIDI and MP3 have aliases that nobody asks here, so they are not waited for.
     for (bool playing = true; playing;) {
-        playing = sound::Reports(
-            app, PlaysSecondChannel(state) ? u"status wav_ren mode" : u"status wav mode",
-            u"playing");
+        playing = sound::Reports(app, question, u"playing");
         app.platform.loop.PumpEvents();
         app.platform.loop.Sleep(kSyncPollMs);
         if (!RunsForward(app)) {
@@ -125,8 +108,10 @@ bool FadeBeforeLinkedMedia(Application& app, bool isVideo) {
     if (state.SoundOpen != 1 || state.SoundPlaying != 1) {
         return true;
     }
-    const bool beforeMp3 = state.SoundMode == 9 && app.platform.files.Exists(state.LinkedMediaPath);
-    const bool beforeVideo = isVideo && state.SoundMode == 6 && state.ListMp3Playing == 1;
+    const bool beforeMp3 = state.SoundMode == model::kLinkedMp3Sound &&
+                           app.platform.files.Exists(state.LinkedMediaPath);
+    const bool beforeVideo =
+        isVideo && state.SoundMode == model::kListSound && state.ListMp3Playing == 1;
     if (!beforeMp3 && !beforeVideo) {
         return true;
     }
@@ -141,23 +126,26 @@ bool FadeBeforeLinkedMedia(Application& app, bool isVideo) {
 
 void StartSoundBesideVideo(Application& app) {
     model::ShowState& state = app.state;
-    const bool wav = state.SoundMode == 1 || (state.SoundMode == 6 && state.SoundListCheck5 == 1) ||
-                     (state.SoundMode == 8 && state.Mp3LinkedWavFlag == 1);
-    if (wav || state.SoundMode == 9) {
-        const Text path = LinkedToSlide(app, wav ? u"wav" : u"mp3");
-        (wav ? state.LinkedWavPath : state.LinkedMediaPath) = path;
-        if (app.platform.files.Exists(path)) {
-            sound::StopSound(app);
-            sound::StartSound(app);
-        }
-    } else if (state.SoundMode == 6 || state.SoundMode == 8) {
+    const model::SoundModeRow& mode = model::SoundModeInForce(state);
+    const bool givesWay = mode.besideVideo == BesideVideo::GivesWay;
+    if (mode.besideVideo == BesideVideo::PlaysOn) {
+        return;
+    }
+    if (givesWay && !model::PlaysLinkedOnTop(state)) {
         state.RestartSoundFlag = 1;
+        return;
+    }
+    const Text path = LinkedToSlide(app, givesWay ? u"wav" : mode.linked);
+    state.*(givesWay ? &model::ShowState::LinkedWavPath : mode.piece) = path;
+    if (app.platform.files.Exists(path)) {
+        sound::StopSound(app);
+        sound::StartSound(app);
     }
 }
 
 void PollCd(Application& app) {
     model::ShowState& state = app.state;
-    if (state.SoundMode != 2) {
+    if (state.SoundMode != model::kCdSound) {
         return;
     }
     if (state.CdPaused == 0 && RunsForward(app)) {
@@ -179,18 +167,16 @@ void PollCd(Application& app) {
 
 void RestartBackgroundSound(Application& app) {
     model::ShowState& state = app.state;
-    const int16_t mode = state.SoundMode;
-    const bool background = mode == 3 || mode == 4 || mode == 6 || mode == 8;
+    const model::SoundModeRow& mode = model::SoundModeInForce(state);
+    const bool background = mode.starts == model::SoundModeRow::Starts::OnAndOn;
     const bool wanted =
         state.SoundPlaying == 1 || state.RestartSoundFlag == 1 || state.RestartSoundMacro == 1;
     // The second channel's sound must not hide that an entry of the list could not be played.
-    const bool nextOfList = mode == 6 && state.SoundListNext == 1;
+    const bool nextOfList = mode.mode == model::kListSound && state.SoundListNext == 1;
     if (background && wanted && state.SoundPaused == 0) {
         state.SoundListNext = 0;
         if (RunsForward(app)) {
-            const TextView question = mode == 4   ? u"status mid mode"
-                                      : mode == 8 ? u"status mp3 mode"
-                                                  : u"status wav mode";
+            const Text question = Text(u"status ") + mode.alias + u" mode";
             // Kept: the first letter is not compared.
             const bool ended =
                 text::Mid(app.platform.sound.MciSendString(question), 2, 6) == u"topped";
@@ -204,17 +190,17 @@ void RestartBackgroundSound(Application& app) {
             }
         }
     }
-    if (mode == 6 && state.SoundListNext == 1) {
+    if (mode.mode == model::kListSound && state.SoundListNext == 1) {
         sound::StopSound(app);
         sound::StartSound(app);
     }
 }
 
 void StartLinkedSounds(Application& app) {
-    if (PlaysSecondChannel(app.state)) {
+    if (model::PlaysLinkedOnTop(app.state)) {
         StartSecondChannel(app);
     }
-    if (sound::PlaysPerPicture(app.state)) {
+    if (model::PlaysPerPicture(app.state)) {
         StartMainChannel(app);
     }
 }
@@ -222,14 +208,14 @@ void StartLinkedSounds(Application& app) {
 void SkipFirstSyncWait(Application& app) {
     const model::ShowState& state = app.state;
     // A macro that ended the last step kept its linked sound back.
-    if (state.MacroEndShow != 1 || !sound::PlaysPerPicture(state)) {
+    if (state.MacroEndShow != 1 || !model::PlaysPerPicture(state)) {
         app.state.SkipSyncWaitOnce = 1;
     }
 }
 
 void StartShowSound(Application& app) {
     sound::StartCd(app);
-    if (!sound::PlaysPerPicture(app.state)) {
+    if (!model::PlaysPerPicture(app.state)) {
         sound::StartSound(app);
     }
 }

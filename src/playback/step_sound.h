@@ -8,9 +8,6 @@ namespace playback {
 /// START is disabled: the show runs forward and neither pause nor stop came in.
 bool RunsForward(const Application& app);
 
-/// A linked WAV plays on top of the background piece (modes 4, 6, 8 with their flags).
-bool PlaysSecondChannel(const model::ShowState& state);
-
 /// While it lives the step waits for a sound or a text and takes a PAUSE.
 class WaitMark {
 public:
@@ -32,10 +29,10 @@ bool FadeBeforeLinkedMedia(Application& app, bool isVideo);
 /// Sound that goes with a video.
 void StartSoundBesideVideo(Application& app);
 
-/// Mode 2: starts the CD again where it has come to its end.
+/// Starts the CD again where it is the mode and has come to its end.
 void PollCd(Application& app);
 
-/// Modes 3, 4, 6, 8: starts the background piece again where it has ended.
+/// Starts the background piece again where it has ended.
 void RestartBackgroundSound(Application& app);
 
 /// Second channel and sound of the slide.

@@ -6,6 +6,7 @@
 #include "macro/telop.h"
 #include "model/controls.h"
 #include "model/menu.h"
+#include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
@@ -319,28 +320,14 @@ void Command2_Click(Application& app) {
     HideVideoPlaceholders(app);
     form1.Command2.Enabled = false;
     state.StartLatch = 0;
-    if (state.SoundMode == 2) {
+    if (state.SoundMode == model::kCdSound) {
         state.CdPausedTrack = app.platform.sound.MciSendString(u"status cdaudio current track");
         state.CdPaused = 1;
     }
     app.platform.sound.MciSendString(u"stop cdaudio");
-    switch (state.SoundMode) {
-        case 2:
-            if (state.CdPlusLinkedWav != 0) {
-                break;
-            }
-            [[fallthrough]];
-        case 1:
-        case 3:
-        case 4:
-        case 5:
-        case 6:
-        case 9:
-            state.SoundPaused = 1;
-            sound::StopSound(app);
-            break;
-        default:
-            break;
+    if (model::SoundModeInForce(state).pauseStops && model::PlaysPieces(state)) {
+        state.SoundPaused = 1;
+        sound::StopSound(app);
     }
     if (state.SlideIndex > 0 && state.ShowRunning == 1) {
         form1.Timer1.Enabled = false;

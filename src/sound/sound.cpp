@@ -4,6 +4,7 @@
 
 #include "document/settings_to_controls.h"
 #include "model/controls.h"
+#include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_windows.h"
@@ -15,7 +16,6 @@ namespace sound {
 
 namespace {
 
-constexpr int kHighestMode = 9;
 constexpr int kCancelSound = 0;
 
 /// How a file of that kind is opened: the aliases are those that the rest of the program asks.
@@ -41,16 +41,11 @@ struct Complaint {
 };
 
 constexpr Complaint kComplaints[] = {
-    {3, u"ＷＡＶ再生を確認して下さい。", u"ＷＡＶファイル読込エラー"},
-    {4, u"ＭＩＤＩ再生を確認して下さい。", u"ＭＩＤＩファイル読込エラー"},
-    {6, u"WAV.MIDリストを確認して下さい。", u"WAV.MIDリストファイル読込エラー"},
-    {8, u"ＭＰ３再生を確認して下さい。", u"ＭＰ３ファイル読込エラー"},
+    {model::kWavSound, u"ＷＡＶ再生を確認して下さい。", u"ＷＡＶファイル読込エラー"},
+    {model::kMidiSound, u"ＭＩＤＩ再生を確認して下さい。", u"ＭＩＤＩファイル読込エラー"},
+    {model::kListSound, u"WAV.MIDリストを確認して下さい。", u"WAV.MIDリストファイル読込エラー"},
+    {model::kMp3Sound, u"ＭＰ３再生を確認して下さい。", u"ＭＰ３ファイル読込エラー"},
 };
-
-bool ModePlays(const model::ShowState& state) {
-    const int16_t mode = state.SoundMode;
-    return PlaysPerPicture(state) || mode == 3 || mode == 4 || mode == 6 || mode == 8;
-}
 
 /// The list goes round for ever.
 Text NextOfList(Application& app) {
@@ -71,38 +66,27 @@ bool OnVideo(const model::ShowState& state) {
     return text::IsVideoKind(state.SlideList(state.SlideIndex));
 }
 
-/// Beside a video the sound list and the background MP3 give way to its linked sound.
 bool GivesWayToVideo(const model::ShowState& state) {
-    return (state.SoundMode == 6 || state.SoundMode == 8) && OnVideo(state);
+    return OnVideo(state) &&
+           model::SoundModeInForce(state).besideVideo == model::SoundModeRow::BesideVideo::GivesWay;
 }
 
 Text FileOfMode(Application& app) {
-    model::ShowState& state = app.state;
-    const int16_t mode = state.SoundMode;
+    const model::ShowState& state = app.state;
     if (GivesWayToVideo(state)) {
         return state.LinkedWavPath;
     }
-    switch (mode) {
-        case 0:
-            return state.AppFolder + u"vue1.wav";
-        case 1:
-            return state.LinkedWavPath;
-        case 2:
-            return OnVideo(state) ? Text() : state.LinkedWavPath;
-        case 3:
-            return state.WavFile;
-        case 4:
-            return state.MidiFile;
-        case 5:
-        case 9:
-            return state.LinkedMediaPath;
-        case 6:
+    switch (state.SoundMode) {
+        case model::kCommonSound:
+            return CommonSound(state);
+        case model::kListSound:
             return NextOfList(app);
-        case 8:
-            return state.Mp3File;
         default:
-            return {};
+            break;
     }
+    const auto piece = model::SoundModeInForce(state).piece;
+    const bool cdAlone = state.SoundMode == model::kCdSound && OnVideo(state);
+    return piece == nullptr || cdAlone ? Text() : state.*piece;
 }
 
 /// A second try is all that a file gets which somebody else holds.
@@ -118,7 +102,7 @@ void Complain(Application& app, const Text& path) {
                                          platform::kExclamation, one.title);
         }
     }
-    if (app.state.SoundMode == 6) {
+    if (app.state.SoundMode == model::kListSound) {
         app.state.SoundListNext = 1;
     }
 }
@@ -161,25 +145,15 @@ void ClearTelop(Application& app) {
 
 }  // namespace
 
-bool PlaysPerPicture(const model::ShowState& state) {
-    switch (state.SoundMode) {
-        case 0:
-        case 1:
-        case 5:
-        case 9:
-            return true;
-        case 2:
-            return state.CdPlusLinkedWav == 0;
-        default:
-            return false;
-    }
+Text CommonSound(const model::ShowState& state) {
+    return state.AppFolder + u"vue1.wav";
 }
 
 void StartSound(Application& app) {
     model::ShowState& state = app.state;
     state.SoundPaused = 0;
     const bool preview = state.SoundPreviewFlag == 1;
-    if (!preview && !ModePlays(state)) {
+    if (!preview && !model::PlaysPieces(state)) {
         return;
     }
     state.SoundListNext = 0;
@@ -192,7 +166,8 @@ void StartSound(Application& app) {
         state.RestartSoundFlag = 1;
     }
     // What cannot be played of the list costs one picture.
-    const bool fromList = state.SoundMode == 6 && !preview && !givesWay && state.SoundListCount > 0;
+    const bool fromList =
+        state.SoundMode == model::kListSound && !preview && !givesWay && state.SoundListCount > 0;
     if (path.empty() || !app.platform.files.Exists(path)) {
         state.SoundListNext = fromList ? 1 : 0;
         return;
@@ -201,7 +176,7 @@ void StartSound(Application& app) {
         Complain(app, path);
         return;
     }
-    if (!preview && PlaysPerPicture(state) && state.SoundMode != 0) {
+    if (!preview && model::SoundModeInForce(state).linked != nullptr) {
         if (path == state.LastSoundFile) {
             return;
         }
@@ -209,7 +184,7 @@ void StartSound(Application& app) {
     }
     state.SoundPlaying = 1;
     // Whoever previews asks "wav", whatever the mode.
-    const Text alias = preview || state.SoundMode == 6 ? Text(u"wav") : Text();
+    const Text alias = preview || state.SoundMode == model::kListSound ? Text(u"wav") : Text();
     if (!Open(app, path, alias) && fromList) {
         state.SoundListNext = 1;
     }
@@ -238,7 +213,7 @@ void StopSound(Application& app) {
 
 void SetSoundMode(Application& app, int mode) {
     model::ShowState& state = app.state;
-    if (mode == state.SoundMode || mode < 0 || mode > kHighestMode) {
+    if (mode == state.SoundMode || mode != model::RowOfSoundMode(mode).mode) {
         return;
     }
     StopCd(app);
@@ -246,11 +221,11 @@ void SetSoundMode(Application& app, int mode) {
     state.SoundMode = static_cast<int16_t>(mode);
     app.windows.form1.mnuKOU.Check(mode);
     document::FollowMenuVisibility(app);
-    if (mode == 2 &&
+    if (mode == model::kCdSound &&
         !app.platform.sound.MciSendString(u"status cdaudio mode").starts_with(u"playing")) {
         StartCd(app);
     }
-    if (state.MacroEndShow != 1 && !PlaysPerPicture(state)) {
+    if (state.MacroEndShow != 1 && !model::PlaysPerPicture(state)) {
         StartSound(app);
     }
 }
@@ -265,7 +240,7 @@ void StartCd(Application&) {}
 
 void StopCd(Application& app) {
     model::ShowState& state = app.state;
-    if (state.SoundMode == 2) {
+    if (state.SoundMode == model::kCdSound) {
         app.platform.sound.MciSendString(u"stop cdaudio");
         app.platform.sound.MciSendString(u"close cdaudio");
     }

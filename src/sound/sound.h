@@ -6,9 +6,8 @@
 
 namespace sound {
 
-/// The mode in force brings a sound of its own with every picture (0, 1, 5, 9, or 2 with linked
-/// WAV).
-bool PlaysPerPicture(const model::ShowState& state);
+/// Path of the sound that is common to all pictures.
+Text CommonSound(const model::ShowState& state);
 
 /// Starts the piece of the sound mode in force: a pending preview (SoundPreviewFlag, which it
 /// uses up), what the slide step put into LinkedWavPath or LinkedMediaPath (which it empties), a

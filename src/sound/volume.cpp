@@ -1,5 +1,6 @@
 #include "sound/volume.h"
 
+#include "model/sound_modes.h"
 #include "sound/sound.h"
 #include "text/numbers.h"
 
@@ -7,19 +8,13 @@ namespace sound {
 
 namespace {
 
-/// Alias of each sound mode; null: none.
-constexpr const char16_t* kAliases[] = {nullptr, u"wav", u"cdaudio", u"wav", u"mid",
-                                        u"mid",  u"wav", nullptr,    u"mp3", u"mp3"};
-
 constexpr int kFadePassMs = 100;
-constexpr int kListMode = 6;
 
 }  // namespace
 
 void SendVolume(Application& app, int volume) {
-    const auto mode = static_cast<size_t>(app.state.SoundMode);
-    if (mode < std::size(kAliases) && kAliases[mode] != nullptr) {
-        app.platform.sound.MciSendString(u"setaudio " + Text(kAliases[mode]) + u" volume to " +
+    if (const char16_t* alias = model::SoundModeInForce(app.state).alias) {
+        app.platform.sound.MciSendString(u"setaudio " + Text(alias) + u" volume to " +
                                          text::Trim(text::Str(volume)));
     }
 }
@@ -28,7 +23,7 @@ bool FadeOut(Application& app, int step) {
     const model::ShowState& state = app.state;
     const int full = kFullVolume - state.Mp3VolumeOffset;
     const TextView question =
-        state.SoundMode == kListMode ? u"status wav mode" : u"status mp3 mode";
+        state.SoundMode == model::kListSound ? u"status wav mode" : u"status mp3 mode";
     if (Reports(app, question, u"playing")) {
         int volume = full;
         while (volume >= 0 && state.SoundOpen == 1) {
