@@ -21,10 +21,12 @@
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "picture/effect_context.h"
 #include "picture/effect_plan.h"
 #include "picture/effects.h"
 #include "playback/control_box.h"
 #include "playback/full_screen.h"
+#include "playback/run.h"
 #include "playback/transport.h"
 
 namespace {

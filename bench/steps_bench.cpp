@@ -17,6 +17,7 @@
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
+#include "playback/run.h"
 #include "playback/transport.h"
 #include "text/paths.h"
 

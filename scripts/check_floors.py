@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks who includes whom: a folder of src/ sees itself and the floors below, nothing else.
+"""Checks who includes whom: a folder of src/ sees itself and the floors below, nothing else, and
+within a folder of the logic the arrows run one way.
 
 Adapters see themselves, the interfaces and the remembered state; the logic sees neither adapters
 nor any library but the standard one. Exit status 1 with one line for each offence.
@@ -23,6 +24,8 @@ ADAPTER_NEIGHBOURS = {"tracing": {"posix"}, "virtual": {"tracing"},
                       "sandbox": {"posix"}, "imaging": {"sandbox", "posix"},
                       "confine": {"sandbox", "posix"}, "decoder": {"confine", "sandbox", "posix"},
                       "svg": {"confine", "sandbox"}}
+# A control belongs to a window, and a window is a control: one subject in two files.
+ONE_SUBJECT = {"model/window": "model/control"}
 # Standard headers whose whole purpose is forbidden in the logic.
 FORBIDDEN_HEADERS = {
     "thread": "one thread runs the logic", "mutex": "one thread runs the logic",
@@ -108,14 +111,59 @@ def check_file(root, path):
             yield relative, number, f"{line.strip()}: goes through platform/"
 
 
+def unit_of(path):
+    """A header and its source are one unit."""
+    name = path.rsplit(".", 1)[0]
+    return ONE_SUBJECT.get(name, name)
+
+
+def includes_within(root, folder):
+    """For each unit of the folder the units of the same folder that it includes."""
+    seen = {}
+    for path in sorted((root / folder).rglob("*")):
+        if path.suffix not in {".cpp", ".h"}:
+            continue
+        unit = unit_of(path.relative_to(root).as_posix())
+        targets = seen.setdefault(unit, set())
+        for line in path.read_text(encoding="utf-8").splitlines():
+            match = INCLUDE.match(line)
+            if match and match.group(1) == '"' and match.group(2).startswith(folder + "/"):
+                targets.add(unit_of(match.group(2)))
+        targets.discard(unit)
+    return seen
+
+
+def cycle_in(graph):
+    """Units on a way that leads back to its start, or None."""
+    done = set()
+
+    def walk(unit, way):
+        if unit in way:
+            return way[way.index(unit):] + [unit]
+        if unit in done:
+            return None
+        for target in sorted(graph.get(unit, ())):
+            found = walk(target, way + [unit])
+            if found:
+                return found
+        done.add(unit)
+        return None
+
+    return next((found for found in (walk(unit, []) for unit in sorted(graph)) if found), None)
+
+
 def main():
     root = pathlib.Path(__file__).resolve().parent.parent / "src"
     files = sorted(p for p in root.rglob("*") if p.suffix in {".cpp", ".h", ".def", ".mm"})
     offences = [o for path in files for o in check_file(root, path)]
     for relative, number, text in offences:
         print(f"src/{relative}:{number}: {text}")
-    print(f"floors: {len(files)} files, {len(offences)} offences")
-    return 1 if offences else 0
+    cycles = [c for c in (cycle_in(includes_within(root, name)) for name in FLOORS) if c]
+    for cycle in cycles:
+        print("src/: these include each other: " + " -> ".join(cycle))
+    count = len(offences) + len(cycles)
+    print(f"floors: {len(files)} files, {count} offences")
+    return 1 if count else 0
 
 
 if __name__ == "__main__":

@@ -8,7 +8,7 @@
 #include "document/link_document.h"
 #include "model/windows/main_window.h"
 #include "playback/full_screen.h"
-#include "playback/transport.h"
+#include "playback/run.h"
 #include "text/paths.h"
 
 namespace app {
@@ -38,12 +38,7 @@ void Form1_FilesDropped(Application& app, const std::vector<Text>& files) {
     // The entry is hidden while a show is under way.
     const bool mayOpen = app.windows.form1.mnuOPEN.Visible && app.state.StepBusy != 1 &&
                          app.windows.Pointer() == model::kPointerNormal;
-    if (!mayOpen || files.empty()) {
-        return;
-    }
-    if (app.state.SlideListWindowOpen == 1) {
-        app.platform.dialogs.Message(u"ファイル選択を終了させてから行って下さい。",
-                                     platform::kExclamation, u"ファイル選択");
+    if (!mayOpen || files.empty() || playback::RefusedByListWindow(app)) {
         return;
     }
     const auto document = std::find_if(files.begin(), files.end(), [](const Text& path) {

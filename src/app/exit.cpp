@@ -12,8 +12,8 @@
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_windows.h"
-#include "picture/effects.h"
-#include "playback/transport.h"
+#include "picture/effect_context.h"
+#include "playback/run.h"
 #include "sound/sound.h"
 
 namespace app {

@@ -18,7 +18,7 @@
 #include "picture/overlay.h"
 #include "picture/screen.h"
 #include "playback/control_box.h"
-#include "playback/transport.h"
+#include "playback/run.h"
 
 namespace app {
 

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "model/windows/main_window.h"
-#include "playback/transport.h"
 #include "text/numbers.h"
 
 namespace app {

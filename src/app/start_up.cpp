@@ -29,6 +29,7 @@
 #include "playback/control_box.h"
 #include "playback/full_screen.h"
 #include "playback/prepare.h"
+#include "playback/run.h"
 #include "playback/transport.h"
 #include "text/numbers.h"
 #include "text/paths.h"

@@ -8,7 +8,7 @@
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "playback/prepare.h"
-#include "playback/transport.h"
+#include "playback/run.h"
 #include "text/paths.h"
 
 namespace authoring {

@@ -4,13 +4,10 @@
 // replaced.
 #pragma once
 
+#include "document/unread_files.h"
 #include "model/application.h"
 
 namespace document {
-
-/// What was had from a state file. Partly: reading stopped at a fault, at what there is no room
-/// for, or ahead of lines that the form does not have.
-enum class Taken { Nothing, Partly, Whole };
 
 /// autstart.dat: the whole state of the last run, of any age of the file. Missing, unreadable or
 /// failing half-way: silent, and what was read until then is in force. Follows with every menu

@@ -2,9 +2,13 @@
 // not know, and so are never replaced.
 #pragma once
 
-#include "document/state_files.h"
+#include "model/application.h"
 
 namespace document {
+
+/// What was had from a state file. Partly: reading stopped at a fault, at what there is no room
+/// for, or ahead of lines that the form does not have.
+enum class Taken { Nothing, Partly, Whole };
 
 /// Remembers what was had from the file, until the next read of it. Missing and empty files have
 /// nothing to lose.

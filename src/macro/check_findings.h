@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "macro/check.h"
+#include "macro/finding.h"
 #include "macro/keywords.h"
 
 namespace macro {

@@ -2,7 +2,7 @@
 // stands for a fixed time here, so that an effect takes as long on every machine.
 #pragma once
 
-#include "picture/effect_plan.h"
+#include "picture/effect_settings.h"
 
 namespace picture {
 

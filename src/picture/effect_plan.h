@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "picture/effect_settings.h"
 #include "platform/canvas.h"
 #include "platform/imaging.h"
 
@@ -13,16 +14,6 @@ namespace picture {
 /// Effects 0 to 8: from the top, bottom, left, right, centre, outside; horizontal slits, vertical
 /// slits, mosaic.
 constexpr int kEffectCount = 9;
-
-/// What an effect's course depends on, of showing or of erasing.
-struct EffectSettings {
-    int speed = -30;          // -999 slow to 10 fast
-    bool fixedSpeed = false;  // pauses of whole milliseconds instead of those by speed
-    double speedFactor = 2;   // lengthens the pauses by speed
-    int slits = 10;           // 2 to 100
-    int blocks = 10;          // of the mosaic along each side, 5 to 100
-    int mosaicDelay = 0;      // shortens the pauses of the mosaic
-};
 
 /// A canvas of so many lines has pauses of full length; on a taller one they are shorter, so that
 /// an effect takes no longer.

@@ -2,6 +2,7 @@
 
 #include "model/windows/picture_holder.h"
 #include "picture/effect_choice.h"
+#include "picture/effect_context.h"
 #include "picture/effect_run.h"
 #include "picture/overlay.h"
 #include "picture/screen.h"
@@ -89,16 +90,6 @@ void RestartEffects(model::ShowState& state) {
     state.NextShowEffect = 0;
     state.NextEraseEffect = 0;
     state.EraseSkipOnce = 1;
-}
-
-void ReleaseEffectContext(Application& app) {
-    app.state.EffectDc.reset();
-    app.state.EffectDcValid = 0;
-}
-
-void CreateEffectContext(Application& app) {
-    app.state.EffectDc = app.windows.form4.Picture1.Picture();
-    app.state.EffectDcValid = 1;
 }
 
 }  // namespace picture

@@ -24,10 +24,4 @@ void RunEraseEffect(Application& app);
 /// A new full-screen window: sequences of effects begin anew, and the first slide erases nothing.
 void RestartEffects(model::ShowState& state);
 
-/// Gives up the bitmap the effects copy from. Safe when there is none.
-void ReleaseEffectContext(Application& app);
-
-/// Makes the picture of Form4 the bitmap that effects copy from.
-void CreateEffectContext(Application& app);
-
 }  // namespace picture

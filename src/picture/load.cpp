@@ -9,6 +9,7 @@
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "picture/effect_context.h"
 #include "picture/effects.h"
 #include "picture/overlay.h"
 #include "picture/screen.h"

@@ -6,7 +6,7 @@
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_screen.h"
-#include "picture/effects.h"
+#include "picture/effect_context.h"
 #include "picture/screen.h"
 #include "text/numbers.h"
 

@@ -8,13 +8,9 @@
 #include "model/windows/slide_screen.h"
 #include "picture/load.h"
 #include "picture/screen.h"
-#include "playback/full_screen.h"
+#include "playback/go_on.h"
 #include "playback/link_run.h"
-#include "playback/slide_step.h"
-#include "playback/step_sound.h"
-#include "playback/transport.h"
-#include "sound/sound.h"
-#include "text/paths.h"
+#include "playback/run.h"
 
 namespace playback {
 
@@ -22,22 +18,6 @@ namespace {
 
 bool Refused(Application& app) {
     return app.windows.Pointer() != model::kPointerNormal;
-}
-
-void SetRunning(Application& app) {
-    SetButtons(app, Buttons::Running);
-    SetBoxButtons(app, {.close = true, .pause = true});
-}
-
-void CloseShow(Application& app) {
-    model::ShowState& state = app.state;
-    state.ExitToMainOnClose = 1;
-    app.windows.slidescreen.Unload();
-    state.ExitToMainOnClose = 0;
-    SetBoxButtons(app, {});
-    picture::ClearPreview(app);
-    ShowFileEntries(app, true);
-    SetSlideInterval(app);
 }
 
 void Close_Click(Application& app) {
@@ -48,67 +28,29 @@ void Close_Click(Application& app) {
     CloseShow(app);
 }
 
-void StartAtEnd(Application& app) {
-    model::ShowState& state = app.state;
-    if (state.LinkRunning != 1 && state.RepeatFlag == 1) {
-        CloseShow(app);
-        return;
-    }
-    SetRunning(app);
-    if (state.LinkRunning == 1 && state.SlideList(1).empty()) {
-        PassEmptyDocument(app);
-        return;
-    }
-    SkipFirstSyncWait(app);
-    StartShowSound(app);
-    SetSlideInterval(app);
-    app.windows.form1.Timer1.Enabled = true;
-    state.ShowRunning = 1;
-    if (state.LinkRunning != 1) {
-        state.SlideIndex = 1;
-    }
-}
-
 void Start_Click(Application& app) {
     model::ShowState& state = app.state;
     NoteInput(app);
-    if (Refused(app) || state.StepBusy == 1) {
-        return;
-    }
-    if (state.SlideListWindowOpen == 1) {
-        app.platform.dialogs.Message(u"ファイル選択を終了させてから行って下さい。",
-                                     platform::kExclamation, u"ファイル選択");
+    if (Refused(app) || state.StepBusy == 1 || RefusedByListWindow(app)) {
         return;
     }
     ResetRun(app);
     picture::ClearPreview(app);
     state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
     EnableShowMenus(app, false);
-    if (state.SlideList(state.SlideIndex).empty()) {
-        StartAtEnd(app);
-        return;
-    }
-    state.ShowRunning = 1;
-    app.windows.form1.Timer1.Enabled = false;
-    // The step reads START's state: it must know that the show runs forward.
-    SetRunning(app);
-    // Not behind the step, which leaves a shorter one where the next slide follows at once.
-    SetSlideInterval(app);
-    SkipFirstSyncWait(app);
-    if (!RunSlideStep(app)) {
-        return;
-    }
-    if (state.ShowAbort == 1) {
-        state.ShowAbort = 0;
+    const bool atEnd = state.SlideList(state.SlideIndex).empty();
+    if (atEnd && state.LinkRunning != 1 && state.RepeatFlag == 1) {
         CloseShow(app);
         return;
     }
-    // Stopped or paused while the step waited.
-    if (state.StopRequest == 1 || state.ShowRunning == 0) {
-        return;
+    SetBoxButtons(app, {.close = true, .pause = true});
+    if (!atEnd) {
+        StepAndGoOn(app, Cause::Box);
+    } else if (state.LinkRunning == 1 && state.SlideList(1).empty()) {
+        PassEmptyDocument(app);
+    } else {
+        StartByTick(app, state.LinkRunning != 1);
     }
-    StartShowSound(app);
-    Advance(app);
 }
 
 bool HasDocumentBefore(const model::ShowState& state) {
@@ -142,24 +84,13 @@ void Pause_Click(Application& app) {
     FollowPlace(app);
 }
 
-/// Shows slides until one is not passed over by its schedule. `next` moves to a slide, or tells
-/// that there is none.
-template <class Next>
-void StepInBox(Application& app, Next next) {
-    model::ShowState& state = app.state;
+void StepInBox(Application& app, bool (*move)(Application&)) {
     NoteInput(app);
-    if (Refused(app) || state.StepBusy == 1) {
+    if (Refused(app) || app.state.StepBusy == 1) {
         return;
     }
-    while (state.ShowRunning == 0 && next()) {
-        if (!RunStepByHand(app)) {
-            return;
-        }
-        if (state.ScheduleSkipped != 1) {
-            break;
-        }
-    }
-    if (state.StopRequest != 1) {
+    const Outcome outcome = StepByHand(app, [&] { return move(app); });
+    if (outcome != Outcome::Over && app.state.StopRequest != 1) {
         FollowPlace(app);
     }
 }
@@ -183,14 +114,6 @@ bool MoveOn(Application& app) {
     return true;
 }
 
-void Previous_Click(Application& app) {
-    StepInBox(app, [&] { return MoveBack(app); });
-}
-
-void Next_Click(Application& app) {
-    StepInBox(app, [&] { return MoveOn(app); });
-}
-
 void Form_Activate(Application& app) {
     model::Form1& form1 = app.windows.form1;
     SetBoxButtons(app, {.close = form1.Command3.Enabled,
@@ -206,15 +129,6 @@ void Form_Activate(Application& app) {
 void NoteInput(Application& app) {
     app.state.UserInputSeen = 1;
     app.state.EffectStop = 1;
-}
-
-void SetBoxButtons(Application& app, const BoxButtons& buttons) {
-    model::Slidescreen2& box = app.windows.slidescreen2;
-    box.Command1.Enabled = buttons.close;
-    box.Command2.Enabled = buttons.start;
-    box.Command3.Enabled = buttons.pause;
-    box.Command4.Enabled = buttons.previous;
-    box.Command5.Enabled = buttons.next;
 }
 
 void BringUpControlBox(Application& app) {
@@ -238,8 +152,8 @@ void AttachControlBox(Application& app) {
     box.Command1.Click = [&app] { Close_Click(app); };
     box.Command2.Click = [&app] { Start_Click(app); };
     box.Command3.Click = [&app] { Pause_Click(app); };
-    box.Command4.Click = [&app] { Previous_Click(app); };
-    box.Command5.Click = [&app] { Next_Click(app); };
+    box.Command4.Click = [&app] { StepInBox(app, MoveBack); };
+    box.Command5.Click = [&app] { StepInBox(app, MoveOn); };
 }
 
 }  // namespace playback

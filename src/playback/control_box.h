@@ -11,12 +11,6 @@ void AttachControlBox(Application& app);
 /// A click or key of a person on the full screen or the box: an effect in progress is cut short.
 void NoteInput(Application& app);
 
-struct BoxButtons {
-    bool close = false, start = false, pause = false, previous = false, next = false;
-};
-/// Enables exactly the buttons given.
-void SetBoxButtons(Application& app, const BoxButtons& buttons);
-
 /// Shows the box over an open full screen, unless the settings want none.
 void BringUpControlBox(Application& app);
 

@@ -13,18 +13,18 @@
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "picture/effect_context.h"
 #include "picture/effects.h"
 #include "picture/load.h"
 #include "picture/overlay.h"
 #include "picture/screen.h"
 #include "playback/control_box.h"
+#include "playback/go_on.h"
 #include "playback/link_run.h"
 #include "playback/macro_clicks.h"
 #include "playback/prepare.h"
-#include "playback/slide_step.h"
+#include "playback/run.h"
 #include "playback/step_sound.h"
-#include "playback/transport.h"
-#include "sound/sound.h"
 
 namespace playback {
 
@@ -34,12 +34,6 @@ constexpr int kKeyEscape = 27;
 
 bool MacroButtonsUp(const Application& app) {
     return app.state.MacroButtonsShown == 1 || app.windows.slidescreen.Command1.Visible;
-}
-
-void UnloadWithEndMark(Application& app) {
-    app.state.FullScreenEndMark = 1;
-    app.windows.slidescreen.Unload();
-    app.state.FullScreenEndMark = 0;
 }
 
 /// Slide on the screen: a running show's index points at the one behind it.
@@ -105,72 +99,49 @@ bool PrepareStart(Application& app) {
     return true;
 }
 
-/// Runs the first slide. False when the window was unloaded meanwhile.
-bool StartShow(Application& app) {
+void StartShow(Application& app) {
     model::ShowState& state = app.state;
-    const bool empty = state.SlideList(state.SlideIndex).empty();
-    if (empty && state.LinkRunning != 1) {
+    if (!state.SlideList(state.SlideIndex).empty()) {
+        // The canvases take their memory here, while the first picture may still be being decoded.
+        for (const model::PictureBox* layer :
+             {&app.windows.slidescreen.P2, &app.windows.slidescreen.P4}) {
+            layer->canvas.Pixels();
+        }
+        StepAndGoOn(app, Cause::FullScreen);
+    } else if (state.LinkRunning == 1) {
+        PassEmptyDocument(app);
+    } else {
         state.SlideIndex = 0;
         state.ShowRunning = 0;
-        return true;
     }
-    SetButtons(app, Buttons::Running);
-    if (empty) {
-        PassEmptyDocument(app);
-        return true;
-    }
-    SetSlideInterval(app);
-    app.windows.form1.Timer1.Enabled = false;
-    state.ShowRunning = 1;
-    // The canvases take their memory here, while the first picture may still be being decoded.
-    for (const model::PictureBox* layer :
-         {&app.windows.slidescreen.P2, &app.windows.slidescreen.P4}) {
-        layer->canvas.Pixels();
-    }
-    SkipFirstSyncWait(app);
-    StartShowSound(app);
-    if (!RunSlideStep(app)) {
-        return false;
-    }
-    if (state.StopRequest == 1 || state.ShowAbort == 1) {
-        state.ShowAbort = 0;
-        UnloadWithEndMark(app);
-        return false;
-    }
-    if (state.ShowRunning == 0) {
-        return true;  // paused while the step waited
-    }
-    Advance(app);
-    return true;
 }
 
-/// False when the window was unloaded meanwhile.
-bool StartFromIdle(Application& app) {
+void StartFromIdle(Application& app) {
     model::ShowState& state = app.state;
     if (!PrepareStart(app)) {
-        return false;
+        return;
     }
     if (state.ControlBoxFlag == 0) {
         if (!MacroButtonsUp(app)) {
             app.windows.slidescreen2.Caption = u"START";
             app.windows.slidescreen2.Show();
         }
-        // Behind Show: its activation copies the main window's buttons, which are still idle.
+        // Not ahead of Show: its activation copies the main window's buttons, which are still idle.
         SetBoxButtons(app, {.close = true, .start = false, .pause = true});
     }
     state.FullScreenActive = 1;
     state.ShowAbort = 0;
     state.ExitToMainOnClose = 0;
     TakeStartIndex(app);
-    return StartShow(app);
+    StartShow(app);
 }
 
 void Form_Activate(Application& app) {
     model::ShowState& state = app.state;
     app.windows.form1.Hide();
     app.windows.form1.Picture1.AutoRedraw = false;
-    if (state.ShowRunning == 0 && state.SlideIndex == 0 && !StartFromIdle(app)) {
-        return;
+    if (state.ShowRunning == 0 && state.SlideIndex == 0) {
+        StartFromIdle(app);
     }
     if (!MacroButtonsUp(app)) {
         BringUpControlBox(app);
@@ -207,20 +178,10 @@ void EndShowOnUnload(Application& app) {
     model::ShowState& state = app.state;
     state.FullScreenClosedByUser = 1;
     state.LinkRunning = 0;
-    state.StopRequest = 1;
-    state.StepBusy = 0;
-    state.MacroWaitClick = 0;
-    state.MacroDelayWaiting = 0;
-    state.StartLatch = 0;
     state.LinkIndex = 0;
-    ClearRun(app);
-    ShowFileEntries(app, true);
-    EnableShowMenus(app, true);
-    SetButtons(app, Buttons::Idle);
+    EndRun(app);
     state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
-    sound::RestoreCaption(app);
-    sound::StopCd(app);
-    sound::StopSound(app);
+    StopShowSound(app);
 }
 
 void ShowCaller(Application& app) {
@@ -336,36 +297,9 @@ void FollowMonitors(Application& app) {
     }
 }
 
-void TakeResumeIndex(Application& app) {
-    model::ShowState& state = app.state;
-    if (state.StartOption != 1) {
-        return;
-    }
-    // A first slide that left the list leaves -1 behind.
-    state.SlideIndex = std::max<int16_t>(0, state.ResumeIndex);
-    if (state.SlideList(state.SlideIndex + 1).empty() && state.SlideIndex > 0) {
-        state.SlideIndex = 0;
-    }
-}
-
-void TakeStartIndex(Application& app) {
-    model::ShowState& state = app.state;
-    if (state.JumpRequested == 1) {
-        state.SlideIndex = static_cast<int16_t>(state.JumpTarget + 1);
-        state.JumpRequested = 0;
-    } else {
-        state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
-    }
-}
-
 void Command4_Click(Application& app) {
     model::ShowState& state = app.state;
-    if (state.MacroWaitClick == 1 || state.StepBusy == 1) {
-        return;
-    }
-    if (state.SlideListWindowOpen == 1) {
-        app.platform.dialogs.Message(u"ファイル選択を終了させてから行って下さい。",
-                                     platform::kExclamation, u"ファイル選択");
+    if (state.MacroWaitClick == 1 || state.StepBusy == 1 || RefusedByListWindow(app)) {
         return;
     }
     ShowFileEntries(app, false);

@@ -18,10 +18,4 @@ void FollowMonitors(Application& app);
 /// The full-screen button.
 void Command4_Click(Application& app);
 
-/// With StartOption 1: SlideIndex becomes ResumeIndex, or 0 where no slide follows it.
-void TakeResumeIndex(Application& app);
-
-/// SlideIndex becomes that of a requested jump (which is then used up), else goes up by 1.
-void TakeStartIndex(Application& app);
-
 }  // namespace playback

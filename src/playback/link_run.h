@@ -1,20 +1,24 @@
-// From show to show: the run over a link list.
+// From show to show: reading the documents of a link list.
 #pragma once
 
 #include "model/application.h"
 
 namespace playback {
 
+/// What became of the next document.
+enum class Loading {
+    Loaded,   // SlideIndex 0, nothing runs
+    Empty,    // the same, and it has no slides
+    Nothing,  // there is none: the list is at its end, or a whole round brought no slide
+    Refused,  // told, and the full screen is unloaded
+};
+
 /// Begins a run with the first document that can be opened. False when there is none, or when one
 /// was refused: the full screen is unloaded then.
 bool LoadFirstDocument(Application& app);
 
-/// The document on hand has no slide: the show runs, and is over at the next tick after 1 ms.
-void PassEmptyDocument(Application& app);
-
-/// At the end of a document's slides: goes on with the next one. False when there is none: the list
-/// is at its end, or a whole round over it brought no slide.
-bool ContinueLinkRun(Application& app);
+/// Goes on to the next document that can be opened, round the list where it repeats.
+Loading LoadNextDocument(Application& app);
 
 /// A step by hand over the border of a document, back (-1) or on (1): reads the nearest one that
 /// has slides and sets SlideIndex to its last or first. False when nothing can be shown there: no

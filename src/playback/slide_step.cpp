@@ -5,18 +5,19 @@
 #include "document/linked_names.h"
 #include "macro/macro.h"
 #include "macro/telop.h"
-#include "model/menu.h"
 #include "model/picture_controls.h"
 #include "model/windows/control_box.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_screen.h"
+#include "picture/effect_context.h"
 #include "picture/effects.h"
 #include "picture/load.h"
 #include "picture/overlay.h"
 #include "picture/screen.h"
 #include "picture/video_window.h"
 #include "playback/prepare.h"
+#include "playback/run.h"
 #include "playback/schedule.h"
 #include "playback/step_sound.h"
 #include "text/numbers.h"
@@ -47,13 +48,6 @@ constexpr int kAfterVideoTickMs = 100;
 constexpr int kTelopPollMs = 10;
 constexpr int16_t kEffectSpeedTrimInStep = 4;
 
-/// Outcome of a part of the step.
-enum class Next {
-    GoOn,
-    End,    // leave by way of the exit, which clears StepBusy
-    Leave,  // leave at once
-};
-
 void SkipBySchedule(Application& app) {
     app.windows.form1.Timer1.Interval = kSkippedTickMs;
     app.state.ScheduleSkipped = 1;
@@ -62,15 +56,15 @@ void SkipBySchedule(Application& app) {
 }
 
 /// In a running show the next slide never comes before a scrolling text has run out, unless a jump
-/// was chosen.
-Next WaitForTelop(Application& app) {
+/// was chosen. False when the show was paused or ended meanwhile.
+bool WaitForTelop(Application& app) {
     model::ShowState& state = app.state;
     if (state.TelopRunning != 1) {
-        return Next::GoOn;
+        return true;
     }
     if (state.MacroJumpChosen == 1 || !RunsForward(app)) {
         macro::CancelTelop(app);
-        return Next::GoOn;
+        return true;
     }
     const WaitMark mark(state);
     app.windows.SetPointer(model::kPointerNormal);  // START's would keep PAUSE out
@@ -78,16 +72,15 @@ Next WaitForTelop(Application& app) {
         app.platform.loop.PumpEvents();
         app.platform.loop.Sleep(kTelopPollMs);
         if (model::StepOutlived(state)) {
-            return Next::Leave;
+            return false;
         }
         if (!RunsForward(app)) {
-            state.StepBusy = 0;
             app.windows.form1.Timer4.Enabled = false;
             state.TelopRunning = 0;
-            return Next::Leave;
+            return false;
         }
     }
-    return Next::GoOn;
+    return true;
 }
 
 /// Nothing prevents the same slide twice in a row.
@@ -103,24 +96,14 @@ void DrawRandomSlide(Application& app) {
 }
 
 void EndVideoByUser(Application& app) {
-    model::ShowState& state = app.state;
-    model::Windows& windows = app.windows;
-    if (state.FullScreenActive == 1) {
-        state.ExitToMainOnClose = 1;
-        windows.slidescreen.Unload();
-        state.ExitToMainOnClose = 0;
-        picture::ClearPreview(app);
-        for (model::MenuEntry* entry : {&windows.form1.mnuNEW, &windows.form1.mnuOPEN,
-                                        &windows.form1.mnuSAVE, &windows.form1.mnuHAIHU}) {
-            entry->Visible = true;
-        }
+    if (app.state.FullScreenActive == 1) {
+        CloseFullScreen(app);
     } else {
-        state.ShowAbort = 1;
+        app.state.ShowAbort = 1;
     }
 }
 
-/// StepBusy stays 1 until the next step ends: this holds back PAUSE for the short tick.
-Next ShowVideo(Application& app) {
+void ShowVideo(Application& app) {
     model::ShowState& state = app.state;
     model::Windows& windows = app.windows;
     const Text path = state.SlideList(state.SlideIndex);
@@ -129,7 +112,7 @@ Next ShowVideo(Application& app) {
         app.platform.dialogs.Message(path + u"\r\n動画ファイルの再生が停止されました。",
                                      platform::kExclamation, u"動画ファイル再生停止");
         windows.form1.Timer1.Interval = kMissingVideoTickMs;
-        return Next::Leave;
+        return;
     }
     state.CurrentName = text::BareName(path);
     windows.slidescreen2.Caption = state.CurrentName;
@@ -139,7 +122,7 @@ Next ShowVideo(Application& app) {
     PrepareAround(app, state.SlideIndex);
     picture::PlayVideo(app, path);
     if (model::StepOutlived(state)) {
-        return Next::Leave;
+        return;
     }
     state.LastWasVideo = 1;
     if (state.VideoStoppedByUser == 1 && state.MacroWaitClick != 1) {
@@ -147,7 +130,6 @@ Next ShowVideo(Application& app) {
     }
     windows.SetPointer(model::kPointerNormal);
     windows.form1.Timer1.Interval = kAfterVideoTickMs;
-    return Next::Leave;
 }
 
 /// Takes the previous slide's text off the layered canvas, brings the picture in.
@@ -205,7 +187,7 @@ void TraceSlide(Application& app) {
                                        {"height", double(picture.ScaleHeight())}});
 }
 
-Next ShowPicture(Application& app) {
+void ShowPicture(Application& app) {
     model::ShowState& state = app.state;
     PollCd(app);
     // The load mode is only carried: every step puts it back before the load.
@@ -216,14 +198,14 @@ Next ShowPicture(Application& app) {
     state.LastWasVideo = 0;
     if (!loaded) {
         picture::HandleLoadFailure(app);
-        return Next::End;
+        return;
     }
     RestartBackgroundSound(app);
     if (state.FullScreenActive == 1) {
         ShowInFullScreen(app);
     }
     if (model::StepOutlived(state)) {
-        return Next::Leave;
+        return;
     }
     state.ResetScreenOnce = 0;
     app.windows.SetPointer(model::kPointerNormal);
@@ -235,15 +217,8 @@ Next ShowPicture(Application& app) {
     if (state.LinkedSoundPosition == 1) {
         macro::RunTextMacro(app);
     }
-    if (model::StepOutlived(state)) {
-        return Next::Leave;
-    }
-    if (state.StopRequest == 1) {
-        app.windows.SetPointer(model::kPointerNormal);
-        return Next::End;
-    }
-    if (state.MacroEndShow == 1) {
-        return Next::End;
+    if (model::StepOutlived(state) || state.StopRequest == 1 || state.MacroEndShow == 1) {
+        return;
     }
     StartLinkedSounds(app);
     if (state.LinkedSoundPosition == 0) {
@@ -251,7 +226,6 @@ Next ShowPicture(Application& app) {
     }
     // A macro may have set another size, or jumped.
     PrepareAround(app, state.SlideIndex);
-    return Next::End;
 }
 
 void TakeEffectSpeed(model::ShowState& state) {
@@ -260,59 +234,72 @@ void TakeEffectSpeed(model::ShowState& state) {
     state.EffectSpeedFactor = text::Int((3 - state.EffectSpeedTrim / 4.0) * 10) / 10;
 }
 
-Next ShowEntry(Application& app) {
+/// True for a film, which leaves StepBusy at 1 until the next step ends: this holds back PAUSE for
+/// the short tick.
+bool ShowEntry(Application& app) {
     model::ShowState& state = app.state;
     macro::ClearMacroObjects(app);
     state.StepBusy = 1;
     state.ResumeIndex = state.SlideIndex;
     if (state.StopRequest == 1) {
-        return Next::End;
+        return false;
     }
     state.ShowAbort = 0;
     // A full screen that was closed before this step is no reason for its waits to give up.
     state.FullScreenClosed = 0;
     TakeEffectSpeed(state);
     if (!WaitForLinkedSound(app)) {
-        return Next::End;
+        return false;
     }
     state.SkipSyncWaitOnce = 0;
-    if (const Next next = WaitForTelop(app); next != Next::GoOn) {
-        return next;
+    if (!WaitForTelop(app)) {
+        return false;
     }
     DrawRandomSlide(app);
     const Text path = state.SlideList(state.SlideIndex);
     if (path.empty()) {
-        return Next::End;
+        return false;
     }
     const bool isVideo = text::IsVideoKind(path);
     state.LinkedMediaPath = document::LinkedName(app, path, u"mp3");
     if (!FadeBeforeLinkedMedia(app, isVideo)) {
-        return Next::End;
+        return false;
     }
-    return isVideo ? ShowVideo(app) : ShowPicture(app);
+    if (isVideo) {
+        ShowVideo(app);
+    } else {
+        ShowPicture(app);
+    }
+    return isVideo;
 }
 
 }  // namespace
 
-bool RunSlideStep(Application& app) {
+Outcome RunSlideStep(Application& app) {
     model::ShowState& state = app.state;
     const StepMark mark(state);
+    const bool ran = state.ShowRunning == 1;
     if (state.ShowDateText.empty() || state.SlideIndex == 1) {
         TakeShowDate(app);
     }
     if (IsOutOfSchedule(state, state.SlideIndex)) {
         SkipBySchedule(app);
-        return true;
+        return Outcome::Skipped;
     }
-    const Next next = ShowEntry(app);
+    const bool film = ShowEntry(app);
     if (model::StepOutlived(state)) {
-        app.windows.SetPointer(model::kPointerNormal);  // no step that is not over is left
-        return false;
+        return Outcome::Over;
     }
-    if (next == Next::End) {
+    if (!film) {
         state.StepBusy = 0;
     }
-    return true;
+    if (state.StopRequest == 1) {
+        return Outcome::Stopped;
+    }
+    if (state.ShowAbort == 1) {
+        return Outcome::Aborted;
+    }
+    return ran && state.ShowRunning == 0 ? Outcome::Paused : Outcome::Done;
 }
 
 }  // namespace playback

@@ -11,7 +11,7 @@
 #include "adapters/tracing/traced_system.h"
 #include "adapters/tracing/window_tracer.h"
 #include "app/exit.h"
-#include "playback/transport.h"
+#include "playback/run.h"
 #include "programs/program.h"
 #ifdef PARAPICO_HAS_CD
 #include "adapters/cdio/cdio_disc.h"

@@ -9,7 +9,6 @@
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_windows.h"
 #include "model/windows/video_window.h"
-#include "sound/volume.h"
 #include "text/numbers.h"
 
 namespace sound {

@@ -6,6 +6,8 @@
 
 namespace sound {
 
+constexpr int kFullVolume = 1000;
+
 /// Path of the sound that is common to all pictures.
 Text CommonSound(const model::ShowState& state);
 

@@ -3,7 +3,7 @@
 
 #include "app/keep_awake.h"
 #include "model/windows/slide_screen.h"
-#include "playback/transport.h"
+#include "playback/run.h"
 #include "support/fake_platform.h"
 
 namespace app_tests {

@@ -8,6 +8,7 @@
 #include "model/menu.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
+#include "playback/run.h"
 #include "playback/transport.h"
 
 namespace app_tests {

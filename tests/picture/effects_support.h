@@ -8,6 +8,7 @@
 #include "model/picture_controls.h"
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_screen.h"
+#include "picture/effect_context.h"
 #include "picture/effect_plan.h"
 #include "picture/effects.h"
 #include "picture/screen.h"

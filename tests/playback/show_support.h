@@ -14,6 +14,7 @@
 #include "picture/video_window.h"
 #include "playback/control_box.h"
 #include "playback/full_screen.h"
+#include "playback/run.h"
 #include "playback/slide_step.h"
 #include "playback/transport.h"
 #include "support/fake_platform.h"
