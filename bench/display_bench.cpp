@@ -126,11 +126,6 @@ private:
     double woke_ = 0;
 };
 
-class NoTrace : public platform::Trace {
-public:
-    void Event(std::string_view, std::initializer_list<platform::TraceField>) override {}
-};
-
 double At(std::vector<double> values, double share) {
     std::sort(values.begin(), values.end());
     return values.empty() ? 0 : values[static_cast<size_t>(share * double(values.size() - 1))];
@@ -231,13 +226,12 @@ int main(int argc, char** argv) {
         return 1;
     }
     qt_adapter::Desktop desktop(argc, argv, {});
-    NoTrace trace;
     commands::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     imaging::QtImaging imaging(rest.files);
     WatchedLoop loop(desktop.Loop());
     Application app({loop, rest.files, rest.dialogs, desktop.Monitors(), imaging,
-                     desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,
+                     desktop.TextRenderer(), rest.sound, rest.video, rest.system, rest.trace,
                      rest.codePage, rest.folders});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();

@@ -34,20 +34,6 @@ double Seconds(const std::function<void()>& work) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// A loop without events, for the logic alone.
-class BareLoop : public platform::EventLoop {
-public:
-    void PumpEvents() override {}
-    void Sleep(int) override {}
-    double Timer() override { return 0; }
-    platform::DateTime Now() override { return {}; }
-    double Milliseconds() override { return 0; }
-    double Rnd() override { return 0; }
-    void SetTimer(const void*, int, std::function<void()>) override {}
-    void CancelTimer(const void*) override {}
-    void RunUntil(const std::function<bool()>&) override {}
-};
-
 std::shared_ptr<platform::Bitmap> Speckled(const platform::Size& size) {
     auto bitmap = std::make_shared<platform::Bitmap>(size.width, size.height);
     for (size_t i = 0; i < bitmap->pixels.size(); ++i) {
@@ -130,8 +116,7 @@ int main(int argc, char** argv) {
         Prepare(*app);
         return app;
     };
-    BareLoop bare;
-    const auto alone = make(bare);
+    const auto alone = make(rest.loop);  // without events
     const auto shown = make(desktop.Loop());
     desktop.MakeViews(shown->windows);
     shown->windows.slidescreen.Show();

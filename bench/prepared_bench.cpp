@@ -40,11 +40,6 @@ double Median(std::vector<double> values) {
     return values[kRounds / 2];
 }
 
-class NoTrace : public platform::Trace {
-public:
-    void Event(std::string_view, std::initializer_list<platform::TraceField>) override {}
-};
-
 /// A show of two slides stands in full screen, as if it ran.
 void SetUpShow(Application& app, const std::vector<Text>& paths) {
     model::ShowState& state = app.state;
@@ -77,9 +72,8 @@ double Measure(qt_adapter::Desktop& desktop, platform::Files& files, bool prepar
     commands::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     imaging::QtImaging imaging(files, prepares);
-    NoTrace trace;
     Application app({desktop.Loop(), files, rest.dialogs, desktop.Monitors(), imaging,
-                     desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,
+                     desktop.TextRenderer(), rest.sound, rest.video, rest.system, rest.trace,
                      rest.codePage, rest.folders});
     SetUpShow(app, paths);
     desktop.MakeViews(app.windows);

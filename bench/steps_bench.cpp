@@ -8,18 +8,18 @@
 
 #include "../tests/support/fake_platform.h"
 #include "adapters/posix/iconv_code_page.h"
-#include "adapters/virtual/no_video.h"
+#include "adapters/virtual/silent_devices.h"
 #include "adapters/virtual/virtual_dialogs.h"
 #include "adapters/virtual/virtual_loop.h"
 #include "adapters/virtual/virtual_monitors.h"
 #include "adapters/virtual/virtual_sound.h"
+#include "adapters/virtual/virtual_video.h"
 #include "app/timers.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
 #include "playback/run.h"
 #include "playback/transport.h"
-#include "text/paths.h"
 
 namespace {
 
@@ -28,22 +28,8 @@ constexpr int kWarmUp = 10'000;
 constexpr int kSlides = 12;
 constexpr double kAllowedGrowthBytes = 64 * 1024;
 
-/// Every file is there and nobody writes.
-class AnyFiles : public platform::Files {
-public:
-    std::optional<std::string> Find(TextView path) override { return text::ToUtf8(path); }
-    std::string NativeTarget(TextView path) override { return text::ToUtf8(path); }
-    Text Dir(TextView path) override { return text::BareName(path); }
-    bool Exists(TextView) override { return true; }
-    bool Read(TextView, std::string&, platform::FileError&, size_t) override { return false; }
-    bool Write(TextView, std::string_view, platform::FileError&) override { return false; }
-    bool SetAside(TextView, TextView, Text&, platform::FileError&) override { return false; }
-    int Readable(TextView) override { return 1; }
-    std::optional<platform::DateTime> LastWrite(TextView) override { return platform::DateTime{1}; }
-};
-
 /// Holds a picture of 1600 × 900 and scales by handing out a new one.
-class PlainControl : public platform::ImagingControl {
+class PlainControl : public virtual_adapter::BlindControl {
 public:
     bool ReadInformation(TextView) override { return true; }
     bool Load(TextView, const platform::FitFunction& fit) override {
@@ -54,16 +40,8 @@ public:
     bool Holds() const override { return !size_.Empty(); }
     platform::Size HeldSize() const override { return size_; }
     int BitsPerPixel() const override { return 24; }
-    void SetColorResolution(int, int, int, int) override {}
     void Resize(int width, int height, int) override { size_ = {width, height}; }
     void ResizeTo(platform::Size size, platform::Size) override { size_ = size; }
-    void GrayScale() override {}
-    void Reverse() override {}
-    void Mosaic(int) override {}
-    void Flip() override {}
-    void Invert() override {}
-    void EdgeFilter(int) override {}
-    void Emboss(int, int) override {}
     platform::BitmapPtr Picture() override {
         return std::make_shared<platform::Bitmap>(size_.width / 8, size_.height / 8);
     }
@@ -74,32 +52,11 @@ private:
     platform::Size size_;
 };
 
-class PlainImaging : public platform::Imaging {
+class PlainImaging : public virtual_adapter::BlindImaging {
 public:
-    Text VersionText() const override { return u"1997"; }
     std::unique_ptr<platform::ImagingControl> MakeControl() override {
         return std::make_unique<PlainControl>();
     }
-    void Prepare(const std::vector<platform::Wanted>&) override {}
-};
-
-class NoText : public platform::TextRenderer {
-public:
-    Extent Measure(const platform::Font&, TextView) override { return {}; }
-    void Draw(platform::Canvas&, int, int, const platform::Font&, platform::Color,
-              TextView) override {}
-    void DrawTurned(platform::Canvas&, int, int, const platform::Font&, const platform::Turn&,
-                    platform::Color, TextView, std::span<const platform::Offset>) override {}
-};
-
-class NoSystem : public platform::System {
-public:
-    Text AppFolder() override { return u"/app/"; }
-    bool PreviousInstance() override { return false; }
-    bool Shell(TextView, TextView) override { return false; }
-    bool FindsProgram(TextView, TextView) override { return false; }
-    void ForgetShow() override {}
-    bool OpenText(TextView) override { return false; }
 };
 
 /// Counts the slides that came up.
@@ -111,9 +68,10 @@ public:
     }
 };
 
-void FillList(Application& app) {
+void FillList(Application& app, fakes::FakeFiles& files) {
     for (int i = 1; i <= kSlides; ++i) {
         const Text path = u"/show/" + text::FromUtf8(std::to_string(i)) + u".jpg";
+        files.Put(path, "");
         app.windows.form3.List1.AddItem(path);
         app.windows.form3.List2.AddItem(model::BlankScheduleRow());
         app.state.SlideList.Set(i, path);
@@ -129,30 +87,34 @@ double HeapBytes() {
 
 int main() {
     SlideCount trace;
-    virtual_adapter::VirtualLoop loop(platform::FromCalendar({2026, 1, 1, 12, 0, 0}));
-    AnyFiles files;
+    virtual_adapter::VirtualLoop loop;
+    fakes::FakeFiles files;
     virtual_adapter::VirtualDialogs dialogs(trace);
-    virtual_adapter::VirtualMonitors monitors({});
+    virtual_adapter::VirtualMonitors monitors;
     PlainImaging imaging;
-    NoText text;
-    virtual_adapter::VirtualSound sound(trace, loop);
-    virtual_adapter::NoVideo video;
-    NoSystem system;
-    fakes::FakeFiles noFiles;
-    fakes::FakeFolders folders(noFiles);
+    virtual_adapter::NoText text;
+    virtual_adapter::VirtualSound sound(loop);
+    virtual_adapter::VirtualVideo video(trace, loop);
+    fakes::FakeSystem system;
+    fakes::FakeFolders folders(files);
     posix_adapter::IconvCodePage codePage;
     Application app({loop, files, dialogs, monitors, imaging, text, sound, video, system, trace,
                      codePage, folders});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);
-    FillList(app);
+    FillList(app, files);
     app::TimerRunner timers(app);
     playback::AttachTransport(app);
     playback::SetButtons(app, playback::Buttons::Idle);
     app.windows.form1.Command1.Click();
 
-    const auto runTo = [&](int steps) { loop.RunUntil([&] { return trace.slides >= steps; }); };
+    const auto runTo = [&](int steps) {
+        loop.RunUntil([&] {
+            files.read.clear();  // the record of the stand-in is no growth of the program
+            return trace.slides >= steps;
+        });
+    };
     runTo(kWarmUp);
     const double before = HeapBytes();
     const auto start = std::chrono::steady_clock::now();

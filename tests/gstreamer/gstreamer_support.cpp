@@ -47,19 +47,10 @@ std::string SampleBytes(float sample, int bits) {
 }  // namespace
 
 void RealLoop::PumpEvents() {
-    QCoreApplication::processEvents();
+    QtLoop::PumpEvents();
     if (onPump) {
         onPump();
     }
-}
-
-void RealLoop::Sleep(int milliseconds) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
-}
-
-double RealLoop::Milliseconds() {
-    static const Clock::time_point start = Clock::now();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
 bool Eventually(const std::function<bool()>& condition) {

@@ -13,25 +13,22 @@
 #include "adapters/gstreamer/audio_output.h"
 #include "adapters/gstreamer/gst_sound.h"
 #include "adapters/posix/posix_files.h"
-#include "platform/event_loop.h"
+#include "adapters/qt/gate.h"
+#include "adapters/qt/qt_loop.h"
 #include "posix/temporary_folder.h"
 
 namespace gst_tests {
 
-/// Real time; a pump runs what was posted, and `onPump`.
-class RealLoop : public platform::EventLoop {
-public:
-    std::function<void()> onPump;
+struct GateOfLoop {
+    qt_adapter::Gate gate;
+};
 
+/// The desktop's loop, with a hook in its pumps.
+class RealLoop : private GateOfLoop, public qt_adapter::QtLoop {
+public:
+    RealLoop() : QtLoop(gate) {}
+    std::function<void()> onPump;
     void PumpEvents() override;
-    void Sleep(int milliseconds) override;
-    double Timer() override { return 0; }
-    platform::DateTime Now() override { return {}; }
-    double Milliseconds() override;
-    double Rnd() override { return 0; }
-    void SetTimer(const void*, int, std::function<void()>) override {}
-    void CancelTimer(const void*) override {}
-    void RunUntil(const std::function<bool()>&) override {}
 };
 
 /// Guards against hangs only: far above what any machine takes, and above the time after which

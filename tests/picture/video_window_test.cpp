@@ -55,7 +55,7 @@ TEST(VideoWindow, PlaysToItsEndAndGoes) {
 
 TEST(VideoWindow, WaitsForASlowStart) {
     Cinema cinema;
-    cinema.video.loadingMs = 3000;
+    cinema.video.film.loadingMs = 3000;
     EXPECT_EQ(cinema.Play(), 5000);
     EXPECT_TRUE(cinema.dialogs.messages.empty());
 }
@@ -71,7 +71,7 @@ TEST(VideoWindow, EveryEndOfThePlayerClosesIt) {
 
 TEST(VideoWindow, AFileThatDoesNotPlayIsToldAndEndsTheShow) {
     Cinema cinema;
-    cinema.video.milliseconds = 0;
+    cinema.video.film.milliseconds = 0;
     EXPECT_EQ(cinema.Play(), 100);
     ASSERT_EQ(cinema.dialogs.messages.size(), 1u);
     EXPECT_EQ(cinema.dialogs.messages[0].text,
@@ -84,7 +84,7 @@ TEST(VideoWindow, AFileThatDoesNotPlayIsToldAndEndsTheShow) {
 
 TEST(VideoWindow, TheFailureIsToldOnceHoweverLongItsBoxStands) {
     Cinema cinema;
-    cinema.video.milliseconds = 0;
+    cinema.video.film.milliseconds = 0;
     cinema.dialogs.whileOpen = [&](const auto&) { cinema.loop.Run(5000); };
     EXPECT_EQ(cinema.Play(), 5100);
     EXPECT_EQ(cinema.dialogs.messages.size(), 1u);
@@ -136,7 +136,7 @@ TEST(VideoWindow, StandsInTheMiddleOfTheMonitorInUse) {
     Cinema cinema;
     cinema.monitors.monitors = {{0, 0, 1920, 1080}, {1920, 100, 1280, 1024}};
     cinema.monitors.ofMainWindow = 1;
-    cinema.video.natural = {800, 600};
+    cinema.video.film.natural = {800, 600};
     cinema.Play();
     EXPECT_EQ(cinema.form24.Left(), (1920 + (1280 - 800) / 2) * 15);
     EXPECT_EQ(cinema.form24.Top(), (100 + (1024 - 600) / 2) * 15);
@@ -150,7 +150,7 @@ TEST(VideoWindow, InFullScreenASlideCoversTheMonitorOfTheShow) {
     cinema.monitors.monitors = {{0, 0, 1920, 1080}, {1920, 100, 1280, 1024}};
     cinema.state.FullScreenActive = 1;
     cinema.state.MonitorIndex = 1;
-    cinema.video.natural = {800, 600};
+    cinema.video.film.natural = {800, 600};
     cinema.Play();
     EXPECT_EQ(cinema.form24.Left(), 1920 * 15);
     EXPECT_EQ(cinema.form24.Top(), 100 * 15);
@@ -166,7 +166,7 @@ TEST(VideoWindow, AFilmThatKeepsItsSizeStandsOnBlack) {
     Cinema cinema;
     cinema.monitors.monitors = {{0, 0, 1920, 1080}};
     cinema.state.FullScreenActive = 1;
-    cinema.video.natural = {800, 600};
+    cinema.video.film.natural = {800, 600};
     for (const bool keeps : {true, false}) {
         cinema.app.platform.settings.filmsKeepTheirSize = keeps;
         cinema.Play();
@@ -179,8 +179,8 @@ TEST(VideoWindow, AFilmThatKeepsItsSizeStandsOnBlack) {
 TEST(VideoWindow, ASizeThatIsKnownLateIsTakenAtTheNextPoll) {
     Cinema cinema;
     cinema.monitors.monitors = {{0, 0, 1920, 1080}};
-    cinema.video.natural = {800, 600};
-    cinema.video.sizeKnownAfter = 350;
+    cinema.video.film.natural = {800, 600};
+    cinema.video.film.sizeKnownAfter = 350;
     std::vector<int> widths;
     for (const double moment : {10, 399, 401}) {
         cinema.loop.At(moment, [&] { widths.push_back(cinema.form24.Width() / 15); });
@@ -195,7 +195,7 @@ TEST(VideoWindow, FilmsBesideASlideLeaveHalfTheMonitor) {
         Cinema cinema;
         cinema.monitors.monitors = {{0, 0, 1920, 1080}};
         cinema.state.FullScreenActive = 1;
-        cinema.video.natural = {1920, 1080};
+        cinema.video.film.natural = {1920, 1080};
         if (macro) {
             picture::ShowMacroMovie(cinema.app, u"C:\\v\\m.mp4", 2);
         } else {

@@ -76,11 +76,11 @@ public:
             PutLinked(u"C:\\pic\\" + Text(name));
         }
         sound.answer = [this](TextView command) { return Answer(Text(command)); };
-        loop.onPump = [this] {
+        loop.SetTimer(&besideFilm, 100, [this] {
             if (windows.form24.Visible) {
                 besideFilm = Heard();
             }
-        };
+        });
     }
     void SetList(const Texts& list) {
         state.SoundListCount = static_cast<int16_t>(list.size());

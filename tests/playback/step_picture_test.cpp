@@ -327,7 +327,7 @@ TEST(StepVideo, PlaysForItsLengthAndTheNextSlideFollows) {
     show.AddSlide(u"C:\\pic\\a.mp4");
     show.files.Put(u"C:\\pic\\a.mp4", "film");
     show.AddPicture();
-    show.video.milliseconds = 4000;
+    show.video.film.milliseconds = 4000;
     show.Start();
     show.loop.Run(7099);
     EXPECT_EQ(show.Shown(), Numbers{1});
@@ -367,7 +367,7 @@ TEST(StepVideo, AMacroThatWaitsKeepsTheShowBehindAStoppedVideo) {
     show.AddSlide(u"C:\\pic\\a.mp4");
     show.files.Put(u"C:\\pic\\a.mp4", "film");
     show.state.MacroWaitClick = 1;
-    show.video.milliseconds = 0;
+    show.video.film.milliseconds = 0;
     show.Step(1);
     EXPECT_EQ(show.state.VideoStoppedByUser, 1);
     EXPECT_EQ(show.state.ShowAbort, 0);

@@ -12,23 +12,20 @@
 #include "adapters/qt/desktop.h"
 #include "model/windows.h"
 #include "model/windows/video_window.h"
+#include "support/fake_platform.h"
 
 namespace {
 
 /// One picture of one colour.
-class StillVideo : public platform::Video {
+class StillVideo : public fakes::FakeVideo {
 public:
+    using FakeVideo::FakeVideo;
     platform::Size natural{64, 64};
     std::vector<uint32_t> pixels = std::vector<uint32_t>(32 * 64, 0x0012C834);  // 32 x 64 of it
     bool shows = true;
 
-    void SetUrl(TextView) override {}
-    void Play() override {}
-    void SetLoop(bool) override {}
-    void Close() override {}
     platform::VideoState Status() override { return platform::VideoState::Playing; }
     platform::Size NaturalSize() override { return natural; }
-    void AwaitSize(int) override {}
     void SetRoom(platform::Size size) override { room = size; }
     platform::Size room;
     platform::VideoFrame Frame() override {
@@ -42,7 +39,8 @@ public:
 struct VideoView : testing::Test {
     int argc = 0;
     qt_adapter::Desktop desktop{argc, nullptr, {true, {}}};
-    StillVideo video;
+    fakes::FakePlatform around;
+    StillVideo video{around.noTrace, around.loop};
     model::Windows windows;
 
     void SetUp() override { desktop.MakeViews(windows, &video); }

@@ -20,6 +20,7 @@ TEST(RobotArguments, DefaultsWithAScriptAlone) {
     EXPECT_EQ(options->seed, 1u);
     EXPECT_EQ(platform::DateTimeText(options->now), u"2026/01/01 12:00:00");
     EXPECT_EQ(options->screens, (std::vector<platform::Rect>{{0, 0, 1920, 1080}}));
+    EXPECT_TRUE(options->cd.empty());
     EXPECT_FALSE(options->title);
     EXPECT_TRUE(options->prepare);
     EXPECT_EQ(options->document, "");
@@ -27,11 +28,11 @@ TEST(RobotArguments, DefaultsWithAScriptAlone) {
 
 TEST(RobotArguments, EveryOptionInAnyOrder) {
     std::string error;
-    const auto options =
-        ParseRobotArguments({"旅.kvs", "--title", "--screen", "1280x720,800x600", "--now",
-                             "2024-02-29 23:59:58", "--seed", "42", "--app-folder", "app",
-                             "--trace", "-", "--prepare", "off", "--robot", "a.robot"},
-                            error);
+    const auto options = ParseRobotArguments(
+        {"旅.kvs", "--title", "--screen", "1280x720,800x600", "--now", "2024-02-29 23:59:58",
+         "--seed", "42", "--app-folder", "app", "--trace", "-", "--prepare", "off", "--cd",
+         "0:01,3:59,99:00", "--robot", "a.robot"},
+        error);
     ASSERT_TRUE(options) << error;
     EXPECT_EQ(options->document, "旅.kvs");
     EXPECT_TRUE(options->title);
@@ -41,6 +42,7 @@ TEST(RobotArguments, EveryOptionInAnyOrder) {
     EXPECT_EQ(options->seed, 42u);
     EXPECT_EQ(options->appFolder, "app");
     EXPECT_EQ(options->trace, "-");
+    EXPECT_EQ(options->cd, (std::vector<int>{1, 239, 5940}));
     EXPECT_FALSE(options->prepare);
 }
 
@@ -62,6 +64,16 @@ TEST(RobotArguments, WrongUsageIsTold) {
     for (const char* value : {"", "1920", "1920x", "0x100", "100x-1", "100x100,", "40000x100",
                               "1920X1080", "1920x1080x2"}) {
         EXPECT_NE(Refusal({"--robot", "a", "--screen", value}), "accepted") << value;
+    }
+    std::string hundred;
+    for (int track = 0; track < 100; ++track) {
+        hundred += track > 0 ? ",1:00" : "1:00";
+    }
+    EXPECT_EQ(Refusal({"--robot", "a", "--cd", hundred.substr(5)}), "accepted");
+    for (const std::string& value :
+         std::vector<std::string>{"", "60", "0:00", "1:60", "1:5", "1:005", "-1:00", "100:00",
+                                  "1:00,", ",1:00", hundred}) {
+        EXPECT_NE(Refusal({"--robot", "a", "--cd", value}), "accepted") << value;
     }
     for (const char* value : {"", "yes", "ON"}) {
         EXPECT_NE(Refusal({"--robot", "a", "--prepare", value}), "accepted") << value;

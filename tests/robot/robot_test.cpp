@@ -469,5 +469,15 @@ TEST(Robot, MillionTicksLeaveNothingBehind) {
     EXPECT_EQ(ticks, 1000000);
 }
 
+TEST(Robot, TheDiscOfTheOptionsLiesInTheDrive) {
+    RobotOptions options;
+    options.cd = {4, 60, 2};
+    RobotRun run("quit\n", options);
+    platform::Sound& sound = run.robot->Sound();
+    sound.MciSendString(u"open cdaudio");
+    EXPECT_EQ(sound.MciSendString(u"status cdaudio number of tracks"), u"3");
+    EXPECT_EQ(run.around.trace.Of("mci").size(), 2u) << "what is asked of it is told";
+}
+
 }  // namespace
 }  // namespace robot

@@ -12,71 +12,16 @@
 #include <vector>
 
 #include "adapters/posix/iconv_code_page.h"
+#include "adapters/tracing/no_trace.h"
+#include "adapters/virtual/virtual_dialogs.h"
+#include "adapters/virtual/virtual_monitors.h"
+#include "adapters/virtual/virtual_sound.h"
+#include "adapters/virtual/virtual_video.h"
 #include "fake_files.h"
-#include "fake_loop.h"
 #include "model/application.h"
+#include "test_loop.h"
 
 namespace fakes {
-
-/// Records every box. Answers come from the queues; without one a box takes OK or Yes, an input
-/// box its initial text, a file dialog cancel.
-class FakeDialogs : public platform::Dialogs {
-public:
-    struct Box {
-        Text text;
-        int flags;
-        Text title;
-    };
-    std::vector<Box> messages;
-    std::vector<Box> inputs;     // text is the prompt
-    std::vector<Text> initials;  // what stood in them at first
-    std::vector<FileRequest> requests;
-    std::deque<platform::Answer> answers;
-    std::deque<std::optional<Text>> inputAnswers;
-    std::deque<std::optional<Text>> fileAnswers;
-    /// Called while a message stands, before its answer.
-    std::function<void(const Box&)> whileOpen;
-
-    platform::Answer Message(TextView text, int flags, TextView title) override {
-        messages.push_back({Text(text), flags, Text(title)});
-        if (whileOpen) {
-            whileOpen(Box(messages.back()));
-        }
-        return Next(answers, (flags & 15) == platform::kYesNo ? platform::Answer::Yes
-                                                              : platform::Answer::Ok);
-    }
-    std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override {
-        inputs.push_back({Text(prompt), 0, Text(title)});
-        initials.emplace_back(initial);
-        return Next(inputAnswers, std::optional(Text(initial)));
-    }
-    std::optional<Text> ChooseFile(const FileRequest& request) override {
-        requests.push_back(request);
-        return Next(fileAnswers, std::optional<Text>());
-    }
-
-private:
-    template <class T>
-    static T Next(std::deque<T>& queue, T otherwise) {
-        if (queue.empty()) {
-            return otherwise;
-        }
-        T value = std::move(queue.front());
-        queue.pop_front();
-        return value;
-    }
-};
-
-class FakeMonitors : public platform::Monitors {
-public:
-    std::vector<platform::Rect> monitors{{0, 0, 1920, 1080}};
-    int ofMainWindow = 0;
-    std::vector<platform::Rect> Enumerate() override { return monitors; }
-    int OfMainWindow() override { return ofMainWindow; }
-    platform::Size Room() override { return {monitors[0].width, monitors[0].height}; }
-    std::vector<bool> awake;  // every KeepAwake, in order
-    void KeepAwake(bool on) override { awake.push_back(on); }
-};
 
 /// A "picture" is any file whose content begins with "PIC width height [rrggbb [bits]]".
 /// `log` tells what was asked, one line each: "load PATH", "resize 80 60", "resize 80 60 to 160
@@ -240,81 +185,60 @@ public:
     }
 };
 
-class FakeSound : public platform::Sound {
+/// The virtual device with a record of what it was told. Without files: none can be opened.
+class FakeSound : public virtual_adapter::VirtualSound {
 public:
+    using VirtualSound::VirtualSound;
     std::vector<Text> commands;
     std::vector<std::pair<std::optional<Text>, int>> played;
-    std::function<Text(TextView)> answer;  // status text of a command; none: empty
+    std::function<Text(TextView)> answer;  // set: answers in the device's place
     Text MciSendString(TextView command) override {
         commands.emplace_back(command);
-        return answer ? answer(command) : Text();
+        return answer ? answer(command) : VirtualSound::MciSendString(command);
     }
     void SndPlaySound(const std::optional<Text>& file, int flags) override {
         played.emplace_back(file, flags);
+        VirtualSound::SndPlaySound(file, flags);
     }
 };
 
-/// A player on the loop's clock. `log` tells what was asked: "open PATH", "play", "loop 1",
-/// "close".
-class FakeVideo : public platform::Video {
+/// The virtual player with one film in every file. `log` tells what was asked: "open PATH", "play",
+/// "loop 1", "close".
+class FakeVideo : public virtual_adapter::VirtualVideo {
 public:
-    explicit FakeVideo(FakeLoop& loop) : loop_(loop) {}
+    using VirtualVideo::VirtualVideo;
+    virtual_adapter::Film film{.milliseconds = 2000};
     std::vector<std::string> log;
     Text path;
-    double milliseconds = 2000;  // of every file; 0: no file can be played
-    double loadingMs = 0;        // from Play to the first picture
     bool looping = false;
+    int awaited = 0;  // what AwaitSize was called with last
     /// Set: what Status answers, whatever was played.
     std::optional<platform::VideoState> state;
 
     void SetUrl(TextView url) override {
         path = url;
-        played_ = false;
-        opened_ = loop_.Milliseconds();
         log.push_back("open " + text::ToUtf8(url));
+        VirtualVideo::SetUrl(url);
     }
     void Play() override {
-        played_ = true;
-        started_ = loop_.Milliseconds();
         log.push_back("play");
+        VirtualVideo::Play();
     }
     void SetLoop(bool on) override {
         looping = on;
         log.push_back(on ? "loop 1" : "loop 0");
+        VirtualVideo::SetLoop(on);
     }
     void Close() override {
         path.clear();
         log.push_back("close");
+        VirtualVideo::Close();
     }
-    platform::VideoState Status() override {
-        using platform::VideoState;
-        if (state || path.empty()) {
-            return state.value_or(VideoState::Nothing);
-        }
-        const double played = loop_.Milliseconds() - started_ - loadingMs;
-        if (milliseconds == 0) {
-            return VideoState::Ready;
-        }
-        return !played_ || played < 0               ? VideoState::Loading
-               : played >= milliseconds && !looping ? VideoState::Ready
-                                                    : VideoState::Playing;
-    }
-    platform::Size natural;     // of every file
-    double sizeKnownAfter = 0;  // ms from its opening
-    int awaited = 0;            // what AwaitSize was called with last
-    platform::Size NaturalSize() override {
-        return path.empty() || loop_.Milliseconds() - opened_ < sizeKnownAfter ? platform::Size{}
-                                                                               : natural;
-    }
+    platform::VideoState Status() override { return state ? *state : VirtualVideo::Status(); }
     void AwaitSize(int limit) override { awaited = limit; }
-    void SetRoom(platform::Size) override {}
-    platform::VideoFrame Frame() override { return {}; }
 
-private:
-    FakeLoop& loop_;
-    bool played_ = false;
-    double opened_ = 0;
-    double started_ = 0;
+protected:
+    virtual_adapter::Film FilmIn(TextView) override { return film; }
 };
 
 class FakeSystem : public platform::System {
@@ -428,14 +352,15 @@ private:
 
 /// All of them, and one Application that lives in them with its start defaults set.
 struct FakePlatform {
-    FakeLoop loop;
+    TestLoop loop;
     FakeFiles files;
-    FakeDialogs dialogs;
-    FakeMonitors monitors;
+    tracing::NoTrace noTrace;  // of devices whose use is recorded
+    virtual_adapter::VirtualDialogs dialogs{noTrace};
+    virtual_adapter::VirtualMonitors monitors;
     FakeImaging imaging{files};
     FakeTextRenderer textRenderer;
-    FakeSound sound;
-    FakeVideo video{loop};
+    FakeSound sound{loop};
+    FakeVideo video{noTrace, loop};
     FakeSystem system;
     FakeTrace trace;
     FakeFolders folders{files};

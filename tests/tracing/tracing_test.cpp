@@ -1,6 +1,7 @@
 // What the trace is told of windows and of the system.
 #include <gtest/gtest.h>
 
+#include "adapters/tracing/traced_sound.h"
 #include "adapters/tracing/traced_system.h"
 #include "adapters/tracing/window_tracer.h"
 #include "model/windows/link_list.h"
@@ -54,6 +55,24 @@ TEST(WindowTracer, KnowsTheModalWindowOnTop) {
     EXPECT_EQ(tracer.ModalWindow(), nullptr);
     EXPECT_EQ(around.loop.Milliseconds(), 10);
     EXPECT_FALSE(windows.form24.Modal());
+}
+
+TEST(TracedSound, TellsCommandsWithTheirResultsAndSounds) {
+    fakes::FakePlatform around;
+    around.sound.answer = [](TextView) -> Text { return u"stopped"; };
+    TracedSound sound(around.sound, around.trace);
+    EXPECT_EQ(sound.MciSendString(u"status wav mode"), u"stopped");
+    sound.SndPlaySound(u"a.wav", 3);
+    sound.SndPlaySound(std::nullopt, 0);
+    ASSERT_EQ(around.trace.lines.size(), 3u);
+    EXPECT_EQ(around.trace.lines[0].event, "mci");
+    EXPECT_EQ(around.trace.lines[0].String("command"), u"status wav mode");
+    EXPECT_EQ(around.trace.lines[0].String("result"), u"stopped");
+    EXPECT_EQ(around.trace.lines[1].event, "sndPlaySound");
+    EXPECT_EQ(around.trace.lines[1].String("file"), u"a.wav");
+    EXPECT_EQ(around.trace.lines[1].Number("flags"), 3);
+    EXPECT_TRUE(std::holds_alternative<std::nullptr_t>(around.trace.lines[2].fields[0].second));
+    EXPECT_EQ(around.sound.played.size(), 2u);
 }
 
 TEST(TracedSystem, TellsTextsAndStartsWhereItMay) {

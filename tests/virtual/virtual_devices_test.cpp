@@ -34,7 +34,7 @@ const auto& FieldOf(const Line& line, const std::string& name) {
 TEST(VirtualDialogs, MessageTakesTheQueuedAnswerAndIsTraced) {
     fakes::FakeTrace trace;
     VirtualDialogs dialogs(trace);
-    dialogs.QueueAnswer(Answer::No);
+    dialogs.answers.push_back(Answer::No);
     EXPECT_EQ(dialogs.Message(u"消す?", platform::kYesNoQuestion, u"確認"), Answer::No);
     ASSERT_EQ(trace.lines.size(), 1u);
     const Line& line = trace.lines[0];
@@ -77,7 +77,7 @@ TEST(VirtualDialogs, AnswerThatABoxDoesNotOfferIsTheNearestOne) {
     fakes::FakeTrace trace;
     VirtualDialogs dialogs(trace);
     for (const auto& one : cases) {
-        dialogs.QueueAnswer(one.queued);
+        dialogs.answers.push_back(one.queued);
         EXPECT_EQ(dialogs.Message(u"", one.buttons | platform::kQuestion, u""), one.taken)
             << one.buttons << " " << static_cast<int>(one.queued);
     }
@@ -86,11 +86,11 @@ TEST(VirtualDialogs, AnswerThatABoxDoesNotOfferIsTheNearestOne) {
 TEST(VirtualDialogs, EachSortOfBoxHasItsOwnQueueInOrder) {
     fakes::FakeTrace trace;
     VirtualDialogs dialogs(trace);
-    dialogs.QueueFile(u"/a.kvs");
-    dialogs.QueueFile(std::nullopt);
-    dialogs.QueueInput(u"5");
-    dialogs.QueueInput(std::nullopt);
-    dialogs.QueueAnswer(Answer::No);
+    dialogs.fileAnswers.push_back(u"/a.kvs");
+    dialogs.fileAnswers.push_back(std::nullopt);
+    dialogs.inputAnswers.push_back(u"5");
+    dialogs.inputAnswers.push_back(std::nullopt);
+    dialogs.answers.push_back(Answer::No);
     EXPECT_EQ(dialogs.Input(u"秒", u"時間", u"3"), Text(u"5"));
     EXPECT_EQ(dialogs.Input(u"秒", u"時間", u"3"), std::nullopt);
     EXPECT_EQ(dialogs.ChooseFile({false, u"開く", u"KVS|*.kvs", u"*.kvs"}), Text(u"/a.kvs"));
@@ -125,7 +125,7 @@ TEST(VirtualMonitors, StandSideBySide) {
     const std::vector<platform::Rect> expected{{0, 0, 1920, 1080}, {1920, 0, 1280, 1024}};
     EXPECT_EQ(monitors.Enumerate(), expected);
     EXPECT_EQ(monitors.OfMainWindow(), 0);
-    EXPECT_EQ(VirtualMonitors({}).Enumerate().size(), 1u);
+    EXPECT_EQ(VirtualMonitors().Enumerate().size(), 1u);
 }
 
 TEST(VirtualMonitors, MainWindowIsWhereItsCentreLies) {

@@ -175,9 +175,9 @@ std::string JsonState(const Application& app) {
            "}";
 }
 
-std::string JsonMessages(const std::vector<RecordingDialogs::Box>& boxes) {
+std::string JsonMessages(const std::vector<virtual_adapter::VirtualDialogs::Box>& boxes) {
     std::string json = "[";
-    for (const RecordingDialogs::Box& box : boxes) {
+    for (const virtual_adapter::VirtualDialogs::Box& box : boxes) {
         json += json.size() > 1 ? "," : "";
         json += "{\"title\":" + JsonText(box.title) + ",\"text\":" + JsonText(box.text) +
                 ",\"flags\":" + JsonNumber(box.flags) + "}";
@@ -243,7 +243,7 @@ int Resave(const std::string& in, const std::string& target, bool distribution, 
         program.surroundings.files.writable = newPath;
         document::WriteShowDocument(app, newPath);
     }
-    for (const RecordingDialogs::Box& box : messages) {
+    for (const virtual_adapter::VirtualDialogs::Box& box : messages) {
         err << text::ToUtf8(box.text) << "\n";
     }
     return messages.empty() ? 0 : 1;

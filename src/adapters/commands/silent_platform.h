@@ -1,78 +1,77 @@
 // Surroundings for the commands that only read and write documents: no window, no sound, no time.
 #pragma once
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "adapters/posix/iconv_code_page.h"
 #include "adapters/posix/posix_files.h"
 #include "adapters/posix/posix_folders.h"
+#include "adapters/tracing/no_trace.h"
+#include "adapters/virtual/silent_devices.h"
+#include "adapters/virtual/virtual_dialogs.h"
+#include "adapters/virtual/virtual_loop.h"
+#include "adapters/virtual/virtual_monitors.h"
+#include "adapters/virtual/virtual_sound.h"
+#include "adapters/virtual/virtual_video.h"
 #include "platform/platform.h"
 
 namespace commands {
 
-/// Records every box and answers OK or Yes.
-class RecordingDialogs : public platform::Dialogs {
-public:
-    struct Box {
-        Text title, text;
-        int flags;
-    };
-    std::vector<Box> messages;
-
-    platform::Answer Message(TextView text, int flags, TextView title) override;
-    std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override;
-    std::optional<Text> ChooseFile(const FileRequest& request) override;
-};
-
 /// Files that can be read; a write is kept from the disk and reported as done, but for `writable`.
-class GuardedFiles : public platform::Files {
+class GuardedFiles : public posix_adapter::PosixFiles {
 public:
-    explicit GuardedFiles(platform::Files& files) : files_(files) {}
+    using PosixFiles::PosixFiles;
 
     /// The one path that may be written; empty for none.
     Text writable;
 
-    std::optional<std::string> Find(TextView path) override { return files_.Find(path); }
-    std::string NativeTarget(TextView path) override { return files_.NativeTarget(path); }
-    Text Dir(TextView path) override { return files_.Dir(path); }
-    bool Exists(TextView path) override { return files_.Exists(path); }
-    bool Read(TextView path, std::string& content, platform::FileError& error,
-              size_t limit) override {
-        return files_.Read(path, content, error, limit);
-    }
     bool Write(TextView path, std::string_view content, platform::FileError& error) override {
-        return writable.empty() || path != writable || files_.Write(path, content, error);
+        return writable.empty() || path != writable || PosixFiles::Write(path, content, error);
     }
     bool SetAside(TextView, TextView, Text&, platform::FileError&) override { return false; }
-    int Readable(TextView path) override { return files_.Readable(path); }
-    std::optional<platform::DateTime> LastWrite(TextView path) override {
-        return files_.LastWrite(path);
-    }
+};
+
+/// Finds programs and starts none.
+class NoSystem : public platform::System {
+public:
+    NoSystem(std::string folder, platform::Files& files)
+        : folder_(std::move(folder)), files_(files) {}
+    Text AppFolder() override { return text::FromUtf8(folder_); }
+    bool PreviousInstance() override { return false; }
+    bool Shell(TextView, TextView) override { return false; }
+    bool FindsProgram(TextView commandLine, TextView document) override;
+    void ForgetShow() override {}
+    bool OpenText(TextView) override { return false; }
 
 private:
+    std::string folder_;
     platform::Files& files_;
 };
 
-/// Everything together. Time stands still, pictures cannot be read, sound is silent.
-class SilentPlatform {
-public:
+/// Everything together. Nothing waits, so that time stands still; pictures cannot be read, no sound
+/// and no film can be opened.
+struct SilentPlatform {
     /// `programFolder`: native path with '/' at its end; nothing is made there.
-    explicit SilentPlatform(std::string programFolder);
-    ~SilentPlatform();
+    explicit SilentPlatform(const std::string& programFolder)
+        : files(programFolder), system(programFolder, files) {}
 
-    platform::Platform Get();
+    platform::Platform Get() {
+        return {loop,  files, dialogs, monitors, imaging,  textRenderer,
+                sound, video, system,  trace,    codePage, folders};
+    }
 
-    RecordingDialogs dialogs;
-    posix_adapter::PosixFiles posixFiles;
-    GuardedFiles files{posixFiles};
+    GuardedFiles files;
+    tracing::NoTrace trace;
+    virtual_adapter::VirtualLoop loop{platform::DateTime{}};
+    virtual_adapter::VirtualDialogs dialogs{trace};
+    virtual_adapter::VirtualMonitors monitors;
+    virtual_adapter::BlindImaging imaging;
+    virtual_adapter::NoText textRenderer;
+    virtual_adapter::VirtualSound sound{loop};
+    virtual_adapter::VirtualVideo video{trace, loop};
+    NoSystem system;
     posix_adapter::IconvCodePage codePage;
     posix_adapter::PosixFolders folders{files};
-
-private:
-    struct Devices;
-    std::unique_ptr<Devices> devices_;
 };
 
 }  // namespace commands

@@ -13,7 +13,7 @@ const char* Usage() {
            "  parapico --manual [--code-page] [FILE]\n"
            "  parapico --robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N]\n"
            "           [--now \"YYYY-MM-DD hh:mm:ss\"] [--screen WxH[,WxH…]]\n"
-           "           [--prepare on|off] [--title] [DOCUMENT]\n"
+           "           [--cd m:ss[,m:ss…]] [--prepare on|off] [--title] [DOCUMENT]\n"
            "画面がなくても動くもの / need no display: --inspect --resave --check --manual --robot\n"
            "詳しくは / more: man parapico\n";
 }

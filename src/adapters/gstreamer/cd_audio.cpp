@@ -1,8 +1,8 @@
 #include "adapters/gstreamer/cd_audio.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <mutex>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -94,7 +94,7 @@ private:
 struct CdAudio::Shared {
     std::mutex mutex;
     bool known = false;  // the drive has answered
-    std::vector<DiscTrack> tracks;
+    platform::TrackTable tracks;
     std::shared_ptr<Disc> disc;
     Worker worker;
 };
@@ -137,7 +137,7 @@ Text CdAudio::Send(const platform::SoundCommand& command) {
 void CdAudio::Open() {
     if (shared_) {
         const std::lock_guard lock(shared_->mutex);
-        if (!shared_->known || (shared_->disc && !shared_->tracks.empty())) {
+        if (!shared_->known || (shared_->disc && shared_->tracks.Count() > 0)) {
             return;
         }
     }
@@ -151,7 +151,7 @@ void CdAudio::Open() {
         const std::lock_guard lock(shared->mutex);
         shared->disc = std::move(disc);
         if (shared->disc) {
-            shared->tracks = shared->disc->tracks;
+            shared->tracks = platform::TrackTable(shared->disc->tracks);
         }
         shared->known = true;
     });
@@ -185,7 +185,7 @@ bool CdAudio::WaitForDisc() {
         {
             const std::lock_guard lock(shared->mutex);
             if (shared->known) {
-                return !shared->tracks.empty();
+                return shared->tracks.Count() > 0;
             }
         }
         if (loop_.Milliseconds() >= limit) {
@@ -196,58 +196,18 @@ bool CdAudio::WaitForDisc() {
     }
 }
 
-int CdAudio::TrackAt(int sector) const {
-    int track = 0;
-    for (const DiscTrack& each : shared_->tracks) {
-        track += each.firstSector <= sector ? 1 : 0;
-    }
-    return std::max(track, 1);
-}
-
-/// "tt[:mm[:ss[:ff]]]" counted within the track, or "mm[:ss[:ff]]" on the disc; -1 where it is
-/// none or lies outside of the disc.
-int CdAudio::SectorOf(TextView position) const {
-    int parts[4] = {0, 0, 0, 0};
-    const int first = byTracks_ ? 0 : 1;
-    Text rest = text::Trim(position);
-    for (int part = first; part < 4; ++part) {
-        const size_t colon = rest.find(u':');
-        parts[part] = platform::WholeNumber(rest.substr(0, colon), -1);
-        if (parts[part] < 0 || parts[part] > 99) {
-            return -1;
-        }
-        if (colon == Text::npos) {
-            break;
-        }
-        rest = rest.substr(colon + 1);
-    }
-    const int offset = (parts[1] * 60 + parts[2]) * kSectorsPerSecond + parts[3];
-    if (!byTracks_) {
-        return offset;
-    }
-    const auto tracks = static_cast<int>(shared_->tracks.size());
-    if (parts[0] < 1 || parts[0] > tracks) {
-        return -1;
-    }
-    return shared_->tracks[static_cast<size_t>(parts[0] - 1)].firstSector + offset;
-}
-
 void CdAudio::Play(TextView range) {
     if (!WaitForDisc()) {
         return;
     }
-    const size_t to = range.find(u" to ");
-    const int start = SectorOf(range.substr(0, to));
-    const DiscTrack& last = shared_->tracks.back();
-    const int discEnd = last.firstSector + last.sectors;
-    const int end = to == TextView::npos ? discEnd : SectorOf(range.substr(to + 4));
-    if (start < 0 || end < start || start >= discEnd) {
+    const std::optional<platform::SectorRange> asked = shared_->tracks.Range(range, byTracks_);
+    if (!asked) {
         return;
     }
     std::vector<Span> spans;
-    for (const DiscTrack& track : shared_->tracks) {
-        const int from = std::max(start, track.firstSector);
-        const int until = std::min(end, track.firstSector + track.sectors);
+    for (const DiscTrack& track : shared_->tracks.Tracks()) {
+        const int from = std::max(asked->start, track.firstSector);
+        const int until = std::min(asked->end, track.firstSector + track.sectors);
         if (track.audio && from < until) {  // data would be noise
             spans.push_back({from, until - from});
         }
@@ -259,7 +219,7 @@ void CdAudio::Play(TextView range) {
         return shared->disc && !spans.empty() ? std::make_unique<DiscSource>(shared->disc, spans)
                                               : nullptr;
     };
-    startSector_ = spans.empty() ? start : spans.front().sector;
+    startSector_ = spans.empty() ? asked->start : spans.front().sector;
     player_ = std::make_unique<Player>(std::move(media), output_);
     player_->SetVolume(volume_);
     player_->Play();
@@ -268,25 +228,6 @@ void CdAudio::Play(TextView range) {
 int CdAudio::Sector() const {
     const double seconds = player_ ? player_->Position() : 0;
     return startSector_ + static_cast<int>(seconds * kSectorsPerSecond);
-}
-
-Text CdAudio::PositionText() const {
-    int sector = Sector();
-    const int track = TrackAt(sector);
-    char words[32];
-    if (byTracks_) {
-        sector -= shared_->tracks[static_cast<size_t>(track - 1)].firstSector;
-    }
-    sector = std::max(sector, 0);
-    const int minutes = sector / kSectorsPerSecond / 60;
-    const int seconds = sector / kSectorsPerSecond % 60;
-    const int frames = sector % kSectorsPerSecond;
-    if (byTracks_) {
-        std::snprintf(words, sizeof words, "%02d:%02d:%02d:%02d", track, minutes, seconds, frames);
-    } else {
-        std::snprintf(words, sizeof words, "%02d:%02d:%02d", minutes, seconds, frames);
-    }
-    return text::FromUtf8(words);
 }
 
 Text CdAudio::Status(TextView what) {
@@ -304,12 +245,12 @@ Text CdAudio::Status(TextView what) {
         return {};
     }
     if (what == u"number of tracks") {
-        return text::FromUtf8(std::to_string(shared_->tracks.size()));
+        return text::FromUtf8(std::to_string(shared_->tracks.Count()));
     }
     if (what == u"current track") {
-        return text::FromUtf8(std::to_string(TrackAt(Sector())));
+        return text::FromUtf8(std::to_string(shared_->tracks.TrackAt(Sector())));
     }
-    return what == u"position" ? PositionText() : Text();
+    return what == u"position" ? shared_->tracks.PositionText(Sector(), byTracks_) : Text();
 }
 
 }  // namespace gst_adapter

@@ -31,9 +31,6 @@ private:
     void Play(TextView range);
     Text Status(TextView what);
     int Sector() const;
-    Text PositionText() const;
-    int TrackAt(int sector) const;
-    int SectorOf(TextView position) const;
 
     OpenDisc openDisc_;
     std::string device_;

@@ -7,17 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "platform/audio_disc.h"
+
 namespace gst_adapter {
 
-constexpr int kSectorsPerSecond = 75;
+using platform::DiscTrack;
+using platform::kSectorsPerSecond;
 constexpr int kFramesPerSector = 588;  // stereo, 44100 a second
 constexpr int kDiscRate = 44100;
-
-struct DiscTrack {
-    int firstSector = 0;
-    int sectors = 0;
-    bool audio = true;
-};
 
 /// Used by one thread at a time.
 class Disc {

@@ -36,6 +36,28 @@ bool ReadScreens(std::string_view from, std::vector<platform::Rect>& screens) {
     }
 }
 
+/// "m:ss[,m:ss…]", up to 99 tracks of up to 99 minutes, none without a length.
+bool ReadTracks(std::string_view from, std::vector<int>& seconds) {
+    constexpr int kMostTracks = 99, kMostMinutes = 99, kSecondsPerMinute = 60;
+    seconds.clear();
+    while (true) {
+        const std::string_view one = from.substr(0, from.find(','));
+        const size_t colon = one.find(':');
+        unsigned minutes = 0, rest = 0;
+        if (colon == std::string_view::npos || colon + 3 != one.size() ||
+            !ReadNumber(one.substr(0, colon), minutes) ||
+            !ReadNumber(one.substr(colon + 1), rest) || minutes > kMostMinutes ||
+            rest >= kSecondsPerMinute || minutes + rest == 0 || seconds.size() == kMostTracks) {
+            return false;
+        }
+        seconds.push_back(static_cast<int>(minutes * kSecondsPerMinute + rest));
+        if (one.size() == from.size()) {
+            return true;
+        }
+        from.remove_prefix(one.size() + 1);
+    }
+}
+
 /// "YYYY-MM-DD hh:mm[:ss]".
 bool ReadMoment(const std::string& from, platform::DateTime& moment) {
     Text text = text::FromUtf8(from);
@@ -62,6 +84,8 @@ bool ReadOption(const std::string& name, const std::string& value, RobotOptions&
         good = ReadMoment(value, options.now);
     } else if (name == "--screen") {
         good = ReadScreens(value, options.screens);
+    } else if (name == "--cd") {
+        good = ReadTracks(value, options.cd);
     } else if (name == "--prepare") {
         good = value == "on" || value == "off";
         options.prepare = value == "on";

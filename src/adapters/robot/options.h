@@ -18,14 +18,16 @@ struct RobotOptions {
     uint64_t seed = 1;
     platform::DateTime now = platform::FromCalendar({2026, 1, 1, 12, 0, 0});
     std::vector<platform::Rect> screens{{0, 0, 1920, 1080}};  // sizes, from left to right
-    bool title = false;                                       // show the title screen
-    bool prepare = true;                                      // decode pictures ahead
-    std::string document;                                     // empty: none
+    std::vector<int> cd;   // seconds of each track of the disc in the drive; empty: no disc
+    bool title = false;    // show the title screen
+    bool prepare = true;   // decode pictures ahead
+    std::string document;  // empty: none
 };
 
 /// Reads `--robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N] [--now "YYYY-MM-DD hh:mm:ss"]
-/// [--screen WxH[,WxH…]] [--prepare on|off] [--title] [DOCUMENT]` (the program's name left out), in
-/// any order; behind `--` everything is the document. Nullopt with `error` set for anything else.
+/// [--screen WxH[,WxH…]] [--cd m:ss[,m:ss…]] [--prepare on|off] [--title] [DOCUMENT]` (the
+/// program's name left out), in any order; behind `--` everything is the document. Nullopt with
+/// `error` set for anything else.
 std::optional<RobotOptions> ParseRobotArguments(const std::vector<std::string>& arguments,
                                                 std::string& error);
 

@@ -42,13 +42,15 @@ Robot::Robot(const RobotOptions& options, platform::Trace& trace, std::ostream& 
     : loop_(options.now, options.seed),
       dialogs_(trace),
       monitors_(options.screens),
-      sound_(trace, loop_),
+      sound_(loop_),
+      tracedSound_(sound_, trace),
       video_(trace, loop_),
       windows_(trace),
       user_(ReadScript(options.script), options.script,
             {loop_, dialogs_, windows_, trace, out, err}),
       appFolder_(options.appFolder),
       ownsAppFolder_(options.appFolder.empty()) {
+    sound_.cd.Insert(options.cd);
     if (ownsAppFolder_) {
         appFolder_ = MakeTemporaryFolder();
     }

@@ -7,6 +7,7 @@
 
 #include "adapters/robot/options.h"
 #include "adapters/robot/scripted_user.h"
+#include "adapters/tracing/traced_sound.h"
 #include "adapters/tracing/window_tracer.h"
 #include "adapters/virtual/virtual_dialogs.h"
 #include "adapters/virtual/virtual_loop.h"
@@ -32,7 +33,7 @@ public:
     virtual_adapter::VirtualLoop& Loop() { return loop_; }
     virtual_adapter::VirtualDialogs& Dialogs() { return dialogs_; }
     virtual_adapter::VirtualMonitors& Monitors() { return monitors_; }
-    virtual_adapter::VirtualSound& Sound() { return sound_; }
+    platform::Sound& Sound() { return tracedSound_; }
     virtual_adapter::VirtualVideo& Video() { return video_; }
 
     /// The program folder: the one asked for, or a temporary one that exists as long as the robot.
@@ -50,6 +51,7 @@ private:
     virtual_adapter::VirtualDialogs dialogs_;
     virtual_adapter::VirtualMonitors monitors_;
     virtual_adapter::VirtualSound sound_;
+    tracing::TracedSound tracedSound_;
     virtual_adapter::VirtualVideo video_;
     tracing::WindowTracer windows_;
     ScriptedUser user_;

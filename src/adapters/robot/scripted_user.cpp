@@ -289,12 +289,12 @@ void ScriptedUser::Run(const Action& action) {
         case ActionKind::Menu:
             return Menu(action);
         case ActionKind::Answer:
-            return around_.dialogs.QueueAnswer(AnswerOf(*action.text));
+            return around_.dialogs.answers.push_back(AnswerOf(*action.text));
         case ActionKind::Input:
-            return around_.dialogs.QueueInput(action.text);
+            return around_.dialogs.inputAnswers.push_back(action.text);
         case ActionKind::Choose:
-            return around_.dialogs.QueueFile(action.text ? std::optional(Absolute(*action.text))
-                                                         : std::nullopt);
+            return around_.dialogs.fileAnswers.push_back(
+                action.text ? std::optional(Absolute(*action.text)) : std::nullopt);
         case ActionKind::Print:
             return Print(action);
         case ActionKind::Expect:

@@ -43,21 +43,28 @@ Answer Pressed(Answer wanted, int buttons) {
 }  // namespace
 
 Answer VirtualDialogs::Message(TextView text, int flags, TextView title) {
-    const std::optional<Answer> queued = Take(answers_);
+    messages.push_back({Text(text), flags, Text(title)});
+    if (whileOpen) {
+        whileOpen(Box(messages.back()));
+    }
+    const std::optional<Answer> queued = Take(answers);
     const Answer answer = Pressed(queued.value_or(Answer::Ok), flags & kButtonMask);
     tracing::TraceMessage(trace_, text, flags, title, answer, !queued);
     return answer;
 }
 
 std::optional<Text> VirtualDialogs::Input(TextView prompt, TextView title, TextView initial) {
-    const std::optional<std::optional<Text>> queued = Take(inputs_);
+    inputs.push_back({Text(prompt), 0, Text(title)});
+    initials.emplace_back(initial);
+    const std::optional<std::optional<Text>> queued = Take(inputAnswers);
     const std::optional<Text> answer = queued ? *queued : std::optional<Text>(initial);
     tracing::TraceInput(trace_, prompt, title, initial, answer, !queued);
     return answer;
 }
 
 std::optional<Text> VirtualDialogs::ChooseFile(const FileRequest& request) {
-    const std::optional<std::optional<Text>> queued = Take(files_);
+    requests.push_back(request);
+    const std::optional<std::optional<Text>> queued = Take(fileAnswers);
     const std::optional<Text> path = queued ? *queued : std::nullopt;
     tracing::TraceFileDialog(trace_, request, path, !queued);
     return path;

@@ -2,26 +2,41 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
+#include <vector>
 
 #include "platform/dialogs.h"
 #include "platform/trace.h"
 
 namespace virtual_adapter {
 
-/// Each box takes the next queued answer of its own sort, in no time, and leaves a trace line
-/// (message, input or dialog). With an empty queue a message box takes OK or Yes, an input box its
-/// initial text, a file dialog cancels, and the line carries "unanswered".
+/// Each box takes the next queued answer of its own sort, in no time, is kept, and leaves a trace
+/// line (message, input or dialog). With an empty queue a message box takes OK or Yes, an input box
+/// its initial text, a file dialog cancels, and the line carries "unanswered".
 class VirtualDialogs : public platform::Dialogs {
 public:
     explicit VirtualDialogs(platform::Trace& trace) : trace_(trace) {}
 
+    struct Box {
+        Text text;
+        int flags;
+        Text title;
+    };
+
     /// An answer that the box does not offer counts as the nearest it does: Yes and OK stand for
     /// each other, as do No and Cancel; a box with OK alone can only be answered OK.
-    void QueueAnswer(platform::Answer answer) { answers_.push_back(answer); }
+    std::deque<platform::Answer> answers;
     /// Nullopt: cancel.
-    void QueueInput(std::optional<Text> text) { inputs_.push_back(std::move(text)); }
-    void QueueFile(std::optional<Text> path) { files_.push_back(std::move(path)); }
+    std::deque<std::optional<Text>> inputAnswers, fileAnswers;
+    /// Called while a message stands, before its answer.
+    std::function<void(const Box&)> whileOpen;
+
+    // Every box that came up, in order.
+    std::vector<Box> messages;
+    std::vector<Box> inputs;     // text is the prompt
+    std::vector<Text> initials;  // what stood in them at first
+    std::vector<FileRequest> requests;
 
     platform::Answer Message(TextView text, int flags, TextView title) override;
     std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override;
@@ -29,8 +44,6 @@ public:
 
 private:
     platform::Trace& trace_;
-    std::deque<platform::Answer> answers_;
-    std::deque<std::optional<Text>> inputs_, files_;
 };
 
 }  // namespace virtual_adapter

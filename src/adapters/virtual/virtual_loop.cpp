@@ -26,7 +26,7 @@ private:
 
 }  // namespace
 
-VirtualLoop::VirtualLoop(platform::DateTime start, uint64_t seed) : start_(start), random_(seed) {}
+VirtualLoop::VirtualLoop(platform::DateTime begin, uint64_t seed) : start(begin), random_(seed) {}
 
 void VirtualLoop::PumpEvents() {
     CountCall();
@@ -51,14 +51,14 @@ void VirtualLoop::Sleep(int milliseconds) {
 
 double VirtualLoop::Timer() {
     CountCall();
-    const int64_t midnight = (start_.seconds % kSecondsPerDay + kSecondsPerDay) % kSecondsPerDay;
+    const int64_t midnight = (start.seconds % kSecondsPerDay + kSecondsPerDay) % kSecondsPerDay;
     return std::fmod(static_cast<double>(midnight) + now_ / 1000,
                      static_cast<double>(kSecondsPerDay));
 }
 
 platform::DateTime VirtualLoop::Now() {
     CountCall();
-    return {start_.seconds + static_cast<int64_t>(now_ / 1000)};
+    return {start.seconds + static_cast<int64_t>(now_ / 1000)};
 }
 
 double VirtualLoop::Rnd() {
@@ -81,16 +81,21 @@ void VirtualLoop::RunUntil(const std::function<bool()>& done) {
         if (RunOne(now_, true)) {
             continue;
         }
-        std::optional<double> next = NextAction();
-        const auto timer = EarliestTimer();
-        if (timer != timers_.end()) {
-            next = next ? std::min(*next, timer->second.due) : timer->second.due;
-        }
+        const std::optional<double> next = NextDue();
         if (!next) {
             throw platform::ProgramEnd{};
         }
-        MoveTo(std::max(now_, *next));
+        MoveTo(*next);
     }
+}
+
+void VirtualLoop::Run(double milliseconds) {
+    const double end = now_ + milliseconds;
+    for (auto next = NextDue(); next && *next <= end; next = NextDue()) {
+        MoveTo(*next);
+        RunOne(now_, true);
+    }
+    MoveTo(end);
 }
 
 /// Runs the first of what is due at `until`. False when there is nothing to run.
@@ -153,6 +158,16 @@ VirtualLoop::Timers::iterator VirtualLoop::EarliestTimer() {
 
 std::optional<double> VirtualLoop::NextAction() const {
     return actions_ ? actions_->NextDue() : std::nullopt;
+}
+
+/// When something runs next, of all that can run; nullopt where nothing is left.
+std::optional<double> VirtualLoop::NextDue() {
+    const std::optional<double> action = NextAction();
+    const auto timer = EarliestTimer();
+    if (timer == timers_.end()) {
+        return action;
+    }
+    return action ? std::min(*action, timer->second.due) : timer->second.due;
 }
 
 void VirtualLoop::EndAfterLastAction() {

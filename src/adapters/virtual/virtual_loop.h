@@ -13,6 +13,9 @@
 
 namespace virtual_adapter {
 
+/// Where a run begins that was not told otherwise.
+inline const platform::DateTime kUsualStart = platform::FromCalendar({2026, 1, 1, 12, 0, 0});
+
 /// What a scripted person is going to do, one action after the other.
 class Actions {
 public:
@@ -39,7 +42,10 @@ public:
 /// a handler that merely pumps is seen as done at once. Only one that comes "during" is not held.
 class VirtualLoop : public platform::EventLoop {
 public:
-    explicit VirtualLoop(platform::DateTime start, uint64_t seed = 1);
+    explicit VirtualLoop(platform::DateTime begin = kUsualStart, uint64_t seed = 1);
+
+    /// The moment of 0 milliseconds.
+    platform::DateTime start;
 
     /// Actions to run from now on; null for none. They outlive the loop's use.
     void Follow(Actions* actions) { actions_ = actions; }
@@ -54,6 +60,11 @@ public:
     void CancelTimer(const void* key) override { timers_.erase(key); }
     /// With nothing due jumps to what is due next. With no action left closes the program.
     void RunUntil(const std::function<bool()>& done) override;
+
+    /// Lets so much time pass, with everything that is due running at its own time. Handlers that
+    /// wait inside may take longer.
+    void Run(double milliseconds);
+    bool TimerRuns(const void* key) const { return timers_.contains(key); }
 
 private:
     struct Running {
@@ -70,11 +81,11 @@ private:
     void RunAction();
     Timers::iterator EarliestTimer();
     std::optional<double> NextAction() const;
+    std::optional<double> NextDue();
     void EndAfterLastAction();
     void MoveTo(double milliseconds);
     void CountCall();
 
-    platform::DateTime start_;
     std::mt19937_64 random_;
     double now_ = 0;
     int callsWithoutTime_ = 0;

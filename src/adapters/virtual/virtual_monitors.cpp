@@ -11,22 +11,22 @@ constexpr platform::Rect kDefaultScreen{0, 0, 1920, 1080};
 VirtualMonitors::VirtualMonitors(const std::vector<platform::Rect>& sizes) {
     int left = 0;
     for (const platform::Rect& size : sizes) {
-        monitors_.push_back({left, 0, size.width, size.height});
+        monitors.push_back({left, 0, size.width, size.height});
         left += size.width;
     }
-    if (monitors_.empty()) {
-        monitors_.push_back(kDefaultScreen);
+    if (monitors.empty()) {
+        monitors.push_back(kDefaultScreen);
     }
 }
 
 int VirtualMonitors::OfMainWindow() {
     if (!mainWindow_) {
-        return 0;
+        return ofMainWindow;
     }
     const int x = (mainWindow_->Left + mainWindow_->Width / 2) / platform::kTwipsPerPixel;
     const int y = (mainWindow_->Top + mainWindow_->Height / 2) / platform::kTwipsPerPixel;
-    for (size_t i = 0; i < monitors_.size(); ++i) {
-        const platform::Rect& monitor = monitors_[i];
+    for (size_t i = 0; i < monitors.size(); ++i) {
+        const platform::Rect& monitor = monitors[i];
         if (x >= monitor.x && x < monitor.x + monitor.width && y >= monitor.y &&
             y < monitor.y + monitor.height) {
             return static_cast<int>(i);

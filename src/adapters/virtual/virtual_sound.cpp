@@ -8,23 +8,20 @@ namespace virtual_adapter {
 
 namespace {
 
-using TraceValue = decltype(platform::TraceField::value);
-
 constexpr int kAsynchronous = 1;
 constexpr int kWaitPollMs = 10;
 
+constexpr TextView kCdDevice = u"cdaudio";
 constexpr TextView kMidiType = u"sequencer";
 constexpr TextView kTypes[] = {u"waveaudio", kMidiType, u"MPEGVideo"};
 
 }  // namespace
 
-Text VirtualSound::MciSendString(TextView command) {
-    const Text result = Answer(platform::ParseSoundCommand(command));
-    trace_.Event("mci", {{"command", Text(command)}, {"result", result}});
-    return result;
-}
-
-Text VirtualSound::Answer(const platform::SoundCommand& command) {
+Text VirtualSound::MciSendString(TextView line) {
+    const platform::SoundCommand command = platform::ParseSoundCommand(line);
+    if (command.device == kCdDevice && command.file.empty()) {
+        return cd.Send(command);
+    }
     if (command.verb == u"open") {
         Open(command);
         return {};
@@ -59,8 +56,6 @@ void VirtualSound::Open(const platform::SoundCommand& command) {
 }
 
 void VirtualSound::SndPlaySound(const std::optional<Text>& file, int flags) {
-    trace_.Event("sndPlaySound", {{"file", file ? TraceValue(*file) : TraceValue(nullptr)},
-                                  {"flags", static_cast<double>(flags)}});
     const int mine = ++played_;
     if (!file || (flags & kAsynchronous) != 0 || !files_) {
         return;

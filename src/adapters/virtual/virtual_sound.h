@@ -3,23 +3,24 @@
 
 #include <map>
 
+#include "adapters/virtual/virtual_cd.h"
 #include "platform/event_loop.h"
 #include "platform/files.h"
 #include "platform/sound.h"
 #include "platform/sound_command.h"
-#include "platform/trace.h"
 
 namespace virtual_adapter {
 
-/// Traces every command (event "mci": command, result; "sndPlaySound": file or null, flags).
 /// Understood are: open "FILE" type TYPE alias NAME, play NAME from 1, stop NAME, close NAME,
 /// status NAME mode ("playing" or "stopped"). Every file that exists can be opened; what cannot be
 /// played, or does not tell its length, is "stopped" as soon as it plays.
-/// Everything else answers with the empty text, as there is no CD drive. A sound that is played
-/// synchronously lets its length pass, with the loop pumping.
+/// The device cdaudio has a drive. Everything else answers with the empty text. A sound that is
+/// played synchronously lets its length pass, with the loop pumping.
 class VirtualSound : public platform::Sound {
 public:
-    VirtualSound(platform::Trace& trace, platform::EventLoop& loop) : trace_(trace), loop_(loop) {}
+    explicit VirtualSound(platform::EventLoop& loop) : cd(loop), loop_(loop) {}
+
+    VirtualCd cd;  // empty
 
     /// Where files are found; without it none can be opened.
     void Follow(platform::Files& files) { files_ = &files; }
@@ -33,10 +34,8 @@ private:
         double ends = 0;  // ms of the loop; over: it does not play
     };
 
-    Text Answer(const platform::SoundCommand& command);
     void Open(const platform::SoundCommand& command);
 
-    platform::Trace& trace_;
     platform::EventLoop& loop_;
     platform::Files* files_ = nullptr;
     std::map<Text, Piece> pieces_;  // by alias

@@ -21,26 +21,25 @@ void VirtualVideo::SetUrl(TextView path) {
     }
     path_ = path;
     played_ = false;
-    milliseconds_ = 0;
-    if (files_ && LooksLikeVideo(*files_, path)) {
-        const std::optional<MediaLength> length = LengthOfMediaFile(*files_, path);
-        milliseconds_ = length ? length->milliseconds : kUnknownLengthMs;
-    }
-    natural_ = milliseconds_ > 0 ? SizeOf(path) : platform::Size{};
-    if (natural_.Empty()) {
+    opened_ = loop_.Milliseconds();
+    film_ = FilmIn(path);
+    if (film_.natural.Empty()) {
         trace_.Event("video", {{"action", Text(u"open")}, {"file", path_}});
     } else {
         trace_.Event("video", {{"action", Text(u"open")},
                                {"file", path_},
-                               {"width", double(natural_.width)},
-                               {"height", double(natural_.height)}});
+                               {"width", double(film_.natural.width)},
+                               {"height", double(film_.natural.height)}});
     }
 }
 
-platform::Size VirtualVideo::SizeOf(TextView path) const {
-    const std::optional<std::string> native = files_->Find(path);
-    std::ifstream file(native.value_or(std::string()), std::ios::binary);
-    return SizeOfFilm(file);
+Film VirtualVideo::FilmIn(TextView path) {
+    if (!files_ || !LooksLikeVideo(*files_, path)) {
+        return {};
+    }
+    const std::optional<MediaLength> length = LengthOfMediaFile(*files_, path);
+    std::ifstream file(files_->Find(path).value_or(std::string()), std::ios::binary);
+    return {length ? length->milliseconds : kUnknownLengthMs, SizeOfFilm(file)};
 }
 
 void VirtualVideo::Play() {
@@ -49,8 +48,9 @@ void VirtualVideo::Play() {
     }
     played_ = true;
     started_ = loop_.Milliseconds();
-    trace_.Event("video",
-                 {{"action", Text(u"play")}, {"file", path_}, {"milliseconds", milliseconds_}});
+    trace_.Event(
+        "video",
+        {{"action", Text(u"play")}, {"file", path_}, {"milliseconds", film_.milliseconds}});
 }
 
 void VirtualVideo::SetLoop(bool on) {
@@ -69,18 +69,24 @@ void VirtualVideo::Close() {
 }
 
 platform::VideoState VirtualVideo::Status() {
+    using platform::VideoState;
     if (path_.empty()) {
-        return platform::VideoState::Nothing;
+        return VideoState::Nothing;
     }
-    if (milliseconds_ == 0) {
-        return platform::VideoState::Ready;
+    if (film_.milliseconds == 0) {
+        return VideoState::Ready;
     }
-    if (!played_) {
-        return platform::VideoState::Loading;
+    const double played = loop_.Milliseconds() - started_ - film_.loadingMs;
+    if (!played_ || played < 0) {
+        return VideoState::Loading;
     }
-    const bool over = loop_.Milliseconds() - started_ >= milliseconds_;
     // Not Ready: a video that is over before anybody asked would be taken for one that cannot play.
-    return over && !loopOn_ ? platform::VideoState::Stopped : platform::VideoState::Playing;
+    return played >= film_.milliseconds && !loopOn_ ? VideoState::Stopped : VideoState::Playing;
+}
+
+platform::Size VirtualVideo::NaturalSize() {
+    const bool known = loop_.Milliseconds() - opened_ >= film_.sizeKnownAfter;
+    return path_.empty() || !known ? platform::Size{} : film_.natural;
 }
 
 }  // namespace virtual_adapter

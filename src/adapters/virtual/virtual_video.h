@@ -8,6 +8,14 @@
 
 namespace virtual_adapter {
 
+/// What there is to know of a film.
+struct Film {
+    double milliseconds = 0;      // of its length; 0: it cannot be played
+    platform::Size natural = {};  // empty where it says none
+    double sizeKnownAfter = 0;    // ms from its opening
+    double loadingMs = 0;         // from Play to the first picture
+};
+
 /// Traces event "video" with its action ("open", "play", "loop", "close"), the file, for "open" its
 /// width and height in pixels where it says them, and for "play" its milliseconds; a file that
 /// cannot be played has none.
@@ -15,7 +23,7 @@ class VirtualVideo : public platform::Video {
 public:
     VirtualVideo(platform::Trace& trace, platform::EventLoop& loop) : trace_(trace), loop_(loop) {}
 
-    /// Where files are found; without it none can be played.
+    /// Where films are found; without it none can be played.
     void Follow(platform::Files& files) { files_ = &files; }
 
     void SetUrl(TextView path) override;
@@ -23,23 +31,24 @@ public:
     void SetLoop(bool on) override;
     void Close() override;
     platform::VideoState Status() override;
-    platform::Size NaturalSize() override { return path_.empty() ? platform::Size{} : natural_; }
+    platform::Size NaturalSize() override;
     void AwaitSize(int) override {}
     void SetRoom(platform::Size) override {}
     platform::VideoFrame Frame() override { return {}; }
 
-private:
-    platform::Size SizeOf(TextView path) const;
+protected:
+    /// The film in that file, by what stands in it. Asked once for each opening.
+    virtual Film FilmIn(TextView path);
 
+private:
     platform::Trace& trace_;
     platform::EventLoop& loop_;
     platform::Files* files_ = nullptr;
     Text path_;
-    platform::Size natural_;  // of the file; empty where it says none
+    Film film_;
     bool loopOn_ = false;
     bool played_ = false;
-    double started_ = 0;       // ms of the loop
-    double milliseconds_ = 0;  // 0: the file cannot be played
+    double opened_ = 0, started_ = 0;  // ms of the loop
 };
 
 }  // namespace virtual_adapter
