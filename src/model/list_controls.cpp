@@ -26,6 +26,9 @@ void ListBox::AddItem(Text row, int before) {
     before = std::clamp(before, 0, ListCount());
     rows_.insert(rows_.begin() + before, std::move(row));
     selected_.insert(selected_.begin() + before, false);
+    if (!pictures_.empty()) {
+        pictures_.insert(pictures_.begin() + before, nullptr);
+    }
     AnnounceRows({RowChange::Inserted, before});
 }
 
@@ -35,6 +38,9 @@ void ListBox::RemoveItem(int row) {
     }
     rows_.erase(rows_.begin() + row);
     selected_.erase(selected_.begin() + row);
+    if (!pictures_.empty()) {
+        pictures_.erase(pictures_.begin() + row);
+    }
     AnnounceRows({RowChange::Removed, row});
     if (ListIndex >= ListCount()) {
         ListIndex = ListCount() - 1;
@@ -48,9 +54,23 @@ void ListBox::SetRow(int row, Text value) {
     }
 }
 
+void ListBox::SetRowPicture(int row, platform::BitmapPtr picture) {
+    if (row >= 0 && row < ListCount()) {
+        pictures_.resize(rows_.size());
+        pictures_[static_cast<size_t>(row)] = std::move(picture);
+        AnnounceRows({RowChange::Replaced, row});
+    }
+}
+
+platform::BitmapPtr ListBox::RowPicture(int row) const {
+    const bool there = row >= 0 && row < static_cast<int>(pictures_.size());
+    return there ? pictures_[static_cast<size_t>(row)] : nullptr;
+}
+
 void ListBox::Clear() {
     rows_.clear();
     selected_.clear();
+    pictures_.clear();
     AnnounceRows({RowChange::Cleared, 0});
     ListIndex = -1;
     TopIndex = 0;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/control.h"
+#include "platform/canvas.h"
 #include "platform/folders.h"
 
 namespace model {
@@ -20,6 +21,9 @@ public:
     Property<int> ListIndex{*this, "ListIndex", -1};  // current row, -1 none
     Property<int> TopIndex{*this, "TopIndex"};
     Property<int> MultiSelect;
+    /// Room for a picture before the text of each row, in pixels; 0: none.
+    Property<int> PictureWidth{*this, "PictureWidth"};
+    Property<int> PictureHeight{*this, "PictureHeight"};
     /// A person dragged the selected rows in front of that row; ListCount is the end.
     Event<int> RowsDragged;
 
@@ -32,6 +36,10 @@ public:
     /// Nothing happens for a row that is not there.
     void RemoveItem(int row);
     void SetRow(int row, Text value);
+    /// The picture stands in the middle of the room and is cut off where it is larger. Null: none.
+    void SetRowPicture(int row, platform::BitmapPtr picture);
+    /// Null for a row without a picture or that is not there.
+    platform::BitmapPtr RowPicture(int row) const;
     void Clear();
     bool Selected(int row) const;
     void Select(int row, bool on);
@@ -52,6 +60,7 @@ protected:
 private:
     std::deque<Text> rows_;
     std::deque<bool> selected_;
+    std::deque<platform::BitmapPtr> pictures_;  // empty until a row has one
 };
 
 /// A list that is folded up to its current row.

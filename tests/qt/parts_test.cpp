@@ -36,7 +36,7 @@ struct Lists : testing::Test {
 
 TEST_F(Lists, RowsArePassedOnOneByOne) {
     window.List1.AddItem(u"a");
-    ListBinding binding(window.List1, view, gate);
+    ListBinding binding(window.List1, view, {gate});
     EXPECT_EQ(Seen(), QStringList{"a"});
     window.List1.AddItem(u"c");
     window.List1.AddItem(u"b", 1);
@@ -49,7 +49,7 @@ TEST_F(Lists, RowsArePassedOnOneByOne) {
 }
 
 TEST_F(Lists, SelectionGoesBothWays) {
-    ListBinding binding(window.List1, view, gate);
+    ListBinding binding(window.List1, view, {gate});
     view.setSelectionMode(QAbstractItemView::ExtendedSelection);
     for (const char16_t* row : {u"a", u"b", u"c"}) {
         window.List1.AddItem(row);
@@ -72,7 +72,7 @@ TEST_F(Lists, SelectionGoesBothWays) {
 }
 
 TEST_F(Lists, ThirtyThousandRowsAndTheirWayBack) {
-    ListBinding binding(window.List1, view, gate);
+    ListBinding binding(window.List1, view, {gate});
     for (int i = 0; i < 30000; ++i) {
         window.List1.AddItem(u"/pics/slide.jpg");
     }

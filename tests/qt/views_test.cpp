@@ -18,8 +18,8 @@
 #include <algorithm>
 #include <set>
 
+#include "adapters/qt/binding_table.h"
 #include "adapters/qt/canvas_widget.h"
-#include "adapters/qt/control_binding.h"
 #include "adapters/qt/convert.h"
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/form_loader.h"

@@ -1,5 +1,6 @@
 #include "adapters/qt/browser_binding.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QStyle>
@@ -28,11 +29,12 @@ QStyle::StandardPixmap IconOf(platform::Place::Kind kind) {
 
 }  // namespace
 
-ComboBinding::ComboBinding(model::ListBox& list, QComboBox& widget, Gate& gate)
-    : ControlBinding(list, widget, gate, nullptr), list_(list), face_(widget) {
+ComboBinding::ComboBinding(model::ListBox& list, QComboBox& widget, const Site& site)
+    : ControlBinding(list, widget, site), list_(list), face_(widget) {
     for (int row = 0; row < list.ListCount(); ++row) {
         widget.addItem(ToQt(list.List(row)));
     }
+    HearKeys();
     // Only what a person does; also the choice of the row that stands there already.
     connect(&widget, &QComboBox::activated, this, [this](int row) {
         Act([&] { list_.Choose({row}); });
@@ -68,8 +70,8 @@ void ComboBinding::ShowRow(int row) {
     face_.setItemText(row, ToQt(list_.List(row)));
 }
 
-DriveBinding::DriveBinding(model::DriveList& drive, QComboBox& widget, Gate& gate)
-    : ComboBinding(drive, widget, gate), drive_(drive) {
+DriveBinding::DriveBinding(model::DriveList& drive, QComboBox& widget, const Site& site)
+    : ComboBinding(drive, widget, site), drive_(drive) {
     for (int row = 0; row < drive.ListCount(); ++row) {
         ShowRow(row);
     }
@@ -86,11 +88,12 @@ void DriveBinding::ShowRow(int row) {
     face_.setItemData(row, ToQt(place.path), Qt::ToolTipRole);
 }
 
-FolderBinding::FolderBinding(model::FolderList& dir, QTreeView& widget, Gate& gate)
-    : ControlBinding(dir, widget, gate, nullptr),
+FolderBinding::FolderBinding(model::FolderList& dir, QTreeView& widget, const Site& site)
+    : ControlBinding(dir, widget, site),
       dir_(dir),
       face_(widget),
       tree_(std::make_unique<FolderTree>(dir.folders)) {
+    HearKeys();
     widget.setHeaderHidden(true);
     widget.setUniformRowHeights(true);
     widget.setModel(tree_.get());
@@ -98,8 +101,8 @@ FolderBinding::FolderBinding(model::FolderList& dir, QTreeView& widget, Gate& ga
         Opened(index);
         face_.expand(index);
     });
-    connect(widget.selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& current) { Opened(current); });
+    connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection& on) { Opened(on.indexes().value(0)); });
     Sync();
 }
 
@@ -130,6 +133,17 @@ void FolderBinding::SyncOwn() {
         face_.expand(index);
         face_.scrollTo(index, QAbstractItemView::PositionAtCenter);
     }
+}
+
+/// What was scrolled to ahead of the first showing was for another size.
+bool FolderBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] { face_.scrollTo(face_.currentIndex(), QAbstractItemView::PositionAtCenter); },
+            Qt::QueuedConnection);
+    }
+    return ControlBinding::eventFilter(watched, event);
 }
 
 void FolderBinding::Opened(const QModelIndex& index) {

@@ -13,7 +13,7 @@ namespace qt_adapter {
 
 class ComboBinding : public ControlBinding {
 public:
-    ComboBinding(model::ListBox& list, QComboBox& widget, Gate& gate);
+    ComboBinding(model::ListBox& list, QComboBox& widget, const Site& site);
     void RowsChanged(model::Control& control, const model::RowChange& change) override;
 
 protected:
@@ -27,7 +27,7 @@ protected:
 /// Places are shown by their labels and icons.
 class DriveBinding : public ComboBinding {
 public:
-    DriveBinding(model::DriveList& drive, QComboBox& widget, Gate& gate);
+    DriveBinding(model::DriveList& drive, QComboBox& widget, const Site& site);
 
 protected:
     void ShowRow(int row) override;
@@ -39,12 +39,13 @@ private:
 /// A press or the keyboard's step on a folder opens it.
 class FolderBinding : public ControlBinding {
 public:
-    FolderBinding(model::FolderList& dir, QTreeView& widget, Gate& gate);
+    FolderBinding(model::FolderList& dir, QTreeView& widget, const Site& site);
     ~FolderBinding() override;
     void RowsChanged(model::Control& control, const model::RowChange& change) override;
 
 protected:
     void SyncOwn() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Opened(const QModelIndex& index);

@@ -55,6 +55,8 @@ constexpr RoleColor kDarkDisabled[] = {
     {QPalette::HighlightedText, 0xFF9A9A9F},
 };
 
+constexpr QRgb kDarkMarkGround = 0xFF5A5A60;
+
 QPalette DarkPalette() {
     QPalette palette;
     for (const RoleColor& row : kDark) {
@@ -119,6 +121,14 @@ void ColorScheme::SetDark(bool dark) {
     }
     dark_ = dark;
     QApplication::setPalette(dark ? DarkPalette() : QPalette());
+    // Their outlines are darker than the window: on a dark one the box itself must be seen.
+    for (const char* marked : {"QCheckBox", "QRadioButton"}) {
+        QPalette palette = QApplication::palette();
+        if (dark) {
+            palette.setColor(QPalette::Base, QColor(kDarkMarkGround));
+        }
+        QApplication::setPalette(palette, marked);
+    }
 }
 
 }  // namespace qt_adapter

@@ -13,12 +13,18 @@ namespace qt_adapter {
 
 class CanvasWidget;
 
+/// Where a widget stands.
+struct Site {
+    Gate& gate;
+    /// The canvas over which the control is placed by its Left and Top in the canvas's units; null
+    /// for a widget that has its place by the form.
+    const CanvasWidget* host = nullptr;
+    bool physical = false;  // see CanvasWidget::Attach
+};
+
 class ControlBinding : public QObject, public model::Listener {
 public:
-    /// `host`: the canvas over which the control is placed by its Left and Top in the canvas's
-    /// units; null for a widget that has its place by the form.
-    ControlBinding(model::VisibleControl& control, QWidget& widget, Gate& gate,
-                   const CanvasWidget* host);
+    ControlBinding(model::VisibleControl& control, QWidget& widget, const Site& site);
     ~ControlBinding() override;
 
     void PropertyChanged(model::Control& control, model::PropertyBase& property) override;
@@ -33,6 +39,9 @@ protected:
     virtual void SyncOwn() = 0;
     /// Runs `call` when a person can reach the control.
     void Act(const std::function<void()>& call);
+    /// From now on the control hears the keys that are pressed on its widget, before the widget.
+    void HearKeys();
+    bool eventFilter(QObject* watched, QEvent* event) override;
     /// Size of a widget for which the model says none.
     virtual QSize NaturalSize() const { return widget_.sizeHint(); }
     /// In which the model gives Width and Height.
@@ -51,16 +60,5 @@ private:
 
     const CanvasWidget* host_;
 };
-
-/// True for kinds that have a widget.
-bool HasWidget(model::ControlKind kind);
-
-/// A plain widget for a control that its form does not hold; null for kinds that need a form.
-QWidget* MakePlainWidget(model::ControlKind kind, QWidget* parent);
-
-/// Null, with a warning, when the widget is of a class that does not fit the control.
-/// `physical`: see CanvasWidget::Attach.
-std::unique_ptr<ControlBinding> MakeBinding(model::VisibleControl& control, QWidget& widget,
-                                            Gate& gate, const CanvasWidget* host, bool physical);
 
 }  // namespace qt_adapter

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include "platform/monitors.h"
 #include "text/text.h"
 
 namespace qt_adapter {
@@ -14,6 +15,10 @@ inline QString ToQt(TextView value) {
 inline Text FromQt(const QString& value) {
     return Text(reinterpret_cast<const char16_t*>(value.utf16()),
                 static_cast<size_t>(value.size()));
+}
+
+inline int ToPixels(int twips) {
+    return twips / platform::kTwipsPerPixel;
 }
 
 }  // namespace qt_adapter

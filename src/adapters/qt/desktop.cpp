@@ -253,6 +253,15 @@ bool Desktop::Shot(model::Window& window, const std::string& file) {
     return widget->grab().save(QString::fromStdString(file), "PNG");
 }
 
+bool Desktop::SamePixels(const std::string& file, const std::string& other) {
+    QImage pictures[] = {QImage(QString::fromStdString(file)),
+                         QImage(QString::fromStdString(other))};
+    for (QImage& picture : pictures) {
+        picture.convertTo(QImage::Format_RGB32);
+    }
+    return !pictures[0].isNull() && pictures[0] == pictures[1];
+}
+
 bool Desktop::OpenText(TextView path) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path)));
 }

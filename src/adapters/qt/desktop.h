@@ -63,6 +63,8 @@ public:
     /// Writes a PNG of what a person would see of the window, shown or not. No handler of the
     /// model runs. False when the window has no view or the file cannot be written.
     bool Shot(model::Window& window, const std::string& file);
+    /// Two picture files of the same size and pixels; false also when one cannot be read.
+    static bool SamePixels(const std::string& file, const std::string& other);
 
     /// Opens the text in the desktop's own editor. False where the desktop has none.
     static bool OpenText(TextView path);

@@ -1,11 +1,11 @@
 #include "adapters/qt/grid_binding.h"
 
 #include <QHeaderView>
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include "adapters/qt/convert.h"
-#include "adapters/qt/virtual_keys.h"
 
 namespace qt_adapter {
 
@@ -73,8 +73,8 @@ void GridModel::Follow(const model::RowChange& change) {
     }
 }
 
-GridBinding::GridBinding(model::Grid& grid, QTableView& view, Gate& gate)
-    : ControlBinding(grid, view, gate, nullptr),
+GridBinding::GridBinding(model::Grid& grid, QTableView& view, const Site& site)
+    : ControlBinding(grid, view, site),
       grid_(grid),
       view_(view),
       cells_(grid, [this](int row, int col, const Text& value) {
@@ -85,13 +85,30 @@ GridBinding::GridBinding(model::Grid& grid, QTableView& view, Gate& gate)
     // Equal heights: the view need not ask every row.
     view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view.verticalHeader()->hide();
-    view.installEventFilter(this);
-    connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this] { ChosenByPerson(); });
-    connect(view.horizontalHeader(), &QHeaderView::sectionClicked, this,
+    HearKeys();
+    view.viewport()->installEventFilter(this);
+    connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        // By keys, as soon as the current cell is the new one; with the mouse when it lets go.
+        if (!held_ && !following_) {
+            QMetaObject::invokeMethod(
+                this, [this] { ChosenByPerson(); }, Qt::QueuedConnection);
+        }
+    });
+    QHeaderView* header = view.horizontalHeader();
+    header->setSectionsClickable(true);
+    header->disconnect(SIGNAL(sectionPressed(int)), &view);  // would choose the whole column
+    header->disconnect(SIGNAL(sectionEntered(int)), &view);
+    connect(header, &QHeaderView::sectionClicked, this,
             [this](int col) { Act([&] { grid_.Choose(0, col, 0, col); }); });
     connect(&view, &QTableView::doubleClicked, this,
             [this] { Act([this] { grid_.PressAgain(); }); });
+    connect(view.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        const int top = view_.rowAt(0);
+        if (!following_ && top >= 0) {
+            const QScopedValueRollback<bool> guard(following_, true);
+            grid_.TopRow = top + 1;
+        }
+    });
     Sync();
 }
 
@@ -100,8 +117,14 @@ GridBinding::~GridBinding() {
 }
 
 void GridBinding::RowsChanged(model::Control&, const model::RowChange& change) {
-    const QScopedValueRollback<bool> guard(following_, true);
-    cells_.Follow(change);
+    {
+        const QScopedValueRollback<bool> guard(following_, true);
+        cells_.Follow(change);
+    }
+    // The view's current cell goes with its row; the grid's is a number.
+    if (view_.currentIndex() != cells_.index(grid_.Row - 1, grid_.Col)) {
+        SyncOwn();
+    }
 }
 
 void GridBinding::SyncOwn() {
@@ -114,34 +137,47 @@ void GridBinding::SyncOwn() {
     view_.selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     view_.selectionModel()->select(QItemSelection(current, end),
                                    QItemSelectionModel::ClearAndSelect);
+    const int top = view_.rowAt(0);
+    if (top >= 0 && top != grid_.TopRow - 1) {
+        view_.scrollTo(cells_.index(grid_.TopRow - 1, 0), QAbstractItemView::PositionAtTop);
+    }
 }
 
-bool GridBinding::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = VirtualKey(static_cast<QKeyEvent*>(event)->key());
-        if (key != 0) {
-            Act([&] { grid_.PressKey(key); });
-        }
+bool GridBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != view_.viewport()) {
+        return ControlBinding::eventFilter(watched, event);
+    }
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonPress) {
+        held_ = true;
+    } else if (type == QEvent::MouseButtonRelease && held_) {
+        held_ = false;
+        ChosenByPerson();
     }
     return false;
 }
 
 void GridBinding::ChosenByPerson() {
     const QItemSelection range = view_.selectionModel()->selection();
-    if (following_ || range.isEmpty()) {
+    if (range.isEmpty()) {
         return;
     }
-    const QScopedValueRollback<bool> guard(following_, true);
     const QItemSelectionRange& cells = range.first();
-    const QModelIndex current = view_.currentIndex();
-    // The current cell is the end at which the range began.
-    const bool fromTop = current.row() == cells.top();
-    const bool fromLeft = current.column() == cells.left();
-    Act([&] {
-        grid_.Choose(
-            (fromTop ? cells.top() : cells.bottom()) + 1, fromLeft ? cells.left() : cells.right(),
-            (fromTop ? cells.bottom() : cells.top()) + 1, fromLeft ? cells.right() : cells.left());
-    });
+    // The view's current cell is the end that moved, the grid's is the one where the range began.
+    const QModelIndex moved = view_.currentIndex();
+    const bool up = moved.row() == cells.top();
+    const bool left = moved.column() == cells.left();
+    {
+        const QScopedValueRollback<bool> guard(following_, true);
+        Act([&] {
+            grid_.Choose(
+                (up ? cells.bottom() : cells.top()) + 1, left ? cells.right() : cells.left(),
+                (up ? cells.top() : cells.bottom()) + 1, left ? cells.left() : cells.right());
+        });
+    }
+    if (grid_.RowSel - 1 != moved.row() || grid_.ColSel != moved.column()) {
+        SyncOwn();  // a handler chose other cells
+    }
 }
 
 }  // namespace qt_adapter

@@ -33,7 +33,7 @@ private:
 
 class GridBinding : public ControlBinding {
 public:
-    GridBinding(model::Grid& grid, QTableView& view, Gate& gate);
+    GridBinding(model::Grid& grid, QTableView& view, const Site& site);
     ~GridBinding() override;
     void RowsChanged(model::Control& control, const model::RowChange& change) override;
 
@@ -47,6 +47,7 @@ private:
     model::Grid& grid_;
     QTableView& view_;
     GridModel cells_;
+    bool held_ = false;       // the mouse chooses cells and has not let go
     bool following_ = false;  // a change is being passed on: its echo is not news
 };
 

@@ -45,16 +45,34 @@ void ImageWidget::paintEvent(QPaintEvent*) {
 
 void ImageWidget::mousePressEvent(QMouseEvent* event) {
     event->setAccepted(image_ && IsOurs(*event));
+    second_ = event->type() == QEvent::MouseButtonDblClick;
     if (event->isAccepted()) {
         gate_->Guarded([&] { image_->HoldDown(PressOf(*event)); });
     }
 }
 
-void ImageWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (image_ && IsOurs(*event)) {
-        const bool inside = rect().contains(event->pos());
-        gate_->Guarded([&] { image_->Release(PressOf(*event), inside); });
+void ImageWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (image_) {
+        const bool right = event->buttons().testFlag(Qt::RightButton);
+        gate_->Guarded([&] { image_->Drag({right, event->pos().x(), event->pos().y()}); });
     }
+}
+
+void ImageWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (!image_ || !IsOurs(*event)) {
+        return;
+    }
+    const bool inside = rect().contains(event->pos());
+    const bool right = event->button() == Qt::RightButton;
+    const bool again = second_ && inside && !right && image_->DblClick;
+    second_ = false;
+    gate_->Guarded([&] {
+        if (again) {
+            image_->PressAgain(PressOf(*event));
+        } else {
+            image_->Release(PressOf(*event), inside);
+        }
+    });
 }
 
 }  // namespace qt_adapter

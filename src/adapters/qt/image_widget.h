@@ -20,11 +20,14 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     model::Image* image_ = nullptr;
     Gate* gate_ = nullptr;
+    bool second_ = false;  // the press that is held is the second of a double click
 };
 
 }  // namespace qt_adapter

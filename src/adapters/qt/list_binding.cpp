@@ -1,22 +1,26 @@
 #include "adapters/qt/list_binding.h"
 
-#include <QGuiApplication>
-#include <QKeyEvent>
+#include <QEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
-#include "adapters/qt/virtual_keys.h"
 #include "model/list_controls.h"
 
 namespace qt_adapter {
 
-ListBinding::ListBinding(model::ListBox& list, QListView& view, Gate& gate)
-    : ControlBinding(list, view, gate, nullptr), list_(list), view_(view), rows_(list) {
+ListBinding::ListBinding(model::ListBox& list, QListView& view, const Site& site)
+    : ControlBinding(list, view, site),
+      list_(list),
+      view_(view),
+      rows_(list, [this](int before) { Dragged(before); }) {
     // Equal heights: the view need not ask every row.
     view.setUniformItemSizes(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setModel(&rows_);
-    view.installEventFilter(this);
+    HearKeys();
+    view.viewport()->installEventFilter(this);
+    // Rows can be dragged where somebody hears of it: see RowsModel.
+    view.setDragDropMode(QAbstractItemView::InternalMove);
     connect(
         view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this](const QItemSelection& on, const QItemSelection& off) { FollowSelection(on, off); });
@@ -40,6 +44,28 @@ ListBinding::~ListBinding() {
     view_.setModel(nullptr);
 }
 
+bool ListBinding::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::FocusIn:
+            focused_ = true;
+            break;
+        case QEvent::MouseButtonPress:
+            held_ = true;
+            focused_ = false;
+            break;
+        case QEvent::KeyPress:
+            focused_ = false;
+            held_ = false;  // dragging swallows the release
+            break;
+        case QEvent::MouseButtonRelease:
+            held_ = false;
+            break;
+        default:
+            break;
+    }
+    return ControlBinding::eventFilter(watched, event);
+}
+
 void ListBinding::RowsChanged(model::Control&, const model::RowChange& change) {
     if (following_ && change.kind == model::RowChange::Replaced) {
         return;
@@ -47,9 +73,9 @@ void ListBinding::RowsChanged(model::Control&, const model::RowChange& change) {
     const QScopedValueRollback<bool> guard(following_, true);
     rows_.Follow(change);
     const auto select = [this](int row) {
-        view_.selectionModel()->select(rows_.index(row), list_.Selected(row)
-                                                             ? QItemSelectionModel::Select
-                                                             : QItemSelectionModel::Deselect);
+        const bool on = list_.Selected(row) || (!SelectsMany() && row == list_.ListIndex);
+        view_.selectionModel()->select(
+            rows_.index(row), on ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
     };
     if (change.kind == model::RowChange::Replaced) {
         select(change.row);
@@ -67,9 +93,22 @@ void ListBinding::SyncOwn() {
         return;
     }
     const QScopedValueRollback<bool> guard(following_, true);
+    const auto mode =
+        SelectsMany() ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection;
+    if (mode != view_.selectionMode()) {
+        view_.setSelectionMode(mode);
+    }
+    const QSize room(list_.PictureWidth, list_.PictureHeight);
+    if (room != room_) {
+        room_ = room;
+        rows_.FollowPictureSize();
+    }
     const QModelIndex current = rows_.index(list_.ListIndex);
     if (view_.currentIndex() != current) {
-        view_.selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+        // Of several rows the selected ones are told one by one.
+        view_.selectionModel()->setCurrentIndex(current, SelectsMany()
+                                                             ? QItemSelectionModel::NoUpdate
+                                                             : QItemSelectionModel::ClearAndSelect);
         if (current.isValid()) {
             view_.scrollTo(current);
         }
@@ -80,14 +119,10 @@ void ListBinding::SyncOwn() {
     }
 }
 
-bool ListBinding::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = VirtualKey(static_cast<QKeyEvent*>(event)->key());
-        if (key != 0) {
-            Act([&] { list_.PressKey(key); });
-        }
-    }
-    return false;
+/// Later, so that the toolkit is done with the dragging when boxes come up.
+void ListBinding::Dragged(int before) {
+    QMetaObject::invokeMethod(
+        this, [this, before] { Act([&] { list_.DragTo(before); }); }, Qt::QueuedConnection);
 }
 
 void ListBinding::FollowSelection(const QItemSelection& on, const QItemSelection& off) {
@@ -104,7 +139,7 @@ void ListBinding::FollowSelection(const QItemSelection& on, const QItemSelection
 }
 
 void ListBinding::FollowCurrent(const QModelIndex& current) {
-    if (following_) {
+    if (following_ || focused_) {
         return;
     }
     {
@@ -112,7 +147,7 @@ void ListBinding::FollowCurrent(const QModelIndex& current) {
         list_.ListIndex = current.row();
     }
     // Moving by keys counts as a click; with the mouse the click itself is told.
-    if (QGuiApplication::mouseButtons() == Qt::NoButton && current.isValid()) {
+    if (!held_ && current.isValid()) {
         QMetaObject::invokeMethod(
             this, [this] { Act([this] { list_.Press(); }); }, Qt::QueuedConnection);
     }

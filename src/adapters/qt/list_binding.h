@@ -11,7 +11,7 @@ namespace qt_adapter {
 
 class ListBinding : public ControlBinding {
 public:
-    ListBinding(model::ListBox& list, QListView& view, Gate& gate);
+    ListBinding(model::ListBox& list, QListView& view, const Site& site);
     ~ListBinding() override;
     void RowsChanged(model::Control& control, const model::RowChange& change) override;
 
@@ -20,12 +20,17 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool SelectsMany() const { return list_.MultiSelect == model::kSelectMany; }
+    void Dragged(int before);
     void FollowSelection(const QItemSelection& on, const QItemSelection& off);
     void FollowCurrent(const QModelIndex& current);
 
     model::ListBox& list_;
     QListView& view_;
     RowsModel rows_;
+    QSize room_{0, 0};        // that is kept for rows' pictures
+    bool focused_ = false;    // just now: the view makes its first row the current one
+    bool held_ = false;       // a button of the mouse is down
     bool following_ = false;  // a change is being passed on: its echo is not news
 };
 

@@ -10,8 +10,9 @@ const QString kDayForm = QStringLiteral("yyyy/MM/dd");
 
 }  // namespace
 
-ScrollBinding::ScrollBinding(model::ScrollBar& bar, QAbstractSlider& widget, Gate& gate)
-    : ControlBinding(bar, widget, gate, nullptr), bar_(bar), face_(widget) {
+ScrollBinding::ScrollBinding(model::ScrollBar& bar, QAbstractSlider& widget, const Site& site)
+    : ControlBinding(bar, widget, site), bar_(bar), face_(widget) {
+    HearKeys();
     Sync();
     connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
         if (value != bar_.Value) {
@@ -27,8 +28,10 @@ void ScrollBinding::SyncOwn() {
     face_.setValue(bar_.Value);
 }
 
-CalendarBinding::CalendarBinding(model::Calendar& calendar, QCalendarWidget& widget, Gate& gate)
-    : ControlBinding(calendar, widget, gate, nullptr), calendar_(calendar), face_(widget) {
+CalendarBinding::CalendarBinding(model::Calendar& calendar, QCalendarWidget& widget,
+                                 const Site& site)
+    : ControlBinding(calendar, widget, site), calendar_(calendar), face_(widget) {
+    HearKeys();
     const auto choose = [this](const QDate& day) {
         Act([&] { calendar_.Choose(FromQt(day.toString(kDayForm))); });
     };

@@ -13,7 +13,7 @@ namespace qt_adapter {
 /// The widget is a QScrollBar or a QSlider.
 class ScrollBinding : public ControlBinding {
 public:
-    ScrollBinding(model::ScrollBar& bar, QAbstractSlider& widget, Gate& gate);
+    ScrollBinding(model::ScrollBar& bar, QAbstractSlider& widget, const Site& site);
 
 protected:
     void SyncOwn() override;
@@ -25,7 +25,7 @@ private:
 
 class CalendarBinding : public ControlBinding {
 public:
-    CalendarBinding(model::Calendar& calendar, QCalendarWidget& widget, Gate& gate);
+    CalendarBinding(model::Calendar& calendar, QCalendarWidget& widget, const Site& site);
 
 protected:
     void SyncOwn() override;

@@ -1,23 +1,10 @@
 // Files that are dragged over a window and dropped on it.
-#include <QDropEvent>
-#include <QFileInfo>
-#include <QMimeData>
-#include <QUrl>
 #include <algorithm>
 
-#include "adapters/qt/convert.h"
+#include "adapters/qt/dragged_files.h"
 #include "adapters/qt/window_view.h"
 
 namespace qt_adapter {
-
-namespace {
-
-bool HasFiles(const QDropEvent& event) {
-    const QList<QUrl> urls = event.mimeData()->urls();
-    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
-}
-
-}  // namespace
 
 /// Says in the event whether the files can be dropped here.
 void WindowView::Dragged(QDropEvent& drag) {
@@ -52,12 +39,7 @@ model::VisibleControl* WindowView::TakerOfDrop(QPoint place) {
 }
 
 void WindowView::Dropped(const QDropEvent& event) {
-    std::vector<Text> files;
-    for (const QUrl& url : event.mimeData()->urls()) {
-        if (url.isLocalFile()) {
-            files.push_back(FromQt(QFileInfo(url.toLocalFile()).absoluteFilePath()));
-        }
-    }
+    const std::vector<Text> files = FilesOf(event);
     model::VisibleControl* taker = TakerOfDrop(event.position().toPoint());
     if (!taker) {
         return;

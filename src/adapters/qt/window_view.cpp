@@ -1,66 +1,29 @@
 #include "adapters/qt/window_view.h"
 
-#include <QAbstractButton>
-#include <QBackingStore>
+#include <QApplication>
 #include <QDropEvent>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QScreen>
 #include <QWindow>
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
+#include "adapters/qt/binding_table.h"
 #include "adapters/qt/canvas_widget.h"
 #include "adapters/qt/convert.h"
-#include "adapters/qt/glyph_icon.h"
-#include "adapters/qt/qt_monitors.h"
+#include "adapters/qt/form_words.h"
 #include "adapters/qt/virtual_keys.h"
+#include "adapters/qt/window_palette.h"
 #include "model/controls.h"
 
 namespace qt_adapter {
 
 namespace {
 
-constexpr QRgb kShapeOnStage = 0xFF5F6368;  // grey that is seen on black without shouting
-
 constexpr int kKeyEnter = 13;
 constexpr int kKeyEscape = 27;
-
-QStringList Words(const QObject& object, const char* property) {
-    return object.property(property).toString().split(' ', Qt::SkipEmptyParts);
-}
-
-/// Windows here cannot choose their own place.
-bool PlacesAreNotOurs() {
-    return QGuiApplication::platformName().startsWith("wayland");
-}
-
-bool Offscreen() {
-    return QGuiApplication::platformName() == "offscreen";
-}
-
-int ToPixels(int twips) {
-    return twips / platform::kTwipsPerPixel;
-}
-
-/// What a window is painted in takes its memory now, while the picture that it will show is still
-/// being decoded, and not between the picture and the screen.
-void TakeMemory(QWidget& window) {
-    QBackingStore* store = window.backingStore();
-    if (!store || store->size() == window.size()) {
-        return;
-    }
-    store->resize(window.size());
-    store->beginPaint(window.rect());
-    if (QPaintDevice* memory = store->paintDevice()) {
-        QPainter(memory).fillRect(window.rect(), Qt::black);
-    }
-    store->endPaint();
-}
 
 }  // namespace
 
@@ -168,37 +131,6 @@ void WindowView::Build() {
     root_->installEventFilter(this);
 }
 
-void WindowView::ApplyWindowKind() {
-    struct KindRow {
-        const char* word;
-        Qt::WindowFlags flags;
-    };
-    static constexpr KindRow kRows[] = {
-        {"Frameless", Qt::FramelessWindowHint},
-        {"Tool", Qt::Tool},
-        {"StayOnTop", Qt::WindowStaysOnTopHint},
-        {"NoFocus", Qt::WindowDoesNotAcceptFocus},  // keys stay with the window below
-    };
-    const QStringList words = Words(*root_, "windowKind");
-    WindowView* below = viewOf_(root_->property("over").toString());
-    if (below && below->Widget() && PlacesAreNotOurs()) {
-        // A window of its own would land anywhere: it becomes a part of the one below.
-        root_->setParent(below->Widget());
-        root_->hide();
-        return;
-    }
-    Qt::WindowFlags flags = words.isEmpty() ? root_->windowFlags() : Qt::WindowFlags(Qt::Window);
-    for (const KindRow& row : kRows) {
-        if (words.contains(QLatin1String(row.word))) {
-            flags |= row.flags;
-        }
-    }
-    root_->setWindowFlags(flags);
-    if (words.contains("Tool")) {
-        root_->setAttribute(Qt::WA_ShowWithoutActivating);
-    }
-}
-
 void WindowView::BindControls() {
     const QStringList unseen = Words(*root_, "unseen");
     for (CanvasWidget* canvas : root_->findChildren<CanvasWidget*>()) {
@@ -224,7 +156,7 @@ void WindowView::BindControls() {
 }
 
 void WindowView::Bind(model::VisibleControl& control, QWidget& widget, const CanvasWidget* host) {
-    if (auto binding = MakeBinding(control, widget, gate_, host, fullScreen_)) {
+    if (auto binding = MakeBinding(control, widget, {gate_, host, fullScreen_})) {
         bindings_.push_back(std::move(binding));
     }
 }
@@ -240,212 +172,6 @@ void WindowView::MakeOverlay(model::VisibleControl& control) {
     widget->raise();
 }
 
-void WindowView::DecorateWidgets() {
-    for (QWidget* widget : root_->findChildren<QWidget*>()) {
-        const QString glyph = widget->property("glyph").toString();
-        if (!glyph.isEmpty()) {
-            const QString role = widget->property("glyphRole").toString();
-            const QIcon icon = GlyphIcon(
-                glyph, role == "highlight" ? QPalette::HighlightedText : QPalette::ButtonText);
-            if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-                button->setIcon(icon);
-            } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-                // Drawn once: a label's shape is on ground that is the same in light and dark.
-                const int side = label->property("glyphSize").toInt();
-                label->setPixmap(GlyphIcon(glyph, QColor(kShapeOnStage))
-                                     .pixmap(QSize(side, side), label->devicePixelRatioF()));
-            }
-        }
-        const QStringList terms = Words(*widget, "showWhile");
-        if (terms.isEmpty()) {
-            continue;
-        }
-        conditions_.push_back({widget, terms});
-        for (QString term : terms) {
-            model::Control* control = window_.FindControl(term.remove('!').toStdString());
-            if (control) {
-                control->Listen(this);
-                heard_.push_back(control);
-            }
-        }
-    }
-}
-
-void WindowView::ApplyConditions() {
-    const auto holds = [this](QString term) {
-        if (term == "idle") {
-            return window_.MousePointer == model::kPointerNormal;
-        }
-        const bool wanted = !term.startsWith('!');
-        const model::Control* control = window_.FindControl(term.remove('!').toStdString());
-        return control && HasWidget(control->Kind()) &&
-               static_cast<const model::VisibleControl*>(control)->Enabled == wanted;
-    };
-    for (const Condition& condition : conditions_) {
-        for (QLabel* label : condition.widget->findChildren<QLabel*>()) {
-            const QString words = label->property("textWithDrop").toString();
-            if (!words.isEmpty() && window_.FilesDropped) {
-                label->setText(words);
-            }
-        }
-        condition.widget->adjustSize();
-        condition.widget->setVisible(
-            std::all_of(condition.terms.begin(), condition.terms.end(), holds));
-    }
-}
-
-void WindowView::FollowVisible() {
-    if (!window_.Visible) {
-        if (root_) {
-            root_->hide();
-        }
-        return;
-    }
-    if (!Widget()) {
-        return;
-    }
-    ApplyConditions();
-    root_->setWindowModality(window_.Modal ? Qt::ApplicationModal : Qt::NonModal);
-    if (fullScreen_) {
-        ShowFullScreen();
-        return;
-    }
-    FollowSize();
-    WindowView* below = viewOf_(root_->property("over").toString());
-    if (below && below->Widget()->isVisible()) {
-        FollowPlace();
-        root_->winId();
-        if (root_->isWindow() && below->Widget()->windowHandle()) {
-            root_->windowHandle()->setTransientParent(below->Widget()->windowHandle());
-        }
-    }
-    root_->show();
-    root_->raise();
-    if (!root_->testAttribute(Qt::WA_ShowWithoutActivating)) {
-        root_->activateWindow();
-        if (host_ && !root_->focusWidget()) {
-            host_->setFocus();
-        }
-    }
-}
-
-void WindowView::ShowFullScreen() {
-    QScreen* screen = ScreenAt(ToPixels(window_.Left), ToPixels(window_.Top));
-    if (Offscreen() || !screen) {
-        root_->setGeometry(0, 0, ToPixels(window_.Width), ToPixels(window_.Height));
-        root_->show();
-    } else {
-        const bool appears = !root_->isVisible();
-        root_->setScreen(screen);
-        root_->setGeometry(screen->geometry());
-        root_->showFullScreen();
-        // By the other size of its memory the toolkit sees what of a visible window is to be
-        // painted.
-        if (appears) {
-            TakeMemory(*root_);
-        }
-    }
-    root_->raise();
-    root_->activateWindow();
-    if (host_) {
-        host_->setFocus();
-    }
-}
-
-void WindowView::PlaceInPixels() {
-    const platform::Rect wanted{ToPixels(window_.Left), ToPixels(window_.Top),
-                                ToPixels(window_.Width), ToPixels(window_.Height)};
-    QScreen* screen = ScreenAt(wanted.x + wanted.width / 2, wanted.y + wanted.height / 2);
-    if (Offscreen() || !screen) {
-        root_->setGeometry(0, 0, wanted.width, wanted.height);
-        return;
-    }
-    const bool covers = PhysicalRect(*screen) == wanted;
-    root_->setScreen(screen);
-    root_->setWindowState(covers ? root_->windowState() | Qt::WindowFullScreen
-                                 : root_->windowState() & ~Qt::WindowFullScreen);
-    const double ratio = screen->devicePixelRatio();
-    const auto scaled = [ratio](int pixels) { return static_cast<int>(std::ceil(pixels / ratio)); };
-    root_->setGeometry(covers ? screen->geometry()
-                              : QRect(FromPhysical(wanted.x, wanted.y),
-                                      QSize(scaled(wanted.width), scaled(wanted.height))));
-}
-
-void WindowView::FollowPlace() {
-    if (countsPixels_) {
-        PlaceInPixels();
-        return;
-    }
-    if (fullScreen_) {
-        if (root_->isVisible()) {
-            ShowFullScreen();
-        }
-        return;
-    }
-    if (root_->isVisible() && window_.WindowState != model::kWindowNormal) {
-        return;  // its place is the window system's affair
-    }
-    const int x = ToPixels(window_.Left);
-    const int y = ToPixels(window_.Top);
-    QPoint place = FromPhysical(x, y);
-    const QScreen* screen = ScreenAt(x, y);
-    if (screen && screen->devicePixelRatio() != 1.0 && !root_->property("over").isValid()) {
-        // The program reckons with the monitor's pixels: where it put the middle, it stays.
-        const QPoint half(ToPixels(window_.Width) / 2, ToPixels(window_.Height) / 2);
-        const QRect free = screen->availableGeometry();
-        place = FromPhysical(x + half.x(), y + half.y()) - half;
-        place.setX(std::max(free.x(), place.x()));
-        place.setY(std::max(free.y(), place.y()));
-    } else if (screen && root_->property("over").isValid()) {
-        // Sizes are counted in other units than the monitor's pixels on a scaled screen.
-        const QRect area = screen->geometry();
-        place.setX(std::min(place.x(), area.x() + area.width() - root_->width()));
-        place.setY(std::min(place.y(), area.y() + area.height() - root_->height()));
-        if (!root_->isWindow()) {
-            place -= area.topLeft();
-        }
-    }
-    root_->move(place);
-}
-
-void WindowView::FollowSize() {
-    if (fullScreen_ || countsPixels_) {
-        FollowPlace();
-    } else if (window_.WindowState == model::kWindowNormal) {
-        root_->resize(ToPixels(window_.Width), ToPixels(window_.Height));
-    }
-}
-
-void WindowView::FollowState() {
-    Qt::WindowStates states = root_->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
-    if (window_.WindowState == model::kWindowMinimised) {
-        states |= Qt::WindowMinimized;
-    } else if (window_.WindowState == model::kWindowMaximised) {
-        states |= Qt::WindowMaximized;
-    }
-    if (states != root_->windowState()) {
-        root_->setWindowState(states);
-    }
-}
-
-void WindowView::FollowPointer() {
-    if (window_.CursorCount < 0) {
-        root_->setCursor(Qt::BlankCursor);
-        return;
-    }
-    switch (window_.MousePointer) {
-        case model::kPointerBusy:
-            root_->setCursor(Qt::WaitCursor);
-            break;
-        case model::kPointerArrowBusy:
-            root_->setCursor(Qt::BusyCursor);
-            break;
-        default:
-            root_->unsetCursor();
-            break;
-    }
-}
-
 void WindowView::FollowCaption() {
     const QString caption = ToQt(window_.Caption());
     root_->setWindowTitle(caption);
@@ -455,8 +181,25 @@ void WindowView::FollowCaption() {
     }
 }
 
-bool WindowView::eventFilter(QObject*, QEvent* event) {
+bool WindowView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != root_) {
+        if (event->type() == QEvent::Expose) {
+            Exposed();
+        }
+        return false;
+    }
     switch (event->type()) {
+        case QEvent::Show:
+            if (root_->windowHandle()) {
+                root_->windowHandle()->installEventFilter(this);
+            }
+            return false;
+        case QEvent::WindowActivate:
+            ActivatedBySystem();
+            return false;
+        case QEvent::WindowDeactivate:
+            DeactivatedBySystem();
+            return false;
         case QEvent::Close:
             event->ignore();
             gate_.Guarded([this] { window_.Unload(); });
@@ -490,7 +233,7 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
         case QEvent::ApplicationPaletteChange:
             // Later: the toolkit is still telling its widgets.
             QMetaObject::invokeMethod(
-                this, [this] { TakeNewColors(); }, Qt::QueuedConnection);
+                this, [this] { TakeNewColors(*root_); }, Qt::QueuedConnection);
             return false;
         case QEvent::DragEnter:
         case QEvent::DragMove:
@@ -504,6 +247,30 @@ bool WindowView::eventFilter(QObject*, QEvent* event) {
     }
 }
 
+/// The window system asks for what it does not have. The program hears of it when that is painted.
+void WindowView::Exposed() {
+    if (root_->windowHandle() && root_->windowHandle()->isExposed()) {
+        QMetaObject::invokeMethod(
+            this, [this] { gate_.Guarded([this] { window_.OnPaint(); }); }, Qt::QueuedConnection);
+    }
+}
+
+/// Only a window of the program counts, and no box: the way to another program and back is neither
+/// leaving nor coming. The coming that belongs to its showing the model tells of itself.
+void WindowView::DeactivatedBySystem() {
+    const QWidget* taker = QApplication::activeWindow();
+    if (taker && taker != root_ && viewOf_(taker->objectName())) {
+        left_ = true;
+        gate_.Guarded([this] { window_.OnDeactivate(); });
+    }
+}
+
+void WindowView::ActivatedBySystem() {
+    if (std::exchange(left_, false)) {
+        gate_.Guarded([this] { window_.OnActivate(); });
+    }
+}
+
 /// Enter and Esc press the buttons that the form names for them.
 void WindowView::PressButtonOf(int key) {
     const char* property = key == kKeyEnter    ? "enterPresses"
@@ -512,39 +279,6 @@ void WindowView::PressButtonOf(int key) {
     const std::string name = root_->property(property).toString().toStdString();
     if (auto* button = dynamic_cast<model::Button*>(window_.FindControl(name))) {
         button->Press();
-    }
-}
-
-void WindowView::Resized() {
-    const QSize size = root_->size();
-    const bool known = size == QSize(ToPixels(window_.Width), ToPixels(window_.Height));
-    if (!fullScreen_ && !countsPixels_ && root_->isWindow() && !known) {
-        gate_.Guarded([&] {
-            window_.ResizeTo(size.width() * platform::kTwipsPerPixel,
-                             size.height() * platform::kTwipsPerPixel);
-        });
-    }
-}
-
-/// Widgets with a style sheet keep the colours they were made with, until the sheet is set again.
-void WindowView::TakeNewColors() {
-    QList<QWidget*> widgets = root_->findChildren<QWidget*>();
-    widgets += root_.data();
-    for (QWidget* widget : widgets) {
-        const QString sheet = widget->styleSheet();
-        if (!sheet.isEmpty()) {
-            widget->setStyleSheet(QString());
-            widget->setStyleSheet(sheet);
-        }
-    }
-}
-
-void WindowView::StateChangedByPerson() {
-    const int state = root_->isMinimized()   ? model::kWindowMinimised
-                      : root_->isMaximized() ? model::kWindowMaximised
-                                             : 0;
-    if (root_->isVisible() && !fullScreen_ && state != window_.WindowState) {
-        gate_.Guarded([&] { window_.WindowState = state; });
     }
 }
 

@@ -72,8 +72,10 @@ private:
     void FollowPointer();
     void FollowCaption();
 
+    void Exposed();
+    void ActivatedBySystem();
+    void DeactivatedBySystem();
     void Resized();
-    void TakeNewColors();
     void StateChangedByPerson();
     void PressButtonOf(int key);
     void Dragged(QDropEvent& drag);
@@ -89,6 +91,7 @@ private:
     CanvasWidget* host_ = nullptr;  // over which controls without a widget are placed
     bool fullScreen_ = false;
     bool countsPixels_ = false;
+    bool left_ = false;  // another window of the program has the keyboard
     std::unique_ptr<MenuBinding> menu_;
     std::vector<std::unique_ptr<ControlBinding>> bindings_;
     std::vector<model::VisibleControl*> unmade_;  // get their widget when first shown

@@ -1,0 +1,62 @@
+#include "adapters/qt/button_bindings.h"
+
+#include <QApplication>
+#include <QFontInfo>
+
+#include "adapters/qt/convert.h"
+
+namespace qt_adapter {
+
+ButtonBinding::ButtonBinding(model::Button& button, QAbstractButton& widget, const Site& site)
+    : ControlBinding(button, widget, site), button_(button), face_(widget) {
+    connect(&widget, &QAbstractButton::clicked, this, [this] { Act([this] { button_.Press(); }); });
+    HearKeys();
+    Sync();
+}
+
+void ButtonBinding::SyncOwn() {
+    const QString caption = ToQt(button_.Caption());
+    face_.setText(caption);
+    if (const double enlargement = Enlargement(); enlargement > 0) {
+        QFont font = QApplication::font(&face_);
+        font.setPointSizeF(QFontInfo(font).pointSizeF() * enlargement);
+        face_.setFont(font);
+    }
+    if (!caption.isEmpty()) {
+        face_.setAccessibleName(caption);
+    }
+}
+
+CheckBinding::CheckBinding(model::CheckBox& box, QCheckBox& widget, const Site& site)
+    : ControlBinding(box, widget, site), box_(box), face_(widget) {
+    connect(&widget, &QCheckBox::clicked, this, [this] {
+        Act([this] { box_.Press(); });
+        SyncOwn();
+    });
+    HearKeys();
+    Sync();
+}
+
+void CheckBinding::SyncOwn() {
+    face_.setText(ToQt(box_.Caption()));
+    face_.setChecked(box_.Value != 0);
+}
+
+OptionBinding::OptionBinding(model::OptionButton& option, QRadioButton& widget, const Site& site)
+    : ControlBinding(option, widget, site), option_(option), face_(widget) {
+    // The model says which are off.
+    widget.setAutoExclusive(false);
+    connect(&widget, &QRadioButton::clicked, this, [this] {
+        Act([this] { option_.Press(); });
+        SyncOwn();
+    });
+    HearKeys();
+    Sync();
+}
+
+void OptionBinding::SyncOwn() {
+    face_.setText(ToQt(option_.Caption()));
+    face_.setChecked(option_.Value);
+}
+
+}  // namespace qt_adapter

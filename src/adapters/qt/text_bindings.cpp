@@ -1,0 +1,96 @@
+#include "adapters/qt/text_bindings.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "adapters/qt/convert.h"
+#include "adapters/qt/dragged_files.h"
+#include "adapters/qt/qt_text_renderer.h"
+
+namespace qt_adapter {
+
+LabelBinding::LabelBinding(model::Label& label, QLabel& widget, const Site& site)
+    : ControlBinding(label, widget, site),
+      label_(label),
+      face_(widget),
+      onCanvas_(site.host != nullptr) {
+    widget.setTextFormat(Qt::PlainText);
+    Sync();
+}
+
+void LabelBinding::SyncOwn() {
+    face_.setText(ToQt(label_.Caption()));
+    if (!label_.FontName().empty()) {
+        TakeLook();
+    }
+}
+
+int LabelBinding::UnitsPerPixel() const {
+    return onCanvas_ ? 1 : ControlBinding::UnitsPerPixel();
+}
+
+void LabelBinding::TakeLook() {
+    QFont font =
+        ScreenFont({label_.FontName, label_.FontSize, label_.FontBold, label_.FontItalic, false});
+    if (const double enlargement = Enlargement(); enlargement > 0) {
+        // Also between whole pixels, so that the text is as long as the canvas's scale makes it.
+        constexpr double kPointsPerInch = 72;
+        const double pixels = font.pixelSize() * enlargement;
+        font.setPointSizeF(pixels * kPointsPerInch / face_.logicalDpiY());
+    } else {
+        font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() / Scale()))));
+    }
+    face_.setFont(font);
+    QPalette palette = face_.palette();
+    const auto color = static_cast<platform::Color>(label_.ForeColor());
+    palette.setColor(QPalette::WindowText, QColor::fromRgb(platform::ToPixel(color)));
+    face_.setPalette(palette);
+}
+
+FrameBinding::FrameBinding(model::Frame& frame, QGroupBox& widget, const Site& site)
+    : ControlBinding(frame, widget, site), frame_(frame), face_(widget) {
+    Sync();
+}
+
+void FrameBinding::SyncOwn() {
+    face_.setTitle(ToQt(frame_.Caption()));
+}
+
+TextBinding::TextBinding(model::TextBox& box, QWidget& widget, const Site& site)
+    : ControlBinding(box, widget, site), box_(box) {}
+
+void TextBinding::Typed() {
+    Act([this] { box_.Enter(FromQt(Shown())); });
+}
+
+void TextBinding::SyncOwn() {
+    const QString content = ToQt(box_.Content());
+    if (Shown() != content) {  // else the cursor stays where a person left it
+        Show(content);
+    }
+}
+
+bool TextBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::DragEnter && HasFiles(*static_cast<QDropEvent*>(event))) {
+        event->ignore();  // goes on to the window
+        return true;
+    }
+    return ControlBinding::eventFilter(watched, event);
+}
+
+LineBinding::LineBinding(model::TextBox& box, QLineEdit& widget, const Site& site)
+    : TextBinding(box, widget, site), face_(widget) {
+    Sync();
+    HearKeys();
+    connect(&widget, &QLineEdit::textChanged, this, [this] { Typed(); });
+}
+
+LinesBinding::LinesBinding(model::TextBox& box, QPlainTextEdit& widget, const Site& site)
+    : TextBinding(box, widget, site), face_(widget) {
+    Sync();
+    HearKeys();
+    widget.viewport()->installEventFilter(this);
+    connect(&widget, &QPlainTextEdit::textChanged, this, [this] { Typed(); });
+}
+
+}  // namespace qt_adapter
