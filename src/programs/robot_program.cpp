@@ -19,17 +19,18 @@ int Run(int& argc, char** argv, const robot::RobotOptions& options, LateClock& c
     clock.loop = &robot.Loop();
     qt_adapter::Desktop desktop(argc, argv, {.offscreen = true, .screens = options.screens});
     Surroundings around(robot.AppFolder(), options.prepare);
-    tracing::TracedSystem system(around.system, trace, false);
+    tracing::TracedSystem system(around.system, robot.Trace(), false);
     Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
                              around.imaging, desktop.TextRenderer(), robot.Sound(), robot.Video(),
-                             system, trace, around.codePage, around.folders,
+                             system, robot.Trace(), around.codePage, around.folders,
                              posix_adapter::ReadUserSettings(around.programFolder)});
     const Views views(desktop, application);
-    robot.Attach(application, [&](model::Window& window, const std::string& file) {
-        return desktop.Shot(window, file);
-    });
-    const int status = RunUntilEnd(application, {CommandText(options.document), options.title});
-    return status != 0 ? status : robot.ExitStatus();
+    robot.Attach(application, {[&](model::Window& window, const std::string& file) {
+                                   return desktop.Shot(window, file);
+                               },
+                               qt_adapter::Desktop::SamePixels});
+    return robot.ExitStatus(
+        RunUntilEnd(application, {CommandText(options.document), options.title}));
 }
 
 }  // namespace

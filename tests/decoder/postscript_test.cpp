@@ -120,6 +120,13 @@ TEST(PostScript, AnEndlessOneIsGivenUp) {
     EXPECT_FALSE(decoder::DrawPostScript(bytes, {}, std::chrono::milliseconds(50)));
 }
 
+/// Who waited for its end would wait a day.
+TEST(PostScript, WhatGoesOnAfterItsPageIsNotWaitedFor) {
+    const std::string text = "%!PS\n%%BoundingBox: 0 0 8 8\nshowpage {} loop\n";
+    const std::span bytes(reinterpret_cast<const uint8_t*>(text.data()), text.size());
+    EXPECT_TRUE(decoder::DrawPostScript(bytes, {}, std::chrono::hours(24)));
+}
+
 TEST(PostScript, Boxes) {
     const struct {
         const char* text;

@@ -34,15 +34,19 @@ public:
 
     /// Plays to the end and answers the exit status.
     int Play() {
-        robot->Attach(around.app, [this](model::Window& window, const std::string& file) {
-            shots.push_back(window.Name() + " " + file);
-            return shotsWork;
-        });
+        robot->Attach(around.app, {[this](model::Window& window, const std::string& file) {
+                                       shots.push_back(window.Name() + " " + file);
+                                       return shotsWork;
+                                   },
+                                   [this](const std::string& kept, const std::string& other) {
+                                       compared = {kept, other};
+                                       return picturesAreSame;
+                                   }});
         try {
             robot->Loop().RunUntil([] { return false; });
         } catch (const platform::ProgramEnd&) {
         }
-        return robot->ExitStatus();
+        return robot->ExitStatus(programStatus);
     }
 
     virtual_adapter::VirtualLoop& Loop() { return robot->Loop(); }
@@ -58,6 +62,9 @@ public:
     std::string scriptFile;
     std::vector<std::string> shots;
     bool shotsWork = true;
+    std::vector<std::string> compared;
+    bool picturesAreSame = true;
+    int programStatus = 0;
 };
 
 }  // namespace robot

@@ -369,7 +369,7 @@ TEST(Robot, ExpectationThatIsNeverReachedFailsTheRun) {
     run.windows.form1.Command1.Click = [] { throw platform::ProgramEnd{}; };
     EXPECT_EQ(run.Play(), 1);
     EXPECT_EQ(run.err.str(), run.Told(3, "never reached: the program had ended"));
-    EXPECT_EQ(run.robot->ExitStatus(), 1);
+    EXPECT_EQ(run.robot->ExitStatus(0), 1);
     EXPECT_EQ(run.err.str(), run.Told(3, "never reached: the program had ended"));  // told once
 }
 

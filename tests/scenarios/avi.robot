@@ -1,11 +1,6 @@
 # AVI films are played and stay out of the list windows. Every slide keeps its own schedule: the first
 # film is over, the picture b is not due yet. The failing picture between the films takes its own
 # rows with it, nobody else's.
-# slides: 2111 a.png 5112 c.png
-# trace: {"t":0,"event":"skip","SlideIndex":1}
-# trace: {"t":1,"event":"message","title":"画像ファイル読込エラー"
-# trace: {"t":11,"event":"video","action":"open"
-# trace: {"t":5111,"event":"skip","SlideIndex":4}
 choose avi.kvs
 menu mnuOPEN
 expect SlideListEnd 7
@@ -35,3 +30,9 @@ menu mnuOPEN
 expect SlideListEnd 4
 expect ScheduleFrom ["                ","2030/01/01 00:00","                "]
 expect ScheduleTo ["                ","                ","2030/01/01 00:00"]
+
+expect-slides 2111 a.png 5112 c.png
+expect-trace skip t=0 SlideIndex=1
+expect-trace message t=1 title=画像ファイル読込エラー
+expect-trace video t=11 action=open
+expect-trace skip t=5111 SlideIndex=4

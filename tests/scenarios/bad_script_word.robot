@@ -1,5 +1,4 @@
 # So is a word that is no action.
 # exit: 2
-# no trace: "event"
 choose five.kvs
 jump Form1

@@ -1,8 +1,6 @@
 # A document on the command line goes straight to the full screen, after the question whether the
 # presenter is ready.
 # args: five.kvs
-# slides: 0 a.png 3000 b.png 6000 c.png
-# trace: "event":"message","title":"パラピコ","text":"スライド画面全体表示スタート","flags":0,"answer":"ok"
 # Not at once: the first picture yields before it stands.
 @1 expect CommandLineKind 1
 expect LoadingFromStart 0
@@ -22,3 +20,6 @@ expect Slidescreen.Top 0
 @3000 expect CurrentName b.png
 expect PreviousPictureOnScreen 1
 @7000 quit
+
+expect-slides 0 a.png 3000 b.png 6000 c.png
+expect-trace message title=パラピコ text=スライド画面全体表示スタート flags=0 answer=ok

@@ -2,9 +2,10 @@
 # session is not played in its place.
 # first: state_leave.robot
 # args: nowhere.kvs
-# exit: 1
-# trace: "event":"message","title":""
-# no trace: "event":"slide"
-# no trace: "event":"window"
-# no trace: "event":"expect"
-@1000 expect ShowRunning 0
+@1000 print ShowRunning
+
+expect-exit 1
+expect-trace message title=""
+expect-no slide
+expect-no window
+expect-no print

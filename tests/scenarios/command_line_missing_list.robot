@@ -1,9 +1,10 @@
 # A list of shows that is not there ends the program after its message: the old links are not played.
 # app: uautst.dat
 # args: nowhere.kvl
-# exit: 1
-# trace: "event":"message","title":""
-# no trace: "event":"slide"
-# no trace: "event":"window"
-# no trace: "event":"expect"
-@1000 expect ShowRunning 0
+@1000 print ShowRunning
+
+expect-exit 1
+expect-trace message title=""
+expect-no slide
+expect-no window
+expect-no print

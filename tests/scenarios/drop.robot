@@ -1,6 +1,4 @@
 # A document dropped on the main window opens as from the menu; others are refused with a word.
-# trace: a.png\r\nこのファイル名は適合しません。
-# trace: refused.kvs\r\nこのファイル名は適合しません。
 expect Form1.SlideCount.Caption ""
 drop Form1 five.kvs
 expect DocumentName five.kvs
@@ -43,3 +41,6 @@ drop Form1 empty.kvs
 expect Form1.SlideCount.Caption ""
 expect Form1.Command1.Enabled false
 quit
+
+expect-trace message text~"a.png\r\nこのファイル名は適合しません。"
+expect-trace message text~"refused.kvs\r\nこのファイル名は適合しません。"

@@ -2,12 +2,6 @@
 # 1.295 ms. The interval begins when the picture stands. A click in the midst of an effect brings the
 # whole picture in the frame after it and closes nothing.
 # args: effects.kvs
-# slides: 446 a.png 4338 b.png 8008 c.png
-# trace: "event":"effect","which":"show","number":0,"ms":446}
-# trace: "event":"effect","which":"erase","number":0,"ms":446}
-# trace: "event":"effect","which":"show","number":1,"ms":446}
-# trace: "event":"effect","which":"erase","number":1,"ms":446}
-# trace: "event":"effect","which":"show","number":2,"ms":224}
 @1 expect EffectDcValid 1
 expect CurrentShowEffect 0
 @445 expect StepBusy 1
@@ -21,3 +15,10 @@ expect EffectStop 0
 expect Slidescreen.Visible true
 expect FullScreenActive 1
 @8500 quit
+
+expect-slides 446 a.png 4338 b.png 8008 c.png
+expect-trace effect which=show number=0 ms=446
+expect-trace effect which=erase number=0 ms=446
+expect-trace effect which=show number=1 ms=446
+expect-trace effect which=erase number=1 ms=446
+expect-trace effect which=show number=2 ms=224

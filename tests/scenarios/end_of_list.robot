@@ -1,5 +1,4 @@
 # A show without repeat ends one interval after its last slide.
-# slides: 1000 a.png 4000 b.png 7000 c.png 10000 d.png 13000 e.png
 choose five.kvs
 menu mnuOPEN
 @1000 click Form1.Command1
@@ -20,3 +19,5 @@ expect Form1.mnuOPEN.Visible true
 expect Form1.mnuOPTION.Enabled true
 expect Form1.Visible true
 @60000 expect CurrentName e.png
+
+expect-slides 1000 a.png 4000 b.png 7000 c.png 10000 d.png 13000 e.png

@@ -1,7 +1,5 @@
 # A full screen that does not begin with slide 1 has nothing to erase: neither the first time nor
 # when it is opened again. The picture that stands then is erased, 241 bands of 1.85 ms.
-# slides: 1 b.png 2001 b.png 5447 c.png
-# trace: {"t":5447,"event":"effect","which":"erase","number":0,"ms":446}
 choose late_start.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -14,3 +12,6 @@ expect PreviousPictureOnScreen 0
 expect PreviousPictureOnScreen 1
 expect EraseSkipOnce 0
 @5450 expect SlideIndex 4
+
+expect-slides 1 b.png 2001 b.png 5447 c.png
+expect-trace effect t=5447 which=erase number=0 ms=446

@@ -1,6 +1,7 @@
 # One expectation that does not hold makes the status 1, and the script goes on.
 # exit: 1
-# trace: "name":"SlideIndex","value":0,"expected":"7","ok":false
-# trace: "name":"SlideIndex","value":0,"expected":"0","ok":true
 expect SlideIndex 7
 expect SlideIndex 0
+
+expect-trace expect name=SlideIndex value=0 expected="7" ok=false
+expect-trace expect name=SlideIndex value=0 expected="0" ok=true

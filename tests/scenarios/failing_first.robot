@@ -1,5 +1,4 @@
 # The first slide fails inside START: yes goes on with the next after 10 ms, no stops at once.
-# slides: 10 a.png
 choose bad_first.kvs
 menu mnuOPEN
 answer yes
@@ -17,3 +16,5 @@ expect ShowRunning 0
 expect SlideIndex 0
 expect Form1.Command1.Enabled true
 expect Form3.List1.ListCount 2
+
+expect-slides 10 a.png

@@ -1,5 +1,4 @@
 # No ends the show; the list stays as it is.
-# slides: 0 a.png
 choose failing.kvs
 menu mnuOPEN
 answer no
@@ -14,3 +13,5 @@ expect Form1.Timer1.Interval 3000
 expect Form1.Command1.Enabled true
 expect Form1.mnuOPEN.Visible true
 @20000 expect ShowRunning 0
+
+expect-slides 0 a.png

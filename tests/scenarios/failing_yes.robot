@@ -1,12 +1,5 @@
 # A slide that cannot be read is asked about; yes takes it out of the list, and the next comes
 # 10 ms later.
-# slides: 0 a.png 3030 b.png
-# trace: {"t":3000,"event":"message","title":"画像ファイル読込エラー"
-# trace: text.jpg\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？","flags":36,"answer":"yes"}
-# trace: {"t":3010,"event":"message","title":"画像ファイル読込エラー"
-# trace: zero.png\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？","flags":36,"answer":"yes"}
-# trace: {"t":3020,"event":"message","title":"画像ファイル読込エラー"
-# trace: missing.png\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？","flags":36,"answer":"yes"}
 choose failing.kvs
 menu mnuOPEN
 answer yes
@@ -26,3 +19,11 @@ expect SlideList(3) ""
 expect Form1.Timer1.Interval 3000
 @6029 expect ShowRunning 1
 @6030 expect ShowRunning 0
+
+expect-slides 0 a.png 3030 b.png
+expect-trace message t=3000 title=画像ファイル読込エラー
+expect-trace message text~"text.jpg\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？" flags=36 answer=yes
+expect-trace message t=3010 title=画像ファイル読込エラー
+expect-trace message text~"zero.png\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？" flags=36 answer=yes
+expect-trace message t=3020 title=画像ファイル読込エラー
+expect-trace message text~"missing.png\r\n画像ファイルが読み込めません。\r\nスライドリストから削除して継続しますか？" flags=36 answer=yes

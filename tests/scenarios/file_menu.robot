@@ -1,11 +1,5 @@
 # Open, save, distribution save and new, with their cancels. The distribution copy finds its
 # pictures beside itself.
-# slides: 5000 a.png
-# trace: "event":"dialog","title":"パラピコ　ファイルを開く","save":false,"initial":"*.kvs"
-# trace: "event":"dialog","title":"パラピコ　ファイルの保存","save":true
-# trace: "event":"dialog","title":"パラピコ　配布用ＫＶＳファイルの保存","save":true
-# trace: "event":"message","title":"配布用ＫＶＳファイルの保存","text":"配布用ＫＶＳファイルを作成しますか？\r\n配布用ＫＶＳファイルはスライドリストのパスが消去され、\r\nＫＶＳファイルを開いた時にスライドリストの画像パスが\r\nＫＶＳファイルのパスに変換されます。\r\nＫＶＳファイルと画像は同一フォルダに保存して下さい。","flags":36
-# trace: "event":"message","title":"新規作成","text":"スライドリストとすべての設定を初期状態にしますか ?","flags":36,"answer":"no"
 # unheard: Form1.mnuNEW
 # unheard: Form1.mnuOPEN
 choose
@@ -56,3 +50,10 @@ choose one.kvs
 menu mnuOPEN
 menu mnuNEW
 expect Form3.List1.ListCount 5
+
+expect-slides 5000 a.png
+expect-trace dialog title="パラピコ　ファイルを開く" save=false initial=*.kvs
+expect-trace dialog title="パラピコ　ファイルの保存" save=true
+expect-trace dialog title="パラピコ　配布用ＫＶＳファイルの保存" save=true
+expect-trace message title=配布用ＫＶＳファイルの保存 text="配布用ＫＶＳファイルを作成しますか？\r\n配布用ＫＶＳファイルはスライドリストのパスが消去され、\r\nＫＶＳファイルを開いた時にスライドリストの画像パスが\r\nＫＶＳファイルのパスに変換されます。\r\nＫＶＳファイルと画像は同一フォルダに保存して下さい。" flags=36
+expect-trace message title=新規作成 text="スライドリストとすべての設定を初期状態にしますか ?" flags=36 answer=no

@@ -1,7 +1,5 @@
 # A first slide that waits for a choice nobody can make is left by STOP; PAUSE and the full screen refuse
 # while the step lasts.
-# slides: 0 e_menu6.png 9000 e_menu6.png
-# no trace: "event":"message"
 choose edge_held.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -25,3 +23,6 @@ expect Form1.mnuOPEN.Visible true
 @12100 expect SlideIndex 1
 expect StepBusy 1
 quit
+
+expect-slides 0 e_menu6.png 9000 e_menu6.png
+expect-no message

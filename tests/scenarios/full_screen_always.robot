@@ -1,5 +1,4 @@
 # "Always full screen": START goes there, and leaving it ends the show.
-# slides: 1000 a.png 4000 b.png 9000 a.png
 choose full.kvs
 menu mnuOPEN
 expect AlwaysFullFlag 0
@@ -20,3 +19,5 @@ expect Form1.Command2.Enabled false
 expect Form1.mnuOPEN.Visible true
 @9000 click Form1.Command1
 expect CurrentName a.png
+
+expect-slides 1000 a.png 4000 b.png 9000 a.png

@@ -1,5 +1,4 @@
 # A person drives the show with the control box alone.
-# slides: 0 a.png 3000 b.png 5000 c.png 5100 d.png 5200 c.png 6000 d.png 9000 e.png
 # unheard: Slidescreen2.Command5
 choose five.kvs
 menu mnuOPEN
@@ -45,3 +44,5 @@ expect ExitToMainOnClose 0
 expect Form1.Command1.Enabled true
 expect Form1.Command3.Enabled false
 expect Form1.mnuSAVE.Visible true
+
+expect-slides 0 a.png 3000 b.png 5000 c.png 5100 d.png 5200 c.png 6000 d.png 9000 e.png

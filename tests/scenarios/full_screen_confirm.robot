@@ -1,6 +1,4 @@
 # The question before the full screen can be turned off.
-# no trace: "event":"message"
-# slides: 0 a.png
 choose five.kvs
 menu mnuOPEN
 menu mnuSTKAKU 1
@@ -8,3 +6,6 @@ expect FullStartConfirm 1
 click Form1.Command4
 expect Slidescreen.Visible true
 expect ShowRunning 1
+
+expect-no message
+expect-slides 0 a.png

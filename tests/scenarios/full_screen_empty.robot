@@ -1,6 +1,5 @@
 # Leaving the full screen of an empty show leaves a main window that can be used.
 # args: empty.kvs
-# slides: 2000 a.png
 @1000 expect Slidescreen.Visible true
 key Slidescreen 27
 expect Form1.Visible true
@@ -13,3 +12,5 @@ menu mnuOPEN
 @2000 click Form1.Command1
 @2001 expect ShowRunning 1
 quit
+
+expect-slides 2000 a.png

@@ -1,7 +1,6 @@
 # Esc and a click leave the full screen; a show without "always full screen" goes on in the window.
 # Other keys mean nothing. Going to the full screen starts the interval anew, leaving it does not.
 # args: five.kvs
-# slides: 0 a.png 3000 b.png 7000 c.png 10000 d.png 13000 e.png
 @1000 key Slidescreen 13
 expect Slidescreen.Visible true
 @2000 key Slidescreen 27
@@ -22,3 +21,5 @@ expect Form1.Visible true
 expect ShowRunning 1
 @15999 expect ShowRunning 1
 @16000 expect ShowRunning 0
+
+expect-slides 0 a.png 3000 b.png 7000 c.png 10000 d.png 13000 e.png

@@ -1,6 +1,5 @@
 # The full screen covers the monitor that the main window is on, and its box keeps to that monitor.
 # args: --screen 1920x1080,1280x1024 --now "2026-01-01 12:00:00"
-# slides: 1000 a.png 4000 b.png
 choose five.kvs
 menu mnuOPEN
 menu mnuCTL 0
@@ -19,3 +18,5 @@ expect Slidescreen2.Caption a.png
 @4500 click Slidescreen2.Command1
 expect Slidescreen.Visible false
 expect Slidescreen2.Visible false
+
+expect-slides 1000 a.png 4000 b.png

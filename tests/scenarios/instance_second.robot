@@ -1,6 +1,7 @@
 # A second instance that the last run forbade ends before any window, with no word.
 # first: instance_refusal.robot
 # held: yes
-# no trace: "event":"window"
-# no trace: "event":"message"
 quit
+
+expect-no window
+expect-no message

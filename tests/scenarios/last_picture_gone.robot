@@ -1,6 +1,4 @@
 # When the last entry of the list is taken out, the show ends with a message and nothing can start.
-# no trace: "event":"slide"
-# trace: "title":"パラピコ","text":"スライドリストに　画像ファイルが見つかりません。","flags":48
 choose only_bad.kvs
 menu mnuOPEN
 answer yes
@@ -19,3 +17,6 @@ expect Form1.Command4.Enabled false
 expect Form1.mnuOPEN.Visible true
 expect Form1.mnuOPTION.Enabled true
 @5000 expect ShowRunning 0
+
+expect-no slide
+expect-trace message title=パラピコ text="スライドリストに　画像ファイルが見つかりません。" flags=48

@@ -1,8 +1,6 @@
 # A link document runs its shows one after the other, whatever their repeat says, and is taken over
 # without the link window's own mark.
 # args: all.kvl
-# slides: 0 a.png 3000 a.png 6000 b.png 9000 c.png
-# no trace: "event":"message"
 @1 expect CommandLineKind 2
 expect LinkAutoFlag 0
 expect LinkRunning 1
@@ -21,3 +19,6 @@ expect LinkRunning 0
 expect LinkIndex 0
 expect Slidescreen.Visible false
 expect Form1.Visible true
+
+expect-slides 0 a.png 3000 a.png 6000 b.png 9000 c.png
+expect-no message

@@ -1,6 +1,5 @@
 # Next by hand past the last slide of a chain whose last show is empty: nothing is shown there, and START
 # ends the chain after 1 ms, without waiting for an interval.
-# slides: 0 a.png
 menu mnuCTL 0
 menu mnuSTKAKU 1
 drop Form1 ends_empty.kvl
@@ -16,3 +15,5 @@ expect ShowRunning 1
 expect Slidescreen.Visible false
 expect Form1.Visible true
 quit
+
+expect-slides 0 a.png

@@ -1,5 +1,4 @@
 # The folder of linked files: the root is refused, another folder is taken.
-# trace: "event":"message","title":"フォルダ未指定","text":"/\r\nこのフォルダは指定できません。\r\n再度チェックを外し、別のフォルダを指定してください。","flags":48
 # unheard: Form12.Dir1
 menu mnuRENF
 expect Form12.Visible true
@@ -28,3 +27,5 @@ shot linked_folder.png Form12
 set Form12.Check1 1
 click Form12.Command2
 expect LinkedFolderFlag 1
+
+expect-trace message title=フォルダ未指定 text="/\r\nこのフォルダは指定できません。\r\n再度チェックを外し、別のフォルダを指定してください。" flags=48

@@ -1,9 +1,5 @@
 # A star moves by 100 and 50 pixels in steps of 10 ms; it can be clicked, so the slide waits for it.
 # A line of this script runs at the next pump, behind the step of that moment.
-# slides: 1000 m1.png 4000 m2.png 7120 a.png
-# trace: {"t":4000,"event":"cutout","index":1,"x":20,"y":20,
-# trace: {"t":5000,"event":"cutout","index":1,"x":120,"y":70,"width":60,"height":40,
-# trace: "shape":3,"state":"moved"}
 # unheard: Form1.Picture2(1)
 choose pieces.kvs
 menu mnuOPEN
@@ -23,3 +19,8 @@ expect MacroJumpChosen 0
 +60 expect Form1.Picture2(1).Visible false
 expect MacroEndShow 1
 @7200 quit
+
+expect-slides 1000 m1.png 4000 m2.png 7120 a.png
+expect-trace cutout t=4000 index=1 x=20 y=20
+expect-trace cutout t=5000 index=1 x=120 y=70 width=60 height=40
+expect-trace cutout shape=3 state=moved

@@ -2,9 +2,6 @@
 # next slide; No with 0 hides the buttons and the macro goes on. Each press is noticed 20 ms later and
 # followed by an interval of 100 ms. A menu button written twice moves and is renamed; its jump past
 # the end is the last slide. A sixth menu shows nothing and still holds the slide until STOP.
-# slides: 0 e_first.png 1120 e_first.png 2120 e_yes_no.png 5120 e_menu.png 6120 e_menu6.png
-# trace: {"t":3020,"event":"text","x":20,"y":30,"text":"続き"
-# no trace: "event":"message"
 choose edge_buttons.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -36,3 +33,7 @@ expect MacroButtonsShown 1
 click Form1.Command3
 @16200 expect ShowRunning 0
 quit
+
+expect-slides 0 e_first.png 1120 e_first.png 2120 e_yes_no.png 5120 e_menu.png 6120 e_menu6.png
+expect-trace text t=3020 x=20 y=30 text=続き
+expect-no message

@@ -2,13 +2,6 @@
 # rectangle of the kind 999 and is pressed at its corner; a clickable piece holds the slide. 00 and 0
 # are the same piece, an action of no known kind makes a plain one, and there is no piece 63. Of the
 # coordinates the first 5000 count, here the left half.
-# slides: 0 e_other.png 10120 e_same.png 13120 e_many.png 20120 e_plain.png
-# trace: {"t":0,"event":"cutout","index":4,"x":0,"y":0,"width":60,"height":40,
-# trace: {"t":10120,"event":"cutout","index":0,"x":0,"y":0,
-# trace: {"t":10120,"event":"cutout","index":0,"x":100,"y":0,
-# no trace: "index":3,
-# no trace: "index":63,
-# no trace: "event":"message"
 # unheard: Form1.Picture2(5)
 choose edge_pieces.kvs
 menu mnuOPEN
@@ -29,3 +22,11 @@ expect MacroButtonsShown 0
 expect MacroJumpChosen 0
 @20000 click Form1.Picture2(5) 15 20
 @20500 quit
+
+expect-slides 0 e_other.png 10120 e_same.png 13120 e_many.png 20120 e_plain.png
+expect-trace cutout t=0 index=4 x=0 y=0 width=60 height=40
+expect-trace cutout t=10120 index=0 x=0 y=0
+expect-trace cutout t=10120 index=0 x=100 y=0
+expect-no cutout index=3
+expect-no cutout index=63
+expect-no message

@@ -2,14 +2,6 @@
 # by whole numbers rounded down: red by -85 to 0, green by -43 (of -127) to 126, blue stays; or all
 # three by -85 to black. The shadow to the left and the thick outline leave the text itself in place,
 # and the word between them is a blank line.
-# slides: 0 e_colour.png 3000 e_grad.png 6000 e_kage.png 9000 e_telop.png 12000 e_telops.png
-# slides: 16000 e_plain.png
-# trace: {"t":0,"event":"text","x":0,"y":0,"text":"緑","colour":65280,"font":"ＭＳ ゴシック","size":24}
-# trace: {"t":3000,"event":"text","x":0,"y":0,"text":"abc","colour":16743936
-# trace: {"t":3000,"event":"text","x":0,"y":100,"text":"abc","colour":0,
-# trace: {"t":6000,"event":"text","x":0,"y":0,"text":"左影","colour":0,
-# trace: {"t":6000,"event":"text","x":0,"y":58,"text":"太い","colour":0,
-# no trace: "event":"message"
 choose edge_text.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -32,3 +24,12 @@ expect Form1.Timer4.Enabled true
 expect Form1.Label1.Caption ""
 expect Form1.Timer4.Enabled false
 @17000 quit
+
+expect-slides 0 e_colour.png 3000 e_grad.png 6000 e_kage.png 9000 e_telop.png 12000 e_telops.png
+expect-slides 16000 e_plain.png
+expect-trace text t=0 x=0 y=0 text=緑 colour=65280 font="ＭＳ ゴシック" size=24
+expect-trace text t=3000 x=0 y=0 text=abc colour=16743936
+expect-trace text t=3000 x=0 y=100 text=abc colour=0
+expect-trace text t=6000 x=0 y=0 text=左影 colour=0
+expect-trace text t=6000 x=0 y=58 text=太い colour=0
+expect-no message

@@ -1,7 +1,6 @@
 # What words set is what the menus set: checks and visible entries follow. Filters, clearing and the
 # pointer in the full screen.
 # args: --screen 640x400 words.kvs
-# trace: "event":"effect","which":"show","number":2,
 @100 expect SoundMode 1
 expect Form1.mnuKOU(1).Checked true
 expect Form1.mnuKOU(7).Checked false
@@ -31,3 +30,5 @@ expect Form1.Timer1.Interval 5000
 shot words_cleared.png
 +1000 expect MacroCursorHidden 0
 quit
+
+expect-trace effect which=show number=2

@@ -2,9 +2,6 @@
 # are smaller than pixels. A press beside the star falls through, one on it leads to the next slide.
 # args: --screen 1366x768 pieces_full.kvs
 # app: lines1080.conf=settings.conf
-# slides: 0 m1.png 3000 m2.png 3400 a.png
-# trace: "index":0,"x":810,"y":430,"width":60,"height":40,
-# trace: {"t":3000,"event":"cutout","index":1,"x":820,"y":440,"width":60,"height":40,
 @100 expect Slidescreen.Picture1(0).Left 810
 expect Slidescreen.P2.Height 16200
 expect Slidescreen.Height 11520
@@ -18,3 +15,7 @@ expect SlideIndex 2
 @4000 key Slidescreen 27
 +20 expect Slidescreen.Visible false
 quit
+
+expect-slides 0 m1.png 3000 m2.png 3400 a.png
+expect-trace cutout index=0 x=810 y=430 width=60 height=40
+expect-trace cutout t=3000 index=1 x=820 y=440 width=60 height=40

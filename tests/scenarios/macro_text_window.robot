@@ -1,11 +1,6 @@
 # Lines of a slide's text on the main window, a wait of half a second behind each that is not empty
 # (it is noticed 20 ms late), a colour ramp and a turned text among them; on the second slide a
 # scrolling line of three letters, 81 pixels wide, 20 pixels every 50 ms on a canvas of 800.
-# slides: 0 w1.png 4560 w2.png 7560 a.png
-# trace: "t":0,"event":"text","x":10,"y":20,"text":"一行目","colour":65535,"font":"ＭＳ ゴシック","size":20}
-# trace: "t":520,"event":"text","x":10,"y":54,"text":"abcde","colour":16711680
-# trace: "t":520,"event":"text","x":10,"y":83,"text":"縦","colour":65535
-# trace: "t":1040,"event":"text","x":10,"y":146,"text":"最後","colour":16777215
 choose texts.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -21,3 +16,9 @@ expect TelopRunning 1
 @7000 expect TelopRunning 0
 expect Form1.Label1.Visible false
 @12000 quit
+
+expect-slides 0 w1.png 4560 w2.png 7560 a.png
+expect-trace text t=0 x=10 y=20 text=一行目 colour=65535 font="ＭＳ ゴシック" size=20
+expect-trace text t=520 x=10 y=54 text=abcde colour=16711680
+expect-trace text t=520 x=10 y=83 text=縦 colour=65535
+expect-trace text t=1040 x=10 y=146 text=最後 colour=16777215

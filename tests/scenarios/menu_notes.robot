@@ -1,10 +1,4 @@
 # Notes, questions and input boxes of the menus, as a person meets them.
-# trace: "event":"message","title":"オートスタート","text":"パラピコ再立ち上げ時に自動的にスライド画面全体表示スタート待ちになります。\r\n（この設定はＫＶＳファイルに保存されません）","flags":0
-# trace: "event":"message","title":"画像連動(MIDI)"
-# trace: "event":"message","title":"ｽﾗｲﾄﾞ間隔","text":"設定が不適切です","flags":48
-# trace: "event":"message","title":"画面表示効果スリット数","text":"設定が不適切です","flags":48
-# trace: "event":"shell","command":"NOTEPAD.EXE
-# no trace: "unanswered":true
 answer ok
 menu mnuAUT 0
 expect AutoStartFlag 0
@@ -52,3 +46,10 @@ expect ControlBoxFlag 0
 menu mnuGAI
 menu mnuREADME
 menu mnuSUB
+
+expect-trace message title=オートスタート text="パラピコ再立ち上げ時に自動的にスライド画面全体表示スタート待ちになります。\r\n（この設定はＫＶＳファイルに保存されません）" flags=0
+expect-trace message title=画像連動(MIDI)
+expect-trace message title=ｽﾗｲﾄﾞ間隔 text=設定が不適切です flags=48
+expect-trace message title=画面表示効果スリット数 text=設定が不適切です flags=48
+expect-trace shell command~NOTEPAD.EXE
+expect-no message unanswered=true

@@ -1,17 +1,5 @@
 # Entries and buttons whose windows are not built yet say so at each press, stay enabled, and leave the
 # main window where it is. A choice stands all the same.
-# trace: "t":100,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":300,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":400,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":500,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":600,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":700,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":800,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":900,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":1000,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":1100,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# trace: "t":1200,"event":"message","title":"","text":"この版にはまだありません。","flags":0
-# no trace: "unheard"
 @100 menu mnuWAVLIST
 @300 menu mnuICHI
 @400 menu mnuURU
@@ -37,3 +25,16 @@ expect Form1.mnuICHI.Enabled true
 expect Form1.mnuURU.Enabled true
 expect Form1.Visible true
 expect Form9.Visible false
+
+expect-trace message t=100 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=300 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=400 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=500 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=600 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=700 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=800 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=900 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=1000 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=1100 title="" text=この版にはまだありません。 flags=0
+expect-trace message t=1200 title="" text=この版にはまだありません。 flags=0
+expect-no act

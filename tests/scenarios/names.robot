@@ -1,5 +1,4 @@
 # Japanese names, and pictures of every shape.
-# slides: 0 絵１.png 3000 wide.png 6000 tall.png
 choose names.kvs
 menu mnuOPEN
 expect CurrentName ""
@@ -10,3 +9,5 @@ expect Form1.Caption 絵１.png
 expect PictureHeightPx 120
 @6000 expect PictureWidthPx 120
 expect PictureHeightPx 640
+
+expect-slides 0 絵１.png 3000 wide.png 6000 tall.png

@@ -1,9 +1,6 @@
 # New empties slide list, sound list and link list after its one question. The link list ran by itself at
 # the start; new_lists_after.robot is the next one.
 # app: uautst.dat one.kvs repeat.kvs a.png b.png c.png
-# trace: "t":5000,"event":"message","title":"新規作成","text":"スライドリストとすべての設定を初期状態にしますか ?","flags":36,"answer":"yes"}
-# no trace: "event":"message","title":"一括取消"
-# no trace: "unanswered"
 # unheard: Form1.Command3
 @1000 key Slidescreen 27
 +100 expect Form1.Visible true
@@ -33,3 +30,7 @@ expect LinkDocumentName ""
 expect LinkList []
 expect LinkEnd 0
 expect LinkAutoFlag 0
+
+expect-trace message t=5000 title=新規作成 text="スライドリストとすべての設定を初期状態にしますか ?" flags=36 answer=yes
+expect-no message title=一括取消
+expect-no message unanswered=true

@@ -1,7 +1,5 @@
 # A refused document leaves the loaded one; one that breaks off is refused as well, after its slides
 # so far were read.
-# trace: refused.kvs\r\nこのファイル名は適合しません。","flags":48
-# trace: cut.kvs\r\nこのファイル名は適合しません。","flags":48
 choose five.kvs
 menu mnuOPEN
 choose refused.kvs
@@ -21,3 +19,6 @@ expect ShowAbort 1
 # Its second line was taken over by then; the path, taken at the end of reading, was not.
 expect DocumentName show.kvs
 expect Form3.List1.ListCount 3
+
+expect-trace message text~"refused.kvs\r\nこのファイル名は適合しません。" flags=48
+expect-trace message text~"cut.kvs\r\nこのファイル名は適合しません。" flags=48

@@ -1,6 +1,5 @@
 # With an overlay pictures pile up: the menu lays the ground, at the next choice of a mode in the
 # colour chosen meanwhile, and a show runs through.
-# slides: 0 a.png 3000 b.png 6000 c.png 9000 d.png 12000 e.png
 choose five.kvs
 menu mnuOPEN
 expect Form1.mnuKAHAI.Visible false
@@ -26,3 +25,5 @@ expect Slidescreen.P3.BackColor 12632319
 expect EffectDcValid 1
 @16000 expect ShowRunning 0
 expect Form1.mnuKAHAI.Visible true
+
+expect-slides 0 a.png 3000 b.png 6000 c.png 9000 d.png 12000 e.png

@@ -1,6 +1,5 @@
 # PAUSE on the last slide: nothing is behind it. START then ends a show without repeat, and begins
 # anew one with it.
-# slides: 0 a.png 3000 b.png 6000 c.png 9000 d.png 12000 e.png 20000 a.png 23000 b.png 26000 c.png 31000 a.png
 choose five.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -28,3 +27,5 @@ expect ShowRunning 1
 expect SlideIndex 1
 @30999 expect CurrentName c.png
 @31000 expect CurrentName a.png
+
+expect-slides 0 a.png 3000 b.png 6000 c.png 9000 d.png 12000 e.png 20000 a.png 23000 b.png 26000 c.png 31000 a.png

@@ -1,6 +1,5 @@
 # Paused while a slide waits for the sound of the one before: START brings that slide, also where starts go
 # on from where the show was left.
-# slides: 0 a.png 4000 b.png
 choose linked.kvs
 menu mnuOPEN
 menu mnuSOP1 1
@@ -13,3 +12,5 @@ expect SlideIndex 1
 @4100 expect CurrentName b.png
 expect SlideIndex 3
 quit
+
+expect-slides 0 a.png 4000 b.png

@@ -1,5 +1,4 @@
 # PAUSE keeps the slide on the screen; START goes on with the one behind it.
-# slides: 0 a.png 5000 b.png 8000 c.png
 choose five.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -29,3 +28,5 @@ expect SlideIndex 0
 expect Form1.Command5.Enabled false
 expect Form1.Command7.Enabled false
 @20000 expect ShowRunning 0
+
+expect-slides 0 a.png 5000 b.png 8000 c.png

@@ -1,5 +1,4 @@
 # While a show is paused, the two buttons move by hand; both stop at the ends of the list.
-# slides: 0 a.png 3000 b.png 3500 c.png 3500 d.png 3500 e.png 4000 d.png 4000 c.png 4000 b.png 4000 a.png 9000 b.png
 # unheard: Form1.Command5
 # unheard: Form1.Command7
 choose five.kvs
@@ -38,3 +37,5 @@ expect StepBusy 0
 @9000 click Form1.Command1
 expect CurrentName b.png
 expect SlideIndex 3
+
+expect-slides 0 a.png 3000 b.png 3500 c.png 3500 d.png 3500 e.png 4000 d.png 4000 c.png 4000 b.png 4000 a.png 9000 b.png

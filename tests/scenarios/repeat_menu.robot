@@ -1,5 +1,4 @@
 # The menu turns a repeating show into one that ends, with the next end of the list.
-# slides: 0 a.png 3000 b.png 6000 c.png
 choose repeat.kvs
 menu mnuOPEN
 menu mnuKUFL 1
@@ -15,3 +14,5 @@ expect RepeatFlag 0
 menu mnuKUFL 1
 expect RandomFlag 1
 expect Form1.mnuRANDFL(1).Checked true
+
+expect-slides 0 a.png 3000 b.png 6000 c.png

@@ -1,6 +1,5 @@
 # STOP and START pressed together in the wait behind a line of text, then in that for a button: each time
 # the new show's first slide stands, with its own waits, and is followed by its own second one.
-# slides: 0 w1.png 800 w1.png 5360 w2.png 9000 e_first.png 10000 e_first.png 12120 e_first.png
 choose texts.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -23,3 +22,5 @@ expect Form1.Command8.Visible true
 @12200 click Form1.Command3
 expect ShowRunning 0
 quit
+
+expect-slides 0 w1.png 800 w1.png 5360 w2.png 9000 e_first.png 10000 e_first.png 12120 e_first.png

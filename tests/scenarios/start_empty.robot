@@ -1,6 +1,4 @@
 # Without slides START cannot be pressed, and saving is refused.
-# no trace: "event":"slide"
-# trace: "title":"ファイルの保存","text":"スライドリストがないので保存できんません。","flags":48
 # unheard: Form1.Command1
 # unheard: Form1.Command4
 click Form1.Command1
@@ -17,3 +15,6 @@ expect Form1.Command4.Enabled false
 click Form1.Command1
 expect ShowRunning 0
 menu mnuSAVE
+
+expect-no slide
+expect-trace message title=ファイルの保存 text=スライドリストがないので保存できんません。 flags=48

@@ -1,6 +1,5 @@
 # START shows the first slide at once and one more with every interval of three seconds; STOP goes
 # back to idle from any slide.
-# slides: 1000 a.png 4000 b.png 7000 c.png 21000 a.png
 choose five.kvs
 menu mnuOPEN
 expect Form3.List1.ListCount 5
@@ -55,10 +54,12 @@ expect Form1.Command6.Enabled true
 expect Form1.mnuOPEN.Visible true
 expect Form1.mnuOPTION.Enabled true
 # The caption names the document again, and saving proposes the document's own path.
-# trace: "title":"パラピコ　ファイルの保存","save":true,"initial":"/
 menu mnuSAVE
 
 # A show that was stopped starts from the top.
 @21000 click Form1.Command1
 expect CurrentName a.png
 expect SlideIndex 2
+
+expect-slides 1000 a.png 4000 b.png 7000 c.png 21000 a.png
+expect-trace dialog title="パラピコ　ファイルの保存" save=true initial~/

@@ -1,9 +1,6 @@
 # What state_leave.robot chose is in force at the next start, which goes straight to the full screen
 # with the slides of the last document.
 # first: state_leave.robot
-# trace: "event":"message","title":"パラピコ","text":"スライド画面全体表示スタート"
-# trace: "event":"slide","SlideIndex":1,
-# trace: "event":"effect","which":"show","number":3,
 @1 expect AutoStartFlag 0
 expect ShowEffect 3
 expect RepeatFlag 1
@@ -14,3 +11,7 @@ expect Form1.mnuHKO(3).Checked true
 expect Slidescreen.Visible true
 expect Form1.Visible false
 @10000 expect Slidescreen.Visible true
+
+expect-trace message title=パラピコ text=スライド画面全体表示スタート
+expect-trace slide SlideIndex=1
+expect-trace effect which=show number=3

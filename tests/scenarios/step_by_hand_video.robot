@@ -1,6 +1,4 @@
 # A step by hand onto a video leaves the show paused, and every button goes on: back, on, and START.
-# slides: 0 a.png 4000 a.png 7000 b.png
-# trace: "t":1000,"event":"video","action":"play"
 choose film.kvs
 menu mnuOPEN
 click Form1.Command1
@@ -16,3 +14,6 @@ expect Form1.Command7.Enabled true
 @7000 click Form1.Command1
 +1 expect ShowRunning 1
 quit
+
+expect-slides 0 a.png 4000 a.png 7000 b.png
+expect-trace video t=1000 action=play

@@ -5,4 +5,5 @@ expect Form1.MousePointer 0
 expect Form1.Picture1.AutoRedraw true
 expect MosaicDelayUnit 0
 # This line was due at 100 ms and had to wait.
-# trace: {"t":2000,"event":"expect","name":"SplashDone"
+
+expect-trace expect t=2000 name=SplashDone

@@ -1,5 +1,4 @@
 # A click closes the video at the next poll, but not within its first 500 ms.
-# slides: 1000 a.png 5300 b.png
 choose film.kvs
 menu mnuOPEN
 @1000 click Form1.Command1
@@ -13,3 +12,5 @@ expect Form3.Timer1.Enabled true
 @5650 expect Form3.Timer1.Enabled true
 @5700 expect Form3.Timer1.Enabled false
 expect ShowRunning 1
+
+expect-slides 1000 a.png 5300 b.png

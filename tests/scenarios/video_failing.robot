@@ -1,6 +1,4 @@
 # A file that is no video is told, and the show ends in the main window.
-# slides: 1000 a.png
-# trace: "t":4100,"event":"message","title":"動画再生エラー"
 choose bad_film.kvs
 menu mnuOPEN
 @1000 click Form1.Command1
@@ -9,3 +7,6 @@ expect SlideIndex 0
 expect VideoStoppedByUser 1
 expect Form24.Loaded false
 expect Form1.Command1.Enabled true
+
+expect-slides 1000 a.png
+expect-trace message t=4100 title=動画再生エラー

@@ -1,5 +1,4 @@
 # Esc on the window ends the video, Enter on the player the whole show.
-# slides: 1000 a.png 4400 b.png 8000 a.png
 choose film.kvs
 menu mnuOPEN
 @1000 click Form1.Command1
@@ -14,3 +13,5 @@ expect VideoStoppedByUser 1
 expect ShowRunning 0
 expect SlideIndex 0
 @16000 expect ShowRunning 0
+
+expect-slides 1000 a.png 4400 b.png 8000 a.png

@@ -1,10 +1,5 @@
 # A video slide plays its 2500 ms in a window in the middle of the screen; 100 ms later comes the
 # next slide. Other windows take no input meanwhile.
-# slides: 1000 a.png 6600 b.png
-# trace: "t":4000,"event":"window","name":"Form24","state":"shown"
-# trace: "t":4000,"event":"video","action":"play"
-# trace: "t":6500,"event":"window","name":"Form24","state":"unloaded"
-# no trace: "event":"message"
 # unheard: Form1.Command3
 choose film.kvs
 menu mnuOPEN
@@ -23,3 +18,9 @@ expect ShowRunning 1
 expect LastWasVideo 1
 @6700 expect LastWasVideo 0
 @9601 expect ShowRunning 0
+
+expect-slides 1000 a.png 6600 b.png
+expect-trace window t=4000 name=Form24 state=shown
+expect-trace video t=4000 action=play
+expect-trace window t=6500 name=Form24 state=unloaded
+expect-no message

@@ -52,6 +52,17 @@ def make_data(folder):
         document(["1vue3167", "effect.kvl", " 1 ", "effect.kvs"]))
 
 
+def shown(title):
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
+                          capture_output=True, check=False).stdout
+
+
+def until(holds):
+    """Tries again and again."""
+    while not holds():
+        time.sleep(0.1)
+
+
 class Run:
     """One run of the program with a folder of its own."""
 
@@ -78,13 +89,14 @@ class Run:
 
     def wait(self, what, holds):
         end = time.monotonic() + LIMIT
-        while time.monotonic() < end:
-            if holds():
-                return True
-            if self.process.poll() is not None:
-                break
-            time.sleep(0.1)
-        return self.fail(f"{what} never came")
+        found = []
+
+        def over():
+            found.append(holds())
+            return found[-1] or self.process.poll() is not None or time.monotonic() > end
+
+        until(over)
+        return bool(found[-1]) or self.fail(f"{what} never came")
 
     def wait_for(self, what, **wanted):
         return self.wait(what, lambda: any(
@@ -92,9 +104,7 @@ class Run:
             for event in self.events()))
 
     def wait_for_window(self, title):
-        return self.wait(f"the window {title}", lambda: subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True,
-            check=False).stdout)
+        return self.wait(f"the window {title}", lambda: shown(title))
 
     def fail(self, what):
         failures.append(f"{self.name}: {what}")
@@ -142,10 +152,16 @@ def idle(run):
     run.wait_for_window("Win Ver.9.10")
 
 
+def screen_has(color):
+    """Anywhere on the screen."""
+    seen = subprocess.run(["import", "-window", "root", "-depth", "8", "-format", "%c",
+                           "histogram:info:-"], capture_output=True, text=True, check=False)
+    return color in seen.stdout
+
+
 def in_effect(run):
-    idle_time = 1.0
     run.wait_for("the show", event="window", name="Slidescreen", state="shown")
-    time.sleep(idle_time)
+    run.wait("the picture's first lines", lambda: screen_has("#FF0000"))
     if any(event["event"] == "effect" for event in run.events()):
         run.fail("the effect is over already")
 
@@ -170,9 +186,13 @@ def in_program_box(run):
 def in_file_dialog(run):
     idle(run)
     run.wait("the title screen's end", lambda: len(run.events()) > 0)
-    time.sleep(3)
-    subprocess.run(["xdotool", "key", "ctrl+o"], check=True)
-    run.wait_for_window("ファイルを開く")
+
+    def opened():
+        """Asks for it until the window has the keyboard; a dialog that stands takes no notice."""
+        subprocess.run(["xdotool", "key", "ctrl+o"], check=True)
+        return shown("ファイルを開く")
+
+    run.wait("the dialog", opened)
 
 
 def signals():
@@ -229,8 +249,7 @@ def lost_x11():
         server = subprocess.Popen(
             ["Xvfb", "-nolisten", "tcp", "-displayfd", str(file.fileno()), "-screen", "0",
              "800x600x24"], pass_fds=[file.fileno()], stderr=subprocess.DEVNULL)
-        while server.poll() is None and not named.read_text().strip():
-            time.sleep(0.1)
+        until(lambda: server.poll() is not None or named.read_text().strip())
     run = Run("lost_x11", "second.kvl", DISPLAY=":" + named.read_text().strip(),
               QT_QPA_PLATFORM="xcb")
     slide(run, 2)
@@ -250,8 +269,7 @@ def lost_wayland():
         ["weston", "--backend=headless-backend.so", "--use-pixman", "--width=800",
          "--height=600", "--idle-time=0", "--socket=parapico"],
         env={**os.environ, **environment}, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    while server.poll() is None and not (folder / "parapico").exists():
-        time.sleep(0.1)
+    until(lambda: server.poll() is not None or (folder / "parapico").exists())
     run = Run("lost_wayland", "second.kvl", **environment)
     slide(run, 2)
     server.kill()

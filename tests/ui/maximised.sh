@@ -13,37 +13,29 @@ HasSize() { [[ $(Geometry) == "$1 $2 " ]]; }
 Fills() { [[ $(Geometry) == "1280 "* ]]; }
 # The window manager's own menu: x for Maximize, e for Restore.
 FromWindowMenu() {
-    xdotool windowfocus "$window" key alt+space
-    sleep 0.5
+    xdotool windowfocus --sync "$window"
+    Seen 'the menu of the window' xdotool key alt+space
     xdotool key "$1"
 }
 Maximise() { FromWindowMenu x; }
 Restore() { FromWindowMenu e; }
 Kept() { tr -d '\r\n' <"$PARAPICO_SCRATCH/home/window.dat"; }
-Ended() { ! kill -0 "$program" 2>/dev/null; }
 Start() {
     PARAPICO_HOME="$PARAPICO_SCRATCH/home" "$PARAPICO" >"$PARAPICO_SCRATCH/output" 2>&1 &
     program=$!
     WaitForWindow 'Win Ver.9.10'
 }
 Restart() {
-    local try
     xdotool key ctrl+q
-    for ((try = 0; try < limit; ++try)); do
-        if Ended; then break; fi
-        sleep 0.2
-    done
-    Ended || Fail 'the program ends'
+    WaitForEnd 'the program ends'
     [[ $(Kept) == "$1" ]] || Fail "kept: $(Kept), expected $1"
     Start
 }
 
 StartDisplay 1280x1024
 openbox >/dev/null 2>&1 &
-for ((try = 0; try < limit; ++try)); do
-    if xdotool get_num_desktops >/dev/null 2>&1; then break; fi
-    sleep 0.2
-done
+HasDesktops() { xdotool get_num_desktops >/dev/null 2>&1; }
+Until HasDesktops
 
 rm -rf "$PARAPICO_SCRATCH/home"
 mkdir -p "$PARAPICO_SCRATCH/home"
@@ -61,7 +53,7 @@ xdotool key ctrl+n
 WaitForWindow '新規作成'
 xdotool key Return
 WaitForWindow 'Win Ver.9.10'
-sleep 1
+WaitForStill 'the window without the box'
 [[ $(Geometry whole) == "$place" ]] || Fail "New moved the window from $place to $(Geometry whole)"
 Restore
 WaitFor 'the size from before' HasSize 900 640

@@ -17,8 +17,7 @@ command -v gdbus >/dev/null || { echo "gdbus is missing" >&2; exit 1; }
 StartProgram
 WaitForWindow 'Win Ver.9.10'
 MoveWindow 100 60
-xdotool key --window "$window" alt+f
-sleep 0.3
+Seen 'the menu' xdotool key --window "$window" alt+f
 xdotool key o
 WaitForDialog
 xdotool type --delay 5 "$PARAPICO_DATA/five_slow.kvs"

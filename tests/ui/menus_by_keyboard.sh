@@ -4,11 +4,11 @@
 set -euo pipefail
 source "$(dirname "$0")/screen.sh"
 
-Keys() {
+# Menus, one after the other; what follows them is the entry's.
+Menus() {
     local key
     for key in "$@"; do
-        xdotool key "$key"
-        sleep 0.4
+        Seen "the menu of $key" xdotool key "$key"
     done
 }
 
@@ -18,7 +18,7 @@ Gone() { ! Shown "$1"; }
 ExpectBox() {
     WaitFor "a box titled $1" Shown "$1"
     xdotool windowfocus --sync "$(xdotool search --onlyvisible --name "$1" | head -n 1)" || true
-    sleep 0.4
+    WaitForStill "the whole box $1"
 }
 ExpectGone() { WaitFor "the box $1 goes" Gone "$1"; }
 InTrace() { grep -qF -- "$1" "$trace"; }
@@ -31,54 +31,55 @@ main=$window
 MoveWindow 100 60
 
 # Settings, time: Alt+S, J. Out of range first.
-Keys alt+s j
+Menus alt+s
+xdotool key j
 ExpectBox 'スライド間隔'
 xdotool type --delay 20 "99"
-Keys Return
+xdotool key Return
 ExpectBox 'ｽﾗｲﾄﾞ間隔'
-Keys Return
+xdotool key Return
 ExpectGone 'ｽﾗｲﾄﾞ間隔'
 xdotool windowfocus --sync "$main" || true
-Keys alt+s j
+Menus alt+s
+xdotool key j
 ExpectBox 'スライド間隔'
 xdotool type --delay 20 "2"
-Keys Return
+xdotool key Return
 ExpectGone 'スライド間隔'
 
 # Settings, repeat, あり by the arrows: a note.
 xdotool windowfocus --sync "$main" || true
-Keys alt+s k Return
+Menus alt+s k
+xdotool key Return
 ExpectBox '繰り返し'
-Keys Return
+xdotool key Return
 ExpectGone '繰り返し'
 WaitFor 'the note is traced' InTrace '"title":"繰り返し"'
 
 # Open with Ctrl+O, play and pause with the space bar, move with the arrows.
 xdotool windowfocus --sync "$main" || true
-Keys ctrl+o
+xdotool key ctrl+o
 WaitForDialog
 xdotool type --delay 5 "$PARAPICO_DATA/five_slow.kvs"
 xdotool key Return
 WaitForWindow 'five_slow.kvs'
-Keys space
+xdotool key space
 WaitForColor 420 250 '#FF0000' 'space starts the show with the red picture'
 WaitForColor 420 250 '#00FF00' 'the second picture is green'
-Keys space
-sleep 9
-ExpectColor 420 250 '#00FF00' 'space pauses it'
-Keys Left
+playing=$(StartButton)
+xdotool key space
+WaitFor 'space pauses it' StartIsNot "$playing"
+ExpectColor 420 250 '#00FF00' 'the picture stays'
+xdotool key Left
 WaitForColor 420 250 '#FF0000' 'the left arrow goes back'
-Keys Right
+xdotool key Right
 WaitForColor 420 250 '#00FF00' 'the right arrow goes on'
 
 # The same by the menu: Alt+R, STOP.
-Keys alt+r Down Return
+Menus alt+r Down
+xdotool key Return
 WaitForColor 420 150 '#000000' 'STOP in the menu empties the preview'
-Keys ctrl+q
-for ((try = 0; try < limit; ++try)); do
-    kill -0 "$program" 2>/dev/null || break
-    sleep 0.2
-done
-! kill -0 "$program" 2>/dev/null || Fail 'Ctrl+Q ends the program'
+xdotool key ctrl+q
+WaitForEnd 'Ctrl+Q ends the program'
 trap - EXIT
 echo "the menus and keys did what they say"

@@ -6,6 +6,16 @@
 limit=600  # tries of 0.2 s and what they take themselves
 ground='#405060'  # of the screen where no window is
 
+# Until COMMAND…: tries it again and again; false when it never succeeds.
+Until() {
+    local try
+    for ((try = 0; try < limit; ++try)); do
+        if "$@"; then return 0; fi
+        sleep 0.2
+    done
+    return 1
+}
+
 # StartDisplay WxH: an X server of one's own, for what the common one cannot show.
 StartDisplay() {
     mkdir -p "$PARAPICO_SCRATCH"
@@ -13,11 +23,7 @@ StartDisplay() {
     Xvfb -noreset -nolisten tcp -displayfd 3 -screen 0 "$1x24" 2>/dev/null &
     server=$!
     trap 'kill "$server" 2>/dev/null || true' EXIT
-    local try
-    for ((try = 0; try < limit; ++try)); do
-        if [[ -s $PARAPICO_SCRATCH/display ]]; then break; fi
-        sleep 0.2
-    done
+    Until test -s "$PARAPICO_SCRATCH/display"
     DISPLAY=:$(<"$PARAPICO_SCRATCH/display")
     export DISPLAY
     xsetroot -solid "$ground"
@@ -42,14 +48,43 @@ Fail() {
 
 # WaitFor WHAT COMMAND…: until the command succeeds.
 WaitFor() {
-    local what=$1 try
+    local what=$1
     shift
-    for ((try = 0; try < limit; ++try)); do
-        if "$@"; then return 0; fi
-        kill -0 "$program" 2>/dev/null || Fail "$what: the program has ended"
-        sleep 0.2
-    done
-    Fail "$what"
+    HoldsOrEnded() {
+        "$@" || ! kill -0 "$program" 2>/dev/null
+    }
+    Until HoldsOrEnded "$@" || Fail "$what"
+    kill -0 "$program" 2>/dev/null || Fail "$what: the program has ended"
+}
+
+# What is seen of the whole screen now, as a short word.
+Screen() { import -window root rgb:- | cksum; }
+ScreenIsNot() { [[ $(Screen) != "$1" ]]; }
+seen=''
+StandsStill() {
+    local before=$seen
+    seen=$(Screen)
+    [[ $seen == "$before" ]]
+}
+
+WaitForStill() {
+    seen=''
+    WaitFor "$1" StandsStill
+}
+
+# Seen WHAT COMMAND…: does it, and waits until the screen is another one and stands still.
+Seen() {
+    local what=$1 before
+    before=$(Screen)
+    shift
+    "$@"
+    WaitFor "$what is seen" ScreenIsNot "$before"
+    WaitForStill "$what stands"
+}
+
+HasEnded() { ! kill -0 "$program" 2>/dev/null; }
+WaitForEnd() {
+    Until HasEnded || Fail "$1"
 }
 
 FindWindow() {
@@ -64,18 +99,22 @@ WaitForWindow() {
 
 WaitForDialog() {
     WaitForWindow 'ファイルを開く'
-    sleep 0.5
+    WaitForStill 'the whole dialog'
 }
 
 MoveWindow() {
     xdotool windowmove --sync "$window" "$1" "$2"
-    sleep 0.3
+    WaitForStill 'the window in its place'
 }
 
 # Position in the window, in pixels.
 Click() {
     xdotool mousemove --sync --window "$window" "$1" "$2" click 1
 }
+
+# What START looks like: it can be pressed while nothing plays.
+StartButton() { import -window "$window" -crop 60x24+15+533 rgb:- | cksum; }
+StartIsNot() { [[ $(StartButton) != "$1" ]]; }
 
 ColorAt() {
     local x y

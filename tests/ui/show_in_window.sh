@@ -9,8 +9,7 @@ WaitForWindow 'Win Ver.9.10'
 MoveWindow 100 60
 
 # Alt+F, O: the file dialog takes the path by keyboard.
-xdotool key --window "$window" alt+f
-sleep 0.3
+Seen 'the menu' xdotool key --window "$window" alt+f
 xdotool key o
 WaitForDialog
 xdotool type --delay 5 "$PARAPICO_DATA/five_slow.kvs"
@@ -20,9 +19,10 @@ WaitForWindow 'five_slow.kvs'
 Click 45 545    # START
 WaitForColor 420 250 '#FF0000' 'the first picture is red'
 WaitForColor 420 250 '#00FF00' 'the second picture is green'
+playing=$(StartButton)
 Click 124 545   # PAUSE
-sleep 9
-ExpectColor 420 250 '#00FF00' 'a paused show stands still'
+WaitFor 'a paused show' StartIsNot "$playing"
+ExpectColor 420 250 '#00FF00' 'the picture stays'
 Click 284 545   # previous
 WaitForColor 420 250 '#FF0000' 'the picture before is red'
 Click 204 545   # STOP

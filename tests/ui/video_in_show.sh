@@ -26,8 +26,7 @@ OpenShow() {
     StartProgram
     WaitForWindow 'Win Ver.9.10'
     MoveWindow 100 60
-    xdotool key --window "$window" alt+f
-    sleep 0.3
+    Seen 'the menu' xdotool key --window "$window" alt+f
     xdotool key o
     WaitForDialog
     xdotool type --delay 5 "$shows/clip.kvs"

@@ -40,14 +40,15 @@ std::string MakeTemporaryFolder() {
 Robot::Robot(const RobotOptions& options, platform::Trace& trace, std::ostream& out,
              std::ostream& err)
     : loop_(options.now, options.seed),
-      dialogs_(trace),
+      record_(trace, loop_),
+      dialogs_(record_),
       monitors_(options.screens),
       sound_(loop_),
-      tracedSound_(sound_, trace),
-      video_(trace, loop_),
-      windows_(trace),
+      tracedSound_(sound_, record_),
+      video_(record_, loop_),
+      windows_(record_),
       user_(ReadScript(options.script), options.script,
-            {loop_, dialogs_, windows_, trace, out, err}),
+            {loop_, dialogs_, windows_, record_, out, err}),
       appFolder_(options.appFolder),
       ownsAppFolder_(options.appFolder.empty()) {
     sound_.cd.Insert(options.cd);
@@ -63,8 +64,8 @@ Robot::~Robot() {
     }
 }
 
-void Robot::Attach(model::Application& application, ShotFunction shot) {
-    user_.Attach(application, std::move(shot));
+void Robot::Attach(model::Application& application, Eyes eyes) {
+    user_.Attach(application, std::move(eyes));
     windows_.Attach(application.windows);
     sound_.Follow(application.platform.files);
     video_.Follow(application.platform.files);

@@ -7,6 +7,7 @@
 
 #include "adapters/robot/options.h"
 #include "adapters/robot/scripted_user.h"
+#include "adapters/robot/trace_record.h"
 #include "adapters/tracing/traced_sound.h"
 #include "adapters/tracing/window_tracer.h"
 #include "adapters/virtual/virtual_dialogs.h"
@@ -39,15 +40,22 @@ public:
     /// The program folder: the one asked for, or a temporary one that exists as long as the robot.
     const std::string& AppFolder() const { return appFolder_; }
 
+    /// What the program tells of itself goes here: on to the trace of the run, and to what the
+    /// script expects of it.
+    platform::Trace& Trace() { return record_; }
+
     /// Before the program starts. Throws ScriptError when the script names a window, control,
     /// property, field or entry that the program does not have.
-    void Attach(model::Application& application, ShotFunction shot);
+    void Attach(model::Application& application, Eyes eyes);
 
-    /// 0 every expectation held, 1 one did not or was never reached, 2 the script is at fault.
-    int ExitStatus() { return user_.ExitStatus(); }
+    /// When the run has ended with the program's own status. 0 every expectation held, 1 one did
+    /// not or was never reached, 2 the script is at fault; the program's own where the script does
+    /// not say which it expects.
+    int ExitStatus(int programs) { return user_.ExitStatus(programs); }
 
 private:
     virtual_adapter::VirtualLoop loop_;
+    TraceRecord record_;
     virtual_adapter::VirtualDialogs dialogs_;
     virtual_adapter::VirtualMonitors monitors_;
     virtual_adapter::VirtualSound sound_;

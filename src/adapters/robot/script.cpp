@@ -41,15 +41,19 @@ size_t QuotedLength(std::string_view line) {
     return line.size();
 }
 
-/// Without what stands behind a '#' that begins a word outside quotes.
+/// Without what stands behind a '#' that begins a word outside quotes. A line of expectations also
+/// has quotes after the sign between a field and its value.
 std::string_view WithoutComment(std::string_view line) {
+    const bool hasFields = line.find("expect-") != std::string_view::npos;
     size_t i = 0;
     while (i < line.size()) {
-        const bool beginsWord = i == 0 || IsBlank(line[i - 1]);
+        const char before = i == 0 ? ' ' : line[i - 1];
+        const bool beginsWord = IsBlank(before);
+        const bool beginsValue = beginsWord || (hasFields && (before == '=' || before == '~'));
         if (beginsWord && line[i] == '#') {
             return line.substr(0, i);
         }
-        i += beginsWord && line[i] == '"' ? QuotedLength(line.substr(i)) : 1;
+        i += beginsValue && line[i] == '"' ? QuotedLength(line.substr(i)) : 1;
     }
     return line;
 }
@@ -70,6 +74,15 @@ int ToWholeNumber(std::string_view word) {
         throw BadLine{"this is no whole number: " + std::string(word)};
     }
     return number;
+}
+
+double ToTime(std::string_view word) {
+    double time = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), time);
+    if (error != std::errc() || end != word.data() + word.size()) {
+        throw BadLine{"this is no time in milliseconds: " + std::string(word)};
+    }
+    return time;
 }
 
 /// What stands behind the keyword, read from left to right.
@@ -93,6 +106,26 @@ public:
             return text::FromUtf8(Plain(what));
         }
         return Unquoted(Take(QuotedLength(rest_), what));
+    }
+    double Time() { return ToTime(Plain("time")); }
+    /// FIELD=VALUE or FIELD~PART.
+    FieldExpectation Field() {
+        const size_t length = rest_.find_first_of("=~ \t");
+        if (length == 0 || length == std::string_view::npos || IsBlank(rest_[length])) {
+            throw BadLine{"this is no FIELD=VALUE: " + std::string(rest_)};
+        }
+        FieldExpectation expectation;
+        expectation.field = rest_.substr(0, length);
+        expectation.part = rest_[length] == '~';
+        rest_.remove_prefix(length + 1);
+        if (rest_.empty() || rest_.front() != '"') {
+            expectation.value = text::FromUtf8(Plain("value"));
+            return expectation;
+        }
+        const std::string_view quoted = Take(QuotedLength(rest_), "value");
+        const Text inside = Unquoted(quoted);
+        expectation.value = expectation.part ? inside : text::FromUtf8(quoted);
+        return expectation;
     }
     int Number(const char* what) { return ToWholeNumber(Plain(what)); }
     /// Everything that is left as it stands.
@@ -218,6 +251,31 @@ void ReadShot(Arguments& from, Action& action) {
     }
 }
 
+void ReadEvent(Arguments& from, Action& action) {
+    action.name = from.Plain("event");
+    while (!from.AtEnd()) {
+        action.fields.push_back(from.Field());
+    }
+}
+
+void ReadSlides(Arguments& from, Action& action) {
+    while (!from.AtEnd()) {
+        action.moments.push_back(from.Time());
+        action.paths.push_back(from.Word("file"));
+    }
+}
+
+void ReadSounds(Arguments& from, Action& action) {
+    if (!from.AtEnd()) {
+        action.moments = {from.Time()};
+        action.paths = {text::FromUtf8(from.Raw("command"))};
+    }
+}
+
+void ReadExit(Arguments& from, Action& action) {
+    action.numbers = {from.Number("status")};
+}
+
 void ReadNothing(Arguments&, Action&) {}
 
 struct Keyword {
@@ -244,7 +302,15 @@ constexpr Keyword kKeywords[] = {
     {"choose", ActionKind::Choose, ReadOptionalText, "choose [PATH]"},
     {"print", ActionKind::Print, ReadPrint, "print NAME"},
     {"expect", ActionKind::Expect, ReadExpect, "expect NAME VALUE"},
+    {"expect-trace", ActionKind::ExpectTrace, ReadEvent,
+     "expect-trace EVENT [FIELD=VALUE|FIELD~PART]..."},
+    {"expect-no", ActionKind::ExpectNo, ReadEvent, "expect-no EVENT [FIELD=VALUE|FIELD~PART]..."},
+    {"expect-slides", ActionKind::ExpectSlides, ReadSlides, "expect-slides [TIME FILE]..."},
+    {"expect-sounds", ActionKind::ExpectSounds, ReadSounds,
+     "expect-sounds [TIME COMMAND | COMMAND...]"},
+    {"expect-exit", ActionKind::ExpectExit, ReadExit, "expect-exit STATUS"},
     {"shot", ActionKind::Shot, ReadShot, "shot FILE [W]"},
+    {"golden", ActionKind::Golden, ReadShot, "golden FILE [W]"},
     {"quit", ActionKind::Quit, ReadNothing, "quit"},
 };
 
@@ -294,6 +360,12 @@ std::string_view ActionWord(ActionKind kind) {
         }
     }
     return {};
+}
+
+bool LooksAtRun(ActionKind kind) {
+    return kind == ActionKind::ExpectTrace || kind == ActionKind::ExpectNo ||
+           kind == ActionKind::ExpectSlides || kind == ActionKind::ExpectSounds ||
+           kind == ActionKind::ExpectExit;
 }
 
 std::vector<Action> ParseScript(std::string_view content, const std::string& fileName) {

@@ -33,7 +33,13 @@ enum class ActionKind {
     Choose,
     Print,
     Expect,
+    ExpectTrace,
+    ExpectNo,
+    ExpectSlides,
+    ExpectSounds,
+    ExpectExit,
     Shot,
+    Golden,
     Quit
 };
 
@@ -48,18 +54,31 @@ struct Due {
     double milliseconds = 0;
 };
 
+/// What a field of a trace's event must be.
+struct FieldExpectation {
+    std::string field;
+    Text value;         // as the script has it; of a part without its quotes
+    bool part = false;  // the field is a text that holds it
+};
+
 /// One line. Which fields mean something depends on the kind.
 struct Action {
     int line = 0;  // from 1
     Due due;
     ActionKind kind = ActionKind::Quit;
-    std::string window;   // of Click .. Close but Menu; of Shot where one is named
+    std::string window;   // of Click .. Close but Menu; of Shot and Golden where one is named
     std::string control;  // empty: the window itself
-    std::string name;     // of Print and Expect; Menu: the entry, with "(index)" where it has one
-    std::vector<int> numbers;  // point, key code, rows, cells
-    std::optional<Text> text;  // Set, Input, Choose (none: cancel), Answer, Expect, Shot
-    std::vector<Text> paths;   // Drop
+    std::string name;     // of Print and Expect; Menu: the entry, with "(index)" where it has one;
+                          // ExpectTrace, ExpectNo: the event
+    std::vector<int> numbers;     // point, key code, rows, cells, exit status
+    std::optional<Text> text;     // Set, Input, Choose (none: cancel), Answer, Expect, Shot, Golden
+    std::vector<Text> paths;      // Drop; ExpectSlides: files; ExpectSounds: the commands
+    std::vector<double> moments;  // ExpectSlides, ExpectSounds: one for each of `paths`
+    std::vector<FieldExpectation> fields;
 };
+
+/// True for the kinds that look at the trace or at the end of the run.
+bool LooksAtRun(ActionKind kind);
 
 /// The word that names it in a script.
 std::string_view ActionWord(ActionKind kind);

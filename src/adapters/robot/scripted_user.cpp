@@ -1,10 +1,13 @@
 #include "adapters/robot/scripted_user.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <utility>
 
+#include "adapters/robot/script_check.h"
 #include "adapters/robot/values.h"
 #include "model/controls.h"
 #include "model/grid.h"
@@ -36,39 +39,14 @@ Text Absolute(const Text& path) {
     return text::FromUtf8(native.lexically_normal().string());
 }
 
-/// A check or option box's value as scripts write it; nullopt where it is none.
-std::optional<bool> OnOrOff(TextView value) {
-    if (value == u"1" || value == u"true") {
-        return true;
+/// Expectations of the trace that no other line follows look at the whole run.
+size_t FirstAtEnd(const std::vector<Action>& script) {
+    size_t first = script.size();
+    while (first > 0 && LooksAtRun(script[first - 1].kind) &&
+           script[first - 1].due.kind == Due::Next) {
+        --first;
     }
-    if (value == u"0" || value == u"false") {
-        return false;
-    }
-    return std::nullopt;
-}
-
-/// "YYYY/MM/DD" in digits.
-bool IsDay(TextView value) {
-    constexpr TextView kForm = u"0000/00/00";
-    return value.size() == kForm.size() &&
-           std::equal(value.begin(), value.end(), kForm.begin(), [](char16_t c, char16_t form) {
-               return form == u'/' ? c == u'/' : c >= u'0' && c <= u'9';
-           });
-}
-
-std::optional<int> WholeNumber(TextView value) {
-    const std::string digits = text::ToUtf8(value);
-    int number = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (error != std::errc() || end != digits.data() + digits.size()) {
-        return std::nullopt;
-    }
-    return number;
-}
-
-bool IsFieldless(ActionKind kind) {
-    return kind == ActionKind::Answer || kind == ActionKind::Input || kind == ActionKind::Choose ||
-           kind == ActionKind::Quit;
+    return first;
 }
 
 platform::Answer AnswerOf(const Text& word) {
@@ -119,83 +97,68 @@ model::Control& CanvasOf(model::Window& window) {
     return window;
 }
 
-model::ListBox* AsList(model::Control& control) {
-    return dynamic_cast<model::ListBox*>(&control);
-}
-
-const model::ListBox* AsList(const model::Control& control) {
-    return dynamic_cast<const model::ListBox*>(&control);
-}
-
-/// Why the action's numbers cannot be selected there; empty when they can.
-std::string WhyNoSelect(const Action& action, const model::Control& control) {
-    if (control.Kind() == model::ControlKind::Grid) {
-        const size_t count = action.numbers.size();
-        return count == 2 || count == 4 ? "" : "a cell is ROW COL, a range ROW COL ROW2 COL2";
-    }
-    return AsList(control) ? "" : action.control + " is no list";
-}
-
-/// Why the action's value cannot be given to a control of that kind; empty when it can.
-std::string WhyNoSet(const Action& action, model::ControlKind kind) {
-    const Text& value = *action.text;
-    switch (kind) {
-        case model::ControlKind::TextBox:
-        case model::ControlKind::FolderList:
-        case model::ControlKind::DriveList:
-            return "";
-        case model::ControlKind::Calendar:
-            return IsDay(value) ? "" : "this is no day YYYY/MM/DD: " + text::ToUtf8(value);
-        case model::ControlKind::ScrollBar:
-            return WholeNumber(value) ? "" : "this is no whole number: " + text::ToUtf8(value);
-        case model::ControlKind::CheckBox:
-        case model::ControlKind::OptionButton:
-            break;
-        default:
-            return action.control + " has no value to set";
-    }
-    const std::optional<bool> on = OnOrOff(value);
-    if (!on) {
-        return "neither 0 nor 1: " + text::ToUtf8(value);
-    }
-    const bool leaves = kind == model::ControlKind::OptionButton && !*on;
-    return leaves ? "an option is left by choosing another one" : "";
-}
-
-model::Control* FindTarget(model::Application& application, const Action& action) {
-    model::Window* window = application.windows.Find(action.window);
-    if (!window || action.control.empty()) {
-        return window;
-    }
-    return window->FindControl(action.control);
-}
-
 }  // namespace
 
-void ScriptedUser::Attach(model::Application& application, ShotFunction shot) {
-    application_ = &application;
-    shot_ = std::move(shot);
-    for (const Action& action : script_) {
-        Check(action);
+ScriptedUser::ScriptedUser(std::vector<Action> script, std::string fileName,
+                           Surroundings surroundings)
+    : script_(std::move(script)),
+      fileName_(std::move(fileName)),
+      around_(surroundings),
+      expectations_(surroundings.trace),
+      atEnd_(FirstAtEnd(script_)) {
+    if (std::any_of(script_.begin(), script_.end(),
+                    [](const Action& action) { return LooksAtRun(action.kind); })) {
+        around_.trace.Keep();
     }
 }
 
-int ScriptedUser::ExitStatus() {
-    if (!leftOverTold_ && status_ != kExitBadScript) {
-        leftOverTold_ = true;
-        for (size_t i = next_; i < script_.size(); ++i) {
-            if (script_[i].kind == ActionKind::Expect) {
-                around_.err << Place(script_[i]) << "never reached: the program had ended\n";
-                status_ = kExitFailedExpectation;
-            }
+void ScriptedUser::Attach(model::Application& application, Eyes eyes) {
+    application_ = &application;
+    eyes_ = std::move(eyes);
+    for (size_t i = 0; i < script_.size(); ++i) {
+        if (const std::string reason = WhyNot(application, script_[i]); !reason.empty()) {
+            throw ScriptError(Place(script_[i]) + reason);
         }
+        if (script_[i].kind == ActionKind::ExpectExit && i < atEnd_) {
+            throw ScriptError(Place(script_[i]) + "the exit status is known at the script's end");
+        }
+    }
+}
+
+int ScriptedUser::ExitStatus(int programs) {
+    if (status_ == kExitBadScript) {
+        return status_;
+    }
+    const auto exits = [](const Action& action) { return action.kind == ActionKind::ExpectExit; };
+    const bool expected = std::any_of(script_.begin(), script_.end(), exits);
+    if (!std::exchange(judged_, true)) {
+        JudgeEnd(programs);
         around_.err.flush();
     }
-    return status_;
+    return programs != 0 && !expected ? programs : status_;
+}
+
+void ScriptedUser::JudgeEnd(int programs) {
+    for (size_t i = next_; i < atEnd_; ++i) {
+        if (script_[i].kind == ActionKind::Expect || LooksAtRun(script_[i].kind)) {
+            Fail(script_[i], "never reached: the program had ended");
+        }
+    }
+    for (size_t i = atEnd_; i < script_.size(); ++i) {
+        const Action& action = script_[i];
+        if (action.kind != ActionKind::ExpectExit) {
+            Judge(action);
+        } else if (programs != action.numbers.front()) {
+            Fail(action, "the program ended with " + std::to_string(programs));
+        }
+    }
+    if (const std::string untold = expectations_.Untold(); !untold.empty()) {
+        Fail(script_.back(), untold);
+    }
 }
 
 std::optional<double> ScriptedUser::NextDue() const {
-    if (ending_ || next_ >= script_.size()) {
+    if (ending_ || next_ >= atEnd_) {
         return std::nullopt;
     }
     const Due& due = script_[next_].due;
@@ -212,7 +175,7 @@ std::optional<double> ScriptedUser::NextDue() const {
 }
 
 bool ScriptedUser::NextComesDuring() const {
-    return next_ < script_.size() && script_[next_].due.kind == Due::During;
+    return next_ < atEnd_ && script_[next_].due.kind == Due::During;
 }
 
 void ScriptedUser::RunNext() {
@@ -227,61 +190,6 @@ void ScriptedUser::End() {
     ending_ = true;
     application_->windows.form1.Unload();
     throw platform::ProgramEnd{};
-}
-
-/// Finds what can be found wrong before anything runs: all names and kinds of controls.
-void ScriptedUser::Check(const Action& action) {
-    const auto refuse = [&](const std::string& reason) {
-        throw ScriptError(Place(action) + reason);
-    };
-    if (IsFieldless(action.kind)) {
-        return;
-    }
-    if (action.kind == ActionKind::Print || action.kind == ActionKind::Expect) {
-        std::string error;
-        if (!ReadByName(*application_, action.name, error)) {
-            refuse(error);
-        }
-        return;
-    }
-    if (action.kind == ActionKind::Menu) {
-        CheckMenuEntry(action);
-        return;
-    }
-    if (action.kind == ActionKind::Shot && action.window.empty()) {
-        return;
-    }
-    if (!application_->windows.Find(action.window)) {
-        refuse("no such window: " + action.window);
-    }
-    const model::Control* control = FindTarget(*application_, action);
-    if (!control) {
-        refuse(action.window + " has no control " + action.control);
-    }
-    const model::ControlKind kind = control->Kind();
-    if (kind == model::ControlKind::Timer || kind == model::ControlKind::Imaging ||
-        kind == model::ControlKind::MenuEntry) {
-        refuse(action.control + " is nothing that a person sees in the window");
-    }
-    const std::string reason = action.kind == ActionKind::Select ? WhyNoSelect(action, *control)
-                               : action.kind == ActionKind::Move && !AsList(*control)
-                                   ? action.control + " is no list"
-                               : action.kind == ActionKind::Set ? WhyNoSet(action, kind)
-                                                                : std::string();
-    if (!reason.empty()) {
-        refuse(reason);
-    }
-}
-
-void ScriptedUser::CheckMenuEntry(const Action& action) {
-    const auto* entry =
-        dynamic_cast<const model::MenuEntry*>(application_->windows.form1.FindControl(action.name));
-    if (!entry) {
-        throw ScriptError(Place(action) + "no such menu entry: " + action.name);
-    }
-    if (!entry->Children().empty()) {
-        throw ScriptError(Place(action) + action.name + " is a menu, not an entry to choose");
-    }
 }
 
 void ScriptedUser::Run(const Action& action) {
@@ -299,8 +207,15 @@ void ScriptedUser::Run(const Action& action) {
             return Print(action);
         case ActionKind::Expect:
             return Expect(action);
+        case ActionKind::ExpectTrace:
+        case ActionKind::ExpectNo:
+        case ActionKind::ExpectSlides:
+        case ActionKind::ExpectSounds:
+            return Judge(action);
         case ActionKind::Shot:
             return Shot(action);
+        case ActionKind::Golden:
+            return Golden(action);
         case ActionKind::Quit:
             return End();
         default:
@@ -446,9 +361,8 @@ void ScriptedUser::Expect(const Action& action) {
     }
     const bool holds = Matches(*value, *action.text);
     if (!holds) {
-        status_ = std::max(status_, kExitFailedExpectation);
-        around_.err << Place(action) << "expected " << action.name << ' '
-                    << text::ToUtf8(*action.text) << ", got " << ToJson(*value) << std::endl;
+        Fail(action, "expected " + action.name + " " + text::ToUtf8(*action.text) + ", got " +
+                         ToJson(*value));
     }
     around_.trace.Event("expect", {{"name", text::FromUtf8(action.name)},
                                    {"value", ToTraceValue(*value)},
@@ -456,17 +370,48 @@ void ScriptedUser::Expect(const Action& action) {
                                    {"ok", holds}});
 }
 
-void ScriptedUser::Shot(const Action& action) {
+void ScriptedUser::Judge(const Action& action) {
+    if (const std::string wrong = expectations_.Judge(action); !wrong.empty()) {
+        Fail(action, wrong);
+    }
+}
+
+void ScriptedUser::Fail(const Action& action, const std::string& reason) {
+    status_ = std::max(status_, kExitFailedExpectation);
+    around_.err << Place(action) << reason << std::endl;
+}
+
+void ScriptedUser::SaveShot(const Action& action, const std::string& file) {
     model::Windows& windows = application_->windows;
     model::Window* window = action.window.empty() ? nullptr : windows.Find(action.window);
     if (!window) {
         window = windows.slidescreen.Visible ? static_cast<model::Window*>(&windows.slidescreen)
                                              : &windows.form1;
     }
-    const std::string file = text::ToUtf8(*action.text);
-    if (!shot_ || !shot_(*window, file)) {
+    if (!eyes_.shot || !eyes_.shot(*window, file)) {
         Fault(action, "no picture of " + window->Name() + " could be saved as " + file);
     }
+}
+
+void ScriptedUser::Shot(const Action& action) {
+    SaveShot(action, text::ToUtf8(*action.text));
+}
+
+/// What is seen now is left beside the kept picture, unless they are the same.
+void ScriptedUser::Golden(const Action& action) {
+    namespace fs = std::filesystem;
+    const fs::path kept = fs::path(fileName_).parent_path() / text::ToUtf8(*action.text);
+    const fs::path actual = kept.parent_path() / (kept.stem().string() + "-ACTUAL.png");
+    // Another run may look at the same picture at the same time.
+    const fs::path mine = actual.string() + "." + std::to_string(getpid());
+    SaveShot(action, mine.string());
+    std::error_code error;
+    if (eyes_.same && eyes_.same(kept.string(), mine.string())) {
+        fs::remove(mine, error);
+        return;
+    }
+    fs::rename(mine, actual, error);
+    Fail(action, "other pixels than " + kept.string() + ": see " + actual.string());
 }
 
 bool ScriptedUser::CanUse(const model::Window& window) const {
