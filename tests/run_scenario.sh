@@ -1,6 +1,6 @@
 #!/bin/bash
 # run_scenario.sh PROGRAM SCRIPT DATA SCRATCH [OPTION VALUE]...: plays one robot script, with these
-# options of the robot ahead of its own.
+# options of the robot before its own.
 #
 # It runs in a fresh copy of the data, so that a scenario may change and delete files. The script says
 # itself what it expects. Comments at its beginning say how the program is started:
@@ -11,7 +11,7 @@
 #   # held: yes                                              another instance holds the program folder
 #   # exit: 2                                                the robot's status for a script at fault (2: refused
 #                                                            before anything happens)
-#   # unheard: Form1.Command2                               acts on it may reach nobody
+#   # unheard: Form1.Command2                               acts on it may reach no handler
 set -euo pipefail
 program=$1 script=$2 data=$3 scratch=$4
 shift 4
@@ -57,7 +57,7 @@ if [[ $status -eq 2 && -s $trace ]]; then
     echo "$script: something happened before it was refused" >&2
     failed=1
 fi
-# Acts that nobody hears are mistakes of the scenario, unless it names them.
+# Acts that reach no handler are mistakes of the scenario, unless it names them.
 while IFS= read -r line; do
     if [[ $line =~ \"event\":\"act\".*\"name\":\"([^\"]*)\",\"unheard\":true &&
         ${said[unheard]} != *" ${BASH_REMATCH[1]} "* ]]; then

@@ -16,7 +16,7 @@ constexpr int kMillisecondsPerSecond = 1000;
 constexpr int kFewestTracks = 2;
 
 // Effects by their place in the menus.
-constexpr int kHorizontalSlits = 6, kVerticalSlits = 7, kMosaic = 8, kByLot = 9, kInTurn = 10;
+constexpr int kHorizontalSlits = 6, kVerticalSlits = 7, kMosaic = 8, kAtRandom = 9, kInTurn = 10;
 
 struct NumberQuestion {
     TextView title;
@@ -84,7 +84,7 @@ void Ask(Application& app, const NumberQuestion& question) {
 
 void AskCounts(Application& app, int effect, const NumberQuestion& slits,
                const NumberQuestion& mosaic) {
-    const bool any = effect == kByLot || effect == kInTurn;
+    const bool any = effect == kAtRandom || effect == kInTurn;
     if (any || effect == kHorizontalSlits || effect == kVerticalSlits) {
         Ask(app, slits);
     }

@@ -1,4 +1,4 @@
-// The files in the program folder that keep what is no document's business. All are written whole
+// The files in the program folder that keep what no document holds. All are written whole
 // or not at all; a failed write shows the platform's words in a plain box. A file that is there and
 // was not read to its end (an unreadable one, one of another tag or with a fault) is never
 // replaced.
@@ -9,10 +9,10 @@
 
 namespace document {
 
-/// autstart.dat: the whole state of the last run, of any age of the file. Missing, unreadable or
-/// failing half-way: silent, and what was read until then is in force. Follows with every menu
-/// check and control; read to its end it also centres the main window on monitor MonitorIndex and
-/// gives it the document's caption. SlideListEnd stays the caller's business.
+/// Reads autstart.dat, the whole state of the last run, in any version. Silent where it is missing,
+/// unreadable or faulty; what was read before a fault is in force. Menu checks and controls follow.
+/// A file that was read to its end also centres the main window on monitor MonitorIndex and gives
+/// it the document's caption. The caller sets SlideListEnd.
 void ReadStateFile(Application& app);
 /// The same from a file of any name. Nothing for one that cannot be read, or whose first line is
 /// neither a tag nor a number: then nothing has changed.
@@ -39,7 +39,7 @@ Taken ReadSoundListFile(Application& app, TextView path);
 Text StateFilePath(const Application& app);
 
 /// Writes a text of the program folder. A file there that was not read to its end is not replaced:
-/// it is set aside as NAME.kept-YYYY-MM-DD, and the person is told. False after the platform's
+/// it is set aside as NAME.kept-YYYY-MM-DD, and a box says so. False after the platform's
 /// words.
 bool WriteProgramFile(Application& app, TextView path, TextView content);
 

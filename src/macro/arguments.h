@@ -27,7 +27,7 @@ Text Unquoted(TextView text);
 /// Trimmed; where a '"' begins it, without that and without the last character, whatever it is.
 Text Unwrapped(TextView text);
 
-/// The text behind so many values of a call: one that begins with a '"' ends at its next one,
+/// The text after so many values of a call: one that begins with a '"' ends at its next one,
 /// wherever a ')' stands; without a next one it is `otherwise` of the last field. Empty where there
 /// are fewer values.
 Text CallText(TextView line, size_t before, Text (*otherwise)(TextView));

@@ -80,7 +80,7 @@ void ClearOldMenu(Run& run, size_t entry, model::Button& button) {
     picture::CopyPicture(run.app, run.app.windows.slidescreen.P2, PlaceOf(button));
 }
 
-/// The digit behind MENU, 1 to 5; 0 where there is none of them.
+/// The digit after MENU, 1 to 5; 0 where there is none of them.
 size_t MenuNumber(TextView line) {
     const char16_t digit = line.size() > 4 ? line[4] : u'0';
     return digit >= u'1' && digit <= u'5' ? static_cast<size_t>(digit - u'0') : 0;
@@ -165,7 +165,7 @@ Flow MenuButton(Run& run, double) {
         model::Button& inWindow = *MenuButtons(form1)[entry - 1];
         ClearOldMenu(run, entry, onScreen);
         if (Stopping(state)) {
-            return Flow::Stop;  // the objects were cleared meanwhile: none may come up behind
+            return Flow::Stop;  // the objects were cleared meanwhile: none may come up now
         }
         state.MenuJump[entry] = jump.value_or(0);
         state.MenuActive[entry] = 1;

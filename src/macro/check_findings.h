@@ -11,7 +11,7 @@ namespace macro {
 /// Kinds of mistakes. Each has a name for programs and what usually mends it.
 enum class Flaw {
     Word,       // no word of the language
-    Indent,     // a blank ahead of a word
+    Indent,     // a blank before a word
     Swallowed,  // a text that begins like a word
     Mark,       // the mark of the text a second time
     Comment,    // "//" where it does something else than meant

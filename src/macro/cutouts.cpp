@@ -193,7 +193,7 @@ void ShowPiece(Run& run, int index, const PieceLine& piece) {
     }
     HideOldPiece(app, index);
     if (Stopping(state)) {
-        return;  // the objects were cleared meanwhile: none may come up behind
+        return;  // the objects were cleared meanwhile: none may come up now
     }
 
     const Text folder = SlideFolder(app);

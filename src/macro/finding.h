@@ -21,7 +21,7 @@ struct CheckedSlide {
     int index = 0, count = 0;              // its place, from 1, among how many; 0, 0: not known
     platform::Size screen{1920, 1080};     // pixels: where texts have to stay
     Text document = {};                    // beside which programs are looked for
-    platform::System* programs = nullptr;  // who finds them; null: nobody is asked
+    platform::System* programs = nullptr;  // finds them; null: they are not looked for
 };
 
 }  // namespace macro

@@ -22,8 +22,8 @@ constexpr int kFullPauseLines = 1080;
 /// One rectangle that is copied or blackened.
 struct EffectBand {
     platform::Rect area;    // pixels, from the picture's corner; may lie beyond its edges
-    double before = 0;      // ms of pause ahead of it
-    double after = 0;       // ms of pause behind it
+    double before = 0;      // ms of pause before it
+    double after = 0;       // ms of pause after it
     bool stopsHere = true;  // false within a group that is drawn as a whole, even after a stop
 };
 

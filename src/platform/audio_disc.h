@@ -41,7 +41,7 @@ public:
 
     /// What "play cdaudio from RANGE" plays, RANGE being "PLACE" or "PLACE to PLACE". A place is
     /// "tt[:mm[:ss[:ff]]]" within a track with `byTracks`, else "mm[:ss[:ff]]" on the disc. Nullopt
-    /// where one is none of that, lies outside of the disc or ahead of the beginning.
+    /// where one is none of that, lies outside of the disc or before the beginning.
     std::optional<SectorRange> Range(TextView range, bool byTracks) const;
 
 private:

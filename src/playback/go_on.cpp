@@ -57,7 +57,7 @@ const CauseRow& RowOf(Cause cause) {
 void Begin(Application& app, const CauseRow& row) {
     app.windows.form1.Timer1.Enabled = false;
     if (row.byPerson) {
-        // Ahead of the step: a first slide that waits for a person can be left by STOP.
+        // Before the step: a first slide that waits for a person can be left by STOP.
         SetButtons(app, Buttons::Running);
         // Not after the step, which leaves a shorter one where the next slide follows at once.
         SetSlideInterval(app);
@@ -137,7 +137,7 @@ void StartByTick(Application& app, bool fromFirst) {
     StartShowSound(app);
     SetSlideInterval(app);
     if (fromFirst) {
-        state.SlideIndex = 1;  // not ahead of the sound, which would give way to a film there
+        state.SlideIndex = 1;  // not before the sound, which would give way to a film there
     }
     state.ShowRunning = 1;
     app.windows.form1.Timer1.Enabled = true;

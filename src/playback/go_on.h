@@ -32,7 +32,7 @@ Outcome StepByHand(Application& app, const std::function<bool()>& next);
 /// over the end of the list.
 void StartByTick(Application& app, bool fromFirst);
 
-/// The document on hand has no slide: the show runs, and is over at the next tick after 1 ms.
+/// The open document has no slide: the show runs, and is over at the next tick after 1 ms.
 void PassEmptyDocument(Application& app);
 
 /// The list is at its end and nothing follows: sound stops and the run ends. The full screen stays.

@@ -102,7 +102,7 @@ void TakeResumeIndex(Application& app) {
     if (state.StartOption != 1) {
         return;
     }
-    // A first slide that left the list leaves -1 behind.
+    // A first slide that left the list leaves -1.
     state.SlideIndex = std::max<int16_t>(0, state.ResumeIndex);
     if (state.SlideList(state.SlideIndex + 1).empty() && state.SlideIndex > 0) {
         state.SlideIndex = 0;
@@ -214,7 +214,7 @@ void Command3_Click(Application& app) {
     SetSlideInterval(app);
     HideVideoPlaceholders(app);
     macro::ClearMacroObjects(app);
-    state.StopRequest = 1;  // ahead of the unload, which asks for it
+    state.StopRequest = 1;  // before the unload, which asks for it
     app.windows.slidescreen.Unload();
     EndRun(app);
     const bool filled = !state.SlideList(1).empty();

@@ -40,7 +40,7 @@ void SetSlideInterval(Application& app);
 
 /// What every end of a show has in common: flags, indexes and a macro's text origin are cleared,
 /// Timer1 stops, the preview empties, buttons and menus are those of a show that does not run. A
-/// step in progress is told. Sound and full screen are the caller's.
+/// step in progress notices. Sound and full screen are the caller's.
 void EndRun(Application& app);
 
 /// Stops what a show plays, the CD too; the caption is the document's again.

@@ -38,7 +38,7 @@ void RestartBackgroundSound(Application& app);
 /// Second channel and sound of the slide.
 void StartLinkedSounds(Application& app);
 
-/// The first step of a show that starts waits for no sound: called ahead of it.
+/// The first step of a show that starts waits for no sound: call this before it.
 void SkipFirstSyncWait(Application& app);
 
 /// CD and background sound of a show that starts or goes on.

@@ -69,12 +69,12 @@ struct TestSink {
     int breakAfterBuffers = -1;  // then it fails; -1: never
     int bufferTakesMs = 0;
     bool holdsOpening = false;  // like a server that hangs
-    bool holdsBuffers = false;  // each waits ahead of `samples`
+    bool holdsBuffers = false;  // each waits before `samples`
     bool refusesFormat = false;
     int opened = 0;
     int stillOpening = 0;
     int refused = 0;    // formats
-    int prerolled = 0;  // buffers it was given ahead of playing
+    int prerolled = 0;  // buffers it was given before playing
     int arrived = 0;    // buffers, held ones too
 };
 /// Registers the sink and clears what it saw.

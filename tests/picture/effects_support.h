@@ -31,7 +31,7 @@ inline bool Holds(const Rect& area, int x, int y) {
     return x >= area.x && x < area.x + area.width && y >= area.y && y < area.y + area.height;
 }
 
-/// Rectangles of the effects in drawing order, told by the rule of each as one would on paper.
+/// Rectangles of the effects in drawing order, worked out by the rule of each as on paper.
 std::vector<Rect> RuleAreas(int number, int step, bool erasing, platform::Size size, int slits);
 
 struct Screening : fakes::FakePlatform {

@@ -69,7 +69,7 @@ TEST(VideoWindow, EveryEndOfThePlayerClosesIt) {
     }
 }
 
-TEST(VideoWindow, AFileThatDoesNotPlayIsToldAndEndsTheShow) {
+TEST(VideoWindow, AFileThatDoesNotPlayIsReportedAndEndsTheShow) {
     Cinema cinema;
     cinema.video.film.milliseconds = 0;
     EXPECT_EQ(cinema.Play(), 100);
@@ -82,7 +82,7 @@ TEST(VideoWindow, AFileThatDoesNotPlayIsToldAndEndsTheShow) {
     EXPECT_EQ(cinema.state.VideoStoppedByUser, 1);
 }
 
-TEST(VideoWindow, TheFailureIsToldOnceHoweverLongItsBoxStands) {
+TEST(VideoWindow, TheFailureIsReportedOnceHoweverLongItsBoxStands) {
     Cinema cinema;
     cinema.video.film.milliseconds = 0;
     cinema.dialogs.whileOpen = [&](const auto&) { cinema.loop.Run(5000); };
@@ -90,7 +90,7 @@ TEST(VideoWindow, TheFailureIsToldOnceHoweverLongItsBoxStands) {
     EXPECT_EQ(cinema.dialogs.messages.size(), 1u);
 }
 
-TEST(VideoWindow, ClicksCloseItBehindTheGuard) {
+TEST(VideoWindow, ClicksCloseItAfterTheGuard) {
     for (const bool onPlayer : {false, true}) {
         Cinema cinema;
         const auto click = [&] { onPlayer ? cinema.player.Click() : cinema.form24.Click(); };
@@ -205,7 +205,7 @@ TEST(VideoWindow, FilmsBesideASlideLeaveHalfTheMonitor) {
         EXPECT_EQ(cinema.form24.Height(), 540 * 15);
         EXPECT_EQ(cinema.form24.Left(), 480 * 15);
         cinema.form24.Unload();
-        // The slide behind it covers the monitor again.
+        // The slide after it covers the monitor again.
         cinema.Play();
         EXPECT_EQ(cinema.form24.Width(), 1920 * 15);
     }

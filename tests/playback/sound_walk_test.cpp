@@ -266,7 +266,7 @@ TEST(SoundWalk, RoundAgainAfterTheLastSlide) {
     }
 }
 
-/// An MP3 of the list fades ahead of a film; a film that is missing then must not keep it silent.
+/// An MP3 of the list fades before a film; a film that is missing then must not keep it silent.
 TEST(SoundWalk, AListMp3ComesBackAfterAFilm) {
     for (const char* mode : {"6", "6+"}) {
         for (const bool missing : {false, true}) {

@@ -362,7 +362,7 @@ TEST(StepVideo, EnterOnThePlayerEndsTheShow) {
     }
 }
 
-TEST(StepVideo, AMacroThatWaitsKeepsTheShowBehindAStoppedVideo) {
+TEST(StepVideo, AMacroThatWaitsKeepsTheShowAfterAStoppedVideo) {
     Show show(0);
     show.AddSlide(u"C:\\pic\\a.mp4");
     show.files.Put(u"C:\\pic\\a.mp4", "film");

@@ -195,7 +195,7 @@ TEST_F(GridView, FollowsAHandlerThatChoosesOtherCells) {
 
 TEST_F(GridView, IsDeadWhileItIsDisabled) {
     grid.Enabled = false;
-    table.setEnabled(true);  // as if the view lagged behind
+    table.setEnabled(true);  // as if the view were late
     acts::Click(*table.viewport(), Cell(2, 1));
     Pump();
     EXPECT_EQ(Range(), (Numbers{0, 0, 0, 0}));

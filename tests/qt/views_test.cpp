@@ -192,7 +192,7 @@ TEST_F(Views, ClickReachesOnlyAReachableButton) {
     face->click();
     EXPECT_EQ(clicks, 1);
     button.Enabled = false;
-    face->setEnabled(true);  // as if the view lagged behind
+    face->setEnabled(true);  // as if the view were late
     face->click();
     EXPECT_EQ(clicks, 1);
 }

@@ -1,4 +1,4 @@
-// What a person's hand does to a widget, as the toolkit tells of it.
+// What a person's hand does to a widget, as the toolkit reports it.
 #pragma once
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-// A window with a control of every kind: what the window system tells of it, drops, the keyboard's
+// A window with a control of every kind: what the window system reports, drops, the keyboard's
 // way through it; and the sizes of the program's own windows.
 #include <gtest/gtest.h>
 
@@ -159,7 +159,7 @@ TEST_F(WindowViews, HiddenAndShownAgainIsOneComing) {
     EXPECT_EQ(comings, 2);
 }
 
-/// Files let go over the widget, as the toolkit tells of it.
+/// Files let go over the widget, as the toolkit reports it.
 bool DropOn(QWidget& widget, QWidget& root, const QList<QUrl>& urls) {
     QMimeData data;
     data.setUrls(urls);

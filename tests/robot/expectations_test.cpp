@@ -8,7 +8,7 @@
 namespace robot {
 namespace {
 
-/// Ends with the script's last line, having told of boxes and windows.
+/// Ends with the script's last line, having traced boxes and windows.
 struct Expectations : testing::Test {
     static void Ask(RobotRun& run) {
         run.windows.form1.Command1.Click.Anew() = [&run] {
@@ -53,7 +53,7 @@ TEST_F(Expectations, ALineLooksAtWhatWasUntilThenTheLastOnesAtTheWholeRun) {
     EXPECT_EQ(Play("+1 click Form1.Command1\n+1 " + closed), 1) << "a time is a time";
 }
 
-TEST_F(Expectations, TheSlidesAreToldInTheirOrderAndAllOfThem) {
+TEST_F(Expectations, TheSlidesAreReportedInTheirOrderAndAllOfThem) {
     const auto play = [](const std::string& lines) {
         RobotRun run("+10 click Form1.Command1\n+5 click Form1.Command1\nquit\n" + lines);
         run.windows.form1.Command1.Click.Anew() = [&run] {
@@ -63,11 +63,11 @@ TEST_F(Expectations, TheSlidesAreToldInTheirOrderAndAllOfThem) {
     };
     EXPECT_EQ(play("expect-slides 10 \"絵 1.png\" 15 \"絵 1.png\""), 0);
     EXPECT_EQ(play("expect-slides 10 \"絵 1.png\"\nexpect-slides 15 \"絵 1.png\""), 0);
-    EXPECT_EQ(play("expect-slides 10 \"絵 1.png\""), 1) << "one is not told of";
+    EXPECT_EQ(play("expect-slides 10 \"絵 1.png\""), 1) << "one is not listed";
     EXPECT_EQ(play("expect-slides"), 1);
     EXPECT_EQ(play("expect-slides 10 \"絵 1.png\" 16 \"絵 1.png\""), 1);
     EXPECT_EQ(play("expect-slides 10 \"絵 1.png\" 15 \"絵 1.png\" 20 c.png"), 1);
-    EXPECT_EQ(play("expect-trace slide"), 0) << "who does not tell of them need not tell all";
+    EXPECT_EQ(play("expect-trace slide"), 0) << "a script that lists none need not list all";
 }
 
 TEST_F(Expectations, TheSoundsOfOneMomentStandTogether) {

@@ -46,14 +46,14 @@ TEST(RobotArguments, EveryOptionInAnyOrder) {
     EXPECT_FALSE(options->prepare);
 }
 
-TEST(RobotArguments, BehindTwoDashesStandsTheDocument) {
+TEST(RobotArguments, AfterTwoDashesStandsTheDocument) {
     std::string error;
     const auto options = ParseRobotArguments({"--robot", "a", "--", "--odd.kvs"}, error);
     ASSERT_TRUE(options);
     EXPECT_EQ(options->document, "--odd.kvs");
 }
 
-TEST(RobotArguments, WrongUsageIsTold) {
+TEST(RobotArguments, WrongUsageIsReported) {
     EXPECT_EQ(Refusal({}), "the script is missing: --robot SCRIPT");
     EXPECT_EQ(Refusal({"--robot"}), "the value is missing: --robot");
     EXPECT_EQ(Refusal({"--robot", "a", "--speed", "9"}), "unknown option: --speed");

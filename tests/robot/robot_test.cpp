@@ -346,7 +346,7 @@ TEST(Robot, PrintsJsonAndTracesIt) {
               decltype(platform::TraceField::value)(std::vector<Text>{u"あ"}));
 }
 
-TEST(Robot, FailedExpectationIsToldAndTheRunGoesOn) {
+TEST(Robot, FailedExpectationIsReportedAndTheRunGoesOn) {
     RobotRun run(
         "expect SlideIndex 0\nexpect SlideIndex 4\nexpect Form1.Caption パラ ピコ\nprint "
         "SlideIndex\n");
@@ -476,7 +476,7 @@ TEST(Robot, TheDiscOfTheOptionsLiesInTheDrive) {
     platform::Sound& sound = run.robot->Sound();
     sound.MciSendString(u"open cdaudio");
     EXPECT_EQ(sound.MciSendString(u"status cdaudio number of tracks"), u"3");
-    EXPECT_EQ(run.around.trace.Of("mci").size(), 2u) << "what is asked of it is told";
+    EXPECT_EQ(run.around.trace.Of("mci").size(), 2u) << "what is asked of it is traced";
 }
 
 }  // namespace

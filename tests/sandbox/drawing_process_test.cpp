@@ -16,7 +16,7 @@ using sandbox::Outcome;
 using sandbox::Result;
 using std::chrono::milliseconds;
 
-/// Far behind the limits of the process itself, whose doing is looked at.
+/// Far beyond the limits of the process itself, which are what is tested.
 const sandbox::ClientOptions kPatient{"", {}, 600000};
 const std::string kPage =
     "%!PS\n%%BoundingBox: 0 0 8 8\n1 0 0 setrgbcolor 0 0 8 8 rectfill showpage\n";
@@ -46,7 +46,7 @@ TEST(DrawingProcess, ServesManyDrawings) {
     EXPECT_EQ(OnlyChild(), process);
 }
 
-TEST(DrawingProcess, FontsAreFoundBehindTheLimits) {
+TEST(DrawingProcess, FontsAreFoundUnderTheLimits) {
     Client client(kPatient);
     for (const char* font : {"Helvetica", "Times-Roman", "Courier", "NoSuchFont"}) {
         const std::string text = std::string("%!PS\n%%BoundingBox: 0 0 40 40\n/") + font +

@@ -1,6 +1,6 @@
 # AVI films are played and stay out of the list windows. Every slide keeps its own schedule: the first
 # film is over, the picture b is not due yet. The failing picture between the films takes its own
-# rows with it, nobody else's.
+# rows with it and no others.
 choose avi.kvs
 menu mnuOPEN
 expect SlideListEnd 7

@@ -1,4 +1,4 @@
-# A document that is not there is told in the system's words and ends the program: the show of the last
+# A document that is not there is reported in the system's words and ends the program: the show of the last
 # session is not played in its place.
 # first: state_leave.robot
 # args: nowhere.kvs

@@ -1,4 +1,4 @@
-# The picture ahead of missing films is erased once; neither the second film nor the picture behind
+# The picture before missing films is erased once; neither the second film nor the picture after
 # them erases the empty screen again.
 # args: gone_films.kvs
 @3400 expect PreviousPictureOnScreen 1

@@ -1,4 +1,4 @@
-# The file menu's last entry ends the program; lines behind it are never reached.
+# The file menu's last entry ends the program; lines after it are never reached.
 menu nmuEND
 @1000 print ShowRunning
 

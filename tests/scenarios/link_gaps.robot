@@ -1,4 +1,4 @@
-# Shows of a list that cannot be opened are told and passed over, an empty one is over after 1 ms.
+# Shows of a list that cannot be opened are reported and passed over, an empty one is over after 1 ms.
 # args: gaps.kvl
 @1000 expect LinkIndex 4
 expect LinkRunning 1

@@ -1,4 +1,4 @@
-# In the full screen pieces stand over the picture's corner; STOP in mid-motion leaves the piece, and
+# In the full screen pieces stand over the picture's corner; STOP during a motion leaves the piece, and
 # leaving the screen takes it away. The piece of the main window does not move along.
 # args: --screen 640x400 pieces_full.kvs
 @100 expect Slidescreen.Picture1(0).Left 170

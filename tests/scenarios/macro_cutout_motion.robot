@@ -1,5 +1,5 @@
 # A star moves by 100 and 50 pixels in steps of 10 ms; it can be clicked, so the slide waits for it.
-# A line of this script runs at the next pump, behind the step of that moment.
+# A line of this script runs at the next pump, after the step of that moment.
 # unheard: Form1.Picture2(1)
 choose pieces.kvs
 menu mnuOPEN

@@ -1,4 +1,4 @@
-# STOP in the wait behind a line ends the text at once.
+# STOP in the wait after a line ends the text at once.
 choose texts_second.kvs
 menu mnuOPEN
 click Form1.Command1

@@ -1,4 +1,4 @@
-# Lines of a slide's text on the main window, a wait of half a second behind each that is not empty
+# Lines of a slide's text on the main window, a wait of half a second after each that is not empty
 # (it is noticed 20 ms late), a colour ramp and a turned text among them; on the second slide a
 # scrolling line of three letters, 81 pixels wide, 20 pixels every 50 ms on a canvas of 800.
 choose texts.kvs

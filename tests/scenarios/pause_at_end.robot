@@ -1,4 +1,4 @@
-# PAUSE on the last slide: nothing is behind it. START then ends a show without repeat, and begins
+# PAUSE on the last slide: nothing comes after it. START then ends a show without repeat, and begins
 # anew one with it.
 choose five.kvs
 menu mnuOPEN

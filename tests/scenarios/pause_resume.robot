@@ -1,4 +1,4 @@
-# PAUSE keeps the slide on the screen; START goes on with the one behind it.
+# PAUSE keeps the slide on the screen; START goes on with the one after it.
 choose five.kvs
 menu mnuOPEN
 click Form1.Command1

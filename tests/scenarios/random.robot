@@ -1,4 +1,4 @@
-# Random order: each slide is drawn anew, the same one may come twice, and the show goes on behind
+# Random order: each slide is drawn anew, the same one may come twice, and the show goes on after
 # the last slide of the list. Seed 1 draws 0.134, 0.136, 0.451, 0.021, 0.351, 0.912, 0.471, 0.074;
 # times five and a half more, rounded, that is 1 1 3 1 2 5 3 1.
 # args: --seed 1

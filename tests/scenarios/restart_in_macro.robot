@@ -1,4 +1,4 @@
-# STOP and START pressed together in the wait behind a line of text, then in that for a button: each time
+# STOP and START pressed together in the wait after a line of text, then in that for a button: each time
 # the new show's first slide stands, with its own waits, and is followed by its own second one.
 choose texts.kvs
 menu mnuOPEN

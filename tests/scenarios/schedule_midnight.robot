@@ -1,5 +1,5 @@
 # Times without a date mean the day of the show. The moment that counts is taken whenever slide 1
-# comes up: only the pass that begins behind midnight shows the slides of the new day.
+# comes up: only the pass that begins after midnight shows the slides of the new day.
 # args: --now "2026-01-01 23:59:50"
 choose night.kvs
 menu mnuOPEN

@@ -1,4 +1,4 @@
-# Into the full screen and out of it in mid-show: background MP3 and linked WAV play on without a gap.
+# Into the full screen and out of it during a show: background MP3 and linked WAV play on without a gap.
 choose over.kvs
 menu mnuOPEN
 @1000 click Form1.Command1

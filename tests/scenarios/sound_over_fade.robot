@@ -1,4 +1,4 @@
-# The list's MP3 fades ahead of a film and is back at the next picture, also with linked WAV on top.
+# The list's MP3 fades before a film and is back at the next picture, also with linked WAV on top.
 choose over_fade.kvs
 menu mnuOPEN
 @1000 click Form1.Command1

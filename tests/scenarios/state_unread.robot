@@ -1,5 +1,5 @@
-# State files that cannot be read to their end: what they hold is kept under other names, and the
-# person is told. All three are files of another kind.
+# State files that cannot be read to their end: what they hold is kept under other names, and a
+# box says so. All three are files of another kind.
 # app: text.jpg=autstart.dat cut.kvs=wavlist.dat all.kvl=uautst.dat
 expect ShowEffect 9
 quit

@@ -1,4 +1,4 @@
-# A file that is no video is told, and the show ends in the main window.
+# A file that is no video is reported, and the show ends in the main window.
 choose bad_film.kvs
 menu mnuOPEN
 @1000 click Form1.Command1

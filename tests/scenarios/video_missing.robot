@@ -1,4 +1,4 @@
-# A missing video is told; the show goes on after 1 ms.
+# A missing video is reported; the show goes on after 1 ms.
 choose no_film.kvs
 menu mnuOPEN
 @1000 click Form1.Command1

@@ -1,4 +1,4 @@
-// What the trace is told of windows and of the system.
+// What the trace gets of windows and of the system.
 #include <gtest/gtest.h>
 
 #include "adapters/tracing/traced_sound.h"

@@ -221,7 +221,7 @@ def every_signal_at_once():
 
 
 def ignored_signals():
-    """nohup: who was told to ignore SIGHUP goes on."""
+    """nohup: a program that was started to ignore SIGHUP goes on."""
     before = signal.signal(signal.SIGHUP, signal.SIG_IGN)
     run = Run("ignored", "second.kvl")
     signal.signal(signal.SIGHUP, before)

@@ -1,4 +1,4 @@
-# What the user-interface tests share: a program of one's own on the display, its window, colours of
+# What the user-interface tests share: a program on the display, its window, colours of
 # the screen. Everything waits for what it expects, and what changes by itself stands for some
 # seconds, so that a busy machine sees it, too.
 # Needs PARAPICO, PARAPICO_DATA, PARAPICO_SCRATCH. Sets `program` and `window`.
@@ -16,7 +16,7 @@ Until() {
     return 1
 }
 
-# StartDisplay WxH: an X server of one's own, for what the common one cannot show.
+# StartDisplay WxH: another X server, for what the common one cannot show.
 StartDisplay() {
     mkdir -p "$PARAPICO_SCRATCH"
     exec 3>"$PARAPICO_SCRATCH/display"

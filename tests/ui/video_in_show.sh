@@ -40,7 +40,7 @@ OpenShow() {
 OpenShow
 import -window root "$shows/playing.png"
 WaitForColor "${middle[@]}" '#FFFF00' 'the video becomes yellow'
-WaitForColor 420 250 '#00FF00' 'the picture behind the video is green'
+WaitForColor 420 250 '#00FF00' 'the picture after the video is green'
 CloseProgram
 
 echo "the video was seen, and the show went on"

@@ -24,7 +24,7 @@ struct Span {
     int sectors = 0;
 };
 
-/// Sectors of a disc, one span behind the other.
+/// Sectors of a disc, one span after the other.
 class DiscSource : public PcmSource {
 public:
     DiscSource(std::shared_ptr<Disc> disc, std::vector<Span> spans)

@@ -1,5 +1,5 @@
 // Ties one control to its widget, both ways: what the model says is shown, what a person does is
-// told to the model.
+// passed to the model.
 #pragma once
 
 #include <QObject>

@@ -35,8 +35,8 @@ constexpr int kNoDisplay = 1;
 /// The toolkit ends a program that finds no display by a crash, with advice to reinstall it.
 bool starting = false;
 
-/// The toolkit ends the process behind these words.
-bool TellsOfLostDisplay(const QString& message) {
+/// The toolkit ends the process after these words.
+bool ReportsLostDisplay(const QString& message) {
     return message.startsWith("The X11 connection broke") ||
            message.startsWith("The Wayland connection");
 }
@@ -47,7 +47,7 @@ void Tell(QtMsgType type, const QMessageLogContext& context, const QString& mess
                    stderr);
         std::_Exit(kNoDisplay);
     }
-    if (type == QtFatalMsg || TellsOfLostDisplay(message)) {
+    if (type == QtFatalMsg || ReportsLostDisplay(message)) {
         SaveAtLast();
     }
     // Of every window, the platform without a display tells what it cannot do with it.
@@ -92,7 +92,7 @@ struct Desktop::Parts {
           dialogs(gate),
           monitors(options.screens, [this] { return MainScreen(); }) {}
 
-    /// The program hears of monitors that come, go or change, when the toolkit is done with it.
+    /// Reports monitors that come, go or change to the program, once the toolkit has dealt with it.
     void WatchScreens() {
         const auto changed = [this] {
             gate.Guarded([this] {

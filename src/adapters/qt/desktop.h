@@ -56,7 +56,7 @@ public:
     /// passed over.
     /// `video`: what players show; it must outlive the views too. Null: players stay black.
     void MakeViews(model::Windows& windows, platform::Video* video = nullptr);
-    /// Takes the windows off the screen; the model is neither told nor changed. Call it before the
+    /// Takes the windows off the screen; the model notices nothing. Call it before the
     /// model goes. Nothing happens without views.
     void UnmakeViews();
 

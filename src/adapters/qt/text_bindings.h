@@ -39,7 +39,7 @@ private:
     QGroupBox& face_;
 };
 
-/// Lines end with CR LF in the model. Files that are dragged over the box are the window's affair;
+/// Lines end with CR LF in the model. Files that are dragged over the box go to the window;
 /// texts can be dropped into it.
 class TextBinding : public ControlBinding {
 public:

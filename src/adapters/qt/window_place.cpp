@@ -1,5 +1,5 @@
 // Where a window stands and how large it is: what the model says is shown, what a person or the
-// window system changes is told to the model.
+// window system changes is passed to the model.
 #include <QBackingStore>
 #include <QGuiApplication>
 #include <QPainter>
@@ -165,7 +165,7 @@ void WindowView::FollowPlace() {
         return;
     }
     if (root_->isVisible() && window_.WindowState != model::kWindowNormal) {
-        return;  // its place is the window system's affair
+        return;  // the window system decides its place
     }
     const int x = ToPixels(window_.Left);
     const int y = ToPixels(window_.Top);

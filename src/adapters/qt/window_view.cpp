@@ -247,7 +247,8 @@ bool WindowView::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-/// The window system asks for what it does not have. The program hears of it when that is painted.
+/// The window system asks for what it does not have. The program gets its event when that is
+/// painted.
 void WindowView::Exposed() {
     if (root_->windowHandle() && root_->windowHandle()->isExposed()) {
         QMetaObject::invokeMethod(
@@ -256,7 +257,7 @@ void WindowView::Exposed() {
 }
 
 /// Only a window of the program counts, and no box: the way to another program and back is neither
-/// leaving nor coming. The coming that belongs to its showing the model tells of itself.
+/// leaving nor coming. The model itself announces the coming that belongs to its showing.
 void WindowView::DeactivatedBySystem() {
     const QWidget* taker = QApplication::activeWindow();
     if (taker && taker != root_ && viewOf_(taker->objectName())) {

@@ -26,7 +26,7 @@ struct RobotOptions {
 
 /// Reads `--robot SCRIPT [--trace FILE] [--app-folder DIR] [--seed N] [--now "YYYY-MM-DD hh:mm:ss"]
 /// [--screen WxH[,WxH…]] [--cd m:ss[,m:ss…]] [--prepare on|off] [--title] [DOCUMENT]` (the
-/// program's name left out), in any order; behind `--` everything is the document. Nullopt with
+/// program's name left out), in any order; after `--` everything is the document. Nullopt with
 /// `error` set for anything else.
 std::optional<RobotOptions> ParseRobotArguments(const std::vector<std::string>& arguments,
                                                 std::string& error);

@@ -59,7 +59,7 @@ Robot::Robot(const RobotOptions& options, platform::Trace& trace, std::ostream& 
 
 Robot::~Robot() {
     if (ownsAppFolder_) {
-        std::error_code ignored;  // a folder left behind in the temporary folder harms nobody
+        std::error_code ignored;  // a folder left in the temporary folder does no harm
         std::filesystem::remove_all(appFolder_, ignored);
     }
 }

@@ -40,7 +40,7 @@ public:
     /// The program folder: the one asked for, or a temporary one that exists as long as the robot.
     const std::string& AppFolder() const { return appFolder_; }
 
-    /// What the program tells of itself goes here: on to the trace of the run, and to what the
+    /// What the program traces goes here: on to the trace of the run, and to what the
     /// script expects of it.
     platform::Trace& Trace() { return record_; }
 

@@ -26,7 +26,7 @@ struct Eyes {
 
 /// Acts as a person can: what stands on a hidden or disabled control, on a window that is not
 /// shown or lies under a modal one, has no effect. An action that cannot be done at all (a row
-/// that is not there, a picture that cannot be saved) is a fault of the script: it is told and
+/// that is not there, a picture that cannot be saved) is a fault of the script: it is reported and
 /// ends the run.
 class ScriptedUser : public virtual_adapter::Actions {
 public:

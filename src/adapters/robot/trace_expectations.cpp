@@ -30,7 +30,7 @@ bool IsFading(const Text& command) {
     return command.starts_with(u"setaudio") && !command.ends_with(u" 1000");
 }
 
-/// What the sound device was told, in a script's words; empty for any other event.
+/// A command of the sound device, in a script's words; empty for any other event.
 Text SoundWords(const TracedEvent& event) {
     if (event.name == "mci") {
         const Text* command = event.TextOf("command");

@@ -10,7 +10,7 @@
 
 namespace robot {
 
-/// A script's expectations in their order. Slides and sounds are told in the order in which they
+/// A script's expectations in their order. Slides and sounds are listed in the order in which they
 /// come, each line goes on where the one before it ended; when the run has ended they must have
 /// told all.
 class TraceExpectations {
@@ -19,7 +19,7 @@ public:
 
     /// Looks at what has happened so far. What is wrong, or empty when it is as expected.
     std::string Judge(const Action& action);
-    /// At the end of the run: what was shown or heard and not told of. Empty when nothing was.
+    /// At the end of the run: what was shown or heard and not listed. Empty when nothing was.
     std::string Untold() const;
 
 private:
@@ -30,7 +30,7 @@ private:
         bool operator==(const Moment&) const = default;
     };
     struct Told {
-        bool any = false;  // the script tells of them
+        bool any = false;  // the script lists them
         size_t count = 0;
     };
 
