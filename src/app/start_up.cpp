@@ -16,9 +16,11 @@
 #include "document/link_document.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
+#include "document/slide_rows.h"
 #include "document/state_files.h"
 #include "macro/macro.h"
 #include "model/controls.h"
+#include "model/monitors.h"
 #include "model/windows/link_list.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
@@ -58,7 +60,7 @@ void MakeImagingControls(Application& app) {
 }
 
 void FindMonitors(Application& app) {
-    picture::FillMonitorTable(app);
+    model::FillMonitorTable(app);
     errno = 0;
     const std::vector<platform::Rect> monitors = app.platform.monitors.Enumerate();
     const int error = errno;
@@ -89,10 +91,7 @@ void SetStartButtons(Application& app) {
 }
 
 void CentreOnScreen(Application& app) {
-    const platform::Rect screen = picture::MonitorTwips(app, app.state.PrimaryMonitor);
-    model::Form1& form1 = app.windows.form1;
-    form1.Left = screen.x + (screen.width - form1.Width) / 2;
-    form1.Top = screen.y + (screen.height - form1.Height) / 2;
+    model::Centre(app.windows.form1, model::MonitorTwips(app, app.state.PrimaryMonitor));
 }
 
 void SetDefaults(Application& app) {
@@ -108,7 +107,6 @@ void SetDefaults(Application& app) {
 }
 
 void ReadStateFiles(Application& app) {
-    app.state.SlideListEnd = 0;
     app.state.ReadingDocument = 1;
     document::ReadSoundListFile(app);
     app.state.ReadingDocument = 0;
@@ -153,7 +151,7 @@ bool StartsByItself(const Application& app) {
 
 void StartInFullScreen(Application& app) {
     model::ShowState& state = app.state;
-    state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
+    document::CountSlides(app);
     state.SplashDone = 1;
     picture::SizePreview(app);
     app.windows.form1.Hide();
@@ -183,7 +181,7 @@ void Form1_Load(Application& app, bool roomy) {
     if (app.windows.form3.List1.ListCount() > 0) {
         app.windows.form1.Command1.Enabled = true;
         app.windows.form1.Command4.Enabled = true;
-        state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
+        document::CountSlides(app);
     }
     TakeLinkListAtStart(app);
     // Decoded while the windows are built.

@@ -1,8 +1,10 @@
 #include "authoring/slide_list.h"
 
 #include "authoring/sound_list.h"
+#include "document/main_caption.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
+#include "document/slide_rows.h"
 #include "document/state_files.h"
 #include "model/controls.h"
 #include "model/windows/main_window.h"
@@ -17,19 +19,12 @@ namespace {
 
 constexpr TextView kFilter = u"ｽﾗｲﾄﾞFiles (*.kvs)|*.kvs|すべてのﾌｧｲﾙ(*.*)|*.*";
 constexpr TextView kAnyName = u"*.kvs";
-constexpr size_t kCaptionPathStart = 9;  // behind "ｽﾗｲﾄﾞ - "
 constexpr int kNewIntervalMs = 3000;
 
 void ClearLists(Application& app) {
     model::ShowState& state = app.state;
-    model::Form3& form3 = app.windows.form3;
-    form3.List1.Clear();
-    form3.List2.Clear();
-    form3.Label4.Caption = u"0";
-    for (model::TextArray* array :
-         {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo, &state.CdProgram}) {
-        array->Erase();
-    }
+    document::ClearSlides(app);
+    state.CdProgram.Erase();
     state.CdProgramCount = 0;
     state.SlideListDirty = 0;
     ClearSoundList(app);
@@ -57,9 +52,8 @@ void SaveAs(Application& app, TextView title, int16_t distribution) {
     request.save = true;
     request.title = title;
     request.filter = kFilter;
-    request.initial = app.state.DocumentName.empty()
-                          ? Text(kAnyName)
-                          : text::Mid(app.windows.form1.Caption(), kCaptionPathStart);
+    request.initial =
+        app.state.DocumentName.empty() ? Text(kAnyName) : document::NameInCaption(app);
     if (const auto path = app.platform.dialogs.ChooseFile(request)) {
         app.state.DistributionSaveFlag = distribution;
         document::WriteShowDocument(app, *path);
@@ -82,10 +76,9 @@ bool NewDocument(Application& app) {
     state.DocumentName.clear();
     state.BaseFolder.clear();
     state.DocumentFileDate.clear();
-    state.SlideListEnd = 0;
     state.SlideIndex = 0;
     playback::ForgetPrepared(app);
-    app.windows.form1.Caption = u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10";
+    document::ShowDocumentCaption(app);
     app.windows.form1.Timer1.Interval = kNewIntervalMs;
     DisableLinkedFileButtons(app.windows.form3);
     // The read-back brings menus and controls in line. A file that could not be written still holds
@@ -115,11 +108,9 @@ bool OpenDocument(Application& app) {
 }
 
 void OpenDocument(Application& app, TextView path) {
-    model::Form3& form3 = app.windows.form3;
     app.state.BaseFolder = text::FolderPart(path);
-    DisableLinkedFileButtons(form3);
+    DisableLinkedFileButtons(app.windows.form3);
     document::ReadShowDocument(app, path);
-    form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
     playback::PrepareStart(app, false);
 }
 

@@ -1,17 +1,16 @@
 // Reading show documents of every version. The version tag grew by a digit with each block of
 // lines; what was added later without a new tag is told by the end of the file.
 #include <algorithm>
-#include <vector>
 
 #include "document/document_file.h"
 #include "document/interval.h"
 #include "document/line_reader.h"
+#include "document/main_caption.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
-#include "document/show_schedule.h"
+#include "document/slide_rows.h"
 #include "document/state_files.h"
 #include "model/effect_speed.h"
-#include "model/picture_controls.h"
 #include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
@@ -39,20 +38,18 @@ public:
 
 private:
     void ReadTag();
-    void ClearLists();
     void ReadTiming();
     void ReadSoundAndEffects();
     void ReadMarksOf31678();
-    void ReadSlides();
+    void ReadSlides(SlideIntake& slides);
     void ReadOverlay();
     void ConvertOldSpeeds();
     void ReadCdProgram();
     void ReadScreenSettings();
-    void LayScreenGround();
     void ReadSoundList();
     void ReadMp3AndModes();
-    void ReadLinkedWavFlagsAndRows();
-    void ReadRows(TextView firstRow);
+    void ReadLinkedWavFlagsAndRows(SlideIntake& slides);
+    void ReadRows(SlideIntake& slides, TextView firstRow);
 
     bool Holds(TextView block) const { return tag_.starts_with(block); }
     /// Next line as a number, or the default where the file has ended.
@@ -69,25 +66,24 @@ private:
     model::ShowState& state_;
     LineReader reader_;
     Text tag_;
-    int32_t slideCount_ = 0;
-    // For each slide of the file its row in the window's lists; -1 for one that they leave out.
-    std::vector<int> rowOfSlide_;
     bool carriedSoundList_ = false;
 };
 
 void ShowReader::Read() {
     ReadTag();
-    ClearLists();
-    ReadTiming();
-    ReadSoundAndEffects();
-    ReadMarksOf31678();
-    ReadSlides();
-    ReadOverlay();
-    ReadCdProgram();
-    ReadScreenSettings();
-    ReadSoundList();
-    ReadMp3AndModes();
-    ReadLinkedWavFlagsAndRows();
+    {
+        SlideIntake slides(app_);
+        ReadTiming();
+        ReadSoundAndEffects();
+        ReadMarksOf31678();
+        ReadSlides(slides);
+        ReadOverlay();
+        ReadCdProgram();
+        ReadScreenSettings();
+        ReadSoundList();
+        ReadMp3AndModes();
+        ReadLinkedWavFlagsAndRows(slides);
+    }
     RebuildSchedule(app_);
 }
 
@@ -103,14 +99,6 @@ void ShowReader::ReadTag() {
     if (tag_ != u"vue2" && !tag_.starts_with(u"vue3")) {
         throw ReadFailure{};
     }
-}
-
-void ShowReader::ClearLists() {
-    state_.SlideList.Erase();
-    state_.ScheduleFrom.Erase();
-    state_.ScheduleTo.Erase();
-    app_.windows.form3.List1.Clear();
-    app_.windows.form3.List2.Clear();
 }
 
 void ShowReader::ReadTiming() {
@@ -174,28 +162,18 @@ void ShowReader::ReadMarksOf31678() {
     state_.LinkedFolder = reader_.ItemOfLine();
 }
 
-void ShowReader::ReadSlides() {
-    slideCount_ = std::max<int32_t>(reader_.Int32(), 0);
-    const auto end = text::ToInt16(slideCount_ + 1.0);
-    if (!end) {
+void ShowReader::ReadSlides(SlideIntake& slides) {
+    const int32_t count = std::max<int32_t>(reader_.Int32(), 0);
+    if (!slides.Expect(count)) {
         throw ReadFailure{};
     }
-    state_.SlideListEnd = *end;
-    auto& form3 = app_.windows.form3;
-    const Text blankRow = model::BlankScheduleRow();
-    for (int32_t i = 1; i <= slideCount_; ++i) {
+    for (int32_t i = 0; i < count; ++i) {
         Text path = PathLine();
-        if (!state_.SlideList.Set(i, path)) {
+        // Kept: an AVI film has no row, though it is counted and played.
+        const bool withRow = text::KindOf(path) != u"AVI";
+        if (!slides.Add(std::move(path), withRow)) {
             throw ReadFailure{};
         }
-        // Kept: left out of the window's lists only, the array and its end still count them.
-        if (text::KindOf(path) == u"AVI") {
-            rowOfSlide_.push_back(-1);
-            continue;
-        }
-        rowOfSlide_.push_back(form3.List1.ListCount());
-        form3.List1.AddItem(std::move(path));
-        form3.List2.AddItem(blankRow);
     }
 }
 
@@ -239,21 +217,8 @@ void ShowReader::ReadScreenSettings() {
     state_.CdPlusLinkedWav = Int16Or(1);
     state_.CdProgramStop = Int16Or(0);
     state_.OverlayBackColor = Int16Or(0);
-    LayScreenGround();
+    app_.windows.slidescreen.GroundChanged();
     state_.PicturePosition = Int16Or(state_.OverlayMode != 0 ? 1 : 0);
-}
-
-void ShowReader::LayScreenGround() {
-    auto& screen = app_.windows.slidescreen;
-    state_.PreviousPictureOnScreen = 0;
-    if (state_.OverlayMode == 0) {
-        for (model::PictureBox* layer : {&screen.P2, &screen.P3, &screen.P4}) {
-            layer->BackColor = 0;
-            layer->Cls();
-        }
-        return;
-    }
-    screen.ApplyOverlayBackground();
 }
 
 void ShowReader::ReadSoundList() {
@@ -298,7 +263,7 @@ void ShowReader::ReadMp3AndModes() {
 
 /// Documents with rows are older than the two flags in front of them: an item that begins with the
 /// rows' protecting "-" is the first row already.
-void ShowReader::ReadLinkedWavFlagsAndRows() {
+void ShowReader::ReadLinkedWavFlagsAndRows(SlideIntake& slides) {
     state_.Mp3LinkedWavFlag = 0;
     state_.SoundListCheck5 = 0;
     TextView firstRow;
@@ -314,29 +279,23 @@ void ShowReader::ReadLinkedWavFlagsAndRows() {
     // Kept: the test for a file without rows comes first, so that a first row which was taken for
     // a flag and ends the file is lost.
     if (!reader_.AtEnd()) {
-        ReadRows(firstRow);
+        ReadRows(slides, firstRow);
     }
 }
 
 /// `firstRow`: already read, or empty.
-void ShowReader::ReadRows(TextView firstRow) {
-    for (int32_t i = 0; i < slideCount_; ++i) {
-        TextView row = i == 0 && !firstRow.empty() ? firstRow : reader_.Item();
+void ShowReader::ReadRows(SlideIntake& slides, TextView firstRow) {
+    for (int slide = 1; slide <= slides.Count(); ++slide) {
+        TextView row = slide == 1 && !firstRow.empty() ? firstRow : reader_.Item();
         row.remove_prefix(std::min<size_t>(1, row.size()));
-        const int listRow = rowOfSlide_[static_cast<size_t>(i)];
-        if (listRow >= 0) {
-            app_.windows.form3.List2.SetRow(listRow, Text(row));
-        } else {
-            state_.ScheduleFrom.Set(i + 1, model::ScheduleFromOfRow(row));
-            state_.ScheduleTo.Set(i + 1, model::ScheduleToOfRow(row));
-        }
+        slides.SetSchedule(slide, Text(row));
     }
 }
 
 void TakeIdentity(Application& app, TextView path) {
     auto& state = app.state;
-    app.windows.form1.Caption = u"ｽﾗｲﾄﾞ - " + Text(path);
     state.DocumentPath = path;
+    ShowDocumentCaption(app);
     state.DocumentName = app.platform.files.Dir(path);
     state.ResumeIndex = 0;
     if (!path.empty()) {

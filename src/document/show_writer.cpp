@@ -2,8 +2,9 @@
 #include "document/document_file.h"
 #include "document/interval.h"
 #include "document/line_writer.h"
+#include "document/main_caption.h"
 #include "document/show_document.h"
-#include "document/show_schedule.h"
+#include "document/slide_rows.h"
 #include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
@@ -143,7 +144,7 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
     RebuildSchedule(app);
     form1.MousePointer = model::kPointerNormal;
     state.DocumentPath = path;
-    form1.Caption = u"ｽﾗｲﾄﾞ - " + path;
+    ShowDocumentCaption(app);
     state.DocumentName = files.Dir(path);
     const auto date = files.LastWrite(path);
     state.DocumentFileDate = date ? platform::DateTimeText(*date) : Text();

@@ -4,15 +4,15 @@
 
 #include "document/interval.h"
 #include "document/line_reader.h"
+#include "document/main_caption.h"
 #include "document/settings_to_controls.h"
-#include "document/show_schedule.h"
+#include "document/slide_rows.h"
 #include "document/state_files.h"
 #include "document/state_lines.h"
 #include "document/unread_files.h"
 #include "model/sound_modes.h"
+#include "model/monitors.h"
 #include "model/windows/main_window.h"
-#include "model/windows/slide_list.h"
-#include "text/numbers.h"
 #include "text/paths.h"
 
 namespace document {
@@ -37,10 +37,10 @@ public:
 private:
     void ReadHead(const StateLine& line);
     void ReadDocument();
-    void ReadSlides();
+    void ReadSlides(SlideIntake& slides, int32_t count);
     void ReadCdProgram();
     void ReadTail(const StateTailLine& line);
-    void ReadLinkedWavFlagsAndRows();
+    void ReadLinkedWavFlagsAndRows(SlideIntake& slides);
 
     int16_t Int16OrZero() { return reader_.AtEnd() ? int16_t{0} : reader_.Int16(); }
 
@@ -77,7 +77,9 @@ void StateReader::ReadLines() {
         }
     }
     ReadDocument();
-    ReadSlides();
+    const int32_t slideCount = reader_.Int32();
+    SlideIntake slides(app_);
+    ReadSlides(slides, slideCount);
     ReadCdProgram();
     for (const StateTailLine& line : kStateTail) {
         ReadTail(line);
@@ -85,7 +87,7 @@ void StateReader::ReadLines() {
     if (state_.Mp3ModeFlag == 1) {
         state_.SoundMode = model::kMp3Sound;
     }
-    ReadLinkedWavFlagsAndRows();
+    ReadLinkedWavFlagsAndRows(slides);
     state_.MonitorIndex = Int16OrZero();
     state_.UserHeaderFlag = Int16OrZero();
 }
@@ -112,20 +114,11 @@ void StateReader::ReadDocument() {
     state_.DefaultEffectSound = reader_.Line();
 }
 
-void StateReader::ReadSlides() {
-    const int32_t count = reader_.Int32();
-    auto& form3 = app_.windows.form3;
-    state_.SlideList.Erase();
-    form3.List1.Clear();
-    form3.List2.Clear();
-    const Text blankRow = model::BlankScheduleRow();
-    for (int32_t i = 1; i <= count; ++i) {
-        Text path = text::WithFolder(state_.AppFolder, reader_.Line());
-        if (!state_.SlideList.Set(i, path)) {
+void StateReader::ReadSlides(SlideIntake& slides, int32_t count) {
+    for (int32_t i = 0; i < count; ++i) {
+        if (!slides.Add(text::WithFolder(state_.AppFolder, reader_.Line()))) {
             throw ReadFailure{};
         }
-        form3.List1.AddItem(std::move(path));
-        form3.List2.AddItem(blankRow);
     }
 }
 
@@ -156,7 +149,7 @@ void StateReader::ReadTail(const StateTailLine& line) {
 
 /// Files with rows are older than the four flags in front of them: an item that begins with the
 /// rows' protecting "-" is the first row already.
-void StateReader::ReadLinkedWavFlagsAndRows() {
+void StateReader::ReadLinkedWavFlagsAndRows(SlideIntake& slides) {
     TextView firstRow;
     const TextView item = reader_.AtEnd() ? TextView() : reader_.Item();
     if (item.starts_with(u'-')) {
@@ -171,15 +164,14 @@ void StateReader::ReadLinkedWavFlagsAndRows() {
         state_.ControlBoxPos = Int16OrZero();
         state_.SoundListCheck6 = Int16OrZero();
     }
-    auto& rows = app_.windows.form3.List2;
-    for (int i = 0; i < rows.ListCount(); ++i) {
+    for (int slide = 1; slide <= slides.Count(); ++slide) {
         if (firstRow.empty() && reader_.AtEnd()) {
             return;  // the rows that are missing stay blank
         }
         TextView row = firstRow.empty() ? reader_.Item() : firstRow;
         firstRow = {};
         row.remove_prefix(std::min<size_t>(1, row.size()));
-        rows.SetRow(i, Text(row));
+        slides.SetSchedule(slide, Text(row));
     }
 }
 
@@ -203,8 +195,7 @@ void CentreMainWindow(Application& app) {
         monitor.height = monitors.front().height;
     }
     constexpr int k = platform::kTwipsPerPixel;
-    form1.Left = monitor.x * k + (monitor.width * k - form1.Width) / 2;
-    form1.Top = monitor.y * k + (monitor.height * k - form1.Height) / 2;
+    model::Centre(form1, {monitor.x * k, monitor.y * k, monitor.width * k, monitor.height * k});
 }
 
 void TakeIdentity(Application& app) {
@@ -212,7 +203,7 @@ void TakeIdentity(Application& app) {
     if (state.DocumentPath.empty()) {
         return;
     }
-    app.windows.form1.Caption = u"ｽﾗｲﾄﾞ - " + state.DocumentPath;
+    ShowDocumentCaption(app);
     const auto date = app.platform.files.LastWrite(state.DocumentPath);
     state.DocumentFileDate = date ? platform::DateTimeText(*date) : Text();
 }
@@ -238,8 +229,6 @@ Taken ReadStateFile(Application& app, TextView path) {
             // Kept: what stands before the fault is in force, and nothing is said.
         }
         RebuildSchedule(app);
-        auto& form3 = app.windows.form3;
-        form3.Label4.Caption = text::Trim(text::Str(form3.List1.ListCount()));
         FollowAllSettings(app);
         if (whole) {
             taken = reader.HoldsMore() ? Taken::Partly : Taken::Whole;

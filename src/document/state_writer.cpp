@@ -4,6 +4,7 @@
 #include "document/state_files.h"
 #include "document/state_lines.h"
 #include "model/sound_modes.h"
+#include "model/monitors.h"
 #include "model/windows/slide_list.h"
 
 namespace document {
@@ -20,11 +21,6 @@ void WriteField(LineWriter& lines, const ShowState& state, const model::FieldPoi
     } else {
         lines.Number(state.*std::get<int16_t ShowState::*>(field));
     }
-}
-
-int MonitorOfMainWindow(Application& app) {
-    const int number = app.platform.monitors.OfMainWindow();
-    return number >= 0 && number < model::kMonitorsMost ? number : 0;
 }
 
 LineWriter StateLines(Application& app) {
@@ -60,7 +56,7 @@ LineWriter StateLines(Application& app) {
     for (int i = 0; i < slides.ListCount(); ++i) {
         lines.Line(u"-" + (i < rows.ListCount() ? rows.List(i) : model::BlankScheduleRow()));
     }
-    lines.Number(MonitorOfMainWindow(app));
+    lines.Number(model::MonitorOfMainWindow(app));
     lines.Number(state.UserHeaderFlag);
     return lines;
 }

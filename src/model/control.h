@@ -14,10 +14,11 @@ namespace model {
 
 class Window;
 
-/// A change of a list's rows, told after it happened.
+/// A change of `count` rows of a list from `row` on, told after it happened.
 struct RowChange {
     enum Kind { Inserted, Removed, Replaced, Cleared } kind;
     int row = 0;
+    int count = 1;
 };
 
 /// Views and tracers listen to controls. Listeners must outlive the control or be removed.

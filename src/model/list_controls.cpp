@@ -1,6 +1,8 @@
 #include "model/list_controls.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "text/paths.h"
 
@@ -33,18 +35,69 @@ void ListBox::AddItem(Text row, int before) {
 }
 
 void ListBox::RemoveItem(int row) {
-    if (row < 0 || row >= ListCount()) {
+    if (row >= 0 && row < ListCount()) {
+        RemoveRows(row, 1);
+    }
+}
+
+void ListBox::InsertRows(int before, std::vector<Text> rows) {
+    if (rows.empty()) {
         return;
     }
-    rows_.erase(rows_.begin() + row);
-    selected_.erase(selected_.begin() + row);
+    before = std::clamp(before, 0, ListCount());
+    rows_.insert(rows_.begin() + before, std::make_move_iterator(rows.begin()),
+                 std::make_move_iterator(rows.end()));
+    selected_.insert(selected_.begin() + before, rows.size(), false);
     if (!pictures_.empty()) {
-        pictures_.erase(pictures_.begin() + row);
+        pictures_.insert(pictures_.begin() + before, rows.size(), nullptr);
     }
-    AnnounceRows({RowChange::Removed, row});
+    AnnounceRows({RowChange::Inserted, before, static_cast<int>(rows.size())});
+}
+
+std::vector<Text> ListBox::RemoveRows(int first, int count) {
+    const auto begin = rows_.begin() + first;
+    std::vector<Text> removed(std::make_move_iterator(begin),
+                              std::make_move_iterator(begin + count));
+    if (count == 0) {
+        return removed;
+    }
+    rows_.erase(begin, begin + count);
+    selected_.erase(selected_.begin() + first, selected_.begin() + first + count);
+    if (!pictures_.empty()) {
+        pictures_.erase(pictures_.begin() + first, pictures_.begin() + first + count);
+    }
+    AnnounceRows({RowChange::Removed, first, count});
     if (ListIndex >= ListCount()) {
         ListIndex = ListCount() - 1;
     }
+    return removed;
+}
+
+void ListBox::Reorder(int first, const std::vector<int>& from) {
+    if (from.empty()) {
+        return;
+    }
+    struct Row {
+        Text text;
+        bool selected;
+        platform::BitmapPtr picture;
+    };
+    std::vector<Row> moved;
+    moved.reserve(from.size());
+    for (const int row : from) {
+        const auto i = static_cast<size_t>(row);
+        moved.push_back({std::move(rows_[i]), selected_[i], RowPicture(row)});
+    }
+    auto place = static_cast<size_t>(first);
+    for (Row& row : moved) {
+        rows_[place] = std::move(row.text);
+        selected_[place] = row.selected;
+        if (!pictures_.empty()) {
+            pictures_[place] = std::move(row.picture);
+        }
+        ++place;
+    }
+    AnnounceRows({RowChange::Replaced, first, static_cast<int>(from.size())});
 }
 
 void ListBox::SetRow(int row, Text value) {
@@ -80,10 +133,13 @@ bool ListBox::Selected(int row) const {
     return row >= 0 && row < ListCount() && selected_[static_cast<size_t>(row)];
 }
 
-void ListBox::Select(int row, bool on) {
-    if (row >= 0 && row < ListCount() && selected_[static_cast<size_t>(row)] != on) {
-        selected_[static_cast<size_t>(row)] = on;
-        AnnounceRows({RowChange::Replaced, row});
+void ListBox::SelectRows(int first, int count, bool on) {
+    const auto begin = selected_.begin() + std::clamp(first, 0, ListCount());
+    const auto end = selected_.begin() + std::clamp(first + count, 0, ListCount());
+    if (begin < end && std::find(begin, end, !on) != end) {
+        std::fill(begin, end, on);
+        AnnounceRows({RowChange::Replaced, static_cast<int>(begin - selected_.begin()),
+                      static_cast<int>(end - begin)});
     }
 }
 

@@ -14,7 +14,7 @@ namespace model {
 /// Values of ListBox::MultiSelect.
 constexpr int kSelectOne = 0, kSelectMany = 2;  // many: with Ctrl and Shift, as in file managers
 
-/// Rows from 0. Row changes are announced one by one.
+/// Rows from 0. Every change is announced, one of several rows that follow each other at once.
 class ListBox : public VisibleControl {
 public:
     ListBox(Window* window, std::string name, int multiSelect = kSelectOne);
@@ -40,9 +40,18 @@ public:
     void SetRowPicture(int row, platform::BitmapPtr picture);
     /// Null for a row without a picture or that is not there.
     platform::BitmapPtr RowPicture(int row) const;
+    /// In front of row `before`, none of them selected. ListIndex stays the number that it is.
+    void InsertRows(int before, std::vector<Text> rows);
+    /// Takes out `count` rows from `first` on, which are all there, and answers them.
+    std::vector<Text> RemoveRows(int first, int count);
+    /// Row first + i becomes what row from[i] is now, its selection and picture with it. `from` holds each of
+    /// the rows from `first` on once.
+    void Reorder(int first, const std::vector<int>& from);
     void Clear();
     bool Selected(int row) const;
-    void Select(int row, bool on);
+    void Select(int row, bool on) { SelectRows(row, 1, on); }
+    /// Those of the rows that are there.
+    void SelectRows(int first, int count, bool on);
     int SelCount() const;
     std::vector<int> SelectedRows() const;
 

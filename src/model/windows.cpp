@@ -55,7 +55,7 @@ struct Windows::Made {
     Slidescreen2 slidescreen2;
 };
 
-Form1::Form1() : Window("Form1", u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10") {
+Form1::Form1() : Window("Form1", Text(kFirstCaption)) {
     Width = 12600;  // a preview of 800 × 450 pixels, the screens' own proportions
     Height = 8800;
     for (Button* button : {&Command8, &Command9, &menu1, &menu2, &menu3, &menu4, &menu5}) {

@@ -20,11 +20,6 @@ Size Within(Size own, Size room) {
     return own.width <= room.width && own.height <= room.height ? own : platform::Fitted(own, room);
 }
 
-Rect Centred(Size size, const Rect& in) {
-    return {in.x + (in.width - size.width) / 2, in.y + (in.height - size.height) / 2, size.width,
-            size.height};
-}
-
 }  // namespace
 
 FilmPlace PlaceFilm(const FilmRule& rule) {

@@ -1,13 +1,12 @@
 #include "picture/load.h"
 
-#include "document/show_schedule.h"
+#include "document/main_caption.h"
+#include "document/slide_rows.h"
 #include "model/controls.h"
 #include "model/picture_controls.h"
-#include "model/windows/control_box.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
-#include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "picture/effect_context.h"
 #include "picture/effects.h"
@@ -87,24 +86,6 @@ void ResetScreen(Application& app) {
     app.state.ResetScreenOnce = 0;
 }
 
-/// Takes the failing slide and its schedule out of the lists and their mirrors.
-void RemoveFailingEntry(Application& app) {
-    model::ShowState& state = app.state;
-    model::Form3& form3 = app.windows.form3;
-    if (const auto row = document::RowOfSlide(app, state.SlideIndex)) {
-        form3.List1.RemoveItem(*row);
-        form3.List2.RemoveItem(*row);
-    }
-    for (model::TextArray* array : {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo}) {
-        array->Remove(state.SlideIndex);
-    }
-    document::RebuildSchedule(app);
-    state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
-    state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
-    state.ResumeIndex = static_cast<int16_t>(state.SlideIndex - 1);
-    form3.Label4.Caption = text::FromUtf8(std::to_string(form3.List1.ListCount()));
-}
-
 }  // namespace
 
 void ClearPreview(Application& app) {
@@ -117,8 +98,7 @@ bool LoadSlidePicture(Application& app) {
     windows.form1.Picture3.Visible = false;
     windows.slidescreen.Picture2.Visible = false;
 
-    Text path = text::WithFolder(state.AppFolder, state.SlideList(state.SlideIndex));
-    state.SlideList.Set(state.SlideIndex, path);
+    const Text path = document::CompleteSlidePath(app, state.SlideIndex);
     state.CurrentName = app.platform.files.Dir(path);
     state.CurrentPath = path;
     if (state.FullScreenActive == 1) {
@@ -145,8 +125,7 @@ bool LoadSlidePicture(Application& app) {
     if (fullScreen) {
         ClearCanvasForPicture(app);
     }
-    windows.slidescreen2.Caption = state.CurrentName;
-    windows.form1.Caption = state.CurrentName;
+    document::ShowSlideCaption(app);
     if (state.ResetScreenOnce == 1) {
         ResetScreen(app);
     }
@@ -195,7 +174,9 @@ void HandleLoadFailure(Application& app) {
         }
     }
     app.windows.form5.Unload();
-    RemoveFailingEntry(app);
+    document::RemoveSlide(app, state.SlideIndex);
+    state.SlideIndex = static_cast<int16_t>(state.SlideIndex - 1);
+    state.ResumeIndex = static_cast<int16_t>(state.SlideIndex - 1);
     if (state.SlideList(1).empty()) {
         app.platform.dialogs.Message(u"スライドリストに　画像ファイルが見つかりません。",
                                      platform::kExclamation, u"パラピコ");

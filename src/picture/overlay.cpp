@@ -94,8 +94,11 @@ platform::Color OverlayBackground(const model::ShowState& state) {
                : Rgb(0, 0, 0);
 }
 
-void ApplyOverlayBackground(Application& app) {
-    LayGround(app, OverlayBackground(app.state));
+void FollowGround(Application& app) {
+    if (app.state.OverlayMode != 0) {
+        SizeLayers(app);
+    }
+    ResetCanvasGround(app);
 }
 
 void ResetCanvasGround(Application& app) {

@@ -9,12 +9,13 @@ namespace picture {
 /// OverlayBackColor; black for an index that has none.
 platform::Color OverlayBackground(const model::ShowState& state);
 
-/// Gives P2, P3 and P4 of Slidescreen that back colour and fills them with it: no picture stands on
-/// the screen any more.
-void ApplyOverlayBackground(Application& app);
-
-/// The same by the overlay mode: black for none, else the overlay background.
+/// Gives P2, P3 and P4 of Slidescreen the back colour of the overlay mode, black for none, else the
+/// overlay background, and fills them with it: no picture stands on the screen any more.
 void ResetCanvasGround(Application& app);
+
+/// The same for the settings of a document that was read. With an overlay the layers
+/// also take the size of their window.
+void FollowGround(Application& app);
 
 /// Mutes the picture that stands on the screen before the next one is loaded, by OverlayMode:
 /// 2 grey, 3 two levels, 4 one of these or mirrored, mosaic or nothing by a random number (drawn in

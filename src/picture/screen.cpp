@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/monitors.h"
 #include "model/picture_controls.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
@@ -26,51 +27,8 @@ platform::Scale ScaleFor(const Application& app, platform::Size pixels) {
 
 }  // namespace
 
-void FillMonitorTable(Application& app) {
-    model::ShowState& state = app.state;
-    for (auto* edges :
-         {&state.MonitorLeft, &state.MonitorTop, &state.MonitorRight, &state.MonitorBottom}) {
-        edges->fill(0);
-    }
-    state.MonitorCount = 0;
-    state.MonitorsRight = 0;
-    state.MonitorsBottom = 0;
-    constexpr int k = platform::kTwipsPerPixel;
-    for (const platform::Rect& pixels : app.platform.monitors.Enumerate()) {
-        if (state.MonitorCount == model::kMonitorsMost) {
-            return;
-        }
-        const auto number = static_cast<size_t>(state.MonitorCount++);
-        state.MonitorLeft[number] = pixels.x * k;
-        state.MonitorTop[number] = pixels.y * k;
-        state.MonitorRight[number] = (pixels.x + pixels.width) * k;
-        state.MonitorBottom[number] = (pixels.y + pixels.height) * k;
-        state.MonitorsRight = std::max(state.MonitorsRight, state.MonitorRight[number]);
-        state.MonitorsBottom = std::max(state.MonitorsBottom, state.MonitorBottom[number]);
-    }
-}
-
-int MonitorOfMainWindow(Application& app) {
-    const int number = app.platform.monitors.OfMainWindow();
-    return number >= 0 && number < app.state.MonitorCount ? number : 0;
-}
-
-platform::Rect MonitorTwips(Application& app, int index) {
-    FillMonitorTable(app);
-    const model::ShowState& state = app.state;
-    const auto usable = [&state](int number) {
-        const auto i = static_cast<size_t>(number);
-        return number >= 0 && number < state.MonitorCount &&
-               state.MonitorRight[i] > state.MonitorLeft[i];
-    };
-    const auto known = usable(index) ? static_cast<size_t>(index) : size_t{0};
-    const int left = state.MonitorLeft[known];
-    const int top = state.MonitorTop[known];
-    return {left, top, state.MonitorRight[known] - left, state.MonitorBottom[known] - top};
-}
-
 platform::Size MonitorSizeTwips(Application& app) {
-    const platform::Rect monitor = MonitorTwips(app, app.state.MonitorIndex);
+    const platform::Rect monitor = model::MonitorTwips(app, app.state.MonitorIndex);
     return {monitor.width, monitor.height};
 }
 
@@ -123,15 +81,6 @@ void SizeLayers(Application& app) {
         layer->SetSize(scale.units.width * platform::kTwipsPerPixel,
                        scale.units.height * platform::kTwipsPerPixel, scale.pixels);
     }
-}
-
-void CentreOnMonitor(Application& app, model::Window& window) {
-    FillMonitorTable(app);
-    const platform::Rect monitor = MonitorTwips(app, MonitorOfMainWindow(app));
-    window.Width = std::min(window.Width(), monitor.width);
-    window.Height = std::min(window.Height(), monitor.height);
-    window.Left = monitor.x + (monitor.width - window.Width) / 2;
-    window.Top = monitor.y + (monitor.height - window.Height) / 2;
 }
 
 }  // namespace picture

@@ -1,6 +1,7 @@
 #include "picture/video_window.h"
 
 #include "model/controls.h"
+#include "model/monitors.h"
 #include "model/picture_controls.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/video_window.h"
@@ -33,9 +34,8 @@ FilmRule RuleOf(Application& app) {
     rule.slide = app.windows.form24.purpose == model::Form24::Purpose::Slide;
     rule.fullScreen = state.FullScreenActive == 1;
     rule.ownSize = app.platform.settings.filmsKeepTheirSize;
-    FillMonitorTable(app);
-    const platform::Rect twips =
-        MonitorTwips(app, rule.fullScreen ? state.MonitorIndex : MonitorOfMainWindow(app));
+    const platform::Rect twips = model::MonitorTwips(
+        app, rule.fullScreen ? state.MonitorIndex : model::MonitorOfMainWindow(app));
     rule.monitor = {twips.x / k, twips.y / k, twips.width / k, twips.height / k};
     return rule;
 }

@@ -40,6 +40,11 @@ struct Rect {
 Rect Intersection(const Rect& a, const Rect& b);
 /// Smallest rectangle over both; an empty one counts for nothing.
 Rect Union(const Rect& a, const Rect& b);
+/// A rectangle of that size in the middle of the area, which may be smaller.
+inline Rect Centred(Size size, const Rect& area) {
+    return {area.x + (area.width - size.width) / 2, area.y + (area.height - size.height) / 2,
+            size.width, size.height};
+}
 
 /// How the units that a surface is reckoned in become the pixels that it is made of. Every edge
 /// goes to the nearest edge of pixels, so that what lies side by side stays so, without seams and

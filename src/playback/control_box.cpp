@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/monitors.h"
 #include "model/windows/control_box.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
@@ -140,7 +141,7 @@ void BringUpControlBox(Application& app) {
 
 void PlaceControlBox(Application& app) {
     model::Slidescreen2& box = app.windows.slidescreen2;
-    const platform::Rect monitor = picture::MonitorTwips(app, app.state.MonitorIndex);
+    const platform::Rect monitor = model::MonitorTwips(app, app.state.MonitorIndex);
     box.Left = monitor.x + monitor.width - box.Width;
     box.Top = app.state.ControlBoxPos == 0 ? monitor.y : monitor.y + monitor.height - box.Height;
 }

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <tuple>
 
+#include "document/slide_rows.h"
 #include "macro/cutouts.h"
 #include "macro/macro.h"
 #include "macro/telop.h"
+#include "model/monitors.h"
 #include "model/picture_controls.h"
 #include "model/windows/control_box.h"
 #include "model/windows/link_list.h"
@@ -180,7 +182,7 @@ void EndShowOnUnload(Application& app) {
     state.LinkRunning = 0;
     state.LinkIndex = 0;
     EndRun(app);
-    state.SlideListEnd = static_cast<int16_t>(state.SlideList.Count() + 1);
+    document::CountSlides(app);
     StopShowSound(app);
 }
 
@@ -263,9 +265,8 @@ void Screen_KeyDown(Application& app, int code) {
 
 void PlaceFullScreen(Application& app) {
     model::Slidescreen& slidescreen = app.windows.slidescreen;
-    picture::FillMonitorTable(app);
-    app.state.MonitorIndex = static_cast<int16_t>(picture::MonitorOfMainWindow(app));
-    const platform::Rect monitor = picture::MonitorTwips(app, app.state.MonitorIndex);
+    app.state.MonitorIndex = static_cast<int16_t>(model::MonitorOfMainWindow(app));
+    const platform::Rect monitor = model::MonitorTwips(app, app.state.MonitorIndex);
     slidescreen.Load();
     slidescreen.Left = monitor.x;
     slidescreen.Top = monitor.y;
@@ -331,10 +332,7 @@ void AttachFullScreen(Application& app) {
     slidescreen.Timer1.Tick = [&app] { macro::ScrollTelopOnScreen(app); };
     slidescreen.OnActivate = [&app] { Form_Activate(app); };
     slidescreen.OnUnload = [&app] { Form_Unload(app); };
-    slidescreen.ApplyOverlayBackground = [&app] {
-        picture::SizeLayers(app);
-        picture::ApplyOverlayBackground(app);
-    };
+    slidescreen.GroundChanged = [&app] { picture::FollowGround(app); };
     slidescreen.Click = [&app] { Screen_Click(app); };
     slidescreen.KeyDown = [&app](int code) { Screen_KeyDown(app, code); };
     slidescreen.P2.Click = [&app] { P2_Click(app); };

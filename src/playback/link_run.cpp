@@ -1,7 +1,7 @@
 #include "playback/link_run.h"
 
 #include "document/show_document.h"
-#include "document/show_schedule.h"
+#include "document/slide_rows.h"
 #include "macro/macro.h"
 #include "model/list_controls.h"
 #include "model/windows/slide_list.h"
@@ -36,13 +36,7 @@ Loading LoadEntry(Application& app, int entry) {
     // be started twice.
     state.RestartSoundFlag = 0;
     state.RestartSoundMacro = 0;
-    state.SlideList.Erase();
-    const model::ListBox& list = app.windows.form3.List1;
-    for (int row = 0; row < list.ListCount(); ++row) {
-        state.SlideList.Set(row + 1, list.List(row));
-    }
-    document::RebuildSchedule(app);
-    state.SlideListEnd = static_cast<int16_t>(list.ListCount() + 1);
+    document::CommitSlides(app);
     state.LinkIndex = static_cast<int16_t>(entry + 1);
     if (state.SlideListEnd <= 1) {
         return Loading::Empty;

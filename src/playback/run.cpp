@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "document/interval.h"
+#include "document/main_caption.h"
 #include "macro/macro.h"
 #include "model/menu.h"
 #include "model/sound_modes.h"
@@ -149,7 +150,7 @@ void EndRun(Application& app) {
 }
 
 void StopShowSound(Application& app) {
-    sound::RestoreCaption(app);
+    document::ShowDocumentCaption(app);
     sound::StopCd(app);
     sound::StopSound(app);
 }

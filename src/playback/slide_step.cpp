@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "document/linked_names.h"
+#include "document/main_caption.h"
 #include "macro/macro.h"
 #include "macro/telop.h"
 #include "model/picture_controls.h"
@@ -115,8 +116,7 @@ void ShowVideo(Application& app) {
         return;
     }
     state.CurrentName = text::BareName(path);
-    windows.slidescreen2.Caption = state.CurrentName;
-    windows.form1.Caption = state.CurrentName;
+    document::ShowSlideCaption(app);
     windows.form1.ShownSlide = state.SlideIndex;
     StartSoundBesideVideo(app);
     PrepareAround(app, state.SlideIndex);

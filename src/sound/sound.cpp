@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "document/main_caption.h"
 #include "document/settings_to_controls.h"
 #include "model/controls.h"
 #include "model/sound_modes.h"
@@ -192,7 +193,7 @@ void StartSound(Application& app) {
 void StopSound(Application& app) {
     model::ShowState& state = app.state;
     if (state.SlideIndex == 0 && state.FullScreenActive != 1) {
-        RestoreCaption(app);
+        document::ShowDocumentCaption(app);
         ClearTelop(app);
     }
     app.platform.sound.SndPlaySound(std::nullopt, kCancelSound);
@@ -227,12 +228,6 @@ void SetSoundMode(Application& app, int mode) {
     if (state.MacroEndShow != 1 && !model::PlaysPerPicture(state)) {
         StartSound(app);
     }
-}
-
-void RestoreCaption(Application& app) {
-    app.windows.form1.Caption = app.state.DocumentPath.empty()
-                                    ? Text(u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10")
-                                    : u"ｽﾗｲﾄﾞ - " + app.state.DocumentPath;
 }
 
 void StartCd(Application&) {}

@@ -25,9 +25,6 @@ void StopSound(Application& app);
 /// background piece of the new mode. Nothing happens for the mode in force and beyond the range.
 void SetSoundMode(Application& app, int mode);
 
-/// Caption of the main window: the document's, or the program's without a document.
-void RestoreCaption(Application& app);
-
 /// Starts the audio CD in mode 2. Not built yet: does nothing.
 void StartCd(Application& app);
 /// Stops the audio CD in mode 2; clears its flags in every mode.

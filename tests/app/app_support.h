@@ -75,6 +75,7 @@ struct Program {
         last.app.state.AutoStartFlag = run.autoStart;
         last.app.state.AllowDuplicate = run.allowDuplicate;
         last.app.state.DocumentPath = run.slides.empty() ? u"" : u"C:\\show\\two.kvs";
+        last.monitors.monitors = folder.monitors.monitors;
         last.monitors.ofMainWindow = run.monitor;
         for (const Text& slide : run.slides) {
             last.app.windows.form3.List1.AddItem(slide);

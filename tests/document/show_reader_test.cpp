@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "document/show_schedule.h"
+#include "document/slide_rows.h"
 #include "document_support.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
@@ -192,7 +192,8 @@ TEST(ShowReader, EndRightAfterTheSlidesConvertsTheOldSpeeds) {
         Program program;
         program.app.state.OverlayMode = 3;
         program.app.state.OverlaySize = 3;
-        program.app.windows.slidescreen.P2.BackColor = 0x123456;
+        int groundsTold = 0;
+        program.app.windows.slidescreen.GroundChanged = [&] { ++groundsTold; };
         Lines lines = UpTo(FullDocument(), 27);
         lines = With(lines, 9, {c.old});
         lines = With(lines, 11, {c.old});
@@ -203,7 +204,7 @@ TEST(ShowReader, EndRightAfterTheSlidesConvertsTheOldSpeeds) {
         EXPECT_EQ(program.State().OverlayMode, 0);
         EXPECT_EQ(program.State().OverlaySize, 0);
         EXPECT_EQ(program.State().PicturePosition, 0);
-        EXPECT_EQ(program.app.windows.slidescreen.P2.BackColor, 0);
+        EXPECT_EQ(groundsTold, 1);
     }
 }
 
@@ -504,35 +505,18 @@ TEST(ShowReader, WithoutASoundListTheProgramsOwnStays) {
     EXPECT_TRUE(program.files.written.empty());
 }
 
-TEST(ShowReader, LaysTheFullScreensGround) {
-    Program plain;
-    auto& p2 = plain.app.windows.slidescreen.P2;
-    p2.SetSize(30, 30);
-    p2.BackColor = 0xFF;
-    p2.canvas.Fill(0xFF);
-    auto& p3 = plain.app.windows.slidescreen.P3;
-    auto& p4 = plain.app.windows.slidescreen.P4;
-    for (auto* layer : {&p3, &p4}) {
-        layer->SetSize(30, 30);
-        layer->BackColor = 0xFF;
-        layer->canvas.Fill(0xFF);
-    }
-    plain.app.state.PreviousPictureOnScreen = 1;
-    plain.Read(With(FullDocument(), 29, {u" 0 "}));
-    for (auto* layer : {&p2, &p3, &p4}) {
-        EXPECT_EQ(layer->BackColor, 0);
-        EXPECT_EQ(layer->canvas.Point(1, 1), 0u);
-    }
-    EXPECT_EQ(plain.app.state.PreviousPictureOnScreen, 0) << "nothing is left to be erased";
-
-    Program overlaid;
-    auto& screen = overlaid.app.windows.slidescreen;
-    int applied = 0;
-    screen.ApplyOverlayBackground.Anew() = [&] { ++applied; };
-    overlaid.app.state.PreviousPictureOnScreen = 1;
-    overlaid.Read(FullDocument());
-    EXPECT_EQ(applied, 1);
-    EXPECT_EQ(overlaid.app.state.PreviousPictureOnScreen, 0);
+TEST(ShowReader, TellsOfAnotherGroundOnceItsSettingsStand) {
+    Program program;
+    int told = 0;
+    program.app.windows.slidescreen.GroundChanged = [&] {
+        ++told;
+        EXPECT_EQ(program.State().OverlayMode, 2);
+        EXPECT_EQ(program.State().OverlayBackColor, 6);
+    };
+    program.Read(FullDocument());
+    EXPECT_EQ(told, 1);
+    program.ReadText(u"vue\r\n");
+    EXPECT_EQ(told, 1) << "a refused document brings none";
 }
 
 TEST(ShowReader, ReadsWhatACodePageCannotHoldFromUtf8) {

@@ -26,7 +26,8 @@ public:
     }
     void RowsChanged(Control&, const RowChange& change) override {
         static const char* const kNames[] = {"inserted", "removed", "replaced", "cleared"};
-        heard.push_back(std::string(kNames[change.kind]) + " " + std::to_string(change.row));
+        heard.push_back(std::string(kNames[change.kind]) + " " + std::to_string(change.row) +
+                        (change.count > 1 ? " and on: " + std::to_string(change.count) : ""));
     }
     std::vector<std::string> heard;
 
@@ -104,6 +105,31 @@ TEST(ListBox, KeepsRowsInOrderAndTellsEachChange) {
     EXPECT_EQ(window.List(), (Rows{u"A", u"c", u"d"}));
     EXPECT_EQ(ear.heard, (Heard{"inserted 0", "inserted 0", "inserted 2", "inserted 2",
                                 "replaced 0", "removed 1"}));
+}
+
+TEST(ListBox, SeveralRowsAreOneChange) {
+    SampleWindow window;
+    Ear ear(window.List1);
+    window.List1.InsertRows(0, {u"a", u"d", u"e"});
+    window.List1.InsertRows(1, {u"b", u"c"});
+    window.List1.InsertRows(2, {});
+    EXPECT_EQ(window.List(), (Rows{u"a", u"b", u"c", u"d", u"e"}));
+    window.List1.SelectRows(1, 2, true);
+    window.List1.SelectRows(1, 2, true);  // as they are
+    window.List1.SelectRows(3, 9, true);
+    window.List1.SelectRows(4, 1, false);
+    window.List1.Reorder(1, {3, 1, 4, 2});
+    EXPECT_EQ(window.List(), (Rows{u"a", u"d", u"b", u"e", u"c"}));
+    EXPECT_EQ(window.List1.SelectedRows(), (std::vector<int>{1, 2, 4})) << "d, b and c";
+    window.List1.ListIndex = 4;
+    EXPECT_EQ(window.List1.RemoveRows(2, 2), (Rows{u"b", u"e"}));
+    EXPECT_EQ(window.List(), (Rows{u"a", u"d", u"c"}));
+    EXPECT_EQ(window.List1.SelectedRows(), (std::vector<int>{1, 2}));
+    EXPECT_EQ(window.List1.ListIndex, 2);
+    EXPECT_EQ(ear.heard,
+              (Heard{"inserted 0 and on: 3", "inserted 1 and on: 2", "replaced 1 and on: 2",
+                     "replaced 3 and on: 2", "replaced 4", "replaced 1 and on: 4", "ListIndex",
+                     "removed 2 and on: 2", "ListIndex"}));
 }
 
 TEST(ListBox, RowsThatAreNotThereAreNobodysBusiness) {

@@ -35,7 +35,7 @@ TEST(OverlayGround, AMacrosTextGoesBeforeTheTable) {
 TEST(OverlayGround, LiesOnAllThreeLayers) {
     Collage collage(1);
     collage.state.OverlayBackText = u"102030";
-    ApplyOverlayBackground(collage.app);
+    ResetCanvasGround(collage.app);
     for (model::PictureBox* layer : collage.Layers()) {
         EXPECT_EQ(layer->BackColor(), 0x302010);
         EXPECT_EQ(collage.At(*layer, 99, 59), 0xFF102030u);
@@ -55,6 +55,33 @@ TEST(OverlayGround, WithoutOverlapAllThreeLayersAreBlackAndEmpty) {
         EXPECT_EQ(collage.At(*layer, 50, 30), kBlack);
     }
     EXPECT_EQ(collage.state.PreviousPictureOnScreen, 0);
+}
+
+TEST(OverlayGround, ADocumentsSettingsLayItAnew) {
+    Collage plain(1);
+    plain.Add(20, 20, "FF0000");
+    plain.Step(1);
+    plain.state.OverlayMode = 0;
+    plain.screen.GroundChanged();
+    for (model::PictureBox* layer : plain.Layers()) {
+        EXPECT_EQ(layer->BackColor(), 0);
+        EXPECT_EQ(plain.At(*layer, 50, 30), kBlack);
+    }
+    EXPECT_EQ(plain.state.PreviousPictureOnScreen, 0) << "nothing is left to be erased";
+
+    Collage overlaid(1);
+    overlaid.state.PreviousPictureOnScreen = 1;
+    overlaid.state.OverlayBackText = u"102030";
+    overlaid.screen.Width = 150;
+    overlaid.screen.Height = 75;
+    overlaid.screen.P2.Left = 15;
+    overlaid.screen.GroundChanged();
+    EXPECT_EQ(overlaid.screen.P2.Left, 0);
+    EXPECT_EQ(overlaid.screen.P2.canvas.Width(), 10);
+    EXPECT_EQ(overlaid.screen.P2.canvas.Height(), 5);
+    EXPECT_EQ(overlaid.OnScreen(9, 4), 0xFF102030u);
+    EXPECT_EQ(overlaid.At(overlaid.screen.P3, 9, 4), 0xFF102030u);
+    EXPECT_EQ(overlaid.state.PreviousPictureOnScreen, 0);
 }
 
 TEST(OverlayGround, NothingIsErasedWhateverTheEraseEffect) {

@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "full_screen_support.h"
+#include "model/monitors.h"
 #include "model/windows/control_box.h"
+#include "model/windows/linked_folder.h"
 #include "model/windows/picture_holder.h"
 
 namespace playback_tests {
@@ -11,7 +13,7 @@ namespace {
 TEST(Monitors, StandInATableOfTwips) {
     Show show;
     UseSecondMonitor(show);
-    picture::FillMonitorTable(show.app);
+    model::FillMonitorTable(show.app);
     EXPECT_EQ(show.state.MonitorCount, 2);
     EXPECT_EQ(show.state.MonitorLeft[1], 28800);
     EXPECT_EQ(show.state.MonitorTop[1], 0);
@@ -20,7 +22,7 @@ TEST(Monitors, StandInATableOfTwips) {
     EXPECT_EQ(show.state.MonitorsRight, 48000);
     EXPECT_EQ(show.state.MonitorsBottom, 16200);  // of the first, which is higher
     show.monitors.monitors.pop_back();
-    picture::FillMonitorTable(show.app);
+    model::FillMonitorTable(show.app);
     EXPECT_EQ(show.state.MonitorCount, 1);
     EXPECT_EQ(show.state.MonitorRight[1], 0) << "a monitor that is gone leaves zeros";
 }
@@ -32,6 +34,24 @@ TEST(Monitors, MoreThanElevenAreLeftOut) {
     StartInScreen(show);
     EXPECT_EQ(show.state.MonitorCount, 11);
     EXPECT_EQ(show.state.MonitorIndex, 0);
+}
+
+TEST(Monitors, AWindowStandsInTheMiddleOfTheMainWindowsOne) {
+    Show show;
+    UseSecondMonitor(show);  // from 28800, 19200 × 15360
+    model::Form12& form12 = show.windows.form12;
+    form12.Width = 9200;
+    form12.Height = 5360;
+    model::CentreOnMonitor(show.app, form12);
+    EXPECT_EQ(form12.Left, 28800 + 5000);
+    EXPECT_EQ(form12.Top, 5000);
+    form12.Width = 30000;
+    model::CentreOnMonitor(show.app, form12);
+    EXPECT_EQ(form12.Left, 28800);
+    EXPECT_EQ(form12.Width, 19200) << "it takes the monitor's size";
+    form12.Width = 30000;
+    model::Centre(form12, {0, 0, 28800, 16200});
+    EXPECT_EQ(form12.Left, -600) << "in an area it keeps its own";
 }
 
 TEST(Monitors, OneUnpluggedBeforeTheShowIsNotUsed) {

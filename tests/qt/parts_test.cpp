@@ -71,6 +71,25 @@ TEST_F(Lists, SelectionGoesBothWays) {
     EXPECT_FALSE(view.selectionModel()->isRowSelected(0));
 }
 
+TEST_F(Lists, SeveralRowsAreOneChange) {
+    ListBinding binding(window.List1, view, gate);
+    view.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    window.List1.InsertRows(0, {u"a", u"d"});
+    window.List1.InsertRows(1, {u"b", u"c"});
+    EXPECT_EQ(Seen(), (QStringList{"a", "b", "c", "d"}));
+    window.List1.SelectRows(0, 4, true);
+    window.List1.SelectRows(2, 1, false);
+    window.List1.Reorder(0, {2, 3, 1, 0});
+    EXPECT_EQ(Seen(), (QStringList{"c", "d", "b", "a"}));
+    for (const int row : {0, 1, 2, 3}) {
+        EXPECT_EQ(view.selectionModel()->isRowSelected(row), row != 0) << row;
+    }
+    window.List1.RemoveRows(1, 2);
+    EXPECT_EQ(Seen(), (QStringList{"c", "a"}));
+    EXPECT_FALSE(view.selectionModel()->isRowSelected(0));
+    EXPECT_TRUE(view.selectionModel()->isRowSelected(1));
+}
+
 TEST_F(Lists, ThirtyThousandRowsAndTheirWayBack) {
     ListBinding binding(window.List1, view, {gate});
     for (int i = 0; i < 30000; ++i) {

@@ -44,20 +44,22 @@ ComboBinding::ComboBinding(model::ListBox& list, QComboBox& widget, const Site& 
 }
 
 void ComboBinding::RowsChanged(model::Control&, const model::RowChange& change) {
-    switch (change.kind) {
-        case model::RowChange::Inserted:
-            face_.insertItem(change.row, QString());
-            ShowRow(change.row);
-            break;
-        case model::RowChange::Removed:
-            face_.removeItem(change.row);
-            break;
-        case model::RowChange::Replaced:
-            ShowRow(change.row);
-            break;
-        case model::RowChange::Cleared:
-            face_.clear();
-            break;
+    for (int row = change.row; row < change.row + change.count; ++row) {
+        switch (change.kind) {
+            case model::RowChange::Inserted:
+                face_.insertItem(row, QString());
+                ShowRow(row);
+                break;
+            case model::RowChange::Removed:
+                face_.removeItem(change.row);
+                break;
+            case model::RowChange::Replaced:
+                ShowRow(row);
+                break;
+            case model::RowChange::Cleared:
+                face_.clear();
+                break;
+        }
     }
     SyncOwn();
 }

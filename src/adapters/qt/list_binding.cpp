@@ -72,19 +72,32 @@ void ListBinding::RowsChanged(model::Control&, const model::RowChange& change) {
     }
     const QScopedValueRollback<bool> guard(following_, true);
     rows_.Follow(change);
-    const auto select = [this](int row) {
-        const bool on = list_.Selected(row) || (!SelectsMany() && row == list_.ListIndex);
-        view_.selectionModel()->select(
-            rows_.index(row), on ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
-    };
     if (change.kind == model::RowChange::Replaced) {
-        select(change.row);
+        ShowSelection(change.row, change.count);
     } else if (change.kind == model::RowChange::Cleared) {
-        for (int row = 0; row < list_.ListCount(); ++row) {
-            if (list_.Selected(row)) {
-                select(row);
+        ShowSelection(0, list_.ListCount());
+    }
+}
+
+/// Runs of rows that differ are told to the view as one: there can be thousands of rows.
+void ListBinding::ShowSelection(int first, int count) {
+    QItemSelectionModel& seen = *view_.selectionModel();
+    const auto differs = [&](int row, bool on) {
+        const bool wanted = list_.Selected(row) || (!SelectsMany() && row == list_.ListIndex);
+        return wanted == on && seen.isRowSelected(row) != on;
+    };
+    for (const bool on : {false, true}) {
+        QItemSelection changed;
+        for (int row = first; row < first + count; ++row) {
+            const int begin = row;
+            while (row < first + count && differs(row, on)) {
+                ++row;
+            }
+            if (row > begin) {
+                changed.select(rows_.index(begin), rows_.index(row - 1));
             }
         }
+        seen.select(changed, on ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
     }
 }
 

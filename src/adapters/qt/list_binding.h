@@ -22,6 +22,7 @@ protected:
 private:
     bool SelectsMany() const { return list_.MultiSelect == model::kSelectMany; }
     void Dragged(int before);
+    void ShowSelection(int first, int count);
     void FollowSelection(const QItemSelection& on, const QItemSelection& off);
     void FollowCurrent(const QModelIndex& current);
 

@@ -62,19 +62,20 @@ bool RowsModel::dropMimeData(const QMimeData*, Qt::DropAction, int row, int, con
 }
 
 void RowsModel::Follow(const model::RowChange& change) {
+    const int last = change.row + change.count - 1;
     switch (change.kind) {
         case model::RowChange::Inserted:
-            beginInsertRows({}, change.row, change.row);
-            ++count_;
+            beginInsertRows({}, change.row, last);
+            count_ += change.count;
             endInsertRows();
             break;
         case model::RowChange::Removed:
-            beginRemoveRows({}, change.row, change.row);
-            --count_;
+            beginRemoveRows({}, change.row, last);
+            count_ -= change.count;
             endRemoveRows();
             break;
         case model::RowChange::Replaced:
-            emit dataChanged(index(change.row), index(change.row),
+            emit dataChanged(index(change.row), index(last),
                              {Qt::DisplayRole, Qt::DecorationRole});
             break;
         case model::RowChange::Cleared:

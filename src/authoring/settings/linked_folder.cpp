@@ -1,8 +1,8 @@
 #include "authoring/settings/linked_folder.h"
 
 #include "authoring/shared/file_browser.h"
+#include "model/monitors.h"
 #include "model/windows/linked_folder.h"
-#include "picture/screen.h"
 #include "text/paths.h"
 
 namespace authoring {
@@ -20,7 +20,7 @@ void FollowCheck1(model::Form12& form12) {
 
 void Form_Load(Application& app) {
     model::Form12& form12 = app.windows.form12;
-    picture::CentreOnMonitor(app, form12);
+    model::CentreOnMonitor(app, form12);
     const bool own = app.state.LinkedFolderFlag == 1;
     const bool there = own && app.platform.folders.IsFolder(app.state.LinkedFolder);
     OpenBrowser(app, form12.Drive1, form12.Dir1,

@@ -1,8 +1,8 @@
 #include "authoring/settings/text_display.h"
 
+#include "model/monitors.h"
 #include "model/windows/main_window.h"
 #include "model/windows/text_display.h"
-#include "picture/screen.h"
 
 namespace authoring {
 
@@ -19,7 +19,7 @@ void FollowSettings(Application& app) {
 
 void Form_Activate(Application& app) {
     FollowSettings(app);
-    picture::CentreOnMonitor(app, app.windows.form15);
+    model::CentreOnMonitor(app, app.windows.form15);
 }
 
 void Check1_Click(Application& app) {

@@ -9,6 +9,9 @@
 namespace model {
 
 struct Form1 : Window {
+    /// While no document is open.
+    static constexpr TextView kFirstCaption = u"ﾊﾟﾗﾋﾟｺ Win Ver.9.10";
+
     Form1();
 
     Property<int> ShownSlide{*this, "ShownSlide"};  // 1-based; 0 while no show is under way

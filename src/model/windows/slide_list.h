@@ -3,6 +3,7 @@
 
 #include "model/controls.h"
 #include "model/list_controls.h"
+#include "model/row_history.h"
 #include "model/window.h"
 
 namespace model {
@@ -24,6 +25,7 @@ struct Form3 : Window {
     CheckBox Check3{this, "Check3", u"壁紙変更"};
     CheckBox Check4{this, "Check4", u"テキスト"};
     CheckBox Check5{this, "Check5", u"ﾊﾟﾗﾋﾟｺ"};
+    RowHistory history;                 // of List1 and List2
     Timer Timer1{this, "Timer1", 500};  // one shot: guards against a second click on a video
 };
 

@@ -25,9 +25,8 @@ struct Slidescreen : Window {
     Button menu4{this, "menu4"};
     Button menu5{this, "menu5"};
 
-    /// Sizes the layers and fills them with the overlay background in force. Attached by the
-    /// pictures' side; documents call it after they changed the settings.
-    Event<> ApplyOverlayBackground;
+    /// A document brought other settings of the ground: what stands on the layers goes.
+    Event<> GroundChanged;
 };
 
 }  // namespace model
