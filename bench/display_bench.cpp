@@ -232,7 +232,8 @@ int main(int argc, char** argv) {
     WatchedLoop loop(desktop.Loop());
     Application app({loop, rest.files, rest.dialogs, desktop.Monitors(), imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, rest.trace,
-                     rest.codePage, rest.folders});
+                     rest.codePage, rest.folders, rest.fileChanges, rest.clipboard, rest.wallpaper,
+                     rest.thumbnails});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);

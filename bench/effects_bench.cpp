@@ -66,7 +66,8 @@ int main(int argc, char** argv) {
     const platform::Platform rest = silent.Get();
     Application app({desktop.Loop(), rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,
-                     rest.codePage, rest.folders});
+                     rest.codePage, rest.folders, rest.fileChanges, rest.clipboard, rest.wallpaper,
+                     rest.thumbnails});
     model::SetStartDefaults(app.state);
     app.state.EffectSpeedFactor = 2;
     app.state.FullScreenActive = 1;

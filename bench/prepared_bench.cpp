@@ -74,7 +74,8 @@ double Measure(qt_adapter::Desktop& desktop, platform::Files& files, bool prepar
     imaging::QtImaging imaging(files, prepares);
     Application app({desktop.Loop(), files, rest.dialogs, desktop.Monitors(), imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, rest.trace,
-                     rest.codePage, rest.folders});
+                     rest.codePage, rest.folders, rest.fileChanges, rest.clipboard, rest.wallpaper,
+                     rest.thumbnails});
     SetUpShow(app, paths);
     desktop.MakeViews(app.windows);
     app.windows.slidescreen.Show();

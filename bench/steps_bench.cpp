@@ -97,9 +97,13 @@ int main() {
     virtual_adapter::VirtualVideo video(trace, loop);
     fakes::FakeSystem system;
     fakes::FakeFolders folders(files);
+    fakes::FakeFileChanges fileChanges(files);
+    fakes::FakeClipboard clipboard;
+    fakes::FakeWallpaper wallpaper;
+    fakes::FakeThumbnails thumbnails(files);
     posix_adapter::IconvCodePage codePage;
     Application app({loop, files, dialogs, monitors, imaging, text, sound, video, system, trace,
-                     codePage, folders});
+                     codePage, folders, fileChanges, clipboard, wallpaper, thumbnails});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);

@@ -37,9 +37,16 @@ public:
         Text title;
         Text filter;   // "caption|pattern|caption|pattern"
         Text initial;  // name or pattern shown at first
+        /// Folder shown at first; empty, or one that is gone: that of `initial`, else that of the
+        /// last file chosen.
+        Text folder;
     };
     /// Full path chosen; nullopt on cancel. Does not ask before replacing unless save.
     virtual std::optional<Text> ChooseFile(const FileRequest& request) = 0;
+    /// Full paths of one or several files to open, in the order of the dialog; none on cancel.
+    virtual std::vector<Text> ChooseFiles(const FileRequest& request) = 0;
+    /// Full path of a folder; nullopt on cancel. Filter and initial name do not count.
+    virtual std::optional<Text> ChooseFolder(const FileRequest& request) = 0;
 };
 
 }  // namespace platform

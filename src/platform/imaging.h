@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "platform/canvas.h"
+#include "platform/files.h"
+#include "platform/progress.h"
 #include "text/text.h"
 
 namespace platform {
@@ -72,6 +74,16 @@ public:
     virtual void Clear() = 0;
 };
 
+/// The form in which a picture is saved.
+struct SaveForm {
+    enum Kind { Bmp, Jpeg, Png } kind = Bmp;
+    /// 1 (two levels, dithered), 8 (grey in a JPEG, else 256 colours) or 24; others count as the
+    /// nearest one.
+    int bitsPerPixel = 24;
+    /// Of a JPEG: 1 small to 100 good.
+    int quality = 90;
+};
+
 /// A picture that will be loaded soon.
 struct Wanted {
     Text path;
@@ -92,6 +104,11 @@ public:
     /// that changes meanwhile, and finds its picture decoded where time and memory sufficed. Cheap
     /// to call again with what is wanted already.
     virtual void Prepare(const std::vector<Wanted>& wanted) = 0;
+
+    /// Writes the pixels to a file, whole or not at all. Reports as FileChanges::Copy does, though
+    /// how much is done is not known.
+    virtual Outcome Save(const BitmapPtr& picture, TextView path, const SaveForm& form,
+                         const Report& report, FileError& error) = 0;
 };
 
 }  // namespace platform

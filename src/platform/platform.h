@@ -2,17 +2,21 @@
 #pragma once
 
 #include "platform/canvas.h"
+#include "platform/clipboard.h"
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
+#include "platform/file_changes.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/imaging.h"
 #include "platform/monitors.h"
 #include "platform/sound.h"
 #include "platform/system.h"
+#include "platform/thumbnails.h"
 #include "platform/trace.h"
 #include "platform/user_settings.h"
 #include "platform/video.h"
+#include "platform/wallpaper.h"
 #include "text/code_page.h"
 
 namespace platform {
@@ -30,6 +34,10 @@ struct Platform {
     Trace& trace;
     const text::CodePage& codePage;
     Folders& folders;
+    FileChanges& fileChanges;
+    Clipboard& clipboard;
+    Wallpaper& wallpaper;
+    Thumbnails& thumbnails;
     UserSettings settings = {};
 };
 

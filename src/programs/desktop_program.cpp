@@ -5,7 +5,14 @@
 #include "adapters/commands/usage.h"
 #include "adapters/gstreamer/gst_sound.h"
 #include "adapters/gstreamer/gst_video.h"
+#include "adapters/imaging/thumbnail_cache.h"
+#include "adapters/imaging/thumbnailer.h"
 #include "adapters/posix/memory.h"
+#include "adapters/posix/posix_file_changes.h"
+#include "adapters/qt/desktop_wallpaper.h"
+#include "adapters/qt/qt_clipboard.h"
+#include "adapters/qt/qt_trash.h"
+#include "adapters/tracing/traced_desk.h"
 #include "adapters/tracing/traced_dialogs.h"
 #include "adapters/tracing/traced_sound.h"
 #include "adapters/tracing/traced_system.h"
@@ -34,6 +41,41 @@ public:
 
 private:
     qt_adapter::Desktop& desktop_;
+};
+
+/// A wallpaper that is not lasting goes with the program.
+class PassingWallpaper {
+public:
+    explicit PassingWallpaper(platform::Wallpaper& wallpaper) : wallpaper_(wallpaper) {}
+    ~PassingWallpaper() { wallpaper_.PutBack(); }
+    PassingWallpaper(const PassingWallpaper&) = delete;
+    PassingWallpaper& operator=(const PassingWallpaper&) = delete;
+
+private:
+    platform::Wallpaper& wallpaper_;
+};
+
+/// What the windows do to a person's files, clipboard and wallpaper, told to the trace.
+struct Desk {
+    Desk(qt_adapter::Desktop& desktop, Surroundings& around, platform::Trace& trace)
+        : posixChanges(around.files, qt_adapter::MoveToTrash),
+          fileChanges(posixChanges, trace),
+          clipboard(qtClipboard, trace),
+          desktopWallpaper(around.files),
+          wallpaper(desktopWallpaper, trace),
+          thumbnails(
+              {.programFolder = around.programFolder,
+               .cacheFolder = imaging::ThumbnailCache::OfDesktop(),
+               .post = [&desktop](std::function<void()> call) { desktop.Post(std::move(call)); }}) {
+    }
+
+    posix_adapter::PosixFileChanges posixChanges;
+    tracing::TracedFileChanges fileChanges;
+    qt_adapter::QtClipboard qtClipboard;
+    tracing::TracedClipboard clipboard;
+    qt_adapter::DesktopWallpaper desktopWallpaper;
+    tracing::TracedWallpaper wallpaper;
+    imaging::Thumbnailer thumbnails;
 };
 
 /// Nothing in a program that was built without the reader of discs.
@@ -68,14 +110,17 @@ int Run(int& argc, char** argv, const std::string& traceFile, const std::string&
     };
     tracing::TracedSystem system(around.system, *trace, true);
     tracing::WindowTracer windows(*trace);
+    Desk desk(desktop, around, *trace);
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
                              around.imaging, desktop.TextRenderer(), sound, video, system, *trace,
-                             around.codePage, around.folders,
+                             around.codePage, around.folders, desk.fileChanges, desk.clipboard,
+                             desk.wallpaper, desk.thumbnails,
                              posix_adapter::ReadUserSettings(around.programFolder)});
     around.system.endShow = [&application] { playback::StopShow(application); };
     around.system.textOpener = [](TextView path) { return qt_adapter::Desktop::OpenText(path); };
     windows.Attach(application.windows);
     const Views views(desktop, application);
+    const PassingWallpaper passing(desk.wallpaper);
     const EndFromOutside end(desktop, application);
     return RunUntilEnd(application, {CommandText(document), true, true});
 }

@@ -46,10 +46,10 @@ Text CommandText(const std::string& argument) {
     return text::FromUtf8(posix_adapter::AbsoluteIfFile(argument));
 }
 
-Surroundings::Surroundings(const std::string& appFolder, bool prepare)
+Surroundings::Surroundings(const std::string& appFolder, bool prepare, bool threads)
     : programFolder(posix_adapter::ProgramFolder(appFolder)),
       files(programFolder),
-      imaging(files, prepare),
+      imaging(files, prepare, {}, threads),
       system(programFolder, posix_adapter::AssetsFolder(PARAPICO_ASSETS)),
       folders(files) {}
 

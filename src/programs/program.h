@@ -32,8 +32,8 @@ Text CommandText(const std::string& argument);
 /// Everything but the loop, the boxes and the devices.
 struct Surroundings {
     /// `appFolder`: the program folder; empty for the usual one. `prepare`: pictures are decoded
-    /// ahead.
-    explicit Surroundings(const std::string& appFolder, bool prepare = true);
+    /// ahead. `threads` false: what takes long runs on the caller's thread, each time the same way.
+    explicit Surroundings(const std::string& appFolder, bool prepare = true, bool threads = true);
 
     std::string programFolder;
     posix_adapter::IconvCodePage codePage;

@@ -69,6 +69,8 @@ TEST(Script, TextsReachToTheEndOfTheLineOrStandInQuotes) {
         "input\n"
         "input \"\"\n"
         "choose C# 写真.kvs\n"
+        "choose \"a b.jpg\" \"c.jpg\"\n"
+        "choose\n"
         "drop Form1 a.kvs \"b c.kvs\"\n"
         "select Form3.List1 2 0\n"
         "expect Form1.Caption \"a # b\"  # comment\n"
@@ -77,21 +79,23 @@ TEST(Script, TextsReachToTheEndOfTheLineOrStandInQuotes) {
         "shot a.png\n"
         "answer cancel",
         "x.robot");
-    ASSERT_EQ(script.size(), 13u);
+    ASSERT_EQ(script.size(), 15u);
     EXPECT_EQ(script[0].text, u"two words");
     EXPECT_EQ(script[1].text, u" # あ\"");
     EXPECT_EQ(script[2].text, u"");
     EXPECT_EQ(script[3].text, std::nullopt);
     EXPECT_EQ(script[4].text, u"");
-    EXPECT_EQ(script[5].text, u"C# 写真.kvs");
-    EXPECT_EQ(script[6].paths, (std::vector<Text>{u"a.kvs", u"b c.kvs"}));
-    EXPECT_EQ(script[7].numbers, (std::vector{2, 0}));
-    EXPECT_EQ(script[8].text, u"\"a # b\"");
-    EXPECT_EQ(script[9].text, u"two  words");
-    EXPECT_EQ(script[10].text, u"a b.png");
-    EXPECT_EQ(script[10].window, "Form3");
-    EXPECT_EQ(script[11].window, "");
-    EXPECT_EQ(script[12].text, u"cancel");
+    EXPECT_EQ(script[5].paths, std::vector<Text>{u"C# 写真.kvs"});
+    EXPECT_EQ(script[6].paths, (std::vector<Text>{u"a b.jpg", u"c.jpg"}));
+    EXPECT_TRUE(script[7].paths.empty());
+    EXPECT_EQ(script[8].paths, (std::vector<Text>{u"a.kvs", u"b c.kvs"}));
+    EXPECT_EQ(script[9].numbers, (std::vector{2, 0}));
+    EXPECT_EQ(script[10].text, u"\"a # b\"");
+    EXPECT_EQ(script[11].text, u"two  words");
+    EXPECT_EQ(script[12].text, u"a b.png");
+    EXPECT_EQ(script[12].window, "Form3");
+    EXPECT_EQ(script[13].window, "");
+    EXPECT_EQ(script[14].text, u"cancel");
 }
 
 TEST(Script, BadLinesAreRefusedWithTheirPlace) {

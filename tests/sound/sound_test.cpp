@@ -253,7 +253,8 @@ TEST(StartSound, OneFailureIsTriedAgain) {
         Application app{platform::Platform{player.loop, held, player.dialogs, player.monitors,
                                            player.imaging, player.textRenderer, player.sound,
                                            player.video, player.system, player.trace,
-                                           player.codePage, player.folders}};
+                                           player.codePage, player.folders, player.fileChanges,
+                                           player.clipboard, player.wallpaper, player.thumbnails}};
         app.state.SoundMode = 3;
         app.state.WavFile = u"C:\\s\\b.WAV";
         sound::StartSound(app);

@@ -17,6 +17,7 @@
 #include "adapters/virtual/virtual_monitors.h"
 #include "adapters/virtual/virtual_sound.h"
 #include "adapters/virtual/virtual_video.h"
+#include "fake_desk.h"
 #include "fake_files.h"
 #include "model/application.h"
 #include "test_loop.h"
@@ -149,6 +150,26 @@ public:
         for (const platform::Wanted& one : list) {
             everWanted.push_back(one.path);
         }
+    }
+    struct Saved {
+        Text path;
+        platform::Size size;
+        platform::SaveForm form;
+    };
+    std::vector<Saved> saved;
+    Text saveError;  // not empty: every save fails with these words
+    platform::Outcome Save(const platform::BitmapPtr& picture, TextView path,
+                           const platform::SaveForm& form, const platform::Report& report,
+                           platform::FileError& error) override {
+        if (report && !report({0, 0})) {
+            return platform::Outcome::Stopped;
+        }
+        if (!picture || !saveError.empty()) {
+            error.message = saveError;
+            return platform::Outcome::Failed;
+        }
+        saved.push_back({Text(path), {picture->width, picture->height}, form});
+        return platform::Outcome::Done;
     }
 
 private:
@@ -365,8 +386,13 @@ struct FakePlatform {
     FakeTrace trace;
     FakeFolders folders{files};
     posix_adapter::IconvCodePage codePage;
+    FakeFileChanges fileChanges{files};
+    FakeClipboard clipboard;
+    FakeWallpaper wallpaper;
+    FakeThumbnails thumbnails{files};
     Application app{platform::Platform{loop, files, dialogs, monitors, imaging, textRenderer, sound,
-                                       video, system, trace, codePage, folders}};
+                                       video, system, trace, codePage, folders, fileChanges,
+                                       clipboard, wallpaper, thumbnails}};
 
     FakePlatform();
     ~FakePlatform();

@@ -8,6 +8,7 @@
 #include "adapters/posix/posix_folders.h"
 #include "adapters/tracing/no_trace.h"
 #include "adapters/virtual/silent_devices.h"
+#include "adapters/virtual/virtual_desk.h"
 #include "adapters/virtual/virtual_dialogs.h"
 #include "adapters/virtual/virtual_loop.h"
 #include "adapters/virtual/virtual_monitors.h"
@@ -56,8 +57,8 @@ struct SilentPlatform {
         : files(programFolder), system(programFolder, files) {}
 
     platform::Platform Get() {
-        return {loop,  files, dialogs, monitors, imaging,  textRenderer,
-                sound, video, system,  trace,    codePage, folders};
+        return {loop,   files, dialogs,  monitors, imaging,     textRenderer, sound,     video,
+                system, trace, codePage, folders,  fileChanges, clipboard,    wallpaper, thumbnails};
     }
 
     GuardedFiles files;
@@ -72,6 +73,10 @@ struct SilentPlatform {
     NoSystem system;
     posix_adapter::IconvCodePage codePage;
     posix_adapter::PosixFolders folders{files};
+    virtual_adapter::NoFileChanges fileChanges;
+    virtual_adapter::VirtualClipboard clipboard;
+    virtual_adapter::VirtualWallpaper wallpaper{files};
+    virtual_adapter::NoThumbnails thumbnails;
 };
 
 }  // namespace commands

@@ -10,6 +10,7 @@
 #include "adapters/imaging/filters.h"
 #include "adapters/imaging/picture_file.h"
 #include "adapters/imaging/pixels.h"
+#include "adapters/imaging/save.h"
 
 namespace imaging {
 
@@ -232,8 +233,13 @@ private:
 
 }  // namespace
 
-QtImaging::QtImaging(platform::Files& files, bool prepares, const sandbox::ClientOptions& decoder)
-    : files_(files), prepares_(prepares), context_(decoder), prepared_(decoder) {
+QtImaging::QtImaging(platform::Files& files, bool prepares, const sandbox::ClientOptions& decoder,
+                     bool savesApart)
+    : files_(files),
+      prepares_(prepares),
+      savesApart_(savesApart),
+      context_(decoder),
+      prepared_(decoder) {
     // What a damaged file, or a decoding that was given up, lets the readers say is for nobody.
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false");
     QImageReader::setAllocationLimit(static_cast<int>(kMostBytes >> 20));
@@ -258,6 +264,13 @@ void QtImaging::Prepare(const std::vector<platform::Wanted>& wanted) {
         }
     }
     prepared_.Prepare(found);
+}
+
+platform::Outcome QtImaging::Save(const platform::BitmapPtr& picture, TextView path,
+                                  const platform::SaveForm& form, const platform::Report& report,
+                                  platform::FileError& error) {
+    return SavePicture(picture, path.empty() ? std::string() : files_.NativeTarget(path), form,
+                       report, savesApart_, error);
 }
 
 }  // namespace imaging

@@ -16,13 +16,16 @@ namespace imaging {
 class QtImaging : public platform::Imaging {
 public:
     /// `files` must outlive this object, and this object its controls. With `prepares` false
-    /// Prepare does nothing.
+    /// Prepare does nothing; with `savesApart` false Save runs on the caller's thread.
     explicit QtImaging(platform::Files& files, bool prepares = true,
-                       const sandbox::ClientOptions& decoder = {});
+                       const sandbox::ClientOptions& decoder = {}, bool savesApart = true);
 
     Text VersionText() const override;
     std::unique_ptr<platform::ImagingControl> MakeControl() override;
     void Prepare(const std::vector<platform::Wanted>& wanted) override;
+    platform::Outcome Save(const platform::BitmapPtr& picture, TextView path,
+                           const platform::SaveForm& form, const platform::Report& report,
+                           platform::FileError& error) override;
 
     /// What stands ready; for measuring and tests.
     PreparedPictures& Prepared() { return prepared_; }
@@ -30,6 +33,7 @@ public:
 private:
     platform::Files& files_;
     bool prepares_;
+    bool savesApart_;
     ReadingContext context_;  // of the caller's thread
     PreparedPictures prepared_;
 };

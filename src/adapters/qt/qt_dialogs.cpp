@@ -2,11 +2,11 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 #include <cstdio>
 
 #include "adapters/qt/convert.h"
@@ -148,33 +148,66 @@ std::optional<Text> QtDialogs::Input(TextView prompt, TextView title, TextView i
     return FromQt(box.textValue());
 }
 
-std::optional<Text> QtDialogs::ChooseFile(const FileRequest& request) {
+/// The dialog set up as asked for, and what was chosen in it; none on cancel.
+QStringList QtDialogs::Choose(const FileRequest& request, QFileDialog::FileMode mode) {
     QFileDialog box(BoxParent(), ToQt(request.title));
     box.setCursor(Qt::ArrowCursor);
-    box.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    box.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    const bool save = request.save && mode == QFileDialog::AnyFile;
+    box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    box.setFileMode(mode);
     box.setOption(QFileDialog::HideNameFilterDetails);
-    box.setNameFilters(NameFilters(request.filter));
-    if (request.save) {
+    if (mode == QFileDialog::Directory) {
+        box.setOption(QFileDialog::ShowDirsOnly);
+    } else {
+        box.setNameFilters(NameFilters(request.filter));
+    }
+    if (save) {
         box.setDefaultSuffix(DefaultSuffix(request.filter));
     }
-    const QString initial = ToQt(request.initial);
-    const QFileInfo asked(initial);
-    QString folder = lastFolder_;
-    if (asked.isAbsolute() && asked.dir().exists()) {
-        folder = asked.absolutePath();
+    const QFileInfo asked(ToQt(request.initial));
+    QStringList folders{ToQt(request.folder)};
+    if (asked.isAbsolute()) {
+        folders += asked.absolutePath();
     }
-    box.setDirectory(QDir(folder).exists() && !folder.isEmpty() ? folder : QDir::homePath());
+    folders += {lastFolder_, QDir::homePath()};
+    const auto there = std::find_if(folders.begin(), folders.end(), [](const QString& folder) {
+        return !folder.isEmpty() && QDir(folder).exists();
+    });
+    if (there != folders.end()) {
+        box.setDirectory(*there);
+    }
     const QString name = asked.fileName();
-    if (!name.isEmpty() && !IsPattern(name)) {
+    if (!name.isEmpty() && !IsPattern(name) && mode != QFileDialog::Directory) {
         box.selectFile(name);
     }
     if (gate_.Exec(box) != QDialog::Accepted || box.selectedFiles().isEmpty()) {
-        return std::nullopt;
+        return {};
     }
     const QFileInfo chosen(box.selectedFiles().first());
-    lastFolder_ = chosen.absolutePath();
-    return FromQt(chosen.absoluteFilePath());
+    lastFolder_ =
+        mode == QFileDialog::Directory ? chosen.absoluteFilePath() : chosen.absolutePath();
+    return box.selectedFiles();
+}
+
+std::optional<Text> QtDialogs::ChooseFile(const FileRequest& request) {
+    const QStringList chosen =
+        Choose(request, request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    return chosen.isEmpty() ? std::nullopt
+                            : std::optional(FromQt(QFileInfo(chosen.first()).absoluteFilePath()));
+}
+
+std::vector<Text> QtDialogs::ChooseFiles(const FileRequest& request) {
+    std::vector<Text> paths;
+    for (const QString& path : Choose(request, QFileDialog::ExistingFiles)) {
+        paths.push_back(FromQt(QFileInfo(path).absoluteFilePath()));
+    }
+    return paths;
+}
+
+std::optional<Text> QtDialogs::ChooseFolder(const FileRequest& request) {
+    const QStringList chosen = Choose(request, QFileDialog::Directory);
+    return chosen.isEmpty() ? std::nullopt
+                            : std::optional(FromQt(QFileInfo(chosen.first()).absoluteFilePath()));
 }
 
 }  // namespace qt_adapter

@@ -1,6 +1,7 @@
 // Boxes that ask the user and wait. Timers and windows that are not blocked go on meanwhile.
 #pragma once
 
+#include <QFileDialog>
 #include <QString>
 #include <QStringList>
 
@@ -23,10 +24,14 @@ public:
     platform::Answer Message(TextView text, int flags, TextView title) override;
     std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override;
     std::optional<Text> ChooseFile(const FileRequest& request) override;
+    std::vector<Text> ChooseFiles(const FileRequest& request) override;
+    std::optional<Text> ChooseFolder(const FileRequest& request) override;
     /// Whether the show may start a program, as program_box.h says.
     platform::ProgramAnswer AskProgram(const platform::ProgramQuestion& question);
 
 private:
+    QStringList Choose(const FileRequest& request, QFileDialog::FileMode mode);
+
     Gate& gate_;
     QString lastFolder_;
 };

@@ -91,6 +91,7 @@ public:
     explicit Arguments(std::string_view rest) : rest_(Trimmed(rest)) {}
 
     bool AtEnd() const { return rest_.empty(); }
+    bool Quoted() const { return rest_.starts_with('"'); }
 
     /// A word up to the next blank.
     std::string Plain(const char* what) {
@@ -235,6 +236,20 @@ void ReadOptionalText(Arguments& from, Action& action) {
     }
 }
 
+/// A path as it stands, or several in quotes.
+void ReadChoose(Arguments& from, Action& action) {
+    Arguments words = from;
+    if (!from.AtEnd() && words.Quoted()) {
+        action.paths.push_back(words.Word("path"));
+        while (!words.AtEnd()) {
+            action.paths.push_back(words.Word("path"));
+        }
+        from = words;
+    } else if (!from.AtEnd()) {
+        action.paths.push_back(from.Rest());
+    }
+}
+
 void ReadPrint(Arguments& from, Action& action) {
     action.name = from.Plain("name");
 }
@@ -299,7 +314,7 @@ constexpr Keyword kKeywords[] = {
     {"close", ActionKind::Close, ReadClose, "close W"},
     {"answer", ActionKind::Answer, ReadAnswer, "answer yes|no|ok|cancel"},
     {"input", ActionKind::Input, ReadOptionalText, "input [TEXT]"},
-    {"choose", ActionKind::Choose, ReadOptionalText, "choose [PATH]"},
+    {"choose", ActionKind::Choose, ReadChoose, "choose [PATH]..."},
     {"print", ActionKind::Print, ReadPrint, "print NAME"},
     {"expect", ActionKind::Expect, ReadExpect, "expect NAME VALUE"},
     {"expect-trace", ActionKind::ExpectTrace, ReadEvent,

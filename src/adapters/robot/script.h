@@ -71,8 +71,8 @@ struct Action {
     std::string name;     // of Print and Expect; Menu: the entry, with "(index)" where it has one;
                           // ExpectTrace, ExpectNo: the event
     std::vector<int> numbers;     // point, key code, rows, cells, exit status
-    std::optional<Text> text;     // Set, Input, Choose (none: cancel), Answer, Expect, Shot, Golden
-    std::vector<Text> paths;      // Drop; ExpectSlides: files; ExpectSounds: the commands
+    std::optional<Text> text;     // Set, Input (none: cancel), Answer, Expect, Shot, Golden
+    std::vector<Text> paths;      // Drop; Choose (none: cancel); ExpectSlides: files; ExpectSounds: the commands
     std::vector<double> moments;  // ExpectSlides, ExpectSounds: one for each of `paths`
     std::vector<FieldExpectation> fields;
 };

@@ -39,6 +39,14 @@ Text Absolute(const Text& path) {
     return text::FromUtf8(native.lexically_normal().string());
 }
 
+std::vector<Text> AbsolutePaths(const Action& action) {
+    std::vector<Text> paths;
+    for (const Text& path : action.paths) {
+        paths.push_back(Absolute(path));
+    }
+    return paths;
+}
+
 /// Expectations of the trace that no other line follows look at the whole run.
 size_t FirstAtEnd(const std::vector<Action>& script) {
     size_t first = script.size();
@@ -201,8 +209,7 @@ void ScriptedUser::Run(const Action& action) {
         case ActionKind::Input:
             return around_.dialogs.inputAnswers.push_back(action.text);
         case ActionKind::Choose:
-            return around_.dialogs.fileAnswers.push_back(
-                action.text ? std::optional(Absolute(*action.text)) : std::nullopt);
+            return around_.dialogs.fileAnswers.push_back(AbsolutePaths(action));
         case ActionKind::Print:
             return Print(action);
         case ActionKind::Expect:
@@ -244,10 +251,7 @@ bool ScriptedUser::Act(const Action& action, model::Window& window, model::Visib
             window.Unload();
             return true;
         case ActionKind::Drop: {
-            std::vector<Text> paths;
-            for (const Text& path : action.paths) {
-                paths.push_back(Absolute(path));
-            }
+            const std::vector<Text> paths = AbsolutePaths(action);
             // Where the control takes none, they fall to the window around it.
             return target.Drop(paths) || window.Drop(paths);
         }

@@ -67,4 +67,12 @@ void TraceFileDialog(platform::Trace& trace, const platform::Dialogs::FileReques
          unanswered);
 }
 
+void TraceFilesDialog(platform::Trace& trace, const platform::Dialogs::FileRequest& request,
+                      const std::vector<Text>& paths, bool unanswered) {
+    Tell(
+        trace, "dialog",
+        {{"title", request.title}, {"save", false}, {"initial", request.initial}, {"paths", paths}},
+        unanswered);
+}
+
 }  // namespace tracing

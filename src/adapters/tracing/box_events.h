@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "platform/dialogs.h"
 #include "platform/trace.h"
@@ -15,5 +16,8 @@ void TraceInput(platform::Trace& trace, TextView prompt, TextView title, TextVie
                 const std::optional<Text>& answer, bool unanswered);
 void TraceFileDialog(platform::Trace& trace, const platform::Dialogs::FileRequest& request,
                      const std::optional<Text>& path, bool unanswered);
+/// Of a dialog that takes several: "paths" in place of "path", empty on cancel.
+void TraceFilesDialog(platform::Trace& trace, const platform::Dialogs::FileRequest& request,
+                      const std::vector<Text>& paths, bool unanswered);
 
 }  // namespace tracing

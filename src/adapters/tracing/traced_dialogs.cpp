@@ -22,4 +22,16 @@ std::optional<Text> TracedDialogs::ChooseFile(const FileRequest& request) {
     return path;
 }
 
+std::vector<Text> TracedDialogs::ChooseFiles(const FileRequest& request) {
+    std::vector<Text> paths = inner_.ChooseFiles(request);
+    TraceFilesDialog(trace_, request, paths, false);
+    return paths;
+}
+
+std::optional<Text> TracedDialogs::ChooseFolder(const FileRequest& request) {
+    std::optional<Text> path = inner_.ChooseFolder(request);
+    TraceFileDialog(trace_, request, path, false);
+    return path;
+}
+
 }  // namespace tracing

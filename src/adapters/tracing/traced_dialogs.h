@@ -15,6 +15,8 @@ public:
     platform::Answer Message(TextView text, int flags, TextView title) override;
     std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override;
     std::optional<Text> ChooseFile(const FileRequest& request) override;
+    std::vector<Text> ChooseFiles(const FileRequest& request) override;
+    std::optional<Text> ChooseFolder(const FileRequest& request) override;
 
 private:
     platform::Dialogs& inner_;

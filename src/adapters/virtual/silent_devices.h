@@ -4,7 +4,9 @@
 #include <memory>
 
 #include "platform/canvas.h"
+#include "platform/file_changes.h"
 #include "platform/imaging.h"
+#include "platform/thumbnails.h"
 
 namespace virtual_adapter {
 
@@ -34,6 +36,10 @@ public:
 class BlindImaging : public platform::Imaging {
 public:
     void Prepare(const std::vector<platform::Wanted>&) override {}
+    platform::Outcome Save(const platform::BitmapPtr&, TextView, const platform::SaveForm&,
+                           const platform::Report&, platform::FileError&) override {
+        return platform::Outcome::Failed;
+    }
     Text VersionText() const override { return u"0"; }
     std::unique_ptr<platform::ImagingControl> MakeControl() override {
         return std::make_unique<BlindControl>();
@@ -48,6 +54,28 @@ public:
               TextView) override {}
     void DrawTurned(platform::Canvas&, int, int, const platform::Font&, const platform::Turn&,
                     platform::Color, TextView, std::span<const platform::Offset>) override {}
+};
+
+/// Nothing on the disk changes.
+class NoFileChanges : public platform::FileChanges {
+public:
+    platform::Outcome Copy(TextView, TextView, const platform::Report&,
+                           platform::FileError&) override {
+        return platform::Outcome::Failed;
+    }
+    platform::Outcome Move(TextView, TextView, const platform::Report&,
+                           platform::FileError&) override {
+        return platform::Outcome::Failed;
+    }
+    bool Trash(TextView, Text&, platform::FileError&) override { return false; }
+    bool Restore(TextView, TextView, platform::FileError&) override { return false; }
+    bool MakeFolder(TextView, platform::FileError&) override { return false; }
+    bool CanWrite(TextView) override { return false; }
+};
+
+class NoThumbnails : public platform::Thumbnails {
+public:
+    void Want(const void*, const std::vector<Text>&, int, Ready) override {}
 };
 
 }  // namespace virtual_adapter

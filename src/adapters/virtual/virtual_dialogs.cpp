@@ -62,12 +62,29 @@ std::optional<Text> VirtualDialogs::Input(TextView prompt, TextView title, TextV
     return answer;
 }
 
-std::optional<Text> VirtualDialogs::ChooseFile(const FileRequest& request) {
+std::optional<Text> VirtualDialogs::ChooseOne(const FileRequest& request) {
     requests.push_back(request);
-    const std::optional<std::optional<Text>> queued = Take(fileAnswers);
-    const std::optional<Text> path = queued ? *queued : std::nullopt;
+    const std::optional<ChosenFiles> queued = Take(fileAnswers);
+    const std::optional<Text> path =
+        queued && !queued->paths.empty() ? std::optional(queued->paths.front()) : std::nullopt;
     tracing::TraceFileDialog(trace_, request, path, !queued);
     return path;
+}
+
+std::optional<Text> VirtualDialogs::ChooseFile(const FileRequest& request) {
+    return ChooseOne(request);
+}
+
+std::vector<Text> VirtualDialogs::ChooseFiles(const FileRequest& request) {
+    requests.push_back(request);
+    const std::optional<ChosenFiles> queued = Take(fileAnswers);
+    std::vector<Text> paths = queued ? queued->paths : std::vector<Text>();
+    tracing::TraceFilesDialog(trace_, request, paths, !queued);
+    return paths;
+}
+
+std::optional<Text> VirtualDialogs::ChooseFolder(const FileRequest& request) {
+    return ChooseOne(request);
 }
 
 }  // namespace virtual_adapter

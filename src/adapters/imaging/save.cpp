@@ -1,0 +1,121 @@
+#include "adapters/imaging/save.h"
+
+#include <QFile>
+#include <QImage>
+#include <QImageWriter>
+#include <algorithm>
+#include <cerrno>
+#include <new>
+
+#include "adapters/imaging/pixels.h"
+#include "adapters/posix/error_text.h"
+#include "adapters/posix/new_file.h"
+#include "adapters/posix/watched_work.h"
+
+namespace imaging {
+
+using platform::Bitmap;
+using platform::SaveForm;
+using posix_adapter::WatchedWork;
+
+namespace {
+
+/// Indexed by SaveForm::Kind.
+constexpr const char* kFormats[] = {"bmp", "jpeg", "png"};
+
+constexpr int kMostPaletteBits = 8;
+
+/// A file that seems full as soon as its writer is to end.
+class WatchedFile : public QFile {
+public:
+    explicit WatchedFile(const WatchedWork& watched) : watched_(watched) {}
+
+protected:
+    qint64 writeData(const char* data, qint64 size) override {
+        return watched_.Stopped() ? -1 : QFile::writeData(data, size);
+    }
+
+private:
+    const WatchedWork& watched_;
+};
+
+/// The bitmap's own pixels, for as long as it lives.
+QImage Shared(const Bitmap& bitmap) {
+    return {reinterpret_cast<const uchar*>(bitmap.pixels.data()), bitmap.width, bitmap.height,
+            QImage::Format_RGB32};
+}
+
+QImage InForm(const Bitmap& picture, const SaveForm& form) {
+    if (form.bitsPerPixel > kMostPaletteBits) {
+        return Shared(picture);
+    }
+    if (form.kind == SaveForm::Jpeg) {
+        return Shared(picture).convertToFormat(QImage::Format_Grayscale8);
+    }
+    if (form.bitsPerPixel > 1) {
+        return Shared(picture).convertToFormat(QImage::Format_Indexed8);
+    }
+    const platform::BitmapPtr levels = TwoLevels(picture);
+    return levels ? Shared(*levels).convertToFormat(QImage::Format_Mono, Qt::ThresholdDither)
+                  : QImage();
+}
+
+int Write(const Bitmap& picture, const std::string& path, const SaveForm& form,
+          WatchedWork& watched) {
+    posix_adapter::NewFile target;
+    if (const int error = target.Begin(path)) {
+        return error;
+    }
+    const QImage image = InForm(picture, form);
+    if (image.isNull()) {
+        return ENOMEM;
+    }
+    WatchedFile file(watched);
+    if (!file.open(target.Fd(), QIODevice::WriteOnly, QFileDevice::DontCloseHandle)) {
+        return EIO;
+    }
+    QImageWriter writer(&file, kFormats[form.kind]);
+    if (form.kind == SaveForm::Jpeg) {
+        writer.setQuality(std::clamp(form.quality, 1, 100));
+    }
+    const bool written = writer.write(image) && file.flush();
+    if (watched.Stopped()) {
+        return ECANCELED;
+    }
+    if (!written || file.error() != QFileDevice::NoError) {
+        return file.error() == QFileDevice::ResourceError ? ENOSPC : EIO;
+    }
+    file.close();
+    target.KeepPermissions();
+    if (const int error = target.Flush()) {
+        return error;
+    }
+    return watched.MayCommit() ? target.Commit() : ECANCELED;
+}
+
+}  // namespace
+
+platform::Outcome SavePicture(const platform::BitmapPtr& picture, const std::string& nativePath,
+                              const SaveForm& form, const platform::Report& report, bool ownThread,
+                              platform::FileError& error) {
+    if (!picture || picture->Empty()) {
+        error.message = posix_adapter::ErrorText(EINVAL);
+        return platform::Outcome::Failed;
+    }
+    int failure = 0;
+    const platform::Outcome outcome = posix_adapter::RunWatched(
+        [picture, nativePath, form](WatchedWork& watched) {
+            try {
+                return Write(*picture, nativePath, form, watched);
+            } catch (const std::bad_alloc&) {
+                return ENOMEM;
+            }
+        },
+        report, ownThread, failure);
+    if (outcome == platform::Outcome::Failed) {
+        error.message = posix_adapter::ErrorText(failure);
+    }
+    return outcome;
+}
+
+}  // namespace imaging
