@@ -204,6 +204,15 @@ void FileList::Refresh() {
     }
 }
 
+bool FileList::ShowPictures(bool on) {
+    if (!Reachable()) {
+        return false;
+    }
+    Pictures = on;
+    PicturesChanged();
+    return true;
+}
+
 void FileList::PropertyChanged(Control&, PropertyBase& property) {
     if (&property == &Path || &property == &Pattern) {
         Refresh();
@@ -245,6 +254,18 @@ void FolderList::PropertyChanged(Control&, PropertyBase& property) {
     }
 }
 
+namespace {
+
+bool IsDisk(const platform::Place& place) {
+    return place.kind >= platform::Place::Disk;
+}
+
+bool IsHabit(const platform::Place& place) {
+    return place.kind >= platform::Place::Document && place.kind < platform::Place::Disk;
+}
+
+}  // namespace
+
 DriveList::DriveList(Window* window, std::string name)
     : ListBox(window, ControlKind::DriveList, std::move(name), kSelectOne) {
     Listen(this);
@@ -261,15 +282,37 @@ bool DriveList::Open(TextView path) {
     return true;
 }
 
-void DriveList::Refresh() {
+void DriveList::Refresh(const std::vector<platform::Place>& own) {
     Clear();
     places_.clear();
     if (folders) {
         places_ = folders->Places();
     }
+    for (const platform::Place& place : own) {
+        const bool known = std::any_of(places_.begin(), places_.end(),
+                                       [&](const auto& one) { return one.path == place.path; });
+        if (!known) {
+            places_.insert(std::find_if(places_.begin(), places_.end(), IsDisk), place);
+        }
+    }
     for (const platform::Place& place : places_) {
         AddItem(place.path);
     }
+    ListIndex = RowOf(Drive());
+}
+
+int DriveList::RowOf(TextView folder) const {
+    const Text inside = text::WithSeparator(folder);
+    int best = -1;
+    for (int row = 0; row < static_cast<int>(places_.size()); ++row) {
+        const platform::Place& place = places_[static_cast<size_t>(row)];
+        const Text placeInside = text::WithSeparator(place.path);
+        const bool holds = IsHabit(place) ? inside == placeInside : inside.starts_with(placeInside);
+        if (holds && (best < 0 || place.path.size() > List(best).size())) {
+            best = row;
+        }
+    }
+    return best;
 }
 
 void DriveList::OnChosen() {
@@ -278,10 +321,8 @@ void DriveList::OnChosen() {
 
 void DriveList::PropertyChanged(Control&, PropertyBase& property) {
     if (&property == &Drive) {
-        for (int row = 0; row < ListCount(); ++row) {
-            if (List(row) == Drive()) {
-                ListIndex = row;
-            }
+        if (const int row = RowOf(Drive()); row >= 0) {
+            ListIndex = row;
         }
         Change();
     }

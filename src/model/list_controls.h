@@ -8,6 +8,7 @@
 #include "model/control.h"
 #include "platform/canvas.h"
 #include "platform/folders.h"
+#include "platform/thumbnails.h"
 
 namespace model {
 
@@ -84,11 +85,17 @@ public:
     FileList(Window* window, std::string name, int multiSelect = kSelectOne);
     Property<Text> Path{*this, "Path"};
     Property<Text> Pattern{*this, "Pattern", u"*.*"};  // "*.jpg;*.png"; "*.*" is every file
+    Property<bool> Pictures{*this, "Pictures"};        // rows are shown with thumbnails
+    Event<> PicturesChanged;                           // by a person
     /// Given at start-up; outlives the window's use. Without it the list stays empty.
     platform::Folders* folders = nullptr;
+    /// The same; without it no thumbnails are shown.
+    platform::Thumbnails* thumbnails = nullptr;
 
     /// Reads the folder anew.
     void Refresh();
+    /// A person chooses between thumbnails and names alone. False unless Reachable.
+    bool ShowPictures(bool on);
 
 private:
     void PropertyChanged(Control& control, PropertyBase& property) override;
@@ -119,13 +126,18 @@ class DriveList : public ListBox, private Listener {
 public:
     DriveList(Window* window, std::string name);
     Property<Text> Drive{*this, "Drive"};
-    Event<> Change;  // Drive is another one, whoever changed it
+    Event<> Change;  // Drive is another one, or a person chose it once more
     platform::Folders* folders = nullptr;
 
     /// A person chooses a place, or the one that the path lies in. As FolderList::Open.
     bool Open(TextView path);
-    void Refresh();
+    /// Reads the places anew. `own` stand behind the desktop's own folders and ahead of the disks;
+    /// what is a place already is left out of them.
+    void Refresh(const std::vector<platform::Place>& own = {});
     const std::vector<platform::Place>& Places() const { return places_; }
+    /// Row of the place that the folder is or lies in, of several the nearest; -1 for none. The
+    /// folders of a person's habit count for themselves only, not for what lies in them.
+    int RowOf(TextView folder) const;
 
 protected:
     void OnChosen() override;

@@ -10,7 +10,19 @@ namespace platform {
 
 /// Somewhere that a person may want to set out from.
 struct Place {
-    enum Kind { Home, Desktop, Pictures, Music, Videos, Disk, Drive, Root } kind = Home;
+    enum Kind {
+        Home,
+        Desktop,
+        Pictures,
+        Music,
+        Videos,
+        Document,  // where the open document lies
+        Last,      // the folder that was taken last
+        Used,      // one that is taken often
+        Disk,
+        Drive,
+        Root
+    } kind = Home;
     Text path;   // full
     Text label;  // in the user's language
 };

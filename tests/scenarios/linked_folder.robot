@@ -23,6 +23,11 @@ expect LinkedFolder /usr
 menu mnuRENF
 expect Form12.Check1.Value 0
 expect Form12.Dir1.Path /usr
+expect Form12.Drive1.Drive /usr
+set Form12.Dir1 /usr/share
+expect Form12.Drive1.Drive /
+expect Form12.Dir1.Path /usr/share
+set Form12.Dir1 /usr
 shot linked_folder.png Form12
 set Form12.Check1 1
 click Form12.Command2

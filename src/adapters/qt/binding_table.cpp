@@ -6,6 +6,7 @@
 
 #include "adapters/qt/browser_binding.h"
 #include "adapters/qt/button_bindings.h"
+#include "adapters/qt/file_list_binding.h"
 #include "adapters/qt/grid_binding.h"
 #include "adapters/qt/list_binding.h"
 #include "adapters/qt/number_bindings.h"
@@ -47,7 +48,7 @@ constexpr KindRow kRows[] = {
     {ControlKind::TextBox, Tie<LineBinding, model::TextBox, QLineEdit>},
     {ControlKind::TextBox, Tie<LinesBinding, model::TextBox, QPlainTextEdit>},
     {ControlKind::ListBox, Tie<ListBinding, model::ListBox, QListView>},
-    {ControlKind::FileList, Tie<ListBinding, model::ListBox, QListView>},
+    {ControlKind::FileList, Tie<FileListBinding, model::FileList, QListView>},
     {ControlKind::ComboBox, Tie<ComboBinding, model::ListBox, QComboBox>},
     {ControlKind::DriveList, Tie<DriveBinding, model::DriveList, QComboBox>},
     {ControlKind::FolderList, Tie<FolderBinding, model::FolderList, QTreeView>},

@@ -11,20 +11,33 @@ namespace qt_adapter {
 
 namespace {
 
-QStyle::StandardPixmap IconOf(platform::Place::Kind kind) {
-    switch (kind) {
-        case platform::Place::Home:
-            return QStyle::SP_DirHomeIcon;
-        case platform::Place::Desktop:
-            return QStyle::SP_DesktopIcon;
-        case platform::Place::Disk:
-        case platform::Place::Drive:
-            return QStyle::SP_DriveHDIcon;
-        case platform::Place::Root:
-            return QStyle::SP_ComputerIcon;
-        default:
-            return QStyle::SP_DirIcon;
+/// The desktop's own icon, or the toolkit's where its theme has none.
+struct PlaceIcon {
+    platform::Place::Kind kind;
+    const char* theme;
+    QStyle::StandardPixmap otherwise;
+};
+constexpr PlaceIcon kPlaceIcons[] = {
+    {platform::Place::Home, "user-home", QStyle::SP_DirHomeIcon},
+    {platform::Place::Desktop, "user-desktop", QStyle::SP_DesktopIcon},
+    {platform::Place::Pictures, "folder-pictures", QStyle::SP_DirIcon},
+    {platform::Place::Music, "folder-music", QStyle::SP_DirIcon},
+    {platform::Place::Videos, "folder-videos", QStyle::SP_DirIcon},
+    {platform::Place::Document, "folder-documents", QStyle::SP_FileDialogStart},
+    {platform::Place::Last, "document-open-recent", QStyle::SP_FileDialogBack},
+    {platform::Place::Used, "folder-favorites", QStyle::SP_DirLinkIcon},
+    {platform::Place::Disk, "drive-removable-media", QStyle::SP_DriveFDIcon},
+    {platform::Place::Drive, "drive-harddisk", QStyle::SP_DriveHDIcon},
+    {platform::Place::Root, "computer", QStyle::SP_ComputerIcon},
+};
+
+QIcon IconOf(platform::Place::Kind kind, const QStyle& style) {
+    for (const PlaceIcon& icon : kPlaceIcons) {
+        if (icon.kind == kind) {
+            return QIcon::fromTheme(icon.theme, style.standardIcon(icon.otherwise));
+        }
     }
+    return {};
 }
 
 }  // namespace
@@ -86,7 +99,7 @@ void DriveBinding::ShowRow(int row) {
     }
     const platform::Place& place = places[static_cast<size_t>(row)];
     face_.setItemText(row, ToQt(place.label));
-    face_.setItemIcon(row, face_.style()->standardIcon(IconOf(place.kind)));
+    face_.setItemIcon(row, IconOf(place.kind, *face_.style()));
     face_.setItemData(row, ToQt(place.path), Qt::ToolTipRole);
 }
 

@@ -160,7 +160,7 @@ void ListBinding::FollowCurrent(const QModelIndex& current) {
         list_.ListIndex = current.row();
     }
     // Moving by keys counts as a click; with the mouse the click itself is told.
-    if (!held_ && current.isValid()) {
+    if (MovingPresses() && !held_ && current.isValid()) {
         QMetaObject::invokeMethod(
             this, [this] { Act([this] { list_.Press(); }); }, Qt::QueuedConnection);
     }

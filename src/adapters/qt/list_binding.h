@@ -18,6 +18,9 @@ public:
 protected:
     void SyncOwn() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Whether moving to a row by keys counts as a click.
+    virtual bool MovingPresses() const { return true; }
+    RowsModel& Rows() { return rows_; }
 
 private:
     bool SelectsMany() const { return list_.MultiSelect == model::kSelectMany; }

@@ -19,7 +19,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return ToQt(list_.List(index.row()));
         case Qt::DecorationRole:
-            return PictureOf(index.row());
+            return decoration ? decoration(index.row()) : PictureOf(index.row());
         default:
             return {};
     }

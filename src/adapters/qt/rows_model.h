@@ -21,6 +21,9 @@ public:
     bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                       const QModelIndex& parent) override;
 
+    /// What stands before a row's text; none by itself.
+    std::function<QVariant(int row)> decoration;
+
     /// Takes over a change that the list has already made.
     void Follow(const model::RowChange& change);
     /// The room for rows' pictures is another one.

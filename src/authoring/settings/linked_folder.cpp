@@ -1,5 +1,6 @@
 #include "authoring/settings/linked_folder.h"
 
+#include "authoring/shared/browser_memory.h"
 #include "authoring/shared/file_browser.h"
 #include "model/monitors.h"
 #include "model/windows/linked_folder.h"
@@ -67,6 +68,7 @@ void Command1_Click(Application& app) {
     app.state.LinkedFolder = WithoutSeparator(form12.Text1.Content);
     form12.Unload();
     app.state.LinkedFolderFlag = 1;
+    RememberFolder(app, app.state.LinkedFolder);
 }
 
 }  // namespace

@@ -1,32 +1,29 @@
 #include "authoring/shared/file_browser.h"
 
+#include <memory>
 #include <utility>
 
-#include "text/paths.h"
+#include "authoring/shared/browser_memory.h"
 
 namespace authoring {
 
-namespace {
-
-/// The place that the folder lies in: the one with the longest path.
-const platform::Place* PlaceOf(const model::DriveList& drive, const Text& folder) {
-    const platform::Place* best = nullptr;
-    const Text inside = text::WithSeparator(folder);
-    for (const platform::Place& place : drive.Places()) {
-        const bool longer = !best || place.path.size() > best->path.size();
-        if (longer && inside.starts_with(text::WithSeparator(place.path))) {
-            best = &place;
-        }
-    }
-    return best;
-}
-
-}  // namespace
-
 void AttachBrowser(model::DriveList& drive, model::FolderList& dir,
                    std::function<void()> folderChanged) {
-    drive.Change = [&drive, &dir] { dir.Path = drive.Drive(); };
-    dir.Change = [folderChanged = std::move(folderChanged)] {
+    // While one of the two follows the other, its change is no news to that one.
+    const auto following = std::make_shared<bool>(false);
+    drive.Change = [&drive, &dir, following] {
+        if (!*following) {
+            *following = true;
+            dir.Path = drive.Drive();
+            *following = false;
+        }
+    };
+    dir.Change = [&drive, &dir, following, folderChanged = std::move(folderChanged)] {
+        if (const int row = drive.RowOf(dir.Path()); !*following && row >= 0) {
+            *following = true;
+            drive.Drive = drive.List(row);
+            *following = false;
+        }
         if (folderChanged) {
             folderChanged();
         }
@@ -43,16 +40,26 @@ void AttachBrowser(model::DriveList& drive, model::FolderList& dir, model::FileL
     });
 }
 
-void OpenBrowser(model::Application& app, model::DriveList& drive, model::FolderList& dir,
+void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& dir,
                  const Text& folder) {
     drive.folders = &app.platform.folders;
     dir.folders = &app.platform.folders;
-    drive.Refresh();
-    if (const platform::Place* place = PlaceOf(drive, folder)) {
-        drive.Drive = place->path;
+    drive.Refresh(OwnPlaces(app, ReadBrowserMemory(app)));
+    if (dir.Path() == folder) {
+        dir.Refresh();  // what it holds may have changed since the last time
+        dir.Change();
     }
     dir.Path = folder;
-    dir.Refresh();  // the folder of the last time may have changed meanwhile
+}
+
+void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& dir,
+                 model::FileList& file, const Text& folder) {
+    file.folders = &app.platform.folders;
+    file.thumbnails = &app.platform.thumbnails;
+    file.Pictures = ReadBrowserMemory(app).pictures;
+    file.PicturesChanged.Anew() = [&app, &file] { RememberPictures(app, file.Pictures); };
+    OpenBrowser(app, drive, dir, folder);
+    file.Refresh();
 }
 
 }  // namespace authoring

@@ -8,8 +8,8 @@
 
 namespace authoring {
 
-/// Ties the lists together: a place opens its folder. `folderChanged` runs after each change of the
-/// folder, whoever made it.
+/// Ties the lists together: a place opens its folder, and the places show the one that the folder
+/// lies in. `folderChanged` runs after each change of the folder, whoever made it.
 void AttachBrowser(model::DriveList& drive, model::FolderList& dir,
                    std::function<void()> folderChanged = {});
 
@@ -17,8 +17,13 @@ void AttachBrowser(model::DriveList& drive, model::FolderList& dir,
 void AttachBrowser(model::DriveList& drive, model::FolderList& dir, model::FileList& file,
                    std::function<void()> folderChanged = {});
 
-/// Reads the places anew and shows the folder.
-void OpenBrowser(model::Application& app, model::DriveList& drive, model::FolderList& dir,
+/// Reads the places anew, those of the person's habit among them (browser_memory.h), and shows the
+/// folder; once each time that a window comes up. The folder counts as changed.
+void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& dir,
                  const Text& folder);
+
+/// The same with its files, with thumbnails where a person chose so last.
+void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& dir,
+                 model::FileList& file, const Text& folder);
 
 }  // namespace authoring

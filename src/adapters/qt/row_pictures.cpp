@@ -1,0 +1,149 @@
+#include "adapters/qt/row_pictures.h"
+
+#include <QEvent>
+#include <QIcon>
+#include <QPainter>
+#include <QStyle>
+#include <QVariant>
+#include <algorithm>
+
+namespace qt_adapter {
+
+namespace {
+
+constexpr int kMostHeldKiB = 64 * 1024;
+
+QPixmap Square(int side, double ratio) {
+    QPixmap square(QSize(side, side) * ratio);
+    square.setDevicePixelRatio(ratio);
+    square.fill(Qt::transparent);
+    return square;
+}
+
+/// A quiet frame where a picture will be.
+QPixmap Frame(const QWidget& widget, int side) {
+    QPixmap square = Square(side, widget.devicePixelRatioF());
+    QPainter painter(&square);
+    QColor line = widget.palette().color(QPalette::Text);
+    line.setAlphaF(0.2F);
+    painter.setPen(line);
+    painter.drawRect(QRectF(0.5, side / 8.0 + 0.5, side - 1.0, side * 3 / 4.0 - 1.0));
+    return square;
+}
+
+QPixmap WithIcon(const QWidget& widget, int side, QStyle::StandardPixmap which) {
+    QPixmap square = Frame(widget, side);
+    QPainter painter(&square);
+    const int icon = side / 3;
+    painter.drawPixmap(QRect((side - icon) / 2, (side - icon) / 2, icon, icon),
+                       widget.style()->standardIcon(which).pixmap(icon));
+    return square;
+}
+
+}  // namespace
+
+RowPictures::RowPictures(QListView& view, platform::Thumbnails& thumbnails, int side,
+                         std::function<Text(int)> pathOf)
+    : view_(view),
+      thumbnails_(thumbnails),
+      side_(side),
+      pathOf_(std::move(pathOf)),
+      held_(kMostHeldKiB),
+      waiting_(Frame(view, side)),
+      none_(WithIcon(view, side, QStyle::SP_FileIcon)),
+      film_(WithIcon(view, side, QStyle::SP_MediaPlay)) {
+    view.viewport()->installEventFilter(this);
+}
+
+RowPictures::~RowPictures() {
+    thumbnails_.Want(this, {}, 1, {});
+}
+
+QPixmap RowPictures::Of(int row) const {
+    const Text path = pathOf_(row);
+    if (const QPixmap* picture = held_.object(path)) {
+        return *picture;
+    }
+    return !without_.contains(path) ? waiting_ : text::IsVideoKind(path) ? film_ : none_;
+}
+
+void RowPictures::Forget() {
+    held_.clear();
+    without_.clear();
+    asked_.clear();
+}
+
+bool RowPictures::eventFilter(QObject*, QEvent* event) {
+    // Asked ahead of the painting, so that what is at hand already is in it.
+    if (event->type() == QEvent::Paint) {
+        AskForSeen();
+    }
+    return false;
+}
+
+/// Rows run from the top down, so the first one that reaches into sight is found by halving.
+int RowPictures::FirstSeenRow() const {
+    int low = 0, high = view_.model() ? view_.model()->rowCount() : 0;
+    while (low < high) {
+        const int middle = (low + high) / 2;
+        if (view_.visualRect(view_.model()->index(middle, 0)).bottom() < 0) {
+            low = middle + 1;
+        } else {
+            high = middle;
+        }
+    }
+    return low;
+}
+
+std::vector<Text> RowPictures::Missing() const {
+    std::vector<Text> missing;
+    const int rows = view_.model() ? view_.model()->rowCount() : 0;
+    for (int row = FirstSeenRow(); row < rows; ++row) {
+        if (view_.visualRect(view_.model()->index(row, 0)).top() > view_.viewport()->height()) {
+            break;
+        }
+        const Text path = pathOf_(row);
+        if (!held_.contains(path) && !without_.contains(path)) {
+            missing.push_back(path);
+        }
+    }
+    return missing;
+}
+
+void RowPictures::AskForSeen() {
+    std::vector<Text> missing = Missing();
+    // One that is answered needs no new question for the others.
+    const bool known = std::all_of(missing.begin(), missing.end(), [this](const Text& path) {
+        return std::find(asked_.begin(), asked_.end(), path) != asked_.end();
+    });
+    if (known && (!missing.empty() || asked_.empty())) {
+        return;
+    }
+    asked_ = missing;
+    const int side = static_cast<int>(side_ * view_.devicePixelRatioF());
+    thumbnails_.Want(this, missing, side,
+                     [this](const Text& path, const auto& picture) { Take(path, picture); });
+}
+
+void RowPictures::Take(const Text& path, const platform::BitmapPtr& picture) {
+    if (!picture || picture->Empty()) {
+        without_.insert(path);
+    } else {
+        const double ratio = view_.devicePixelRatioF();
+        QImage image(reinterpret_cast<const uchar*>(picture->pixels.data()), picture->width,
+                     picture->height, QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
+        auto* square = new QPixmap(Square(side_, ratio));
+        {
+            QPainter painter(square);
+            painter.drawImage(QPointF((side_ - picture->width / ratio) / 2,
+                                      (side_ - picture->height / ratio) / 2),
+                              image);
+        }
+        const int kibibytes = square->width() * square->height() * 4 / 1024;
+        held_.insert(path, square, std::max(1, kibibytes));
+    }
+    view_.viewport()->update();
+}
+
+}  // namespace qt_adapter
