@@ -71,7 +71,6 @@ TEST_F(DeskTest, ClipboardHoldsTextPictureOrFiles) {
 TEST_F(DeskTest, TrashKeepsANoteOfWhereItCameFrom) {
     const Variable data("XDG_DATA_HOME", folder.Path("data"));
     const Variable home("HOME", folder.Path());  // on the same disk
-    std::filesystem::create_directories(folder.Path("data"));
     posix_adapter::PosixFileChanges changes(files, MoveToTrash);
     for (const char* bare : {"a.jpg", "100%#写 真.jpg", "x\ny.jpg"}) {
         folder.Put(bare, bare);
