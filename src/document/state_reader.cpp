@@ -10,8 +10,8 @@
 #include "document/state_files.h"
 #include "document/state_lines.h"
 #include "document/unread_files.h"
-#include "model/sound_modes.h"
 #include "model/monitors.h"
+#include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "text/paths.h"
 

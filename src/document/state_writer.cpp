@@ -3,8 +3,8 @@
 #include "document/line_writer.h"
 #include "document/state_files.h"
 #include "document/state_lines.h"
-#include "model/sound_modes.h"
 #include "model/monitors.h"
+#include "model/sound_modes.h"
 #include "model/windows/slide_list.h"
 
 namespace document {

@@ -45,8 +45,8 @@ public:
     void InsertRows(int before, std::vector<Text> rows);
     /// Takes out `count` rows from `first` on, which are all there, and answers them.
     std::vector<Text> RemoveRows(int first, int count);
-    /// Row first + i becomes what row from[i] is now, its selection and picture with it. `from` holds each of
-    /// the rows from `first` on once.
+    /// Row first + i becomes what row from[i] is now, its selection and picture with it. `from`
+    /// holds each of the rows from `first` on once.
     void Reorder(int first, const std::vector<int>& from);
     void Clear();
     bool Selected(int row) const;

@@ -57,8 +57,9 @@ struct SilentPlatform {
         : files(programFolder), system(programFolder, files) {}
 
     platform::Platform Get() {
-        return {loop,   files, dialogs,  monitors, imaging,     textRenderer, sound,     video,
-                system, trace, codePage, folders,  fileChanges, clipboard,    wallpaper, thumbnails};
+        return {loop,        files,     dialogs,   monitors,  imaging,  textRenderer,
+                sound,       video,     system,    trace,     codePage, folders,
+                fileChanges, clipboard, wallpaper, thumbnails};
     }
 
     GuardedFiles files;

@@ -75,8 +75,7 @@ void RowsModel::Follow(const model::RowChange& change) {
             endRemoveRows();
             break;
         case model::RowChange::Replaced:
-            emit dataChanged(index(change.row), index(last),
-                             {Qt::DisplayRole, Qt::DecorationRole});
+            emit dataChanged(index(change.row), index(last), {Qt::DisplayRole, Qt::DecorationRole});
             break;
         case model::RowChange::Cleared:
             beginResetModel();

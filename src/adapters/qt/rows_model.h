@@ -1,4 +1,5 @@
-// The rows of a list box for a view, passed on change by change, and their dragging within the list.
+// The rows of a list box for a view, passed on change by change, and their dragging within the
+// list.
 #pragma once
 
 #include <QAbstractListModel>

@@ -70,9 +70,10 @@ struct Action {
     std::string control;  // empty: the window itself
     std::string name;     // of Print and Expect; Menu: the entry, with "(index)" where it has one;
                           // ExpectTrace, ExpectNo: the event
-    std::vector<int> numbers;     // point, key code, rows, cells, exit status
-    std::optional<Text> text;     // Set, Input (none: cancel), Answer, Expect, Shot, Golden
-    std::vector<Text> paths;      // Drop; Choose (none: cancel); ExpectSlides: files; ExpectSounds: the commands
+    std::vector<int> numbers;  // point, key code, rows, cells, exit status
+    std::optional<Text> text;  // Set, Input (none: cancel), Answer, Expect, Shot, Golden
+    std::vector<Text>
+        paths;  // Drop; Choose (none: cancel); ExpectSlides: files; ExpectSounds: the commands
     std::vector<double> moments;  // ExpectSlides, ExpectSounds: one for each of `paths`
     std::vector<FieldExpectation> fields;
 };
