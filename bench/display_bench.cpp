@@ -17,6 +17,7 @@
 #include "adapters/imaging/qt_imaging.h"
 #include "adapters/qt/desktop.h"
 #include "app/timers.h"
+#include "loop_around.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
@@ -96,33 +97,22 @@ private:
 };
 
 /// The desktop's loop, noting how long the program works between two sleeps.
-class WatchedLoop : public platform::EventLoop {
+class WatchedLoop : public LoopAround {
 public:
-    explicit WatchedLoop(platform::EventLoop& loop) : loop_(loop) {}
+    using LoopAround::LoopAround;
     std::vector<double> works;  // ms
 
-    void PumpEvents() override { loop_.PumpEvents(); }
     void Sleep(int milliseconds) override {
         works.push_back(NowMs() - woke_);
-        loop_.Sleep(milliseconds);
+        LoopAround::Sleep(milliseconds);
         woke_ = NowMs();
     }
     void Begin() {
         works.clear();
         woke_ = NowMs();
     }
-    double Timer() override { return loop_.Timer(); }
-    platform::DateTime Now() override { return loop_.Now(); }
-    double Milliseconds() override { return loop_.Milliseconds(); }
-    double Rnd() override { return loop_.Rnd(); }
-    void SetTimer(const void* key, int milliseconds, std::function<void()> tick) override {
-        loop_.SetTimer(key, milliseconds, std::move(tick));
-    }
-    void CancelTimer(const void* key) override { loop_.CancelTimer(key); }
-    void RunUntil(const std::function<bool()>& done) override { loop_.RunUntil(done); }
 
 private:
-    platform::EventLoop& loop_;
     double woke_ = 0;
 };
 
