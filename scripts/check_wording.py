@@ -2,8 +2,9 @@
 """Checks the words of the repository, and the length of its files.
 
 The repository explains itself: it names no numbered papers that a reader does not have, no folder
-of one developer's machine, and leaves no notes of unfinished work. Exit status 1 with one line for
-each offence.
+of one developer's machine, and leaves no notes of unfinished work. Its English is plain: words that
+readers have stumbled over are listed with what to write instead. Exit status 1 with one line for each
+offence.
 """
 
 import pathlib
@@ -16,6 +17,24 @@ RULES = [
     (re.compile(r"\b(?:P[a]rt|S[e]ction|Ch[a]pter)s? \d+(?:\.\d+)?\b"), "a paper the reader lacks"),
     (re.compile(r"\bsp[e]c(?:ification)?s?\b", re.IGNORECASE), "a paper the reader lacks"),
     (re.compile(r"\b(?:T[O]DO|F[I]XME|X[X]X)\b"), "unfinished work: open an issue"),
+]
+# The first is right for places, and for what somebody leaves.
+_PLACES = r"(?:doors?|windows?|box|boxes|buttons|pictures|canvas|canvases|edge|scenes)\b"
+STUMBLING = [
+    (re.compile(r"(?<!left )(?<!leave )(?<!leaves )(?<!stay )(?<!stays )(?<!lag )(?<!lags )"
+                r"\b[Bb]ehind\b(?! (?:(?:the|its|a|that|another|all|both) )?" + _PLACES + ")"),
+     "after, or following"),
+    (re.compile(r"\b(?:is|are|was|were|be|been|being|gets?|nobody) told\b(?! apart)"),
+     "say who says it: a box says so, it is reported"),
+    (re.compile(r"\b(?:tells?|told|hears?) of\b"), "says that, reports, describes"),
+    (re.compile(r"\b[Bb]y l[o]t\b|\bdr[a]ws? lots\b"), "at random"),
+    (re.compile(r"\b(?:other|another|any|either|both|every|whatever|own) r[o]ads?\b"),
+     "in another way, however"),
+    (re.compile(r"\bb[u]siness\b"), "say what it does not touch"),
+    (re.compile(r"\b[a]ffairs?\b"), "say who does it"),
+    (re.compile(r"\b(?:at|in) h[a]nd\b"), "open, held, available"),
+    (re.compile(r"\bin m[i]d-\w+"), "during"),
+    (re.compile(r"\bgoes? [u]nseen\b|\bcomes? to n[o]thing\b"), "say it plainly"),
 ]
 SOURCE_SUFFIXES = {".cpp", ".h", ".py", ".sh", ".cmake"}
 LONGEST = 600  # lines
@@ -54,7 +73,7 @@ def check_file(name, path):
     except UnicodeDecodeError:
         return
     for number, line in enumerate(lines, 1):
-        for pattern, why in RULES:
+        for pattern, why in RULES + [(pattern, f"write: {better}") for pattern, better in STUMBLING]:
             match = pattern.search(line)
             if match:
                 yield name, number, f"“{match.group(0)}”: {why}"

@@ -168,7 +168,7 @@ void Form1_Load(Application& app, bool roomy) {
     state.MainBottomMargin = app.windows.form1.Height - kHeightWithoutMargin;
     ClearMacroSlots(app);
     SetDefaults(app);
-    // Behind the margin, which belongs to the window as it is declared.
+    // After the margin, which belongs to the window as it is declared.
     RestoreWindowSize(app, roomy);
     CentreOnScreen(app);
     SetStartButtons(app);

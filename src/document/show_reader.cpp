@@ -1,5 +1,5 @@
 // Reading show documents of every version. The version tag grew by a digit with each block of
-// lines; what was added later without a new tag is told by the end of the file.
+// lines; what was added later without a new tag shows by the end of the file.
 #include <algorithm>
 
 #include "document/document_file.h"

@@ -1,5 +1,5 @@
-// Reading autstart.dat, of every age. The tag tells which of the lines ahead of the slides a file
-// holds; what was added behind them is told by the end of the file.
+// Reading autstart.dat, of every age. The tag says which of the lines before the slides a file
+// holds; what was added after them shows by the end of the file.
 #include <algorithm>
 
 #include "document/interval.h"
@@ -31,7 +31,7 @@ public:
     bool ReadTag();
     void ReadLines();
     /// The oldest files are a number and no more.
-    bool EndsBehindNumber() const { return tag_.empty() && reader_.AtEnd(); }
+    bool EndsAfterNumber() const { return tag_.empty() && reader_.AtEnd(); }
     bool HoldsMore() const { return reader_.HoldsMore(); }
 
 private:
@@ -220,13 +220,13 @@ Taken ReadStateFile(Application& app, TextView path) {
     StateReader reader(app, text::DecodeFile(bytes, app.platform.codePage));
     Taken taken = Taken::Nothing;
     if (reader.ReadTag()) {
-        taken = reader.EndsBehindNumber() ? Taken::Whole : Taken::Partly;
+        taken = reader.EndsAfterNumber() ? Taken::Whole : Taken::Partly;
         bool whole = false;
         try {
             reader.ReadLines();
             whole = true;
         } catch (const ReadFailure&) {
-            // Kept: what stands before the fault is in force, and nothing is said.
+            // Kept: what stands before the fault is in force, and no box comes up.
         }
         RebuildSchedule(app);
         FollowAllSettings(app);

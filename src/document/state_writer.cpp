@@ -52,7 +52,7 @@ LineWriter StateLines(Application& app) {
                           state.SoundListCheck6}) {
         lines.Number(value);
     }
-    // One row a slide whatever the second list holds: the lines behind must be found again.
+    // One row a slide whatever the second list holds: the lines after them must be found again.
     for (int i = 0; i < slides.ListCount(); ++i) {
         lines.Line(u"-" + (i < rows.ListCount() ? rows.List(i) : model::BlankScheduleRow()));
     }

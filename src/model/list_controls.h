@@ -121,7 +121,7 @@ private:
     void PropertyChanged(Control& control, PropertyBase& property) override;
 };
 
-/// The places from which a browser sets out: Drive is the chosen one's path. Rows are all paths.
+/// The places from which a browser starts: Drive is the chosen one's path. Rows are all paths.
 class DriveList : public ListBox, private Listener {
 public:
     DriveList(Window* window, std::string name);
@@ -131,7 +131,7 @@ public:
 
     /// A person chooses a place, or the one that the path lies in. As FolderList::Open.
     bool Open(TextView path);
-    /// Reads the places anew. `own` stand behind the desktop's own folders and ahead of the disks;
+    /// Reads the places anew. `own` stand after the desktop's own folders and before the disks;
     /// what is a place already is left out of them.
     void Refresh(const std::vector<platform::Place>& own = {});
     const std::vector<platform::Place>& Places() const { return places_; }

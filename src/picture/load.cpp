@@ -107,7 +107,7 @@ bool LoadSlidePicture(Application& app) {
     if (state.OverlayMode >= 2) {
         ReprocessPreviousPicture(app);
     }
-    // Asked behind the redraw, which pumps events: the window can be closed in it.
+    // Asked after the redraw, which pumps events: the window can be closed in it.
     const bool fullScreen = state.FullScreenActive == 1;
     platform::ImagingControl& lead = *windows.form4.Lead1.imaging;
     if (!lead.ReadInformation(path) || !lead.Load(path, FitForLoad(app, fullScreen))) {

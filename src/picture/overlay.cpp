@@ -135,7 +135,7 @@ void RedrawProcessedPicture(Application& app) {
         slidescreen.P2.SetPicture(nullptr);
     }
     app.platform.loop.PumpEvents();
-    // A context left behind by a closed window would pass for a picture on the screen.
+    // A context that a closed window left would pass for a picture on the screen.
     if (state.FullScreenActive != 1) {
         return;
     }

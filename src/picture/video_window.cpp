@@ -81,7 +81,7 @@ void Form_Activate(Application& app) {
     }
 }
 
-/// The window can go by other roads than its own: no video goes on unseen.
+/// Other routines can close the window, too: no video may play on without it.
 void Form_Unload(Application& app) {
     model::ShowState& state = app.state;
     model::Form24& form24 = app.windows.form24;

@@ -131,7 +131,7 @@ public:
 
 /// Pixel buffer with a pen. Everything is clipped to the buffer. A canvas keeps the rectangle that
 /// changed since a view last took it. What covers it whole is drawn when its pixels are first asked
-/// for: a canvas that nobody looks at costs neither time nor memory. Places and sizes are units;
+/// for: a canvas that is never shown costs neither time nor memory. Places and sizes are units;
 /// they are pixels unless the canvas was given more or fewer of those.
 class Canvas {
 public:
@@ -171,7 +171,7 @@ public:
     /// Nearest-pixel scaling of the whole source onto the rectangle.
     void StretchBlt(const Rect& target, const Bitmap& source);
 
-    /// Copies onto `area` what of `source` falls there when it lies on `whole`; both in pixels.
+    /// Draws `source` as if it lay on `whole`, but only the part within `area`; both in pixels.
     /// Where `whole` is a pixel larger or smaller, as rounding brings it, the source's last row or
     /// column comes twice or not at all; otherwise the nearest pixels are taken.
     void Lay(const Rect& area, const Bitmap& source, const Rect& whole);

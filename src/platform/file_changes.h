@@ -16,7 +16,7 @@ public:
     /// Reports bytes; a stop answers at once, however slow the disk. An empty report: never stops.
     virtual Outcome Copy(TextView from, TextView to, const Report& report, FileError& error) = 0;
 
-    /// The same, and the source is gone afterwards. It fails ahead of any work where the source
+    /// The same, and the source is gone afterwards. It fails before any work where the source
     /// could not be removed. Within one disk it takes no time and reports nothing.
     virtual Outcome Move(TextView from, TextView to, const Report& report, FileError& error) = 0;
 

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/// Somewhere that a person may want to set out from.
+/// A place from which a person may want to start browsing.
 struct Place {
     enum Kind {
         Home,

@@ -41,11 +41,11 @@ public:
 
     /// Resamples the held picture to whole pixels, both at least 1.
     virtual void Resize(int width, int height, int flags) = 0;
-    /// Resamples it to `pixels` that count as `size`. Nothing happens where memory does not do.
+    /// Resamples it to `pixels` that count as `size`. Nothing happens where memory is short.
     virtual void ResizeTo(Size size, Size pixels) = 0;
 
     // Filters change the held picture for good and keep its size; nothing happens without one, or
-    // where memory does not do.
+    // where memory is short.
 
     /// Greys of the brightness that the colours have.
     virtual void GrayScale() = 0;
@@ -99,10 +99,10 @@ public:
     virtual Text VersionText() const = 0;
     virtual std::unique_ptr<ImagingControl> MakeControl() = 0;
 
-    /// Pictures to decode ahead, the most urgent first, in place of those that were wanted before;
-    /// none: everything is let go. Only a hint: a later Load has the same result, also of a file
-    /// that changes meanwhile, and finds its picture decoded where time and memory sufficed. Cheap
-    /// to call again with what is wanted already.
+    /// Pictures to decode ahead, the most urgent first; they replace those of the last call, and an
+    /// empty list frees everything. Only a hint: a later Load has the same result, even if the file
+    /// changes meanwhile, but is fast where time and memory sufficed. Calling it again with the
+    /// same pictures is cheap.
     virtual void Prepare(const std::vector<Wanted>& wanted) = 0;
 
     /// Writes the pixels to a file, whole or not at all. Reports as FileChanges::Copy does, though

@@ -14,7 +14,7 @@ public:
     /// takes a wallpaper.
     virtual bool Set(TextView file, bool lasting, FileError& error) = 0;
 
-    /// Shows again what stood there ahead of the first wallpaper that was not lasting. A lasting
+    /// Shows again what stood there before the first wallpaper that was not lasting. A lasting
     /// one in between stays. Nothing to do is no failure.
     virtual void PutBack() = 0;
 };

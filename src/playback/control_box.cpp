@@ -58,7 +58,7 @@ bool HasDocumentBefore(const model::ShowState& state) {
     return state.LinkRunning == 1 && state.LinkIndex > 2;
 }
 
-bool HasDocumentBehind(const model::ShowState& state) {
+bool HasDocumentAfter(const model::ShowState& state) {
     return state.LinkRunning == 1 && state.LinkIndex < state.LinkEnd;
 }
 
@@ -67,7 +67,7 @@ bool HasDocumentBehind(const model::ShowState& state) {
 void FollowPlace(Application& app) {
     const model::ShowState& state = app.state;
     const bool previous = state.SlideIndex > 1 || HasDocumentBefore(state);
-    const bool next = state.SlideIndex < state.SlideListEnd - 1 || HasDocumentBehind(state);
+    const bool next = state.SlideIndex < state.SlideListEnd - 1 || HasDocumentAfter(state);
     app.windows.form1.Command5.Enabled = previous;
     app.windows.form1.Command7.Enabled = next;
     app.windows.slidescreen2.Command4.Enabled = previous;
@@ -109,7 +109,7 @@ bool MoveBack(Application& app) {
 bool MoveOn(Application& app) {
     model::ShowState& state = app.state;
     if (state.SlideIndex >= state.SlideListEnd - 1) {
-        return HasDocumentBehind(state) && TurnToDocument(app, 1);
+        return HasDocumentAfter(state) && TurnToDocument(app, 1);
     }
     state.SlideIndex = static_cast<int16_t>(state.SlideIndex + 1);
     return true;

@@ -38,7 +38,7 @@ bool MacroButtonsUp(const Application& app) {
     return app.state.MacroButtonsShown == 1 || app.windows.slidescreen.Command1.Visible;
 }
 
-/// Slide on the screen: a running show's index points at the one behind it.
+/// Slide on the screen: a running show's index points at the one after it.
 int ShownIndex(const model::ShowState& state) {
     return state.ShowRunning == 1 ? state.SlideIndex - 1 : state.SlideIndex;
 }
@@ -128,7 +128,7 @@ void StartFromIdle(Application& app) {
             app.windows.slidescreen2.Caption = u"START";
             app.windows.slidescreen2.Show();
         }
-        // Not ahead of Show: its activation copies the main window's buttons, which are still idle.
+        // Not before Show: its activation copies the main window's buttons, which are still idle.
         SetBoxButtons(app, {.close = true, .start = false, .pause = true});
     }
     state.FullScreenActive = 1;

@@ -13,7 +13,7 @@ namespace playback {
 namespace {
 
 /// Reads the document, rebuilds the slide list, sets LinkIndex to the entry that follows. Nothing:
-/// it could not be opened, which was told, and nothing changed.
+/// it could not be opened, which a box said, and nothing changed.
 Loading LoadEntry(Application& app, int entry) {
     model::ShowState& state = app.state;
     const Text path = state.LinkList(entry);

@@ -194,7 +194,7 @@ void ShowPicture(Application& app) {
     state.LoadMode = 0;
     app.windows.form1.mnuYOMI.Check(0);
     const bool loaded = picture::LoadSlidePicture(app);
-    // Not earlier: behind a video the load erases nothing.
+    // Not earlier: after a video the load erases nothing.
     state.LastWasVideo = 0;
     if (!loaded) {
         picture::HandleLoadFailure(app);

@@ -28,7 +28,7 @@ namespace programs {
 
 namespace {
 
-/// The program hears of its end from outside for as long as it runs.
+/// For as long as it lives, an end from outside reaches the program.
 class EndFromOutside {
 public:
     EndFromOutside(qt_adapter::Desktop& desktop, Application& application) : desktop_(desktop) {

@@ -58,8 +58,8 @@ private:
     qt_adapter::Desktop& desktop_;
 };
 
-/// Runs the program and answers its exit status. An exception that nobody takes is told on standard
-/// error and saves the state first; the status is then 70. Throws robot::ScriptError alone.
+/// Runs the program and answers its exit status. An uncaught exception is reported on standard
+/// error, and the state is saved first; the status is then 70. Throws robot::ScriptError alone.
 int RunUntilEnd(Application& application, const app::StartOptions& options);
 
 }  // namespace programs

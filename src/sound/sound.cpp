@@ -33,7 +33,7 @@ constexpr Kind kKinds[] = {
     {u"MP3", u"MPEGVideo", u"mp3", false, true},
 };
 
-/// What is said of a background file that cannot be read.
+/// The box about a background file that cannot be read.
 struct Complaint {
     int16_t mode;
     const char16_t* advice;

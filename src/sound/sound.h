@@ -14,7 +14,7 @@ Text CommonSound(const model::ShowState& state);
 /// Starts the piece of the sound mode in force: a pending preview (SoundPreviewFlag, which it
 /// uses up), what the slide step put into LinkedWavPath or LinkedMediaPath (which it empties), a
 /// background file, or the next entry of the sound list. Nothing happens without a file. A file
-/// that cannot be read is told in the background modes, and SoundPlaying becomes 0.
+/// that cannot be read is reported in the background modes, and SoundPlaying becomes 0.
 void StartSound(Application& app);
 
 /// Stops everything but the CD, and unloads the video window. Without a current slide the caption

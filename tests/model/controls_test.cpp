@@ -97,7 +97,7 @@ TEST(ListBox, KeepsRowsInOrderAndTellsEachChange) {
     Ear ear(window.List1);
     window.List1.AddItem(u"b");
     window.List1.AddItem(u"a", 0);
-    window.List1.AddItem(u"d", 99);  // behind the end: at the end
+    window.List1.AddItem(u"d", 99);  // beyond the end: at the end
     window.List1.AddItem(u"c", 2);
     window.List1.SetRow(0, u"A");
     EXPECT_EQ(window.List(), (Rows{u"A", u"b", u"c", u"d"}));
@@ -163,7 +163,7 @@ TEST(ListBox, SelectionMovesWithItsRow) {
     EXPECT_TRUE(window.List1.Selected(2));
 }
 
-TEST(ListBox, CurrentRowNeverLiesBehindTheEnd) {
+TEST(ListBox, CurrentRowNeverLiesBeyondTheEnd) {
     SampleWindow window;
     window.List1.AddItem(u"a");
     window.List1.AddItem(u"b");
@@ -260,7 +260,7 @@ TEST(Acts, DoNothingOnWhatCannotBeReached) {
     EXPECT_FALSE(window.Text1.PressKey(13));  // nobody listens
 }
 
-TEST(Acts, TextsOfAPersonAreToldOnce) {
+TEST(Acts, TextsOfAPersonAreReportedOnce) {
     SampleWindow window;
     int changes = 0;
     window.Text1.Change = [&] { ++changes; };
@@ -289,7 +289,7 @@ TEST(Grid, KeepsItsHeaderAndTellsEachChange) {
     Grid grid(&window, "Grid1", {u"no", u"name"});
     Ear ear(grid);
     grid.AddRow({u"1", u"a"});
-    grid.InsertRow(0, {u"0"});  // never ahead of the header
+    grid.InsertRow(0, {u"0"});  // never before the header
     grid.SetText(2, 1, u"b");
     grid.RemoveRow(0);
     grid.RemoveRow(3);
@@ -318,7 +318,7 @@ TEST(ScrollBar, StopsAtItsEndsAndTellsEveryChange) {
     EXPECT_TRUE(bar.MoveTo(500));
     EXPECT_EQ(bar.Value, 100);
     bar.MoveTo(100);
-    bar.Value = 3;  // the program's own changes are told too
+    bar.Value = 3;  // the program's own changes are announced too
     EXPECT_EQ(changes, 2);
     bar.MoveTo(-1);
     EXPECT_EQ(bar.Value, 0);

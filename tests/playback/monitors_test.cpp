@@ -72,7 +72,7 @@ TEST(Monitors, OneThatTheSystemCannotDescribeIsNotUsed) {
     EXPECT_EQ(show.screen.P2.canvas.Height(), 1080);
 }
 
-TEST(Monitors, OneUnpluggedInMidShowHandsItOver) {
+TEST(Monitors, OneUnpluggedDuringAShowHandsItOver) {
     Show show;
     UseSecondMonitor(show);
     show.state.ControlBoxFlag = 0;

@@ -126,7 +126,7 @@ TEST(StateOnDisk, AFullDiskKeepsTheStateOfTheRunBefore) {
     EXPECT_EQ(folder.Count(), 1u);
 }
 
-TEST(StateOnDisk, AMissingFolderIsSilentAtTheStartAndToldAtTheEnd) {
+TEST(StateOnDisk, AMissingFolderIsSilentAtTheStartAndReportedAtTheEnd) {
     const TemporaryFolder folder;
     DiskProgram program(folder.Path("gone"), u"/a.png", 1);
     document::ReadSoundListFile(program.app);

@@ -72,7 +72,7 @@ struct FileListView : testing::Test {
 TEST_F(FileListView, ShowsThumbnailsOfWhatIsSeen) {
     EXPECT_EQ(view.model()->rowCount(), 41);
     EXPECT_EQ(view.model()->index(0, 0).data().toString(), "A1.png");
-    EXPECT_EQ(view.model()->index(1, 0).data().toString(), "A3.png") << "3 ahead of 11";
+    EXPECT_EQ(view.model()->index(1, 0).data().toString(), "A3.png") << "3 before 11";
     EXPECT_TRUE(view.model()->index(0, 0).data(Qt::DecorationRole).isNull());
     ASSERT_TRUE(window.File1.ShowPictures(true));
     const QImage shot = view.viewport()->grab().toImage();

@@ -72,7 +72,7 @@ constexpr Press kPresses[] = {
 };
 constexpr int kEnd = 14600;
 
-/// What was told and where every press left the show.
+/// What was traced and where every press left the show.
 std::string Play(platform::EventLoop& loop) {
     fakes::FakePlatform fake;
     Application app({loop, fake.files, fake.dialogs, fake.monitors, fake.imaging, fake.textRenderer,

@@ -72,7 +72,7 @@ TEST_F(Lists, SelectionGoesBothWays) {
 }
 
 TEST_F(Lists, SeveralRowsAreOneChange) {
-    ListBinding binding(window.List1, view, gate);
+    ListBinding binding(window.List1, view, Site{gate});
     view.setSelectionMode(QAbstractItemView::ExtendedSelection);
     window.List1.InsertRows(0, {u"a", u"d"});
     window.List1.InsertRows(1, {u"b", u"c"});

@@ -199,11 +199,11 @@ TEST(StartSound, AMissingFileIsSilent) {
     }
 }
 
-TEST(StartSound, AFileThatCannotBeReadIsToldInTheBackgroundModes) {
+TEST(StartSound, AFileThatCannotBeReadIsReportedInTheBackgroundModes) {
     struct Setting {
         int16_t mode;
         const char16_t* path;
-        const char16_t* advice;  // null: nothing is told
+        const char16_t* advice;  // null: no box
         const char16_t* title;
     };
     for (const Setting& setting :

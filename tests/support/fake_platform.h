@@ -206,7 +206,7 @@ public:
     }
 };
 
-/// The virtual device with a record of what it was told. Without files: none can be opened.
+/// The virtual device with a record of its commands. Without files: none can be opened.
 class FakeSound : public virtual_adapter::VirtualSound {
 public:
     using VirtualSound::VirtualSound;

@@ -93,8 +93,8 @@ TEST(VirtualDialogs, EachSortOfBoxHasItsOwnQueueInOrder) {
     dialogs.answers.push_back(Answer::No);
     EXPECT_EQ(dialogs.Input(u"秒", u"時間", u"3"), Text(u"5"));
     EXPECT_EQ(dialogs.Input(u"秒", u"時間", u"3"), std::nullopt);
-    EXPECT_EQ(dialogs.ChooseFile({false, u"開く", u"KVS|*.kvs", u"*.kvs"}), Text(u"/a.kvs"));
-    EXPECT_EQ(dialogs.ChooseFile({true, u"保存", u"KVS|*.kvs", u"x.kvs"}), std::nullopt);
+    EXPECT_EQ(dialogs.ChooseFile({false, u"開く", u"KVS|*.kvs", u"*.kvs", {}}), Text(u"/a.kvs"));
+    EXPECT_EQ(dialogs.ChooseFile({true, u"保存", u"KVS|*.kvs", u"x.kvs", {}}), std::nullopt);
     EXPECT_EQ(dialogs.Message(u"", platform::kYesNo, u""), Answer::No);
     ASSERT_EQ(trace.lines.size(), 5u);
     EXPECT_EQ(trace.lines[0].event, "input");

@@ -30,7 +30,7 @@ bool Covers(Size outer, Size inner) {
 
 class QtImagingControl : public platform::ImagingControl {
 public:
-    /// `remembers`: whether what is loaded may be wanted ahead of a later Load.
+    /// `remembers`: whether what is loaded may be wanted before a later Load.
     QtImagingControl(platform::Files& files, ReadingContext& context, PreparedPictures& prepared,
                      bool remembers)
         : files_(files), context_(context), prepared_(prepared), remembers_(remembers) {}
@@ -240,7 +240,7 @@ QtImaging::QtImaging(platform::Files& files, bool prepares, const sandbox::Clien
       savesApart_(savesApart),
       context_(decoder),
       prepared_(decoder) {
-    // What a damaged file, or a decoding that was given up, lets the readers say is for nobody.
+    // What the readers say of a damaged file, or of a decoding that was given up, helps no one.
     QLoggingCategory::setFilterRules("qt.gui.imageio*=false");
     QImageReader::setAllocationLimit(static_cast<int>(kMostBytes >> 20));
 }

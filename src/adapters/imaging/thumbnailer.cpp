@@ -213,7 +213,7 @@ void Thumbnailer::Want(const void* owner, const std::vector<Text>& paths, int si
     {
         const std::lock_guard lock(core.mutex);
         std::erase_if(core.queue, [&](const Core::Wish& wish) { return wish.owner == owner; });
-        // Ahead of what other owners wait for: somebody looks at these now.
+        // Before what other owners wait for: somebody looks at these now.
         auto place = core.queue.begin();
         for (const Text& path : paths) {
             Core::Wish wish{owner, path, side};

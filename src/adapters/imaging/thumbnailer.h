@@ -23,7 +23,7 @@ struct ThumbnailOptions {
 class Thumbnailer : public platform::Thumbnails {
 public:
     explicit Thumbnailer(ThumbnailOptions options);
-    /// Waits for the threads, whose readers are told to give up. No answer comes any more.
+    /// Waits for the threads, after asking their readers to give up. No answer comes any more.
     ~Thumbnailer() override;
     Thumbnailer(const Thumbnailer&) = delete;
     Thumbnailer& operator=(const Thumbnailer&) = delete;

@@ -12,7 +12,7 @@ namespace posix_adapter {
 /// lies.
 using MoveToTrash = std::function<int(const std::string& nativePath, std::string& kept)>;
 
-/// A trash that is a folder, made at first use: names that are taken get "-2", "-3"… behind them.
+/// A trash that is a folder, made at first use: a name that is taken gets "-2", "-3"… appended.
 MoveToTrash TrashIn(std::string folder);
 
 class PosixFileChanges : public platform::FileChanges {

@@ -15,7 +15,7 @@ class WatchedWork {
 public:
     std::atomic<int64_t> done{0}, whole{0};  // what is reported
 
-    /// The work's last question ahead of the step that changes anything. False: it was stopped, and
+    /// The work's last question before the step that changes anything. False: it was stopped, and
     /// is to leave no trace.
     bool MayCommit() { return Change(kCommitting); }
     /// The caller's. False where the work commits already.

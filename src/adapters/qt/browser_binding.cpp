@@ -150,7 +150,7 @@ void FolderBinding::SyncOwn() {
     }
 }
 
-/// What was scrolled to ahead of the first showing was for another size.
+/// What was scrolled to before the first showing was for another size.
 bool FolderBinding::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show) {
         QMetaObject::invokeMethod(

@@ -19,7 +19,7 @@ ListBinding::ListBinding(model::ListBox& list, QListView& view, const Site& site
     view.setModel(&rows_);
     HearKeys();
     view.viewport()->installEventFilter(this);
-    // Rows can be dragged where somebody hears of it: see RowsModel.
+    // Rows can be dragged where a handler waits for it: see RowsModel.
     view.setDragDropMode(QAbstractItemView::InternalMove);
     connect(
         view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -79,7 +79,7 @@ void ListBinding::RowsChanged(model::Control&, const model::RowChange& change) {
     }
 }
 
-/// Runs of rows that differ are told to the view as one: there can be thousands of rows.
+/// Runs of rows that differ reach the view as one change: there can be thousands of rows.
 void ListBinding::ShowSelection(int first, int count) {
     QItemSelectionModel& seen = *view_.selectionModel();
     const auto differs = [&](int row, bool on) {
@@ -118,7 +118,7 @@ void ListBinding::SyncOwn() {
     }
     const QModelIndex current = rows_.index(list_.ListIndex);
     if (view_.currentIndex() != current) {
-        // Of several rows the selected ones are told one by one.
+        // Of several rows the selected ones are announced one by one.
         view_.selectionModel()->setCurrentIndex(current, SelectsMany()
                                                              ? QItemSelectionModel::NoUpdate
                                                              : QItemSelectionModel::ClearAndSelect);
@@ -159,7 +159,7 @@ void ListBinding::FollowCurrent(const QModelIndex& current) {
         const QScopedValueRollback<bool> guard(following_, true);
         list_.ListIndex = current.row();
     }
-    // Moving by keys counts as a click; with the mouse the click itself is told.
+    // Moving by keys counts as a click; with the mouse the click itself is passed on.
     if (MovingPresses() && !held_ && current.isValid()) {
         QMetaObject::invokeMethod(
             this, [this] { Act([this] { list_.Press(); }); }, Qt::QueuedConnection);

@@ -74,7 +74,7 @@ void RowPictures::Forget() {
 }
 
 bool RowPictures::eventFilter(QObject*, QEvent* event) {
-    // Asked ahead of the painting, so that what is at hand already is in it.
+    // Asked before the painting, so that what is held already is in it.
     if (event->type() == QEvent::Paint) {
         AskForSeen();
     }

@@ -41,7 +41,7 @@ size_t QuotedLength(std::string_view line) {
     return line.size();
 }
 
-/// Without what stands behind a '#' that begins a word outside quotes. A line of expectations also
+/// Without what follows a '#' that begins a word outside quotes. A line of expectations also
 /// has quotes after the sign between a field and its value.
 std::string_view WithoutComment(std::string_view line) {
     const bool hasFields = line.find("expect-") != std::string_view::npos;
@@ -85,7 +85,7 @@ double ToTime(std::string_view word) {
     return time;
 }
 
-/// What stands behind the keyword, read from left to right.
+/// What follows the keyword, read from left to right.
 class Arguments {
 public:
     explicit Arguments(std::string_view rest) : rest_(Trimmed(rest)) {}
@@ -167,7 +167,7 @@ void ReadTarget(Arguments& from, Action& action) {
 void ReadControl(Arguments& from, Action& action) {
     ReadTarget(from, action);
     if (action.control.empty()) {
-        throw BadLine{"the control is missing behind " + action.window};
+        throw BadLine{"the control is missing after " + action.window};
     }
 }
 

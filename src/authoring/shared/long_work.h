@@ -11,7 +11,7 @@
 
 namespace authoring {
 
-/// The controls of a window that tell of it. Any may be missing. They are seen while it runs only.
+/// The controls of a window that show it. Any may be missing. They are seen while it runs only.
 struct LongWorkFace {
     model::Window& window;
     model::Label* doing = nullptr;   // says what is being done
@@ -21,7 +21,7 @@ struct LongWorkFace {
 
 /// One piece of work from its making to its end, however it is left.
 ///
-/// A person's stop is answered as soon as the piece in hand is done, so a piece takes 20 ms at
+/// A person's stop is answered as soon as the current piece is done, so a piece takes 20 ms at
 /// most: a folder read, a picture asked for. Copying and saving, which take longer, get Report and
 /// then stop in their middle; either leaves no half-made file.
 class LongWork {
@@ -32,7 +32,7 @@ public:
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
 
-    /// Ahead of every piece: shows how many of how many are done (`whole` 0: not known) and runs
+    /// Before every piece: shows how many of how many are done (`whole` 0: not known) and runs
     /// handlers, a stop among them. False: the work is to end. May throw ProgramEnd.
     bool GoOn(int64_t done, int64_t whole);
 
