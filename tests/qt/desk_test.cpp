@@ -95,7 +95,9 @@ TEST_F(DeskTest, TrashKeepsANoteOfWhereItCameFrom) {
 
 struct Wallpapers : DeskTest {
     Variable path{"PATH", folder.Path("bin") + ":/usr/bin:/bin"};
-    Variable noBus{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"};
+    // None at all: the process's one connection would go to whatever stands here.
+    Variable noBus{"DBUS_SESSION_BUS_ADDRESS", ""};
+    Variable noRuntime{"XDG_RUNTIME_DIR", ""};
     DesktopWallpaper wallpaper{files};
 
     /// A program that notes what it is called with, and prints a value when asked for one.
