@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "app/link_start.h"
-#include "authoring/slide_list.h"
+#include "authoring/slide_list/documents.h"
 #include "document/document_file.h"
 #include "document/link_document.h"
 #include "model/windows/main_window.h"

@@ -5,7 +5,7 @@
 #include "app/radio_choices.h"
 #include "app/sound_menu.h"
 #include "authoring/link_list.h"
-#include "authoring/slide_list.h"
+#include "authoring/slide_list/documents.h"
 #include "document/settings_to_controls.h"
 #include "document/state_files.h"
 #include "model/windows/control_box.h"

@@ -2,12 +2,14 @@
 
 #include "authoring/settings/linked_folder.h"
 #include "authoring/settings/text_display.h"
+#include "authoring/slide_list/window.h"
 
 namespace authoring {
 
 void AttachWindows(model::Application& app) {
     AttachLinkedFolder(app);
     AttachTextDisplay(app);
+    AttachSlideList(app);
 }
 
 }  // namespace authoring

@@ -50,6 +50,7 @@ enum class ControlKind {
     Calendar,
     ScrollBar,
     Frame,
+    Panes,
     Player,
     Imaging
 };

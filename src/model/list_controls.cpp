@@ -115,6 +115,17 @@ void ListBox::SetRowPicture(int row, platform::BitmapPtr picture) {
     }
 }
 
+void ListBox::FacesChanged(int first, int count) {
+    if (count > 0) {
+        AnnounceRows({RowChange::Replaced, first, count});
+    }
+}
+
+void ListBox::ShowOnly(std::function<bool(const Text& row)> seen) {
+    seen_ = std::move(seen);
+    AnnounceRows({RowChange::Cleared, 0});
+}
+
 platform::BitmapPtr ListBox::RowPicture(int row) const {
     const bool there = row >= 0 && row < static_cast<int>(pictures_.size());
     return there ? pictures_[static_cast<size_t>(row)] : nullptr;
@@ -164,7 +175,7 @@ bool ListBox::Choose(const std::vector<int>& rows) {
     std::vector<bool> wanted(rows_.size(), false);
     int last = -1;
     for (const int row : rows) {
-        if (row >= 0 && row < ListCount()) {
+        if (row >= 0 && row < ListCount() && Seen(row)) {
             if (MultiSelect == kSelectOne && last >= 0) {
                 wanted[static_cast<size_t>(last)] = false;
             }

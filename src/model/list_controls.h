@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,23 @@ namespace model {
 /// Values of ListBox::MultiSelect.
 constexpr int kSelectOne = 0, kSelectMany = 2;  // many: with Ctrl and Shift, as in file managers
 
+/// Marks beside a row.
+enum RowMark : unsigned {
+    kMarkMissing = 1,  // its file is not there
+    kMarkText = 2,     // a linked text is
+    kMarkSound = 4,    // a linked sound is
+    kMarkFilm = 8
+};
+
+/// What is seen of a row in place of its text.
+struct RowFace {
+    Text file;    // of which a thumbnail is shown; empty: none
+    Text title;   // stands out
+    Text detail;  // second line
+    Text aside;   // at the far edge; may be empty
+    unsigned marks = 0;
+};
+
 /// Rows from 0. Every change is announced, one of several rows that follow each other at once.
 class ListBox : public VisibleControl {
 public:
@@ -25,6 +43,13 @@ public:
     /// Room for a picture before the text of each row, in pixels; 0: none.
     Property<int> PictureWidth{*this, "PictureWidth"};
     Property<int> PictureHeight{*this, "PictureHeight"};
+    /// Rows are shown by what it answers, asked again and again for those that are in sight and for
+    /// no others, so it must be quick. Without it they are shown by their text.
+    std::function<RowFace(int row)> face;
+    /// For the faces; outlives the window's use. Without it they have no thumbnails.
+    platform::Thumbnails* thumbnails = nullptr;
+    /// Faces stand as pictures beside each other, not as lines below each other.
+    Property<bool> AsGrid{*this, "AsGrid", false};
     /// A person dragged the selected rows in front of that row; ListCount is the end.
     Event<int> RowsDragged;
 
@@ -39,6 +64,13 @@ public:
     void SetRow(int row, Text value);
     /// The picture stands in the middle of the room and is cut off where it is larger. Null: none.
     void SetRowPicture(int row, platform::BitmapPtr picture);
+    /// `face` answers something else for these rows from now on.
+    void FacesChanged(int first, int count);
+    /// Only rows for whose text it answers true are seen, and only these can a person choose or
+    /// drag. Nothing else changes: numbers, current row and selection stay. Empty: all rows.
+    void ShowOnly(std::function<bool(const Text& row)> seen);
+    /// For a row that is there.
+    bool Seen(int row) const { return !seen_ || seen_(List(row)); }
     /// Null for a row without a picture or that is not there.
     platform::BitmapPtr RowPicture(int row) const;
     /// In front of row `before`, none of them selected. ListIndex stays the number that it is.
@@ -57,7 +89,8 @@ public:
     std::vector<int> SelectedRows() const;
 
     /// A person selects exactly these rows (the last one only where one can be selected); the last
-    /// becomes the current one. Rows that are not there are left out. False unless Reachable.
+    /// becomes the current one. Rows that are not there or not seen are left out. False unless
+    /// Reachable.
     bool Choose(const std::vector<int>& rows);
     /// A person drags the selected rows. True when RowsDragged was heard.
     bool DragTo(int before);
@@ -71,6 +104,7 @@ private:
     std::deque<Text> rows_;
     std::deque<bool> selected_;
     std::deque<platform::BitmapPtr> pictures_;  // empty until a row has one
+    std::function<bool(const Text& row)> seen_;
 };
 
 /// A list that is folded up to its current row.
@@ -89,8 +123,6 @@ public:
     Event<> PicturesChanged;                           // by a person
     /// Given at start-up; outlives the window's use. Without it the list stays empty.
     platform::Folders* folders = nullptr;
-    /// The same; without it no thumbnails are shown.
-    platform::Thumbnails* thumbnails = nullptr;
 
     /// Reads the folder anew.
     void Refresh();

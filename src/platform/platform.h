@@ -6,6 +6,7 @@
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
 #include "platform/file_changes.h"
+#include "platform/file_inquiry.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/imaging.h"
@@ -38,6 +39,7 @@ struct Platform {
     Clipboard& clipboard;
     Wallpaper& wallpaper;
     Thumbnails& thumbnails;
+    FileInquiry& fileInquiry;
     UserSettings settings = {};
 };
 

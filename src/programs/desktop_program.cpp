@@ -17,6 +17,7 @@
 #include "adapters/tracing/traced_sound.h"
 #include "adapters/tracing/traced_system.h"
 #include "adapters/tracing/window_tracer.h"
+#include "adapters/virtual/silent_devices.h"
 #include "app/exit.h"
 #include "playback/run.h"
 #include "programs/program.h"
@@ -76,6 +77,7 @@ struct Desk {
     qt_adapter::DesktopWallpaper desktopWallpaper;
     tracing::TracedWallpaper wallpaper;
     imaging::Thumbnailer thumbnails;
+    virtual_adapter::NoFileInquiry fileInquiry;
 };
 
 /// Nothing in a program that was built without the reader of discs.
@@ -114,7 +116,7 @@ int Run(int& argc, char** argv, const std::string& traceFile, const std::string&
     Application application({desktop.Loop(), around.files, dialogs, desktop.Monitors(),
                              around.imaging, desktop.TextRenderer(), sound, video, system, *trace,
                              around.codePage, around.folders, desk.fileChanges, desk.clipboard,
-                             desk.wallpaper, desk.thumbnails,
+                             desk.wallpaper, desk.thumbnails, desk.fileInquiry,
                              posix_adapter::ReadUserSettings(around.programFolder)});
     around.system.endShow = [&application] { playback::StopShow(application); };
     around.system.textOpener = [](TextView path) { return qt_adapter::Desktop::OpenText(path); };

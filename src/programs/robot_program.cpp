@@ -10,6 +10,7 @@
 #include "adapters/robot/script.h"
 #include "adapters/tracing/traced_desk.h"
 #include "adapters/tracing/traced_system.h"
+#include "adapters/virtual/silent_devices.h"
 #include "adapters/virtual/virtual_desk.h"
 #include "programs/program.h"
 
@@ -34,6 +35,7 @@ struct Desk {
     virtual_adapter::VirtualWallpaper virtualWallpaper;
     tracing::TracedWallpaper wallpaper;
     imaging::Thumbnailer thumbnails;
+    virtual_adapter::NoFileInquiry fileInquiry;
 };
 
 int Run(int& argc, char** argv, const robot::RobotOptions& options, LateClock& clock,
@@ -44,11 +46,11 @@ int Run(int& argc, char** argv, const robot::RobotOptions& options, LateClock& c
     Surroundings around(robot.AppFolder(), options.prepare, false);
     tracing::TracedSystem system(around.system, robot.Trace(), false);
     Desk desk(around, robot.Trace());
-    Application application({robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(),
-                             around.imaging, desktop.TextRenderer(), robot.Sound(), robot.Video(),
-                             system, robot.Trace(), around.codePage, around.folders,
-                             desk.fileChanges, desk.clipboard, desk.wallpaper, desk.thumbnails,
-                             posix_adapter::ReadUserSettings(around.programFolder)});
+    Application application(
+        {robot.Loop(), around.files, robot.Dialogs(), robot.Monitors(), around.imaging,
+         desktop.TextRenderer(), robot.Sound(), robot.Video(), system, robot.Trace(),
+         around.codePage, around.folders, desk.fileChanges, desk.clipboard, desk.wallpaper,
+         desk.thumbnails, desk.fileInquiry, posix_adapter::ReadUserSettings(around.programFolder)});
     const Views views(desktop, application);
     robot.Attach(application, {[&](model::Window& window, const std::string& file) {
                                    return desktop.Shot(window, file);

@@ -48,10 +48,11 @@ public:
 struct Program {
     fakes::FakePlatform around;
     AskedSystem system;
-    Application app{platform::Platform{
-        around.loop, around.files, around.dialogs, around.monitors, around.imaging,
-        around.textRenderer, around.sound, around.video, system, around.trace, around.codePage,
-        around.folders, around.fileChanges, around.clipboard, around.wallpaper, around.thumbnails}};
+    Application app{platform::Platform{around.loop, around.files, around.dialogs, around.monitors,
+                                       around.imaging, around.textRenderer, around.sound,
+                                       around.video, system, around.trace, around.codePage,
+                                       around.folders, around.fileChanges, around.clipboard,
+                                       around.wallpaper, around.thumbnails, around.fileInquiry}};
     model::ShowState& state = app.state;
     model::Windows& windows = app.windows;
     model::Form1& form1 = app.windows.form1;

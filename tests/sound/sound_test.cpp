@@ -250,11 +250,11 @@ TEST(StartSound, OneFailureIsTriedAgain) {
         HeldFiles held;
         held.Put(u"C:\\s\\b.WAV", "sound");
         held.failures = failures;
-        Application app{platform::Platform{player.loop, held, player.dialogs, player.monitors,
-                                           player.imaging, player.textRenderer, player.sound,
-                                           player.video, player.system, player.trace,
-                                           player.codePage, player.folders, player.fileChanges,
-                                           player.clipboard, player.wallpaper, player.thumbnails}};
+        Application app{platform::Platform{
+            player.loop, held, player.dialogs, player.monitors, player.imaging, player.textRenderer,
+            player.sound, player.video, player.system, player.trace, player.codePage,
+            player.folders, player.fileChanges, player.clipboard, player.wallpaper,
+            player.thumbnails, player.fileInquiry}};
         app.state.SoundMode = 3;
         app.state.WavFile = u"C:\\s\\b.WAV";
         sound::StartSound(app);

@@ -9,6 +9,7 @@
 #include "fake_files.h"
 #include "platform/clipboard.h"
 #include "platform/file_changes.h"
+#include "platform/file_inquiry.h"
 #include "platform/thumbnails.h"
 #include "platform/wallpaper.h"
 
@@ -141,6 +142,32 @@ public:
 private:
     FakeFiles& files_;
     std::map<const void*, Ready> ready_;
+};
+
+/// Answers at once: what it holds is there, with as many bytes as its content has.
+class FakeFileInquiry : public platform::FileInquiry {
+public:
+    explicit FakeFileInquiry(FakeFiles& files) : files_(files) {}
+    std::map<Text, platform::DateTime> taken;
+
+    void Ask(const void*, std::vector<Text> paths, What what, Ready ready) override {
+        for (const Text& path : paths) {
+            platform::FileFacts facts;
+            if (const FakeFiles::File* file = files_.Get(path)) {
+                facts.there = true;
+                facts.size = static_cast<int64_t>(file->content.size());
+                facts.changed = file->date;
+            }
+            if (const auto found = taken.find(path); what == DateTaken && found != taken.end()) {
+                facts.taken = found->second;
+            }
+            ready(path, facts);
+        }
+    }
+    void Forget(const void*) override {}
+
+private:
+    FakeFiles& files_;
 };
 
 }  // namespace fakes

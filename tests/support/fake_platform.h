@@ -390,9 +390,10 @@ struct FakePlatform {
     FakeClipboard clipboard;
     FakeWallpaper wallpaper;
     FakeThumbnails thumbnails{files};
+    FakeFileInquiry fileInquiry{files};
     Application app{platform::Platform{loop, files, dialogs, monitors, imaging, textRenderer, sound,
                                        video, system, trace, codePage, folders, fileChanges,
-                                       clipboard, wallpaper, thumbnails}};
+                                       clipboard, wallpaper, thumbnails, fileInquiry}};
 
     FakePlatform();
     ~FakePlatform();

@@ -57,9 +57,9 @@ struct SilentPlatform {
         : files(programFolder), system(programFolder, files) {}
 
     platform::Platform Get() {
-        return {loop,        files,     dialogs,   monitors,  imaging,  textRenderer,
-                sound,       video,     system,    trace,     codePage, folders,
-                fileChanges, clipboard, wallpaper, thumbnails};
+        return {loop,        files,     dialogs,   monitors,   imaging,    textRenderer,
+                sound,       video,     system,    trace,      codePage,   folders,
+                fileChanges, clipboard, wallpaper, thumbnails, fileInquiry};
     }
 
     GuardedFiles files;
@@ -78,6 +78,7 @@ struct SilentPlatform {
     virtual_adapter::VirtualClipboard clipboard;
     virtual_adapter::VirtualWallpaper wallpaper{files};
     virtual_adapter::NoThumbnails thumbnails;
+    virtual_adapter::NoFileInquiry fileInquiry;
 };
 
 }  // namespace commands

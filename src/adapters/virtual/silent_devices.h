@@ -5,6 +5,7 @@
 
 #include "platform/canvas.h"
 #include "platform/file_changes.h"
+#include "platform/file_inquiry.h"
 #include "platform/imaging.h"
 #include "platform/thumbnails.h"
 
@@ -76,6 +77,17 @@ public:
 class NoThumbnails : public platform::Thumbnails {
 public:
     void Want(const void*, const std::vector<Text>&, int, Ready) override {}
+};
+
+/// No file is there.
+class NoFileInquiry : public platform::FileInquiry {
+public:
+    void Ask(const void*, std::vector<Text> paths, What, Ready ready) override {
+        for (const Text& path : paths) {
+            ready(path, {});
+        }
+    }
+    void Forget(const void*) override {}
 };
 
 }  // namespace virtual_adapter

@@ -1,4 +1,4 @@
-#include "authoring/slide_list.h"
+#include "authoring/slide_list/documents.h"
 
 #include "authoring/sound_list.h"
 #include "document/main_caption.h"

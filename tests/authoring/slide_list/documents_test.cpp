@@ -1,5 +1,5 @@
 // New, open, save and distribution save of show documents.
-#include "authoring/slide_list.h"
+#include "authoring/slide_list/documents.h"
 
 #include <gtest/gtest.h>
 

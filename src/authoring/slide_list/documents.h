@@ -1,4 +1,4 @@
-// Form3: builds the slide list. So far the operations that the main window's file menu forwards.
+// Show documents of the slide list: new, open, save, distribution save.
 #pragma once
 
 #include "model/application.h"
