@@ -2,6 +2,7 @@
 
 #include "authoring/settings/linked_folder.h"
 #include "authoring/settings/text_display.h"
+#include "authoring/shared/file_search.h"
 #include "authoring/slide_list/window.h"
 
 namespace authoring {
@@ -9,6 +10,7 @@ namespace authoring {
 void AttachWindows(model::Application& app) {
     AttachLinkedFolder(app);
     AttachTextDisplay(app);
+    AttachFileSearch(app);
     AttachSlideList(app);
 }
 

@@ -4,6 +4,7 @@
 
 #include "model/windows/control_box.h"
 #include "model/windows/declared_windows.h"
+#include "model/windows/file_search.h"
 #include "model/windows/link_list.h"
 #include "model/windows/linked_folder.h"
 #include "model/windows/main_window.h"

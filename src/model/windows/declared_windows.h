@@ -30,12 +30,6 @@ struct Form14 : Window {
 struct Form16 : Window {
     Form16() : Window("Form16", u"選択画像の一括変換コピー") {}
 };
-struct Form18 : Window {  // file search
-    Form18() : Window("Form18") {}
-};
-struct Form19 : Window {  // folder selector
-    Form19() : Window("Form19") {}
-};
 struct Form20 : Window {
     Form20() : Window("Form20", u"画像連動効果音(WAV)録音・再生") {}
 };
