@@ -5,6 +5,7 @@
 #include "adapters/commands/usage.h"
 #include "adapters/gstreamer/gst_sound.h"
 #include "adapters/gstreamer/gst_video.h"
+#include "adapters/imaging/file_inquirer.h"
 #include "adapters/imaging/thumbnail_cache.h"
 #include "adapters/imaging/thumbnailer.h"
 #include "adapters/posix/memory.h"
@@ -17,7 +18,6 @@
 #include "adapters/tracing/traced_sound.h"
 #include "adapters/tracing/traced_system.h"
 #include "adapters/tracing/window_tracer.h"
-#include "adapters/virtual/silent_devices.h"
 #include "app/exit.h"
 #include "playback/run.h"
 #include "programs/program.h"
@@ -56,6 +56,10 @@ private:
     platform::Wallpaper& wallpaper_;
 };
 
+std::function<void(std::function<void()>)> PostTo(qt_adapter::Desktop& desktop) {
+    return [&desktop](std::function<void()> call) { desktop.Post(std::move(call)); };
+}
+
 /// What the windows do to a person's files, clipboard and wallpaper, told to the trace.
 struct Desk {
     Desk(qt_adapter::Desktop& desktop, Surroundings& around, platform::Trace& trace)
@@ -64,11 +68,10 @@ struct Desk {
           clipboard(qtClipboard, trace),
           desktopWallpaper(around.files),
           wallpaper(desktopWallpaper, trace),
-          thumbnails(
-              {.programFolder = around.programFolder,
-               .cacheFolder = imaging::ThumbnailCache::OfDesktop(),
-               .post = [&desktop](std::function<void()> call) { desktop.Post(std::move(call)); }}) {
-    }
+          thumbnails({.programFolder = around.programFolder,
+                      .cacheFolder = imaging::ThumbnailCache::OfDesktop(),
+                      .post = PostTo(desktop)}),
+          fileInquiry({.programFolder = around.programFolder, .post = PostTo(desktop)}) {}
 
     posix_adapter::PosixFileChanges posixChanges;
     tracing::TracedFileChanges fileChanges;
@@ -77,7 +80,7 @@ struct Desk {
     qt_adapter::DesktopWallpaper desktopWallpaper;
     tracing::TracedWallpaper wallpaper;
     imaging::Thumbnailer thumbnails;
-    virtual_adapter::NoFileInquiry fileInquiry;
+    imaging::FileInquirer fileInquiry;
 };
 
 /// Nothing in a program that was built without the reader of discs.
@@ -104,9 +107,7 @@ int Run(int& argc, char** argv, const std::string& traceFile, const std::string&
     gst_adapter::GstSound device(around.files, desktop.Loop(), output, DiscReader(),
                                  posix_adapter::UserSetting(around.programFolder, "cd"));
     tracing::TracedSound sound(device, *trace);
-    gst_adapter::GstVideo video(around.files, output, [&desktop](std::function<void()> call) {
-        desktop.Post(std::move(call));
-    });
+    gst_adapter::GstVideo video(around.files, output, PostTo(desktop));
     around.system.ask = [&desktop](const platform::ProgramQuestion& question) {
         return desktop.AskProgram(question);
     };

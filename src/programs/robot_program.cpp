@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "adapters/commands/usage.h"
+#include "adapters/imaging/file_inquirer.h"
 #include "adapters/imaging/thumbnailer.h"
 #include "adapters/posix/posix_file_changes.h"
 #include "adapters/robot/options.h"
@@ -10,7 +11,6 @@
 #include "adapters/robot/script.h"
 #include "adapters/tracing/traced_desk.h"
 #include "adapters/tracing/traced_system.h"
-#include "adapters/virtual/silent_devices.h"
 #include "adapters/virtual/virtual_desk.h"
 #include "programs/program.h"
 
@@ -26,7 +26,8 @@ struct Desk {
           clipboard(virtualClipboard, trace),
           virtualWallpaper(around.files),
           wallpaper(virtualWallpaper, trace),
-          thumbnails({.programFolder = around.programFolder}) {}
+          thumbnails({.programFolder = around.programFolder}),
+          fileInquiry({.programFolder = around.programFolder}) {}
 
     posix_adapter::PosixFileChanges posixChanges;
     tracing::TracedFileChanges fileChanges;
@@ -35,7 +36,7 @@ struct Desk {
     virtual_adapter::VirtualWallpaper virtualWallpaper;
     tracing::TracedWallpaper wallpaper;
     imaging::Thumbnailer thumbnails;
-    virtual_adapter::NoFileInquiry fileInquiry;
+    imaging::FileInquirer fileInquiry;
 };
 
 int Run(int& argc, char** argv, const robot::RobotOptions& options, LateClock& clock,

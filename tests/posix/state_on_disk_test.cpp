@@ -22,10 +22,11 @@ namespace {
 struct DiskProgram {
     fakes::FakePlatform around;
     posix_adapter::PosixFiles files;
-    Application app{platform::Platform{
-        around.loop, files, around.dialogs, around.monitors, around.imaging, around.textRenderer,
-        around.sound, around.video, around.system, around.trace, around.codePage, around.folders,
-        around.fileChanges, around.clipboard, around.wallpaper, around.thumbnails}};
+    Application app{platform::Platform{around.loop, files, around.dialogs, around.monitors,
+                                       around.imaging, around.textRenderer, around.sound,
+                                       around.video, around.system, around.trace, around.codePage,
+                                       around.folders, around.fileChanges, around.clipboard,
+                                       around.wallpaper, around.thumbnails, around.fileInquiry}};
 
     DiskProgram(const std::string& folder, const char16_t* slide, int slides)
         : files(folder + "/") {

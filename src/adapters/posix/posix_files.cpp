@@ -176,9 +176,12 @@ int PosixFiles::Readable(TextView path) {
 std::optional<platform::DateTime> PosixFiles::LastWrite(TextView path) {
     struct stat status {};
     const std::optional<std::string> found = Find(path);
+    return found && IsPlainFile(*found, status) ? WrittenAt(status) : std::nullopt;
+}
+
+std::optional<platform::DateTime> WrittenAt(const struct stat& status) {
     struct tm local {};
-    if (!found || !IsPlainFile(*found, status) ||
-        localtime_r(&status.st_mtim.tv_sec, &local) == nullptr) {
+    if (localtime_r(&status.st_mtim.tv_sec, &local) == nullptr) {
         return std::nullopt;
     }
     return platform::FromCalendar({local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,

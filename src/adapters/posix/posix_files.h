@@ -32,6 +32,9 @@ private:
     PathFinder finder_;
 };
 
+/// Last-write time as Files has it; nullopt for one that has no local time.
+std::optional<platform::DateTime> WrittenAt(const struct stat& status);
+
 /// Opens a plain file for reading without ever waiting for it. Invalid with errno set otherwise:
 /// EISDIR for a folder, ENODEV for a fifo or device.
 Descriptor OpenPlainFile(const std::string& nativePath);
