@@ -233,6 +233,7 @@ bool GoBack(const EditedList& list, std::deque<RowStep>& from, std::deque<RowSte
     Restore(list, step.selection);
     ShowCount(list);
     to.push_back(std::move(back));
+    list.history.Changed();
     return true;
 }
 
@@ -262,6 +263,7 @@ UndoStep::~UndoStep() {
     if (history.undo.size() > kMostUndoSteps) {
         history.undo.pop_front();
     }
+    history.Changed();
 }
 
 model::ListRow RowAt(const EditedList& list, int row) {
@@ -358,6 +360,7 @@ void ForgetSteps(const EditedList& list) {
     list.history.undo.clear();
     list.history.redo.clear();
     list.history.open.edits.clear();
+    list.history.Changed();
 }
 
 }  // namespace document

@@ -18,7 +18,7 @@ public:
     Property<bool> Enabled{*this, "Enabled", true};
     Property<bool> Visible{*this, "Visible", true};
     Property<bool> Checked{*this, "Checked", false};
-    Property<Text> Shortcut{*this, "Shortcut"};  // "Ctrl+N", "F5", "Space"; empty: none
+    Property<Text> Shortcut{*this, "Shortcut"};  // "Ctrl+N", "F5"; several: "Ctrl+Y; F6"
     Event<> Click;
 
     /// A person can choose it: it and all menus above are visible and enabled.

@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "model/property.h"
 #include "text/text.h"
 
 namespace model {
@@ -52,6 +53,7 @@ struct RowHistory {
     std::deque<RowStep> undo, redo;  // the newest at the end
     RowStep open;                    // while depth is above 0
     int depth = 0;
+    Event<> Changed;  // something can be taken back or done again that could not, or no longer
 };
 
 }  // namespace model

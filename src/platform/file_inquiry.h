@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "platform/event_loop.h"
@@ -15,15 +16,22 @@ struct FileFacts {
     bool there = false;  // a plain file that was found
     int64_t size = 0;    // bytes
     std::optional<DateTime> changed;
-    std::optional<DateTime> taken;  // by the camera; only where it was asked for
+    std::optional<DateTime> taken;      // by the camera; only where it was asked for
+    std::optional<uint64_t> beginning;  // BeginningSum; only where it was asked for
 };
+
+/// Bytes of a file's beginning by which it is known again under another name.
+constexpr size_t kBeginningBytes = 16384;
+/// Of at most that many bytes. Equal bytes have equal sums, in every run.
+uint64_t BeginningSum(std::string_view bytes);
 
 /// Looks at files on workers, since a disk can be asleep or far away.
 class FileInquiry {
 public:
     virtual ~FileInquiry() = default;
 
-    enum What { Presence, DateTaken };  // DateTaken: presence and all else, too; opens the file
+    /// The last two open the file; they answer what Presence does, too.
+    enum What { Presence, DateTaken, Beginning };
     using Ready = std::function<void(const Text& path, const FileFacts& facts)>;
 
     /// `ready` is called once for each path, on the caller's thread: later from the event loop, in

@@ -41,6 +41,10 @@ public:
     /// without case; "*.*" is every file), in natural order; none where it cannot be read.
     virtual std::vector<Text> Files(TextView path, TextView patterns) = 0;
 
+    /// The same text for the same folder, by whatever links it was reached; empty where there is
+    /// none. What walks a tree enters a folder once by it.
+    virtual Text Identity(TextView path) = 0;
+
     /// The user's home folder, where browsers open.
     virtual Text Home() = 0;
 

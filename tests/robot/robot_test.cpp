@@ -419,11 +419,13 @@ TEST(Robot, ShotThatCannotBeSavedIsAFault) {
 
 TEST(Robot, NamesAreCheckedBeforeTheProgramStarts) {
     for (const char* line :
-         {"click Form99", "click Form1.Command99", "click Form1.Timer1", "click Form1.mnuOPEN",
-          "menu mnuNOTHING", "menu mnuKUFL 2", "menu mnuFILE", "menu Command1",
-          "select Form1.Command1 0", "set Form1.Command1 1", "set Form3.Check1 2",
-          "set Form15.Option1 0", "print Nonsense", "print Form1.Command1",
-          "expect Form1.Command1.Colour 1", "shot a.png Form99", "close Form99"}) {
+         {"click Form99",         "click Form1.Command99", "click Form1.Timer1",
+          "click Form1.mnuOPEN",  "menu mnuNOTHING",       "menu mnuKUFL 2",
+          "menu mnuFILE",         "menu Command1",         "menu Form3.mnuOPEN",
+          "menu Form99.mnuOPEN",  "menu Form3.mnuSORT",    "select Form1.Command1 0",
+          "set Form1.Command1 1", "set Form3.Check1 2",    "set Form15.Option1 0",
+          "print Nonsense",       "print Form1.Command1",  "expect Form1.Command1.Colour 1",
+          "shot a.png Form99",    "close Form99"}) {
         RobotRun run(std::string("quit\n") + line + "\n");
         try {
             run.Play();

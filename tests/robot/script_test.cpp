@@ -54,11 +54,15 @@ TEST(Script, TargetsNameWindowAndControl) {
 }
 
 TEST(Script, MenuEntriesTakeAnIndexEitherWay) {
-    const auto script = ParseScript("menu mnuOPEN\nmenu mnuKUFL 1\nmenu mnuKUFL(1)", "x.robot");
-    ASSERT_EQ(script.size(), 3u);
+    const auto script = ParseScript(
+        "menu mnuOPEN\nmenu mnuKUFL 1\nmenu mnuKUFL(1)\nmenu Form3.mnuFACE 0", "x.robot");
+    ASSERT_EQ(script.size(), 4u);
+    EXPECT_EQ(script[0].window, "Form1");
     EXPECT_EQ(script[0].name, "mnuOPEN");
     EXPECT_EQ(script[1].name, "mnuKUFL(1)");
     EXPECT_EQ(script[2].name, "mnuKUFL(1)");
+    EXPECT_EQ(script[3].window, "Form3");
+    EXPECT_EQ(script[3].name, "mnuFACE(0)");
 }
 
 TEST(Script, TextsReachToTheEndOfTheLineOrStandInQuotes) {

@@ -161,6 +161,9 @@ public:
             if (const auto found = taken.find(path); what == DateTaken && found != taken.end()) {
                 facts.taken = found->second;
             }
+            if (facts.there && what == Beginning) {
+                facts.beginning = platform::BeginningSum(files_.Get(path)->content);
+            }
             ready(path, facts);
         }
     }

@@ -352,6 +352,11 @@ public:
     }
     std::vector<Text> Subfolders(TextView path) override { return Names(path, true); }
     std::vector<Text> Files(TextView path, TextView) override { return Names(path, false); }
+    std::map<Text, Text> links;  // folders that lead to another one
+    Text Identity(TextView path) override {
+        const auto link = links.find(Text(path));
+        return link != links.end() ? link->second : IsFolder(path) ? Text(path) : Text();
+    }
     Text Home() override { return home; }
     Text HomeFolders() override { return homeFolders; }
     std::vector<platform::Place> Places() override { return places; }

@@ -166,6 +166,15 @@ std::vector<Text> PosixFolders::Files(TextView path, TextView patterns) {
     return names;
 }
 
+Text PosixFolders::Identity(TextView path) {
+    const std::optional<std::string> native = files_.Find(path);
+    struct stat status {};
+    if (!native || stat(native->c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) {
+        return {};
+    }
+    return text::FromUtf8(std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino));
+}
+
 Text PosixFolders::Home() {
     return text::FromUtf8(HomeFolder());
 }

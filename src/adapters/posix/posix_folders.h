@@ -16,6 +16,7 @@ public:
     bool IsFolder(TextView path) override;
     std::vector<Text> Subfolders(TextView path) override;
     std::vector<Text> Files(TextView path, TextView patterns) override;
+    Text Identity(TextView path) override;
     Text Home() override;
     Text HomeFolders() override;
     /// Home, the desktop's own folders, disks that are plugged in, the drives of the table, and the

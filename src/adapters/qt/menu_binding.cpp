@@ -87,8 +87,8 @@ void MenuBinding::Sync(const model::MenuEntry& entry) {
     action->setText(ToQt(entry.Caption()));
     action->setEnabled(entry.Enabled);
     action->setVisible(entry.Visible);
-    action->setShortcut(
-        QKeySequence::fromString(ToQt(entry.Shortcut()), QKeySequence::PortableText));
+    action->setShortcuts(
+        QKeySequence::listFromString(ToQt(entry.Shortcut()), QKeySequence::PortableText));
     if (entry.Checked && entry.Children().empty()) {
         action->setCheckable(true);
     }

@@ -184,8 +184,12 @@ void ReadKey(Arguments& from, Action& action) {
     action.numbers = {from.Number("key's number")};
 }
 
+/// Entries are those of the main window where no window stands before them.
 void ReadMenu(Arguments& from, Action& action) {
-    action.name = from.Plain("entry");
+    const std::string entry = from.Plain("entry");
+    const size_t dot = entry.find('.');
+    action.window = dot == std::string::npos ? "Form1" : entry.substr(0, dot);
+    action.name = dot == std::string::npos ? entry : entry.substr(dot + 1);
     if (!from.AtEnd()) {
         action.name += "(" + std::to_string(from.Number("index")) + ")";
     }
@@ -305,7 +309,7 @@ constexpr Keyword kKeywords[] = {
     {"dblclick", ActionKind::DoubleClick, ReadMouse, "dblclick W[.C] [X Y]"},
     {"rclick", ActionKind::RightClick, ReadMouse, "rclick W[.C] [X Y]"},
     {"key", ActionKind::Key, ReadKey, "key W[.C] CODE"},
-    {"menu", ActionKind::Menu, ReadMenu, "menu ENTRY [INDEX]"},
+    {"menu", ActionKind::Menu, ReadMenu, "menu [W.]ENTRY [INDEX]"},
     {"select", ActionKind::Select, ReadSelect,
      "select W.C [ROW...], select W.G ROW COL [ROW2 COL2]"},
     {"set", ActionKind::Set, ReadSet, "set W.C VALUE"},

@@ -66,7 +66,7 @@ struct Action {
     int line = 0;  // from 1
     Due due;
     ActionKind kind = ActionKind::Quit;
-    std::string window;   // of Click .. Close but Menu; of Shot and Golden where one is named
+    std::string window;   // of Click .. Close, Menu; of Shot and Golden where one is named
     std::string control;  // empty: the window itself
     std::string name;     // of Print and Expect; Menu: the entry, with "(index)" where it has one;
                           // ExpectTrace, ExpectNo: the event

@@ -66,8 +66,11 @@ std::string WhyNoSet(const Action& action, model::ControlKind kind) {
 
 /// Of a menu entry.
 std::string WhyNoChoice(model::Application& application, const Action& action) {
-    const auto* entry =
-        dynamic_cast<const model::MenuEntry*>(application.windows.form1.FindControl(action.name));
+    const model::Window* window = application.windows.Find(action.window);
+    if (!window) {
+        return "no such window: " + action.window;
+    }
+    const auto* entry = dynamic_cast<const model::MenuEntry*>(window->FindControl(action.name));
     if (!entry) {
         return "no such menu entry: " + action.name;
     }

@@ -287,9 +287,9 @@ bool ScriptedUser::Key(const Action& action, model::VisibleControl& target) {
 }
 
 void ScriptedUser::Menu(const Action& action) {
-    model::Window& form1 = application_->windows.form1;
-    auto& entry = dynamic_cast<model::MenuEntry&>(*form1.FindControl(action.name));
-    if (!CanUse(form1) || !entry.Choose()) {
+    model::Window& window = *application_->windows.Find(action.window);
+    auto& entry = dynamic_cast<model::MenuEntry&>(*window.FindControl(action.name));
+    if (!CanUse(window) || !entry.Choose()) {
         TraceUnheard(action);
     }
 }
@@ -338,9 +338,8 @@ bool ScriptedUser::Set(const Action& action, model::VisibleControl& target) {
 
 /// An act that no person could do, or that nobody listens to.
 void ScriptedUser::TraceUnheard(const Action& action) {
-    const std::string name = action.kind == ActionKind::Menu ? "Form1." + action.name
-                             : action.control.empty()        ? action.window
-                                                             : action.window + "." + action.control;
+    const std::string& part = action.kind == ActionKind::Menu ? action.name : action.control;
+    const std::string name = part.empty() ? action.window : action.window + "." + part;
     around_.trace.Event("act", {{"action", text::FromUtf8(ActionWord(action.kind))},
                                 {"name", text::FromUtf8(name)},
                                 {"unheard", true}});

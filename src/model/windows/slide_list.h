@@ -26,6 +26,7 @@ struct Form3 : Window {
     ListBox List1{this, "List1", kSelectMany};  // paths, in play order: the master copy
     ListBox List2{this, "List2", kSelectMany};  // schedule rows of 30 columns, as many as List1
     Label Label4{this, "Label4", u"0"};         // row count
+    Label SeenCount{this, "SeenCount"};         // how many rows are seen, while not all are
     Label Length{this, "Length"};               // how long the show lasts at the present interval
 
     // Adding.
