@@ -10,6 +10,7 @@
 #include "adapters/qt/grid_binding.h"
 #include "adapters/qt/list_binding.h"
 #include "adapters/qt/number_bindings.h"
+#include "adapters/qt/panes_binding.h"
 #include "adapters/qt/picture_bindings.h"
 #include "adapters/qt/text_bindings.h"
 
@@ -58,6 +59,7 @@ constexpr KindRow kRows[] = {
     {ControlKind::PictureBox, Tie<PictureBinding, model::PictureBox, CanvasWidget>,
      Plain<CanvasWidget>},
     {ControlKind::Image, Tie<ImageBinding, model::Image, ImageWidget>},
+    {ControlKind::Panes, Tie<PanesBinding, model::Panes, PaneSplitter>},
     {ControlKind::Player, Tie<PlayerBinding, model::Player, VideoWidget>},
 };
 

@@ -8,7 +8,10 @@
 namespace qt_adapter {
 
 ButtonBinding::ButtonBinding(model::Button& button, QAbstractButton& widget, const Site& site)
-    : ControlBinding(button, widget, site), button_(button), face_(widget) {
+    : ControlBinding(button, widget, site),
+      button_(button),
+      face_(widget),
+      named_(!widget.accessibleName().isEmpty()) {
     connect(&widget, &QAbstractButton::clicked, this, [this] { Act([this] { button_.Press(); }); });
     HearKeys();
     Sync();
@@ -22,7 +25,7 @@ void ButtonBinding::SyncOwn() {
         font.setPointSizeF(QFontInfo(font).pointSizeF() * enlargement);
         face_.setFont(font);
     }
-    if (!caption.isEmpty()) {
+    if (!caption.isEmpty() && !named_) {
         face_.setAccessibleName(caption);
     }
 }

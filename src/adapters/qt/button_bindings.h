@@ -20,6 +20,7 @@ protected:
 private:
     model::Button& button_;
     QAbstractButton& face_;
+    bool named_;  // by the form; else it is called by its caption
 };
 
 class CheckBinding : public ControlBinding {

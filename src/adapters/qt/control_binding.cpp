@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "adapters/qt/canvas_widget.h"
+#include "adapters/qt/convert.h"
 #include "adapters/qt/stage_widget.h"
 #include "adapters/qt/virtual_keys.h"
 #include "platform/monitors.h"
@@ -85,6 +86,11 @@ double ControlBinding::Enlargement() const {
 void ControlBinding::Place() {
     const QWidget* parent = widget_.parentWidget();
     const bool onStage = qobject_cast<const StageWidget*>(parent) != nullptr;
+    if (widget_.property("placed").toBool()) {
+        widget_.setGeometry(ToPixels(control_.Left), ToPixels(control_.Top),
+                            ToPixels(control_.Width), ToPixels(control_.Height));
+        return;
+    }
     if (!host_ && !onStage) {
         return;
     }

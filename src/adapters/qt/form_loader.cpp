@@ -5,6 +5,7 @@
 
 #include "adapters/qt/canvas_widget.h"
 #include "adapters/qt/image_widget.h"
+#include "adapters/qt/panes_binding.h"
 #include "adapters/qt/stage_widget.h"
 #include "adapters/qt/video_widget.h"
 
@@ -48,6 +49,8 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
         widget = new ImageWidget(parent);
     } else if (className == "StageWidget") {
         widget = new StageWidget(parent);
+    } else if (className == "QSplitter") {
+        widget = new PaneSplitter(parent);
     } else if (className == "VideoWidget") {
         widget = new VideoWidget(video_, parent);
     } else {

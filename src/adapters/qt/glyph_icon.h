@@ -8,8 +8,7 @@
 
 namespace qt_adapter {
 
-/// Icon of a named shape: play, pause, stop, previous, next, fullscreen, close, slides, sound,
-/// calendar. Empty for another name. Enabled it has the colour of `role`.
+/// Icon of a shape of `glyph_shapes`; empty for another name. Enabled it has the colour of `role`.
 QIcon GlyphIcon(const QString& name, QPalette::ColorRole role = QPalette::ButtonText);
 
 /// The same in a colour of its own.

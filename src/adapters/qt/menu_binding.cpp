@@ -42,6 +42,15 @@ MenuBinding::~MenuBinding() {
     }
 }
 
+QAction* MenuBinding::ActionOf(const QString& entry) const {
+    for (const model::MenuEntry* each : entries_) {
+        if (QString::fromStdString(each->Name()) == entry) {
+            return actions_[each];
+        }
+    }
+    return nullptr;
+}
+
 void MenuBinding::Add(model::MenuEntry& entry, QWidget& menu) {
     QAction* action = nullptr;
     if (entry.Children().empty()) {

@@ -24,6 +24,10 @@ public:
 
     void PropertyChanged(model::Control& control, model::PropertyBase& property) override;
 
+    /// The action of an entry ("mnuFACE(0)"); null for a name that is not there. That of a menu has
+    /// the menu.
+    QAction* ActionOf(const QString& entry) const;
+
 private:
     void Add(model::MenuEntry& entry, QWidget& menu);
     void AddChildren(model::MenuEntry& entry, QWidget& menu);

@@ -153,6 +153,12 @@ void WindowView::PlaceInPixels() {
                                       QSize(scaled(wanted.width), scaled(wanted.height))));
 }
 
+/// What a monitor has room for, its frame and title left out.
+QSize WindowView::RoomForWindow() const {
+    constexpr QSize kFrame(8, 40);
+    return Offscreen() ? root_->size() : root_->screen()->availableSize() - kFrame;
+}
+
 void WindowView::FollowPlace() {
     if (countsPixels_) {
         PlaceInPixels();

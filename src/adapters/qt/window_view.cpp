@@ -112,10 +112,12 @@ void WindowView::Build() {
     }
     DecorateWidgets();
     BindControls();
+    GiveFirstFocus();
     if (window_.Width == 0 && !fullScreen_) {
-        // Not said by the model: the form's own size.
-        window_.Width = root_->width() * platform::kTwipsPerPixel;
-        window_.Height = root_->height() * platform::kTwipsPerPixel;
+        // Not said by the model: the form's own size, as far as the monitor has room for it.
+        const QSize size = root_->size().boundedTo(RoomForWindow());
+        window_.Width = size.width() * platform::kTwipsPerPixel;
+        window_.Height = size.height() * platform::kTwipsPerPixel;
     }
     FollowCaption();
     if (!fullScreen_) {

@@ -7,7 +7,15 @@
 //   root   over         name of the window that this one stands above
 //   root   unseen       names of controls that are never shown
 //   canvas hostsObjects controls without a widget are made over this canvas when shown
+//   root   firstFocus   the widget that has the keyboard at first
 //   any    glyph, glyphRole  icon shape, and "highlight" for one on the accent colour
+//   any    focusKey     "Ctrl+F": gives it the keyboard
+//   any    roomOf       name of a control whose Width and Height in the model follow this one's
+//   any    placed       stands and is as large as the model says, whatever its parent's layout
+//   button entry        menu entry that it stands for, with its mark and its being enabled
+//   button menu         menu that it opens
+//   list   contextMenus "A B": entries of menu A and below them the menu B, at the mouse or keys
+//   list   keysHere     entries whose keys are theirs only while the list has the keyboard
 //   any    showWhile    "idle A !B": shown while the pointer is normal, A enabled, B disabled
 //   label  textWithDrop words used instead when the window takes dropped files
 // A label called windowCaption follows the window's caption.
@@ -61,11 +69,15 @@ private:
     void Bind(model::VisibleControl& control, QWidget& widget, const CanvasWidget* host);
     void MakeOverlay(model::VisibleControl& control);
     void DecorateWidgets();
+    void Decorate(QWidget& widget);
+    void TieToMenus(QWidget& widget);
     void ApplyConditions();
+    void GiveFirstFocus();
 
     void FollowVisible();
     void ShowFullScreen();
     void PlaceInPixels();
+    QSize RoomForWindow() const;
     void FollowPlace();
     void FollowSize();
     void FollowState();
