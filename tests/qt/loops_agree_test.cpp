@@ -77,7 +77,8 @@ std::string Play(platform::EventLoop& loop) {
     fakes::FakePlatform fake;
     Application app({loop, fake.files, fake.dialogs, fake.monitors, fake.imaging, fake.textRenderer,
                      fake.sound, fake.video, fake.system, fake.trace, fake.codePage, fake.folders,
-                     fake.fileChanges, fake.clipboard, fake.wallpaper, fake.thumbnails});
+                     fake.fileChanges, fake.clipboard, fake.wallpaper, fake.thumbnails,
+                     fake.fileInquiry});
     model::SetStartDefaults(app.state);
     app.windows.form4.Lead1.imaging = fake.imaging.MakeControl();
     app.windows.form4.Lead2.imaging = fake.imaging.MakeControl();
