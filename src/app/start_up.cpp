@@ -13,6 +13,8 @@
 #include "app/title_screen.h"
 #include "app/window_size.h"
 #include "authoring/attach.h"
+#include "authoring/shared/window_memory.h"
+#include "authoring/slide_list/signs.h"
 #include "document/link_document.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
@@ -236,6 +238,8 @@ void RunProgram(Application& application, const StartOptions& options) {
     picture::AttachVideoWindow(application);
     AttachMainMenus(application);
     authoring::AttachWindows(application);
+    const authoring::SlideListSigns slideListSigns(application);
+    const authoring::WindowMemory windowMemory(application, {&application.windows.form3});
     const PlayMenu playMenu(application);
     AttachDroppedFiles(application);
     form1.OnLoad = [&] { Form1_Load(application, options.roomy); };

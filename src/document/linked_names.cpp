@@ -11,18 +11,27 @@ Text WithoutThree(TextView name) {
     return Text(name.substr(0, name.size() < 3 ? 0 : name.size() - 3));
 }
 
+/// The stored folder has no separator of its own at the end; one without any name is the root.
+Text Folder(const model::ShowState& state) {
+    return state.LinkedFolder.empty() ? Text(u"\\") : text::WithSeparator(state.LinkedFolder);
+}
+
 }  // namespace
 
 Text LinkedName(Application& app, TextView slidePath, TextView extension) {
-    const auto& state = app.state;
-    if (state.LinkedFolderFlag == 0) {
+    if (app.state.LinkedFolderFlag == 0) {
         return WithoutThree(slidePath) + Text(extension);
     }
-    // The stored folder has no separator of its own at the end; one without any name is the root.
-    const Text folder =
-        state.LinkedFolder.empty() ? Text(u"\\") : text::WithSeparator(state.LinkedFolder);
     const Text name = app.platform.files.Dir(slidePath);
-    return name.empty() ? folder : folder + WithoutThree(name) + Text(extension);
+    return name.empty() ? Folder(app.state)
+                        : Folder(app.state) + WithoutThree(name) + Text(extension);
+}
+
+Text LinkedNameAsWritten(const model::ShowState& state, TextView slidePath, TextView extension) {
+    const bool apart = state.LinkedFolderFlag != 0;
+    return (apart ? Folder(state) + WithoutThree(text::BareName(slidePath))
+                  : WithoutThree(slidePath)) +
+           Text(extension);
 }
 
 }  // namespace document

@@ -11,4 +11,7 @@ namespace document {
 /// gives the folder and no name, not even the extension's base.
 Text LinkedName(Application& app, TextView slidePath, TextView extension);
 
+/// The same without asking the disk: by the picture's name as the path has it, there or not.
+Text LinkedNameAsWritten(const model::ShowState& state, TextView slidePath, TextView extension);
+
 }  // namespace document

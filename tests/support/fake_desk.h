@@ -144,33 +144,59 @@ private:
     std::map<const void*, Ready> ready_;
 };
 
-/// Answers at once: what it holds is there, with as many bytes as its content has.
+/// Answers at once, or when told to: what FakeFiles holds is there, with as many bytes as its
+/// content has.
 class FakeFileInquiry : public platform::FileInquiry {
 public:
     explicit FakeFileInquiry(FakeFiles& files) : files_(files) {}
     std::map<Text, platform::DateTime> taken;
+    bool late = false;        // answers wait for Answer
+    std::vector<Text> asked;  // every path, in order
 
-    void Ask(const void*, std::vector<Text> paths, What what, Ready ready) override {
+    void Ask(const void* owner, std::vector<Text> paths, What what, Ready ready) override {
+        asked.insert(asked.end(), paths.begin(), paths.end());
         for (const Text& path : paths) {
-            platform::FileFacts facts;
-            if (const FakeFiles::File* file = files_.Get(path)) {
-                facts.there = true;
-                facts.size = static_cast<int64_t>(file->content.size());
-                facts.changed = file->date;
-            }
-            if (const auto found = taken.find(path); what == DateTaken && found != taken.end()) {
-                facts.taken = found->second;
-            }
-            if (facts.there && what == Beginning) {
-                facts.beginning = platform::BeginningSum(files_.Get(path)->content);
-            }
-            ready(path, facts);
+            waiting_.push_back({owner, path, what, ready});
+        }
+        if (!late) {
+            Answer();
         }
     }
-    void Forget(const void*) override {}
+    void Forget(const void* owner) override {
+        std::erase_if(waiting_, [&](const Question& one) { return one.owner == owner; });
+    }
+    void Answer() {
+        while (!waiting_.empty()) {
+            const Question question = waiting_.front();
+            waiting_.erase(waiting_.begin());
+            question.ready(question.path, FactsOf(question));
+        }
+    }
 
 private:
+    struct Question {
+        const void* owner;
+        Text path;
+        What what;
+        Ready ready;
+    };
+
+    platform::FileFacts FactsOf(const Question& question) const {
+        platform::FileFacts facts;
+        if (const FakeFiles::File* file = files_.Get(question.path)) {
+            facts.there = true;
+            facts.size = static_cast<int64_t>(file->content.size());
+            facts.changed = file->date;
+        }
+        const auto found = taken.find(question.path);
+        if (question.what == DateTaken && found != taken.end()) {
+            facts.taken = found->second;
+        }
+        return facts;
+    }
+
     FakeFiles& files_;
+    std::vector<Question> waiting_;
 };
 
 }  // namespace fakes

@@ -1,7 +1,11 @@
 #include "authoring/slide_list/window.h"
 
+#include "authoring/slide_list/row_faces.h"
+
 namespace authoring {
 
-void AttachSlideList(model::Application&) {}
+void AttachSlideList(model::Application& app) {
+    AttachRowFaces(app);
+}
 
 }  // namespace authoring

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/controls.h"
+#include "model/known_files.h"
 #include "model/list_controls.h"
 #include "model/menu.h"
 #include "model/panes.h"
@@ -100,6 +101,7 @@ struct Form3 : Window {
     MenuArray mnuFACE{this, "mnuFACE", mnuVIEW, {u"一覧(&L)", u"縮小画像(&I)"}};
 
     RowHistory history;                 // of List1 and List2
+    KnownFiles known;                   // slides and what is linked to them
     Timer Timer1{this, "Timer1", 500};  // one shot: guards against a second click on a video
 };
 
