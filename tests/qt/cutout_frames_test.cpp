@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QMouseEvent>
 #include <QWidget>
+#include <algorithm>
 
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/form_loader.h"
@@ -69,28 +70,43 @@ struct CutoutFrames : testing::Test {
         desktop.Loop().PumpEvents();
         return desktop.WidgetOf(screen)->grab().toImage();
     }
-    /// The photo with every piece that stands, by the region it has.
-    QRgb Expected(int x, int y) {
+    struct Standing {
+        int left, top;  // pixels
+        const platform::Bitmap& shown;
+        platform::RegionPtr region;
+
+        bool Covers(int x, int y) const {
+            const int inX = x - left, inY = y - top;
+            return inX >= 0 && inY >= 0 && inX < shown.width && inY < shown.height &&
+                   (!region || region->Contains(inX, inY));
+        }
+    };
+    std::vector<Standing> Pieces() {
         const platform::Scale& scale = screen.P2.canvas.Scaling();
+        std::vector<Standing> pieces;
         for (auto& piece : screen.Picture1) {
-            const int inX = x - scale.X(piece->Left), inY = y - scale.Y(piece->Top);
-            const platform::Bitmap& shown = piece->Shown();
-            const bool inBox = inX >= 0 && inY >= 0 && inX < shown.width && inY < shown.height;
-            if (piece->Visible && inBox &&
-                (!piece->WindowRgn() || piece->WindowRgn()->Contains(inX, inY))) {
-                return kPiece;
+            if (piece->Visible) {
+                pieces.push_back({scale.X(piece->Left), scale.Y(piece->Top), piece->Shown(),
+                                  piece->WindowRgn()});
             }
         }
-        return PhotoPixel(x, y);
+        return pieces;
+    }
+    /// The photo with every piece that stands, by the region it has.
+    static QRgb Expected(const std::vector<Standing>& pieces, int x, int y) {
+        const bool covered = std::any_of(pieces.begin(), pieces.end(),
+                                         [&](const Standing& piece) { return piece.Covers(x, y); });
+        return covered ? kPiece : PhotoPixel(x, y);
     }
     void CheckFrame() {
         ++frames;
         const QImage frame = Frame();
         const platform::Size& pixels = screen.P2.canvas.Scaling().pixels;
+        const std::vector<Standing> pieces = Pieces();
         ASSERT_EQ(frame.size(), QSize(pixels.width, pixels.height));
         for (int y = 0; y < pixels.height; ++y) {
             for (int x = 0; x < pixels.width; ++x) {
-                if ((frame.pixel(x, y) | 0xFF000000u) != Expected(x, y)) {
+                if ((frame.pixel(x, y) | 0xFF000000u) != Expected(pieces, x, y)) {
                     wrong.push_back("frame " + std::to_string(frames) + " at " + std::to_string(x) +
                                     "," + std::to_string(y));
                     return;
