@@ -223,7 +223,7 @@ int main(int argc, char** argv) {
     Application app({loop, rest.files, rest.dialogs, desktop.Monitors(), imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, rest.trace,
                      rest.codePage, rest.folders, rest.fileChanges, rest.clipboard, rest.wallpaper,
-                     rest.thumbnails});
+                     rest.thumbnails, rest.fileInquiry});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);

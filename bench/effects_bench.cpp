@@ -80,7 +80,7 @@ int main(int argc, char** argv) {
     Application app({loop, rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, trace,
                      rest.codePage, rest.folders, rest.fileChanges, rest.clipboard, rest.wallpaper,
-                     rest.thumbnails});
+                     rest.thumbnails, rest.fileInquiry});
     model::SetStartDefaults(app.state);
     app.state.EffectSpeedFactor = 2;
     app.state.FullScreenActive = 1;

@@ -109,10 +109,11 @@ int main(int argc, char** argv) {
     commands::SilentPlatform silent("");
     const platform::Platform rest = silent.Get();
     const auto make = [&](platform::EventLoop& loop) {
-        auto app = std::make_unique<Application>(platform::Platform{
-            loop, rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
-            desktop.TextRenderer(), rest.sound, rest.video, rest.system, rest.trace, rest.codePage,
-            rest.folders, rest.fileChanges, rest.clipboard, rest.wallpaper, rest.thumbnails});
+        auto app = std::make_unique<Application>(
+            platform::Platform{loop, rest.files, rest.dialogs, desktop.Monitors(), rest.imaging,
+                               desktop.TextRenderer(), rest.sound, rest.video, rest.system,
+                               rest.trace, rest.codePage, rest.folders, rest.fileChanges,
+                               rest.clipboard, rest.wallpaper, rest.thumbnails, rest.fileInquiry});
         Prepare(*app);
         return app;
     };

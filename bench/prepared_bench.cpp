@@ -75,7 +75,7 @@ double Measure(qt_adapter::Desktop& desktop, platform::Files& files, bool prepar
     Application app({desktop.Loop(), files, rest.dialogs, desktop.Monitors(), imaging,
                      desktop.TextRenderer(), rest.sound, rest.video, rest.system, rest.trace,
                      rest.codePage, rest.folders, rest.fileChanges, rest.clipboard, rest.wallpaper,
-                     rest.thumbnails});
+                     rest.thumbnails, rest.fileInquiry});
     SetUpShow(app, paths);
     desktop.MakeViews(app.windows);
     app.windows.slidescreen.Show();

@@ -113,6 +113,17 @@ TEST_F(Inquiry, OpensAFileOnlyForTheDateTaken) {
     EXPECT_TRUE(AtOnce(Put("b.txt", "no picture"), FileInquiry::DateTaken).there);
 }
 
+TEST_F(Inquiry, KnowsAFileByItsBeginning) {
+    const std::string content = std::string(platform::kBeginningBytes, 'x') + "end";
+    const Text path = Put("a.jpg", content);
+    EXPECT_EQ(AtOnce(path, FileInquiry::Beginning).beginning, platform::BeginningSum(content));
+    EXPECT_EQ(AtOnce(path, FileInquiry::Beginning).size, static_cast<int64_t>(content.size()));
+    EXPECT_FALSE(AtOnce(path).beginning);
+    EXPECT_EQ(AtOnce(Put("empty.jpg", ""), FileInquiry::Beginning).beginning,
+              platform::BeginningSum(""));
+    EXPECT_FALSE(AtOnce(folder.TextPath("none.jpg"), FileInquiry::Beginning).beginning);
+}
+
 TEST_F(Inquiry, ByThreadsAnswersEveryQuestionOnTheAskingThread) {
     constexpr size_t kFiles = 1000;
     std::vector<Text> paths;

@@ -46,12 +46,15 @@ FileFacts FactsOf(const Text& path, What what, posix_adapter::PathFinder& finder
     facts.there = true;
     facts.size = status.st_size;
     facts.changed = posix_adapter::WrittenAt(status);
-    if (what == platform::FileInquiry::DateTaken) {
-        const posix_adapter::Descriptor file = posix_adapter::OpenPlainFile(*native);
-        if (file.Valid()) {
-            facts.taken = DateTaken(
-                [&](uint64_t at, size_t count) { return BytesOf(file.Get(), at, count); });
-        }
+    if (what == platform::FileInquiry::Presence) {
+        return facts;
+    }
+    const posix_adapter::Descriptor file = posix_adapter::OpenPlainFile(*native);
+    if (file.Valid() && what == platform::FileInquiry::DateTaken) {
+        facts.taken =
+            DateTaken([&](uint64_t at, size_t count) { return BytesOf(file.Get(), at, count); });
+    } else if (file.Valid()) {
+        facts.beginning = platform::BeginningSum(BytesOf(file.Get(), 0, platform::kBeginningBytes));
     }
     return facts;
 }
