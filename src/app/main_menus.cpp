@@ -1,10 +1,10 @@
 #include "app/main_menus.h"
 
 #include "app/number_dialogs.h"
-#include "app/open_window.h"
 #include "app/radio_choices.h"
 #include "app/sound_menu.h"
 #include "authoring/link_list.h"
+#include "authoring/shared/open_window.h"
 #include "authoring/slide_list/documents.h"
 #include "document/settings_to_controls.h"
 #include "document/state_files.h"
@@ -23,6 +23,11 @@
 namespace app {
 
 namespace {
+
+using authoring::CanOpen;
+using authoring::OpenInstead;
+using authoring::OpenModal;
+using authoring::OpenWindow;
 
 using Field = int16_t model::ShowState::*;
 

@@ -1,6 +1,6 @@
 #include "app/sound_menu.h"
 
-#include "app/open_window.h"
+#include "authoring/shared/open_window.h"
 #include "model/sound_modes.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/sound_windows.h"
@@ -9,6 +9,8 @@
 namespace app {
 
 namespace {
+
+using authoring::OpenWindow;
 
 constexpr int16_t kTrackOrder = 0;
 constexpr int16_t kProgrammeOrder = 2;

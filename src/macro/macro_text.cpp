@@ -69,14 +69,14 @@ std::optional<Text> HeaderText(Application& app) {
     return text;
 }
 
-Text NewMacroText(Application& app, TextView slide) {
+Text NewMacroText(Application& app, TextView path) {
     const model::ShowState& state = app.state;
     const Text text = HeaderText(app).value_or(TemplateText());
     if (!state.PendingMacroText.empty()) {
         return text + state.PendingMacroText + Text(kLineEnd);
     }
     // To be overwritten by the first line of text, so no line end follows it.
-    return state.UserHeaderFlag == 1 ? text + text::Upper(text::BareName(slide)) : text;
+    return state.UserHeaderFlag == 1 ? text + text::Upper(text::BareName(path)) : text;
 }
 
 bool Refuse(Application& app) {
@@ -95,7 +95,7 @@ bool EditMacroText(Application& app, TextView slide) {
     }
     if (pending || !app.platform.files.Exists(path)) {
         platform::FileError error;
-        const Text text = NewMacroText(app, slide);
+        const Text text = NewMacroText(app, path);
         if (!app.platform.files.Write(path, text::EncodeFile(text, app.platform.codePage), error)) {
             return Refuse(app);
         }

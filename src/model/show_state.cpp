@@ -145,6 +145,7 @@ void SetStartDefaults(ShowState& state) {
     for (const Setting& setting : Settings()) {
         WriteField(state, setting.field, setting.start);
     }
+    state.ListCheck1Flag = 1;
     state.TextOriginByMacro = 0;
 }
 
@@ -154,6 +155,7 @@ void SetNewDefaults(ShowState& state) {
             WriteField(state, setting.field, setting.fresh);
         }
     }
+    state.ListCheck1Flag = 1;
     state.TextOriginByMacro = 0;
 }
 

@@ -2,6 +2,8 @@
 // them; names of what is hidden are left out.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <vector>
 
 #include "text/text.h"
@@ -27,6 +29,12 @@ struct Place {
     Text label;  // in the user's language
 };
 
+/// What a search of a tree finds in one folder.
+struct FolderContent {
+    Text identity;                     // as Folders::Identity; empty where it cannot be read
+    std::vector<Text> folders, files;  // bare names, in natural order
+};
+
 class Folders {
 public:
     virtual ~Folders() = default;
@@ -44,6 +52,13 @@ public:
     /// The same text for the same folder, by whatever links it was reached; empty where there is
     /// none. What walks a tree enters a folder once by it.
     virtual Text Identity(TextView path) = 0;
+
+    /// Subfolders and matching files at once, of the files the first `mostFiles` in their order, in
+    /// memory that does not grow with what else the folder holds. While a large folder is read
+    /// `goOn` is asked every few milliseconds; it may throw, and false ends the reading with what
+    /// was found so far.
+    virtual FolderContent Read(TextView path, TextView patterns, size_t mostFiles,
+                               const std::function<bool()>& goOn) = 0;
 
     /// The user's home folder, where browsers open.
     virtual Text Home() = 0;

@@ -64,7 +64,7 @@ struct MacroText : testing::Test, fakes::FakePlatform {
 TEST_F(MacroText, TemplateWithTheNameInUpperCaseWithoutALineEnd) {
     app.state.UserHeaderFlag = 1;
     EXPECT_TRUE(macro::EditMacroText(app, slide));
-    EXPECT_EQ(Content(), Bytes(kTemplate + Text(u"UMI01.JPG")));
+    EXPECT_EQ(Content(), Bytes(kTemplate + Text(u"UMI01.TXT")));
     EXPECT_THAT(system.opened, ElementsAre(file));
     EXPECT_THAT(dialogs.messages, IsEmpty());
 }
@@ -89,7 +89,7 @@ TEST_F(MacroText, HeaderFileIsLeftAsideWhileNoneIsChosen) {
     app.state.UserHeaderFlag = 1;
     files.Put(u"C:\\app\\header.txt", "Kage=1\r\n");
     macro::EditMacroText(app, slide);
-    EXPECT_EQ(Content(), Bytes(kTemplate + Text(u"UMI01.JPG")));
+    EXPECT_EQ(Content(), Bytes(kTemplate + Text(u"UMI01.TXT")));
 }
 
 TEST_F(MacroText, WithoutAHeaderFileTheTemplateStandsAlone) {

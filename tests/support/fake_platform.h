@@ -357,6 +357,21 @@ public:
         const auto link = links.find(Text(path));
         return link != links.end() ? link->second : IsFolder(path) ? Text(path) : Text();
     }
+    std::set<Text> unreadable;
+    std::vector<Text> read;  // by Read, in order
+    platform::FolderContent Read(TextView path, TextView, size_t mostFiles,
+                                 const std::function<bool()>& goOn) override {
+        read.emplace_back(path);
+        platform::FolderContent content;
+        if (!unreadable.contains(Text(path))) {
+            content.identity = Identity(path);
+            content.folders = Names(content.identity, true);
+            content.files = Names(content.identity, false);
+            content.files.resize(std::min(mostFiles, content.files.size()));
+            goOn();
+        }
+        return content;
+    }
     Text Home() override { return home; }
     Text HomeFolders() override { return homeFolders; }
     std::vector<platform::Place> Places() override { return places; }

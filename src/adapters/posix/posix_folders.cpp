@@ -6,7 +6,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <memory>
 #include <optional>
@@ -60,6 +62,62 @@ bool MatchesOne(TextView name, TextView pattern) {
         }
     }
     return pattern.find_first_not_of(u'*', p) == TextView::npos;
+}
+
+/// Patterns made ready for many names: most are "*.jpg", which is a look at the name's end.
+class Patterns {
+public:
+    explicit Patterns(TextView patterns) : all_(patterns) {
+        while (!patterns.empty()) {
+            const size_t end = patterns.find(u';');
+            const std::string pattern = Lower(text::ToUtf8(text::Trim(patterns.substr(0, end))));
+            patterns.remove_prefix(end == TextView::npos ? patterns.size() : end + 1);
+            simple_ = simple_ && IsSimple(pattern);
+            endings_.push_back(pattern.substr(std::min<size_t>(2, pattern.size())));
+        }
+        std::sort(endings_.begin(), endings_.end());
+    }
+
+    bool Match(const char* name) const {
+        if (!simple_) {
+            return MatchesPatterns(text::FromUtf8(name), all_);
+        }
+        const char* dot = std::strrchr(name, '.');
+        return dot && std::binary_search(endings_.begin(), endings_.end(), Lower(dot + 1));
+    }
+
+private:
+    static bool IsSimple(const std::string& pattern) {
+        return pattern.size() > 2 && pattern.starts_with("*.") &&
+               std::all_of(pattern.begin() + 2, pattern.end(),
+                           [](unsigned char c) { return c < 0x80 && std::isalnum(c); });
+    }
+    static std::string Lower(std::string value) {
+        for (char& c : value) {
+            c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+        }
+        return value;
+    }
+
+    Text all_;
+    bool simple_ = true;
+    std::vector<std::string> endings_;  // without their dots
+};
+
+/// The first `most` of the names in their order; in any order unless `sorted`.
+void KeepFirst(std::vector<Text>& names, size_t most, bool sorted) {
+    if (names.size() > most) {
+        const auto end = names.begin() + static_cast<std::ptrdiff_t>(most);
+        std::nth_element(names.begin(), end, names.end(), text::NaturalLess);
+        names.erase(end, names.end());
+    }
+    if (sorted) {
+        std::sort(names.begin(), names.end(), text::NaturalLess);
+    }
+}
+
+Text IdentityOf(const struct stat& status) {
+    return text::FromUtf8(std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino));
 }
 
 std::string HomeFolder() {
@@ -172,7 +230,42 @@ Text PosixFolders::Identity(TextView path) {
     if (!native || stat(native->c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) {
         return {};
     }
-    return text::FromUtf8(std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino));
+    return IdentityOf(status);
+}
+
+platform::FolderContent PosixFolders::Read(TextView path, TextView patterns, size_t mostFiles,
+                                           const std::function<bool()>& goOn) {
+    constexpr int kEntriesBetween = 512;
+    constexpr size_t kRoomForMore = 1000;  // names are dropped in portions
+    platform::FolderContent content;
+    const std::optional<std::string> native = files_.Find(path);
+    const std::unique_ptr<DIR, FolderCloser> handle(native ? opendir(native->c_str()) : nullptr);
+    struct stat status {};
+    if (!handle || fstat(dirfd(handle.get()), &status) != 0) {
+        return content;
+    }
+    content.identity = IdentityOf(status);
+    const Patterns wanted(patterns);
+    int entries = 0;
+    while (const dirent* entry = readdir(handle.get())) {
+        if (++entries % kEntriesBetween == 0 && !goOn()) {
+            break;
+        }
+        if (entry->d_name[0] == '.' || !text::IsUtf8(entry->d_name)) {
+            continue;
+        }
+        if (entry->d_type != DT_REG && IsOfKind(*native, *entry, true)) {
+            content.folders.push_back(text::FromUtf8(entry->d_name));
+        } else if (wanted.Match(entry->d_name) && IsOfKind(*native, *entry, false)) {
+            content.files.push_back(text::FromUtf8(entry->d_name));
+            if (content.files.size() > 2 * mostFiles + kRoomForMore) {
+                KeepFirst(content.files, mostFiles, false);
+            }
+        }
+    }
+    std::sort(content.folders.begin(), content.folders.end(), text::NaturalLess);
+    KeepFirst(content.files, mostFiles, true);
+    return content;
 }
 
 Text PosixFolders::Home() {

@@ -17,6 +17,8 @@ public:
     std::vector<Text> Subfolders(TextView path) override;
     std::vector<Text> Files(TextView path, TextView patterns) override;
     Text Identity(TextView path) override;
+    platform::FolderContent Read(TextView path, TextView patterns, size_t mostFiles,
+                                 const std::function<bool()>& goOn) override;
     Text Home() override;
     Text HomeFolders() override;
     /// Home, the desktop's own folders, disks that are plugged in, the drives of the table, and the

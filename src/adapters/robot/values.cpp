@@ -3,6 +3,7 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 #include "adapters/posix/json.h"
 #include "model/grid.h"
@@ -24,6 +25,13 @@ constexpr NamedArray kArrays[] = {
     {"CdProgram", &model::ShowState::CdProgram},
     {"SoundList", &model::ShowState::SoundList},
     {"LinkList", &model::ShowState::LinkList},
+};
+
+/// Fields that the rules know by two names.
+constexpr std::pair<std::string_view, std::string_view> kOtherNames[] = {
+    {"ListWindowPainted", "SlideListDirty"},     {"ListCheck2Flag", "ListDblClickRecord"},
+    {"ListCheck3Flag", "ListDblClickWallpaper"}, {"ListCheck4Flag", "ListDblClickText"},
+    {"ListCheck5Flag", "ListDblClickStart"},
 };
 
 ScriptValue FromModel(const model::Value& value) {
@@ -57,6 +65,9 @@ std::optional<ScriptValue> ReadArray(const model::TextArray& array, std::string_
 
 std::optional<ScriptValue> ReadState(const model::ShowState& state, std::string_view name,
                                      std::string& error) {
+    for (const auto& [other, field] : kOtherNames) {
+        name = name == other ? field : name;
+    }
     const size_t bracket = name.find('(');
     for (const NamedArray& one : kArrays) {
         if (one.name == name.substr(0, bracket)) {

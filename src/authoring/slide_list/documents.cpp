@@ -1,5 +1,9 @@
 #include "authoring/slide_list/documents.h"
 
+#include "authoring/slide_list/linked_work.h"
+#include "authoring/slide_list/preview.h"
+#include "authoring/slide_list/selection.h"
+#include "authoring/slide_list/stopped_search.h"
 #include "authoring/sound_list.h"
 #include "document/main_caption.h"
 #include "document/settings_to_controls.h"
@@ -30,14 +34,6 @@ void ClearLists(Application& app) {
     ClearSoundList(app);
 }
 
-/// They work on the selected slide, and nothing is selected in a list that was just filled.
-void DisableLinkedFileButtons(model::Form3& form3) {
-    for (model::Button* button : {&form3.Command16, &form3.Command17, &form3.Command18,
-                                  &form3.Command19, &form3.Command20}) {
-        button->Enabled = false;
-    }
-}
-
 bool RefusedWithoutSlides(Application& app) {
     if (app.windows.form3.List1.ListCount() > 0) {
         return false;
@@ -63,13 +59,18 @@ void SaveAs(Application& app, TextView title, int16_t distribution) {
 }  // namespace
 
 bool NewDocument(Application& app) {
+    if (StoppedSearch(app)) {
+        return false;
+    }
     if (app.platform.dialogs.Message(u"スライドリストとすべての設定を初期状態にしますか ?",
                                      platform::kYesNoQuestion,
                                      u"新規作成") != platform::Answer::Yes) {
         return false;
     }
     model::ShowState& state = app.state;
+    StopLinkedWork(app);
     app.windows.SetPointer(model::kPointerBusy);
+    const document::UndoStep step(document::SlideRows(app));
     ClearLists(app);
     model::SetNewDefaults(state);
     state.DocumentPath.clear();
@@ -80,7 +81,8 @@ bool NewDocument(Application& app) {
     playback::ForgetPrepared(app);
     document::ShowDocumentCaption(app);
     app.windows.form1.Timer1.Interval = kNewIntervalMs;
-    DisableLinkedFileButtons(app.windows.form3);
+    DisableSlideButtons(app);
+    ClearPreview(app);
     // The read-back brings menus and controls in line. A file that could not be written still holds
     // the old settings: they must not come back.
     if (document::WriteStateFile(app)) {
@@ -95,6 +97,9 @@ bool NewDocument(Application& app) {
 }
 
 bool OpenDocument(Application& app) {
+    if (StoppedSearch(app)) {
+        return false;
+    }
     platform::Dialogs::FileRequest request;
     request.title = u"パラピコ　ファイルを開く";
     request.filter = kFilter;
@@ -108,20 +113,23 @@ bool OpenDocument(Application& app) {
 }
 
 void OpenDocument(Application& app, TextView path) {
+    const document::UndoStep step(document::SlideRows(app));
     app.state.BaseFolder = text::FolderPart(path);
-    DisableLinkedFileButtons(app.windows.form3);
+    StopLinkedWork(app);
+    DisableSlideButtons(app);
     document::ReadShowDocument(app, path);
+    ClearPreview(app);
     playback::PrepareStart(app, false);
 }
 
 void SaveDocument(Application& app) {
-    if (!RefusedWithoutSlides(app)) {
+    if (!StoppedSearch(app) && !RefusedWithoutSlides(app)) {
         SaveAs(app, u"パラピコ　ファイルの保存", 0);
     }
 }
 
 void SaveForDistribution(Application& app) {
-    if (RefusedWithoutSlides(app)) {
+    if (StoppedSearch(app) || RefusedWithoutSlides(app)) {
         return;
     }
     const TextView question =
@@ -134,6 +142,14 @@ void SaveForDistribution(Application& app) {
                                      u"配布用ＫＶＳファイルの保存") == platform::Answer::Yes) {
         SaveAs(app, u"パラピコ　配布用ＫＶＳファイルの保存", 1);
     }
+}
+
+void AttachDocuments(Application& app) {
+    model::Form3& form3 = app.windows.form3;
+    form3.Command6.Click = [&app] { OpenDocument(app); };
+    form3.Command7.Click = [&app] { SaveDocument(app); };
+    form3.Command9.Click = [&app] { SaveForDistribution(app); };
+    form3.Command15.Click = [&app] { NewDocument(app); };
 }
 
 }  // namespace authoring

@@ -5,6 +5,12 @@
 
 namespace authoring {
 
+/// The buttons of the slide list's window.
+void AttachDocuments(Application& app);
+
+// All of them stop a search of the slide list instead, while one runs. Opening and a new document
+// are steps that can be undone: rows, path, name, folder and date come back together.
+
 /// Asks, then clears slide list, sound list and settings, and keeps that in their files at once: a
 /// new document. False, and nothing changed, on a no.
 bool NewDocument(Application& app);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/controls.h"
+#include "model/picture_controls.h"
 #include "model/window.h"
 
 namespace model {
@@ -14,6 +15,7 @@ struct Form6 : Window {  // off-screen holder of the four-picture view
 };
 struct Form7 : Window {  // picture detail
     Form7() : Window("Form7") {}
+    PictureBox Picture1{this, "Picture1"};
 };
 struct Form11 : Window {
     Form11() : Window("Form11", u"画像のコピー") {}

@@ -3,7 +3,7 @@
 
 #include "model/application.h"
 
-namespace app {
+namespace authoring {
 
 /// False for a window that this version does not have, after a box that says so.
 bool CanOpen(Application& application, const model::Window& window);
@@ -17,4 +17,4 @@ void OpenModal(Application& application, model::Window& window);
 /// The same in place of the main window.
 void OpenInstead(Application& application, model::Window& window);
 
-}  // namespace app
+}  // namespace authoring

@@ -1,8 +1,8 @@
-#include "app/open_window.h"
+#include "authoring/shared/open_window.h"
 
 #include "model/windows/main_window.h"
 
-namespace app {
+namespace authoring {
 
 bool CanOpen(Application& app, const model::Window& window) {
     if (!window.HasView) {
@@ -30,4 +30,4 @@ void OpenInstead(Application& app, model::Window& window) {
     }
 }
 
-}  // namespace app
+}  // namespace authoring

@@ -1,0 +1,24 @@
+// Slides come into the slide list: by a click on a file, all files of a folder, a drop, a search.
+#pragma once
+
+#include <vector>
+
+#include "model/application.h"
+
+namespace authoring {
+
+void AttachAdding(Application& app);
+
+/// File1's pattern: what can be a slide.
+extern const TextView kSlidePatterns;
+
+/// Adds the paths in their order until the list is full, with a box that says so: at the end, or
+/// with Check6 and one selected row in front of the current one, which stays current. False once it
+/// is full. Nothing that was added is taken back.
+bool AddSlides(Application& app, std::vector<Text> paths);
+
+/// What 一括選択 does with the files of a folder, bare names: adds them all and scrolls on. A full
+/// list also ends a search.
+void AddFiles(Application& app, TextView folder, const std::vector<Text>& names);
+
+}  // namespace authoring

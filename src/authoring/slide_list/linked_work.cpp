@@ -1,0 +1,11 @@
+#include "authoring/slide_list/linked_work.h"
+
+#include "model/windows/declared_windows.h"
+
+namespace authoring {
+
+void StopLinkedWork(Application& app) {
+    app.windows.form20.Unload();
+}
+
+}  // namespace authoring

@@ -1,0 +1,84 @@
+#include "authoring/slide_list/selection.h"
+
+#include "authoring/slide_list/preview.h"
+#include "document/linked_names.h"
+#include "macro/macro.h"
+#include "model/sound_modes.h"
+#include "model/windows/slide_list.h"
+
+namespace authoring {
+
+namespace {
+
+bool LinkedTextExists(Application& app, const Text& slide) {
+    return app.platform.files.Exists(macro::MacroFile(app, slide));
+}
+
+bool LinkedSoundExists(Application& app, const Text& slide) {
+    const bool mp3 = app.state.SoundMode == model::kLinkedMp3Sound;
+    return app.platform.files.Exists(document::LinkedName(app, slide, mp3 ? u"mp3" : u"wav"));
+}
+
+void List1_Click(Application& app) {
+    app.state.ListWasClicked = 1;
+    FollowSelection(app);
+}
+
+}  // namespace
+
+std::vector<int> SelectedSlides(const Application& app) {
+    const model::ListBox& list = app.windows.form3.List1;
+    std::vector<int> rows = list.SelectedRows();
+    std::erase_if(rows, [&list](int row) { return !list.Seen(row); });
+    return rows;
+}
+
+std::optional<int> OnlySelectedSlide(const Application& app) {
+    const std::vector<int> rows = SelectedSlides(app);
+    return rows.size() == 1 ? std::optional(rows.front()) : std::nullopt;
+}
+
+std::optional<int> AskForOneSlide(Application& app, TextView title) {
+    const std::optional<int> row = OnlySelectedSlide(app);
+    if (!row) {
+        app.platform.dialogs.Message(u"リストから１項目だけ選んで行ってください。",
+                                     platform::kExclamation, title);
+    }
+    return row;
+}
+
+void FollowSelection(Application& app) {
+    model::Form3& form3 = app.windows.form3;
+    ShowPreview(app, Text(form3.List1.List(form3.List1.ListIndex)));
+    if (form3.Check1.Value == 0) {
+        return;
+    }
+    const std::optional<int> row = OnlySelectedSlide(app);
+    const Text slide = row ? form3.List1.List(*row) : Text();
+    const bool picture = row && !text::IsVideoKind(slide);
+    form3.Command25.Enabled = picture;
+    form3.Command16.Enabled = picture;
+    form3.Command17.Enabled = picture && LinkedTextExists(app, slide);
+    form3.Command18.Enabled = row.has_value();
+    form3.Command20.Enabled = row.has_value();
+    form3.Command19.Enabled = row && LinkedSoundExists(app, slide);
+}
+
+void DisableLinkedFileButtons(Application& app) {
+    model::Form3& form3 = app.windows.form3;
+    for (model::Button* button : {&form3.Command16, &form3.Command17, &form3.Command18,
+                                  &form3.Command19, &form3.Command20}) {
+        button->Enabled = false;
+    }
+}
+
+void DisableSlideButtons(Application& app) {
+    DisableLinkedFileButtons(app);
+    app.windows.form3.Command25.Enabled = false;
+}
+
+void AttachSelection(Application& app) {
+    app.windows.form3.List1.Click = [&app] { List1_Click(app); };
+}
+
+}  // namespace authoring

@@ -1,0 +1,31 @@
+// The selected slides of the slide list, and the buttons that work on them.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "model/application.h"
+
+namespace authoring {
+
+void AttachSelection(Application& app);
+
+/// Rows that are selected and seen, from the top.
+std::vector<int> SelectedSlides(const Application& app);
+
+/// The one row of these where there is exactly one.
+std::optional<int> OnlySelectedSlide(const Application& app);
+
+/// The same; otherwise a warning under that title says that one has to be chosen.
+std::optional<int> AskForOneSlide(Application& app, TextView title);
+
+/// Enables the buttons for linked files and the cut-out generator as the selection and the files
+/// on the disk have it, and previews the current row. Neither while Check1 is off.
+void FollowSelection(Application& app);
+
+/// Command16 to Command20.
+void DisableLinkedFileButtons(Application& app);
+/// These and Command25: nothing is selected any more.
+void DisableSlideButtons(Application& app);
+
+}  // namespace authoring
