@@ -20,6 +20,7 @@
 #include "model/grid.h"
 #include "model/list_controls.h"
 #include "model/menu.h"
+#include "model/panes.h"
 #include "model/picture_controls.h"
 #include "model/scroll_bar.h"
 #include "model/windows.h"
@@ -49,6 +50,7 @@ struct EveryKind : model::Window {
     model::Image Image1{this, "Image1"};
     model::Player Player1{this, "Player1"};
     model::Button Command1{this, "Command1", u"押す"};
+    model::Panes Panes1{this, "Panes1"};
     model::MenuEntry mnuALL{this, "mnuALL", u"全部"};
     model::Timer Timer1{this, "Timer1"};
     model::LeadControl LEAD1{this, "LEAD1"};

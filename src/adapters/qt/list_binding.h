@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QListView>
+#include <memory>
 
 #include "adapters/qt/control_binding.h"
+#include "adapters/qt/row_dragging.h"
+#include "adapters/qt/row_faces.h"
 #include "adapters/qt/rows_model.h"
 #include "model/list_controls.h"
 
@@ -13,6 +16,7 @@ class ListBinding : public ControlBinding {
 public:
     ListBinding(model::ListBox& list, QListView& view, const Site& site);
     ~ListBinding() override;
+    void PropertyChanged(model::Control& control, model::PropertyBase& property) override;
     void RowsChanged(model::Control& control, const model::RowChange& change) override;
 
 protected:
@@ -26,15 +30,24 @@ private:
     bool SelectsMany() const { return list_.MultiSelect == model::kSelectMany; }
     void Dragged(int before);
     void ShowSelection(int first, int count);
+    void ShowCurrent();
+    void ShowTop();
     void FollowSelection(const QItemSelection& on, const QItemSelection& off);
+    void SelectInList(const QItemSelection& ranges, bool on);
     void FollowCurrent(const QModelIndex& current);
+    void PressSoon();
+    void PressIfChosen();
 
     model::ListBox& list_;
     QListView& view_;
     RowsModel rows_;
-    QSize room_{0, 0};        // that is kept for rows' pictures
-    bool focused_ = false;    // just now: the view makes its first row the current one
-    bool held_ = false;       // a button of the mouse is down
+    RowDragging dragging_;
+    std::unique_ptr<RowFaces> faces_;
+    QSize room_{0, 0};      // that is kept for rows' pictures
+    bool focused_ = false;  // just now: the view makes its first row the current one
+    bool held_ = false;     // a button of the mouse is down
+    bool chosen_ = false;   // rows were selected since it went down, and nobody was told yet
+    bool pressQueued_ = false;
     bool following_ = false;  // a change is being passed on: its echo is not news
 };
 

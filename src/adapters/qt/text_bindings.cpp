@@ -1,5 +1,6 @@
 #include "adapters/qt/text_bindings.h"
 
+#include <QKeyEvent>
 #include <algorithm>
 #include <cmath>
 
@@ -76,6 +77,17 @@ bool TextBinding::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     return ControlBinding::eventFilter(watched, event);
+}
+
+/// Esc empties a box whose form says so ("escClears"); what is empty lets the key through.
+bool LineBinding::eventFilter(QObject* watched, QEvent* event) {
+    const bool escape = event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (escape && face_.property("escClears").toBool() && !face_.text().isEmpty()) {
+        face_.clear();
+        return true;
+    }
+    return TextBinding::eventFilter(watched, event);
 }
 
 LineBinding::LineBinding(model::TextBox& box, QLineEdit& widget, const Site& site)

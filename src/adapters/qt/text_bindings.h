@@ -62,6 +62,7 @@ public:
     LineBinding(model::TextBox& box, QLineEdit& widget, const Site& site);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     QString Shown() const override { return face_.text(); }
     void Show(const QString& content) override { face_.setText(content); }
 

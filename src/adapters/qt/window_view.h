@@ -15,6 +15,10 @@
 //   button entry        menu entry that it stands for, with its mark and its being enabled
 //   button menu         menu that it opens
 //   list   contextMenus "A B": entries of menu A and below them the menu B, at the mouse or keys
+//   list   emptyWords, noneSeenWords  what stands in place of rows (faces only)
+//   list   insertsWhile check box: while it is ticked, files that are dropped go in front of the
+//                       one selected row, else to the end
+//   line   escClears    Esc empties it
 //   list   keysHere     entries whose keys are theirs only while the list has the keyboard
 //   any    showWhile    "idle A !B": shown while the pointer is normal, A enabled, B disabled
 //   label  textWithDrop words used instead when the window takes dropped files
