@@ -46,7 +46,7 @@ private:
     QSize room_{0, 0};      // that is kept for rows' pictures
     bool focused_ = false;  // just now: the view makes its first row the current one
     bool held_ = false;     // a button of the mouse is down
-    bool chosen_ = false;   // rows were selected since it went down, and nobody was told yet
+    bool chosen_ = false;   // rows were selected since it went down: no click yet
     bool pressQueued_ = false;
     bool following_ = false;  // a change is being passed on: its echo is not news
 };

@@ -90,7 +90,7 @@ bool RowDragging::TakesFiles(const QDropEvent& event) const {
     return list_.FilesDropped && list_.Reachable() && list_.Parent().Reachable() && HasFiles(event);
 }
 
-/// The row in front of which the place lies; their number behind the last one.
+/// The row in front of which the place lies; their number after the last one.
 int RowDragging::RowAt(QPoint place) const {
     const int rows = rows_.rowCount();
     const QModelIndex index = view_.indexAt(place);
