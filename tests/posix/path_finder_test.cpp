@@ -48,6 +48,24 @@ TEST_F(Finding, PrefersTheExactNameThenTheFirstInOrder) {
     EXPECT_EQ(Find("a.jpg"), folder_.Path("A.jpg"));
 }
 
+TEST_F(Finding, FindsNamesThatTextCannotHold) {
+    folder_.Put("odd/a\r\nb.jpg", "x");
+    EXPECT_EQ(Find("odd/a\r\nb.jpg"), folder_.Path("odd/a\r\nb.jpg"));
+    EXPECT_EQ(Find("odd/a  b.jpg"), folder_.Path("odd/a\r\nb.jpg")) << "as a document keeps it";
+    folder_.Put("odd/a  b.jpg", "x");
+    EXPECT_EQ(Find("odd/a  b.jpg"), folder_.Path("odd/a  b.jpg"));
+    // Bytes that are no UTF-8 stand as U+FFFD.
+    folder_.Put("odd/\xE9t\xE9.jpg", "x");
+    EXPECT_EQ(finder_.Find(folder_.TextPath("odd/") + u"\uFFFDt\uFFFD.jpg"),
+              folder_.Path("odd/\xE9t\xE9.jpg"));
+    const std::string longest(251, 'x');
+    folder_.Put("odd/" + longest + ".jpg", "x");
+    EXPECT_EQ(Find("odd/" + longest + ".JPG"), folder_.Path("odd/" + longest + ".jpg"));
+    EXPECT_EQ(Find("odd/" + longest + "x.JPG"), std::nullopt);
+    folder_.Put("odd/\"quote'%s.jpg", "x");
+    EXPECT_EQ(Find("ODD/\"QUOTE'%s.jpg"), folder_.Path("odd/\"quote'%s.jpg"));
+}
+
 TEST_F(Finding, TreatsABackslashAsASeparatorWhereNoFileHasIt) {
     folder_.Put("Sub/a.jpg", "x");
     EXPECT_EQ(Find("sub\\A.JPG"), folder_.Path("Sub/a.jpg"));

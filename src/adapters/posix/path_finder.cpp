@@ -52,6 +52,14 @@ std::string Joined(const std::string& folder, const std::string& name) {
     return folder.ends_with('/') ? folder + name : folder + "/" + name;
 }
 
+/// By which names are compared. Files of the program hold a blank for a line end within a name.
+Text Key(TextView name) {
+    Text key = FoldCase(name);
+    std::replace_if(
+        key.begin(), key.end(), [](char16_t c) { return c == u'\r' || c == u'\n'; }, u' ');
+    return key;
+}
+
 bool Exists(const std::string& path) {
     struct stat status {};
     return lstat(path.c_str(), &status) == 0;
@@ -205,7 +213,7 @@ std::optional<std::string> PathFinder::NameIn(const std::string& folder, const T
     if (Exists(Joined(folder, exact))) {
         return exact;
     }
-    const Text folded = FoldCase(part);
+    const Text folded = Key(part);
     const Listing* listing = List(folder, folded);
     if (listing == nullptr) {
         return std::nullopt;
@@ -240,7 +248,7 @@ const PathFinder::Listing* PathFinder::List(const std::string& folder, const Tex
     fresh.settled = Settled(status.st_mtim);
     while (const dirent* entry = readdir(handle.get())) {
         const std::string name = entry->d_name;
-        std::string& kept = fresh.names[FoldCase(text::FromUtf8(name))];
+        std::string& kept = fresh.names[Key(text::FromUtf8(name))];
         // Of names that differ by case only, always the same one answers.
         if (kept.empty() || name < kept) {
             kept = name;
