@@ -62,6 +62,7 @@ void TakePlace(Application& app) {
 
 void Form_Activate(Application& app) {
     RefreshFiles(app);
+    RefreshFaces(app);
     if (app.state.ListWasClicked == 1) {
         FollowSelection(app);
     }
