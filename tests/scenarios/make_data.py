@@ -87,6 +87,7 @@ Documents with sound (all without repetition):
   edge_*.kvs    the macro language at its edges: reader, text, pieces, motion, stop, buttons, screen;
                 edge_*_full.kvs the same in the full screen
 w1 and w2 are 320x240, olive.
+tree has pictures at several depths, folders that a search leaves out, and a link back to itself.
 """
 
 import pathlib
@@ -463,6 +464,14 @@ def main():
     files.update(edge_macros())
     for name, content in files.items():
         (folder / name).write_bytes(content)
+    picture = files["a.png"]
+    for name in ("1.png", "3.bmp", "a/10.png", "a/9.png", "a/x/4.png", "b/5.TIF", "none/words.txt",
+                 "Windows/WinSxS/no.png", "Windows/6.png", "windows.old/no.png"):
+        (folder / "tree" / name).parent.mkdir(parents=True, exist_ok=True)
+        (folder / "tree" / name).write_bytes(picture)
+    loop = folder / "tree" / "b" / "loop"
+    if not loop.is_symlink():
+        loop.symlink_to("..")
     (folder / ".stamp").touch()
 
 

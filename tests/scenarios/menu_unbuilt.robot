@@ -3,7 +3,6 @@
 @100 menu mnuWAVLIST
 @300 menu mnuICHI
 @400 menu mnuURU
-@500 click Form1.Command6
 @600 click Form1.Command10
 @700 click Form1.Command11
 @800 menu mnuSCHEDULE
@@ -16,7 +15,6 @@ expect SoundMode 8
 menu mnuKOU 2
 @1200 menu mnuCDRND 2
 expect CdOrder 2
-expect Form1.Command6.Enabled true
 expect Form1.Command10.Enabled true
 expect Form1.Command11.Enabled true
 expect Form1.mnuWAVLIST.Enabled true
@@ -29,7 +27,6 @@ expect Form9.Visible false
 expect-trace message t=100 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=300 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=400 title="" text=この版にはまだありません。 flags=0
-expect-trace message t=500 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=600 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=700 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=800 title="" text=この版にはまだありません。 flags=0

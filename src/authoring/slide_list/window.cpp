@@ -8,12 +8,17 @@
 #include "authoring/slide_list/check_boxes.h"
 #include "authoring/slide_list/commit.h"
 #include "authoring/slide_list/documents.h"
+#include "authoring/slide_list/double_click.h"
+#include "authoring/slide_list/linked_sound.h"
+#include "authoring/slide_list/linked_text.h"
 #include "authoring/slide_list/linked_work.h"
 #include "authoring/slide_list/preview.h"
 #include "authoring/slide_list/row_faces.h"
 #include "authoring/slide_list/rows.h"
+#include "authoring/slide_list/run_from_selection.h"
 #include "authoring/slide_list/selection.h"
 #include "authoring/slide_list/stopped_search.h"
+#include "authoring/slide_list/tree_search.h"
 #include "document/main_caption.h"
 #include "model/monitors.h"
 #include "model/windows/declared_windows.h"
@@ -172,6 +177,11 @@ void AttachSlideList(Application& app) {
     AttachCheckBoxes(app);
     AttachCommit(app);
     AttachDocuments(app);
+    AttachLinkedText(app);
+    AttachLinkedSound(app);
+    AttachDoubleClick(app);
+    AttachRunFromSelection(app);
+    AttachTreeSearch(app);
     AttachRowFaces(app);
 }
 

@@ -1,0 +1,151 @@
+#include "authoring/slide_list/tree_search.h"
+
+#include <algorithm>
+#include <new>
+#include <unordered_set>
+
+#include "authoring/shared/long_work.h"
+#include "authoring/shared/open_window.h"
+#include "authoring/slide_list/adding.h"
+#include "authoring/slide_list/stopped_search.h"
+#include "document/slide_rows.h"
+#include "model/windows/file_search.h"
+#include "model/windows/slide_list.h"
+#include "text/paths.h"
+
+namespace authoring {
+
+namespace {
+
+/// A running clock lets handlers run this often, which no person notices.
+constexpr double kBetweenPumps = 10;  // milliseconds
+/// More names than this are read once more rather than kept while the subfolders are searched.
+constexpr size_t kMostKeptNames = 1000;
+
+/// Kept: also where the dialog's box for these folders is ticked.
+bool IsExcluded(TextView folder) {
+    Text upper = text::Upper(folder);
+    std::replace(upper.begin(), upper.end(), u'/', u'\\');
+    return upper.find(u"\\WINDOWS\\WINSXS") != Text::npos ||
+           upper.find(u"\\WINDOWS.OLD") != Text::npos;
+}
+
+/// What is seen of a search, from its beginning to its end, however it is left.
+class SearchFace {
+public:
+    explicit SearchFace(Application& app) : app_(app) {
+        app.windows.form3.Command8.Caption = u"中止";
+    }
+    ~SearchFace() {
+        app_.state.SlideSearchActive = 0;
+        app_.windows.form3.Command8.Caption = u"検索";
+        app_.windows.form3.File1.Pattern = Text(kSlidePatterns);
+    }
+    SearchFace(const SearchFace&) = delete;
+    SearchFace& operator=(const SearchFace&) = delete;
+
+private:
+    Application& app_;
+};
+
+class TreeSearch {
+public:
+    explicit TreeSearch(Application& app)
+        : app_(app),
+          pattern_(app.state.SearchPattern),
+          work_(app, {app.windows.form3, &app.windows.form3.Label1}) {}
+
+    /// True when the search was stopped.
+    bool Walk(const Text& folder) {
+        model::ShowState& state = app_.state;
+        state.SlideSearchActive = 1;
+        if (!Yield()) {
+            return true;
+        }
+        if (state.SlideSearchStop == 1) {
+            state.SlideSearchStop = 0;
+            return true;
+        }
+        platform::FolderContent content = Read(folder);
+        if (state.SlideSearchActive == 0) {
+            return true;
+        }
+        if (content.identity.empty() || !entered_.insert(content.identity).second) {
+            return false;
+        }
+        const bool many = content.files.size() > kMostKeptNames;
+        if (many) {
+            content.files = {};
+        }
+        const Text inside = text::WithSeparator(folder);
+        for (auto name = content.folders.rbegin(); name != content.folders.rend(); ++name) {
+            const Text path = inside + *name;
+            if (!IsExcluded(path) && Walk(path)) {
+                return true;
+            }
+        }
+        if (state.SlideSearchActive == 1) {
+            AddFiles(app_, folder, many ? Read(folder).files : content.files);
+        }
+        return false;
+    }
+
+private:
+    /// False when the search is to end.
+    bool Yield() {
+        const double now = app_.platform.loop.Milliseconds();
+        if (now == pumpedAt_ || now - pumpedAt_ >= kBetweenPumps) {
+            work_.GoOn(0, 0);
+            pumpedAt_ = app_.platform.loop.Milliseconds();
+        }
+        return app_.state.SlideSearchActive == 1 && app_.windows.form3.Loaded;
+    }
+
+    platform::FolderContent Read(const Text& folder) {
+        const int room = app_.state.SlideListLimit - app_.windows.form3.List1.ListCount();
+        return app_.platform.folders.Read(folder, pattern_, static_cast<size_t>(std::max(1, room)),
+                                          [this] { return Yield(); });
+    }
+
+    Application& app_;
+    const Text pattern_;
+    LongWork work_;
+    std::unordered_set<Text> entered_;  // identities
+    double pumpedAt_ = 0;
+};
+
+void Search(Application& app) {
+    const document::UndoStep step(document::SlideRows(app));
+    const SearchFace face(app);
+    TreeSearch search(app);
+    try {
+        search.Walk(app.windows.form3.Dir1.Path());
+    } catch (const std::bad_alloc&) {
+        app.platform.dialogs.Message(u"ﾘｽﾄ ﾎﾞｯｸｽがいっぱいになりました。検索を中止します。",
+                                     platform::kPlain, u"");
+    }
+}
+
+void Command8_Click(Application& app) {
+    if (StoppedSearch(app)) {
+        return;
+    }
+    model::FolderList& dir = app.windows.form3.Dir1;
+    if (dir.ListIndex >= 0) {
+        dir.Path = Text(dir.List(dir.ListIndex));
+    }
+    app.state.SearchPattern.clear();
+    OpenModal(app, app.windows.form18);
+    if (!app.state.SearchPattern.empty()) {
+        app.state.SlideSearchStop = 0;
+        Search(app);
+    }
+}
+
+}  // namespace
+
+void AttachTreeSearch(Application& app) {
+    app.windows.form3.Command8.Click = [&app] { Command8_Click(app); };
+}
+
+}  // namespace authoring
