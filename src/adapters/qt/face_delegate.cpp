@@ -170,7 +170,9 @@ void FaceDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         line.setAlphaF(option.state & QStyle::State_HasFocus ? 1.0F : 0.45F);
         painter->setPen(QPen(line, option.state & QStyle::State_HasFocus ? 2 : 1));
         painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(body.adjusted(1, 1, -1, -1), kRound - 1, kRound - 1);
+        const double inset = inks.selected ? 3 : 1;
+        painter->drawRoundedRect(body.adjusted(inset, inset, -inset, -inset), kRound - 1,
+                                 kRound - 1);
     }
     painter->setFont(option.font);
     painter->setPen(inks.dimmed);

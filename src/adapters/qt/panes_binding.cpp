@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <algorithm>
+#include <cstdint>
+#include <numeric>
 
 #include "adapters/qt/convert.h"
 
@@ -107,7 +109,13 @@ void PanesBinding::SyncOwn() {
     if (!usable) {
         sizes = Numbers(face_.property("shares").toString());
     }
-    // Whatever their unit, the splitter shares its room out in their proportion.
+    // The splitter shares its room out in their proportion, but first makes each as large as its
+    // pane must be: of large numbers the proportion stays.
+    constexpr int64_t kWhole = 1000000;
+    const int64_t sum = std::accumulate(sizes.begin(), sizes.end(), int64_t{1});
+    for (int& size : sizes) {
+        size = static_cast<int>(size * kWhole / sum);
+    }
     face_.setSizes(sizes);
 }
 

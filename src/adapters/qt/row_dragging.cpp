@@ -82,8 +82,7 @@ bool RowDragging::eventFilter(QObject*, QEvent* event) {
 }
 
 bool RowDragging::IsOwn(const QDropEvent& event) const {
-    return event.source() == &view_ && event.mimeData()->hasFormat(kDraggedRows) &&
-           list_.RowsDragged;
+    return list_.RowsDragged && rows_.IsOwn(*event.mimeData());
 }
 
 bool RowDragging::TakesFiles(const QDropEvent& event) const {
@@ -113,10 +112,10 @@ int RowDragging::RowOfFiles() const {
 void RowDragging::Follow(const QDropEvent& event) {
     place_ = event.position().toPoint();
     if (!IsOwn(event)) {
-        ShowMark(RowOfFiles());
+        ShowMark(RowOfFiles(), false);
         return;
     }
-    ShowMark(RowAt(place_));
+    ShowMarkOfRows();
     const int height = view_.viewport()->height();
     if (place_.y() < kEdge || place_.y() > height - kEdge) {
         scrolling_.start();
@@ -125,9 +124,16 @@ void RowDragging::Follow(const QDropEvent& event) {
     }
 }
 
-void RowDragging::ShowMark(int row) {
+/// Beside the row that the mouse is over, also where the next one begins a line of the grid.
+void RowDragging::ShowMarkOfRows() {
+    const int row = RowAt(place_);
+    const QModelIndex over = view_.indexAt(place_);
+    ShowMark(row, over.isValid() && over.row() < row);
+}
+
+void RowDragging::ShowMark(int row, bool afterRowBefore) {
     const QRect sight = view_.viewport()->rect();
-    const bool last = row >= rows_.rowCount();
+    const bool last = afterRowBefore || row >= rows_.rowCount();
     QRect mark(sight.left(), sight.top(), sight.width(), kMarkWidth);
     if (rows_.rowCount() > 0) {
         const QRect rect = view_.visualRect(rows_.index(last ? row - 1 : row));
@@ -153,7 +159,7 @@ void RowDragging::ScrollAtEdge() {
     const int step = std::min(std::max(above, below), kEdge) * kFastest / kEdge;
     QScrollBar& bar = *view_.verticalScrollBar();
     bar.setValue(bar.value() + (above > 0 ? -step : step));
-    ShowMark(RowAt(place_));
+    ShowMarkOfRows();
 }
 
 void RowDragging::End() {

@@ -31,7 +31,8 @@ private:
     int RowAt(QPoint place) const;
     int RowOfFiles() const;
     void Follow(const QDropEvent& event);
-    void ShowMark(int row);
+    void ShowMark(int row, bool afterRowBefore);
+    void ShowMarkOfRows();
     void ScrollAtEdge();
     void End();
     void Drop(const QDropEvent& event);

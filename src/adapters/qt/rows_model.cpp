@@ -95,10 +95,19 @@ Qt::ItemFlags RowsModel::flags(const QModelIndex& index) const {
     return flags;
 }
 
+QStringList RowsModel::mimeTypes() const {
+    return {QStringLiteral("application/x-parapico-rows")};
+}
+
+/// The list knows which rows are selected.
 QMimeData* RowsModel::mimeData(const QModelIndexList&) const {
     auto* data = new QMimeData;
-    data->setData(kDraggedRows, {});
+    data->setData(mimeTypes().front(), QByteArray::number(reinterpret_cast<quintptr>(this)));
     return data;
+}
+
+bool RowsModel::IsOwn(const QMimeData& data) const {
+    return data.data(mimeTypes().front()) == QByteArray::number(reinterpret_cast<quintptr>(this));
 }
 
 /// Answers false: the program moves the rows, and the view is not to take any away.

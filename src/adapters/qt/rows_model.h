@@ -10,9 +10,6 @@
 
 namespace qt_adapter {
 
-/// What a drag of rows brings along.
-inline constexpr char kDraggedRows[] = "application/x-parapico-rows";
-
 class RowsModel : public QAbstractListModel {
 public:
     /// `dragged`: a person lets go of the selected rows in front of that row of the list.
@@ -22,8 +19,10 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
-    QStringList mimeTypes() const override { return {kDraggedRows}; }
+    QStringList mimeTypes() const override;
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    /// A drag of rows of this list brings it along.
+    bool IsOwn(const QMimeData& data) const;
     bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                       const QModelIndex& parent) override;
 

@@ -1,0 +1,328 @@
+// A list whose rows have faces, of which some are not seen, and what is dragged over it.
+#include <gtest/gtest.h>
+
+#include <QHelpEvent>
+#include <QLabel>
+#include <QListView>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QUrl>
+#include <set>
+
+#include "adapters/qt/convert.h"
+#include "adapters/qt/desktop.h"
+#include "adapters/qt/list_binding.h"
+#include "model/controls.h"
+#include "model/list_controls.h"
+#include "model/window.h"
+#include "qt/widget_acts.h"
+
+namespace {
+
+using Numbers = std::vector<int>;
+
+struct FaceWindow : model::Window {
+    FaceWindow() : Window("Faces") { Visible = true; }
+    model::CheckBox Check6{this, "Check6"};
+    model::ListBox List1{this, "List1", model::kSelectMany};
+};
+
+struct FaceView : testing::Test {
+    int argc = 0;
+    qt_adapter::Desktop desktop{argc, nullptr, {true, {}}};
+    qt_adapter::Gate gate;
+    FaceWindow window;
+    model::ListBox& list = window.List1;
+    QListView view;
+    std::unique_ptr<qt_adapter::ListBinding> binding;
+    std::set<int> asked;  // rows whose faces were wanted
+
+    void SetUp() override {
+        list.face = [this](int row) {
+            asked.insert(row);
+            model::RowFace face;
+            face.title = list.List(row);
+            face.detail = u"/写真";
+            face.marks = row == 1 ? model::kMarkMissing | model::kMarkFilm : 0u;
+            return face;
+        };
+        view.setProperty("emptyWords", "空です");
+        view.setProperty("noneSeenWords", "ありません");
+        view.setProperty("insertsWhile", "Check6");
+    }
+    void TearDown() override { binding.reset(); }
+    void Show(std::initializer_list<const char16_t*> rows = {u"a1", u"b1", u"a2", u"b2", u"a3"}) {
+        for (const char16_t* row : rows) {
+            list.AddItem(row);
+        }
+        binding = std::make_unique<qt_adapter::ListBinding>(list, view, qt_adapter::Site{gate});
+        view.resize(400, 400);
+        view.show();
+        Pump();
+    }
+    void Pump() { desktop.Loop().PumpEvents(); }
+    void ShowOnly(char16_t letter) {
+        list.ShowOnly([letter](const Text& row) { return row.find(letter) != Text::npos; });
+    }
+    QStringList Seen() const {
+        QStringList rows;
+        for (int row = 0; row < view.model()->rowCount(); ++row) {
+            rows += view.model()->index(row, 0).data().toString();
+        }
+        return rows;
+    }
+    QStringList SelectedInView() const {
+        QStringList rows;
+        for (int row = 0; row < view.model()->rowCount(); ++row) {
+            if (view.selectionModel()->isRowSelected(row)) {
+                rows += view.model()->index(row, 0).data().toString();
+            }
+        }
+        return rows;
+    }
+    QRect Place(int row) const { return view.visualRect(view.model()->index(row, 0)); }
+    void Click(int row, Qt::KeyboardModifiers modifiers = {}) {
+        acts::Click(*view.viewport(), Place(row).center(), Qt::LeftButton, modifiers);
+        Pump();
+    }
+    const QWidget& Mark() const { return *view.findChild<QWidget*>("insertionMark"); }
+    template <class Drag>
+    bool DragOver(const QMimeData& data, QPoint place) {
+        Drag drag(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(view.viewport(), &drag);
+        return drag.isAccepted();
+    }
+    void DropOn(const QMimeData& data, QPoint place) {
+        DragOver<QDragEnterEvent>(data, place);
+        QDropEvent drop(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(view.viewport(), &drop);
+        Pump();
+    }
+};
+
+TEST_F(FaceView, RowsThatAreNotSeenAreLeftOut) {
+    Show();
+    ShowOnly(u'b');
+    EXPECT_EQ(Seen(), (QStringList{"b1", "b2"}));
+    list.AddItem(u"a4");
+    list.AddItem(u"b3");
+    EXPECT_EQ(Seen(), (QStringList{"b1", "b2", "b3"}));
+    list.InsertRows(0, {u"b0", u"a0", u"b0b"});
+    EXPECT_EQ(Seen(), (QStringList{"b0", "b0b", "b1", "b2", "b3"}));
+    list.RemoveRows(1, 2);  // one of them is not seen
+    EXPECT_EQ(Seen(), (QStringList{"b0", "b1", "b2", "b3"}));
+    list.SetRow(0, u"a0");
+    EXPECT_EQ(Seen(), (QStringList{"b1", "b2", "b3"})) << "is not seen any more";
+    list.SetRow(1, u"b9");  // was a1
+    EXPECT_EQ(Seen(), (QStringList{"b9", "b1", "b2", "b3"}));
+    list.Reorder(0, {3, 2, 1, 0});  // a2, b1, b9, a0 from here on
+    EXPECT_EQ(Seen(), (QStringList{"b1", "b9", "b2", "b3"}));
+    list.ShowOnly({});
+    EXPECT_EQ(Seen(), (QStringList{"a2", "b1", "b9", "a0", "b2", "a3", "a4", "b3"}));
+}
+
+TEST_F(FaceView, AFilterThatHoldsForAllStillWatchesNewRows) {
+    Show({u"b1", u"b2"});
+    ShowOnly(u'b');
+    list.AddItem(u"a1", 1);
+    EXPECT_EQ(Seen(), (QStringList{"b1", "b2"}));
+    list.RemoveRows(0, 1);
+    EXPECT_EQ(Seen(), QStringList{"b2"});
+}
+
+TEST_F(FaceView, NumbersStayTheLists) {
+    Show();
+    list.SelectRows(3, 1, true);
+    list.ListIndex = 3;
+    list.Select(0, true);
+    ShowOnly(u'b');
+    EXPECT_EQ(list.SelectedRows(), (Numbers{0, 3}));
+    EXPECT_EQ(list.ListIndex(), 3);
+    EXPECT_EQ(view.currentIndex().row(), 1);
+    EXPECT_EQ(SelectedInView(), QStringList{"b2"});
+    list.ListIndex = 2;
+    EXPECT_FALSE(view.currentIndex().isValid()) << "a row that is not seen";
+    list.ShowOnly({});
+    EXPECT_EQ(view.currentIndex().row(), 2);
+    EXPECT_EQ(SelectedInView(), (QStringList{"a1", "b2"}));
+}
+
+TEST_F(FaceView, APersonSelectsSeenRowsAlone) {
+    Show();
+    int clicks = 0;
+    list.Click = [&] { ++clicks; };
+    list.Select(0, true);
+    ShowOnly(u'b');
+    Click(1);
+    EXPECT_EQ(list.SelectedRows(), Numbers{3});
+    EXPECT_EQ(list.ListIndex(), 3);
+    Click(0, Qt::ShiftModifier);
+    EXPECT_EQ(list.SelectedRows(), (Numbers{1, 3}));
+    EXPECT_EQ(clicks, 2);
+    view.selectAll();
+    Pump();
+    EXPECT_EQ(list.SelectedRows(), (Numbers{1, 3}));
+}
+
+TEST_F(FaceView, RightPressesAndKeysThatSelectAreClicks) {
+    Show();
+    int clicks = 0;
+    list.Click = [&] { ++clicks; };
+    acts::Click(*view.viewport(), Place(2).center(), Qt::RightButton);
+    Pump();
+    EXPECT_EQ(list.SelectedRows(), Numbers{2});
+    EXPECT_EQ(clicks, 1);
+    acts::Click(*view.viewport(), Place(2).center(), Qt::RightButton);
+    Pump();
+    EXPECT_EQ(clicks, 1) << "it was selected already";
+    acts::Key(view, Qt::Key_Down, Qt::ShiftModifier);
+    Pump();
+    EXPECT_EQ(list.SelectedRows(), (Numbers{2, 3}));
+    EXPECT_EQ(clicks, 2) << "row and selection are one change";
+    acts::Key(view, Qt::Key_Space, Qt::ControlModifier, " ");
+    Pump();
+    EXPECT_EQ(list.SelectedRows(), Numbers{2});
+    EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(FaceView, FacesOfRowsInSightAloneAreAskedFor) {
+    for (int row = 0; row < 30000; ++row) {
+        list.AddItem(u"/写真/絵.jpg");
+    }
+    Show({});
+    view.grab();
+    EXPECT_FALSE(asked.empty());
+    EXPECT_LT(asked.size(), 12U);
+    asked.clear();
+    list.AsGrid = true;
+    view.grab();
+    EXPECT_LT(asked.size(), 20U);
+    asked.clear();
+    list.TopIndex = 20000;
+    view.grab();
+    EXPECT_TRUE(asked.count(20000));
+    EXPECT_LT(*asked.rbegin() - *asked.begin(), 40);
+    asked.clear();
+    list.AddItem(u"/写真/最後.jpg");
+    ShowOnly(u'最');
+    view.grab();
+    EXPECT_EQ(asked, std::set<int>{30000});
+}
+
+TEST_F(FaceView, StandsBesideEachOtherInAGrid) {
+    Show();
+    EXPECT_EQ(Place(0).left(), Place(1).left());
+    EXPECT_LT(Place(0).bottom(), Place(1).top() + 1);
+    list.AsGrid = true;
+    EXPECT_EQ(Place(0).top(), Place(1).top());
+    EXPECT_LT(Place(0).right(), Place(1).left() + 1);
+    EXPECT_GT(Place(4).top(), Place(0).top()) << "what has no room goes below";
+    list.AsGrid = false;
+    EXPECT_EQ(Place(0).left(), Place(1).left());
+}
+
+TEST_F(FaceView, SaysItsMarksInWords) {
+    Show();
+    EXPECT_EQ(view.model()->index(1, 0).data(Qt::AccessibleTextRole).toString(),
+              "b1、ファイルが見つかりません、動画、/写真");
+    EXPECT_EQ(view.model()->index(0, 0).data(Qt::AccessibleTextRole).toString(), "a1、/写真");
+    const auto help = [&](QPoint place) {
+        QHelpEvent event(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(view.viewport(), &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(help(Place(1).center()), "b1");
+    // The two marks end at the right edge of the first line of words: film, and missing before it.
+    const QPoint edge(Place(1).right() - 18,
+                      Place(1).center().y() - view.fontMetrics().height() / 2);
+    EXPECT_EQ(help(edge), "動画");
+    EXPECT_EQ(help(edge - QPoint(20, 0)), "ファイルが見つかりません");
+}
+
+TEST_F(FaceView, WordsStandInPlaceOfRows) {
+    Show({});
+    const QLabel& words = *view.viewport()->findChild<QLabel*>();
+    EXPECT_TRUE(words.isVisible());
+    EXPECT_EQ(words.text(), "空です");
+    list.AddItem(u"a");
+    EXPECT_FALSE(words.isVisible());
+    ShowOnly(u'b');
+    EXPECT_TRUE(words.isVisible());
+    EXPECT_EQ(words.text(), "ありません");
+}
+
+TEST_F(FaceView, RowsAreLetGoBetweenRows) {
+    Show();
+    Numbers dragged;
+    const std::unique_ptr<QMimeData> rows(view.model()->mimeData({}));
+    EXPECT_FALSE(DragOver<QDragEnterEvent>(*rows, {5, 5})) << "nobody hears";
+    list.RowsDragged = [&](int before) { dragged.push_back(before); };
+    Click(4);
+    EXPECT_TRUE(DragOver<QDragEnterEvent>(*rows, Place(1).center() - QPoint(0, 5)));
+    EXPECT_TRUE(Mark().isVisible());
+    EXPECT_NEAR(Mark().geometry().center().y(), Place(1).top(), 2) << "in front of it";
+    EXPECT_TRUE(DragOver<QDragMoveEvent>(*rows, Place(1).center() + QPoint(0, 5)));
+    EXPECT_NEAR(Mark().geometry().center().y(), Place(2).top(), 2) << "after it";
+    DropOn(*rows, Place(1).center() + QPoint(0, 5));
+    EXPECT_EQ(dragged, Numbers{2});
+    EXPECT_FALSE(Mark().isVisible());
+    DropOn(*rows, Place(4).center() + QPoint(0, 5));
+    EXPECT_EQ(dragged, (Numbers{2, 5})) << "the end";
+    ShowOnly(u'a');  // a1, a2, a3
+    DropOn(*rows, Place(1).center() - QPoint(0, 5));
+    EXPECT_EQ(dragged, (Numbers{2, 5, 2})) << "in front of the seen a2";
+    list.AsGrid = true;
+    EXPECT_TRUE(DragOver<QDragEnterEvent>(*rows, Place(1).center() + QPoint(5, 0)));
+    EXPECT_NEAR(Mark().geometry().center().x(), Place(1).right(), 4);
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(view.viewport(), &leave);
+    EXPECT_FALSE(Mark().isVisible());
+    EXPECT_EQ(dragged.size(), 3U);
+}
+
+TEST_F(FaceView, FilesShowWhereTheyGo) {
+    Show();
+    std::vector<Text> dropped;
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile("/写真/x.jpg")});
+    EXPECT_FALSE(DragOver<QDragEnterEvent>(files, {5, 5})) << "nobody takes them";
+    list.FilesDropped = [&](const std::vector<Text>& paths) { dropped = paths; };
+    list.Select(1, true);
+    EXPECT_TRUE(DragOver<QDragEnterEvent>(files, Place(0).center()));
+    EXPECT_NEAR(Mark().geometry().center().y(), Place(4).bottom(), 4) << "to the end";
+    window.Check6.Value = 1;
+    EXPECT_TRUE(DragOver<QDragMoveEvent>(files, Place(0).center()));
+    EXPECT_NEAR(Mark().geometry().center().y(), Place(1).top(), 4) << "before the selected row";
+    list.Select(2, true);
+    EXPECT_TRUE(DragOver<QDragMoveEvent>(files, Place(0).center()));
+    EXPECT_NEAR(Mark().geometry().center().y(), Place(4).bottom(), 4) << "two are selected";
+    DropOn(files, Place(0).center());
+    EXPECT_EQ(dropped, std::vector<Text>{u"/写真/x.jpg"});
+    EXPECT_FALSE(Mark().isVisible());
+    dropped.clear();
+    window.Enabled = false;
+    EXPECT_FALSE(DragOver<QDragEnterEvent>(files, {5, 5})) << "the window cannot be reached";
+}
+
+TEST_F(FaceView, ScrollsWhileADragIsHeldAtTheEdge) {
+    for (int row = 0; row < 100; ++row) {
+        list.AddItem(u"絵");
+    }
+    Show({});
+    list.RowsDragged = [](int) {};
+    const std::unique_ptr<QMimeData> rows(view.model()->mimeData({}));
+    const QScrollBar& bar = *view.verticalScrollBar();
+    DragOver<QDragEnterEvent>(*rows, {50, view.viewport()->height() / 2});
+    DragOver<QDragMoveEvent>(*rows, {50, view.viewport()->height() - 3});
+    while (bar.value() < 100) {
+        desktop.Loop().PumpEvents();
+    }
+    DragOver<QDragMoveEvent>(*rows, {50, 3});
+    while (bar.value() > 0) {
+        desktop.Loop().PumpEvents();
+    }
+    EXPECT_NEAR(Mark().geometry().top(), 0, 2);
+}
+
+}  // namespace
