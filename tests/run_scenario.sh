@@ -23,7 +23,11 @@ cd "$scratch/data"
 
 declare -A said=([args]='' [app]='' [first]='' [held]='' [exit]='' [unheard]='')
 while IFS= read -r line; do
-    if [[ $line =~ ^\#\ ([a-z]+):\ (.*)$ && -v said[${BASH_REMATCH[1]}] ]]; then
+    if [[ $line =~ ^\#\ ([a-z]+):\ (.*)$ ]]; then
+        if [[ ! -v said[${BASH_REMATCH[1]}] ]]; then
+            echo "$script: nobody reads '# ${BASH_REMATCH[1]}:'" >&2
+            exit 1
+        fi
         said[${BASH_REMATCH[1]}]+=" ${BASH_REMATCH[2]} "  # several lines say more of it
     fi
 done <"$script"

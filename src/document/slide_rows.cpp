@@ -1,5 +1,7 @@
 #include "document/slide_rows.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <numeric>
 
 #include "document/main_caption.h"
@@ -32,6 +34,37 @@ std::vector<int> RowsOfSlides(const Application& app) {
     rows.resize(static_cast<size_t>(app.windows.form3.List2.ListCount()));
     std::iota(rows.begin(), rows.end(), 0);
     return rows;
+}
+
+/// The row shows what the slide plays; a slide keeps a bare name with its folder in front.
+bool IsRowOf(const Application& app, int row, int slide) {
+    const Text& path = app.windows.form3.List1.List(row);
+    return path == app.state.SlideList(slide) ||
+           text::WithFolder(app.state.AppFolder, path) == app.state.SlideList(slide);
+}
+
+/// Each row is that of its slide: nobody has edited the rows since.
+bool RowsAreCommitted(const Application& app, const std::vector<int>& rows) {
+    for (int slide = 1; slide <= static_cast<int>(rows.size()); ++slide) {
+        const int row = rows[static_cast<size_t>(slide - 1)];
+        if (row != kNoRow && !IsRowOf(app, row, slide)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The row nearest to `from` that is the slide's, kNoRow without one.
+int NearestRowOf(const Application& app, int slide, int from) {
+    const int rows = app.windows.form3.List1.ListCount();
+    for (int away = 0; away < rows + std::abs(from); ++away) {
+        for (const int row : {from - away, from + away}) {
+            if (row >= 0 && row < rows && IsRowOf(app, row, slide)) {
+                return row;
+            }
+        }
+    }
+    return kNoRow;
 }
 
 void EraseSlides(model::ShowState& state) {
@@ -85,11 +118,12 @@ bool RedoSlideRows(Application& app) {
 
 void CommitSlides(Application& app) {
     const model::ListBox& rows = app.windows.form3.List1;
+    const int slides = std::min(rows.ListCount(), model::kSlideListLast);
     app.state.SlideList.Erase();
-    for (int row = 0; row < rows.ListCount(); ++row) {
+    for (int row = 0; row < slides; ++row) {
         app.state.SlideList.Set(row + 1, rows.List(row));
     }
-    app.state.SlideListEnd = static_cast<int16_t>(rows.ListCount() + 1);
+    app.state.SlideListEnd = static_cast<int16_t>(slides + 1);
     RebuildSchedule(app);
 }
 
@@ -112,13 +146,16 @@ void ClearSlides(Application& app) {
 
 void RemoveSlide(Application& app, int slide) {
     model::ShowState& state = app.state;
+    const bool committed = RowsAreCommitted(app, RowsOfSlides(app));
     if (const auto row = RowOfSlide(app, slide)) {
         RemoveRows(SlideRows(app), {*row});
     }
     for (model::TextArray* array : {&state.SlideList, &state.ScheduleFrom, &state.ScheduleTo}) {
         array->Remove(slide);
     }
-    RebuildSchedule(app);
+    if (committed) {
+        RebuildSchedule(app);
+    }
     CountSlides(app);
 }
 
@@ -135,8 +172,14 @@ void CountSlides(Application& app) {
 std::optional<int> RowOfSlide(const Application& app, int slide) {
     const std::vector<int> rows = RowsOfSlides(app);
     const auto i = static_cast<size_t>(slide - 1);
-    return slide >= 1 && i < rows.size() && rows[i] != kNoRow ? std::optional(rows[i])
-                                                              : std::nullopt;
+    if (slide < 1 || slide > app.state.SlideList.Count()) {
+        return std::nullopt;
+    }
+    int row = i < rows.size() ? rows[i] : slide - 1;
+    if (row != kNoRow && !IsRowOf(app, row, slide)) {
+        row = NearestRowOf(app, slide, row);
+    }
+    return row != kNoRow ? std::optional(row) : std::nullopt;
 }
 
 void RebuildSchedule(Application& app) {

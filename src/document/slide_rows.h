@@ -45,7 +45,8 @@ const Text& CompleteSlidePath(Application& app, int slide);
 /// SlideListEnd: one more than there are slides, films included.
 void CountSlides(Application& app);
 
-/// Row of the slide (from 1); nothing for a film without a row.
+/// Row of the slide (from 1); nothing for a film without a row. Where a person has edited the rows
+/// since they were committed, the nearest one that has the slide's path.
 std::optional<int> RowOfSlide(const Application& app, int slide);
 
 /// ScheduleFrom and ScheduleTo anew, one entry for each slide: that of its own row. Films without a

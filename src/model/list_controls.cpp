@@ -183,13 +183,18 @@ bool ListBox::Choose(const std::vector<int>& rows) {
             last = row;
         }
     }
-    for (int row = 0; row < ListCount(); ++row) {
-        Select(row, wanted[static_cast<size_t>(row)]);
+    for (int row = 0; row < ListCount();) {
+        const int first = row;
+        const bool on = wanted[static_cast<size_t>(row)];
+        while (row < ListCount() && wanted[static_cast<size_t>(row)] == on) {
+            ++row;
+        }
+        SelectRows(first, row - first, on);
     }
     if (last >= 0) {
         ListIndex = last;
+        OnChosen();
     }
-    OnChosen();
     return true;
 }
 
@@ -286,10 +291,11 @@ bool DriveList::Open(TextView path) {
     if (!Reachable() || (folders && !folders->IsFolder(path))) {
         return false;
     }
-    if (Drive() == path) {
+    const Text place = text::WithoutSeparator(path);
+    if (Drive() == place) {
         Change();  // the browser went elsewhere, and comes back to the place
     }
-    Drive = Text(path);
+    Drive = place;
     return true;
 }
 

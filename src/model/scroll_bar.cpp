@@ -21,7 +21,9 @@ bool ScrollBar::MoveTo(int value) {
 }
 
 void ScrollBar::PropertyChanged(Control&, PropertyBase& property) {
-    if (&property == &Value) {
+    if (&property == &Min || &property == &Max) {
+        Value = std::max(Min(), std::min(Max(), Value()));
+    } else if (&property == &Value) {
         Change();
     }
 }

@@ -8,11 +8,11 @@
 #include "adapters/imaging/file_inquirer.h"
 #include "adapters/imaging/thumbnail_cache.h"
 #include "adapters/imaging/thumbnailer.h"
+#include "adapters/posix/desktop_trash.h"
 #include "adapters/posix/memory.h"
 #include "adapters/posix/posix_file_changes.h"
 #include "adapters/qt/desktop_wallpaper.h"
 #include "adapters/qt/qt_clipboard.h"
-#include "adapters/qt/qt_trash.h"
 #include "adapters/tracing/traced_desk.h"
 #include "adapters/tracing/traced_dialogs.h"
 #include "adapters/tracing/traced_sound.h"
@@ -63,7 +63,7 @@ std::function<void(std::function<void()>)> PostTo(qt_adapter::Desktop& desktop) 
 /// What the windows do to a person's files, clipboard and wallpaper, told to the trace.
 struct Desk {
     Desk(qt_adapter::Desktop& desktop, Surroundings& around, platform::Trace& trace)
-        : posixChanges(around.files, qt_adapter::MoveToTrash),
+        : posixChanges(around.files, posix_adapter::MoveToDesktopTrash),
           fileChanges(posixChanges, trace),
           clipboard(qtClipboard, trace),
           desktopWallpaper(around.files),

@@ -198,5 +198,51 @@ TEST(SlideRows, ABareNameIsCompletedForTheShowOnly) {
     EXPECT_THAT(slides.List1(), ElementsAre(u"mp4.bmp", u"D:\\b.jpg"));
 }
 
+/// a, b, c as rows and slides.
+struct Edited : Slides {
+    Edited() {
+        document::AppendRows(
+            list, {document::SlideRow(u"a"), document::SlideRow(u"b"), document::SlideRow(u"c")});
+        document::CommitSlides(app);
+    }
+};
+
+TEST(SlideRows, ASlideTakesItsOwnRowAlongAfterAnUndo) {
+    Edited slides;
+    document::RemoveSlide(slides.app, 2);  // b
+    ASSERT_TRUE(document::UndoSlideRows(slides.app));
+    document::RemoveSlide(slides.app, 2);  // c
+    EXPECT_THAT(slides.Played(), ElementsAre(u"a"));
+    EXPECT_THAT(slides.List1(), ElementsAre(u"a", u"b"));
+}
+
+TEST(SlideRows, ASlideTakesItsOwnRowAlongWhileRowsAreEdited) {
+    Edited inserted;
+    document::InsertRows(inserted.list, 0, {document::SlideRow(u"x")});
+    document::RemoveSlide(inserted.app, 2);
+    EXPECT_THAT(inserted.Played(), ElementsAre(u"a", u"c"));
+    EXPECT_THAT(inserted.List1(), ElementsAre(u"x", u"a", u"c"));
+
+    Edited moved;
+    document::MoveRows(moved.list, {2}, 0);
+    document::RemoveSlide(moved.app, 3);
+    EXPECT_THAT(moved.Played(), ElementsAre(u"a", u"b"));
+    EXPECT_THAT(moved.List1(), ElementsAre(u"a", u"b"));
+
+    Edited gone;
+    document::RemoveRows(gone.list, {1});
+    document::RemoveSlide(gone.app, 2);
+    EXPECT_THAT(gone.Played(), ElementsAre(u"a", u"c"));
+    EXPECT_THAT(gone.List1(), ElementsAre(u"a", u"c"));
+}
+
+TEST(SlideRows, MoreRowsThanSlidesCanBe) {
+    Slides slides;
+    document::AppendRows(slides.list, std::vector<model::ListRow>(40000, document::SlideRow(u"a")));
+    document::CommitSlides(slides.app);
+    EXPECT_EQ(slides.app.state.SlideListEnd, model::kSlideListLast + 1);
+    EXPECT_EQ(slides.app.state.SlideList.Count(), model::kSlideListLast);
+}
+
 }  // namespace
 }  // namespace document_tests

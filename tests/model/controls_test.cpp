@@ -209,6 +209,7 @@ TEST(ListBox, AChoiceSelectsExactlyTheseRows) {
     EXPECT_TRUE(many.Choose({}));
     EXPECT_EQ(many.SelCount(), 0);
     EXPECT_EQ(many.ListIndex, 2);
+    EXPECT_EQ(clicks, 2) << "to choose nothing is no click";
     many.Enabled = false;
     EXPECT_FALSE(many.Choose({0}));
     EXPECT_EQ(many.SelCount(), 0);

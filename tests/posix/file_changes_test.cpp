@@ -7,7 +7,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
+#include <filesystem>
 
 #include "adapters/posix/posix_files.h"
 #include "adapters/posix/watched_work.h"
@@ -82,6 +84,50 @@ TEST_P(FileChanges, CopiesWithDateAndPermissions) {
         EXPECT_EQ(status.st_mtim.tv_nsec, 5000);
     }
     EXPECT_EQ(folder.Count("to"), std::size(kNames)) << "nothing else lies there";
+}
+
+mode_t ModeOf(const std::string& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 ? status.st_mode & 0777 : 0;
+}
+
+TEST_P(FileChanges, ACopyIsNeverWiderOpenThanItsSource) {
+    folder.Put("secret", std::string(3 << 20, 's'));
+    chmod(folder.Path("secret").c_str(), 0600);
+    std::vector<mode_t> seen;
+    const auto look = [&](const Progress&) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
+            if (entry.path().extension() == ".tmp") {
+                seen.push_back(ModeOf(entry.path()));
+            }
+        }
+        return true;
+    };
+    EXPECT_EQ(changes.Copy(At("secret"), At("copy"), look, error), Outcome::Done);
+    EXPECT_EQ(ModeOf(folder.Path("copy")), 0600u);
+    EXPECT_EQ(std::count(seen.begin(), seen.end(), 0600u), std::ssize(seen));
+}
+
+TEST_P(FileChanges, WhatIsReplacedLendsItsPermissions) {
+    folder.Put("from", "new");
+    chmod(folder.Path("from").c_str(), 0444);
+    folder.Put("to", "old");
+    chmod(folder.Path("to").c_str(), 0600);
+    EXPECT_EQ(changes.Copy(At("from"), At("to"), goesOn, error), Outcome::Done);
+    EXPECT_EQ(folder.Content("to"), "new");
+    EXPECT_EQ(ModeOf(folder.Path("to")), 0600u);
+}
+
+TEST_P(FileChanges, AFolderWithTooLongANameIsAFailure) {
+    EXPECT_FALSE(changes.MakeFolder(At(std::string(300, 'x')), error));
+    EXPECT_FALSE(error.message.empty());
+}
+
+TEST_P(FileChanges, AFolderIsNotPutIntoTheTrash) {
+    folder.Put("folder/file", "kept");
+    Text kept;
+    EXPECT_FALSE(changes.Trash(At("folder"), kept, error));
+    EXPECT_EQ(folder.Content("folder/file"), "kept");
 }
 
 TEST_P(FileChanges, AStopLeavesTheOldFile) {

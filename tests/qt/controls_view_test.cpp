@@ -249,6 +249,8 @@ TEST_F(ControlViews, ScrollBarBothWays) {
     EXPECT_EQ(changes, 5);
     scroll.Max = 40;
     EXPECT_EQ(bar.maximum(), 40);
+    EXPECT_EQ(scroll.Value(), 40);
+    EXPECT_EQ(changes, 6);
 }
 
 std::vector<std::string> heard;
@@ -328,6 +330,9 @@ TEST_F(ControlViews, LinesOfTextEndWithCarriageReturnAndLineFeed) {
     window.Text1.Content = u"新";
     EXPECT_EQ(edit.toPlainText(), QStringLiteral("新"));
     EXPECT_EQ(changes, 2) << "the program's own change is no person's";
+    window.Text1.Content = u"一\n二";
+    EXPECT_EQ(window.Text1.Content(), u"一\n二") << "nobody typed the line's other end";
+    EXPECT_EQ(changes, 2);
 }
 
 /// Five rows: a, b, c, d, e.

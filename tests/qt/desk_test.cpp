@@ -15,7 +15,6 @@
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/desktop_wallpaper.h"
 #include "adapters/qt/qt_clipboard.h"
-#include "adapters/qt/qt_trash.h"
 #include "posix/temporary_folder.h"
 
 namespace qt_adapter {
@@ -66,31 +65,6 @@ TEST_F(DeskTest, ClipboardHoldsTextPictureOrFiles) {
               "copy\nfile:///a%20b/100%25%23%0A%E5%86%99.jpg\nfile:///c.png");
     clipboard.PutPicture(nullptr);
     EXPECT_TRUE(clipboard.GetFiles().empty());
-}
-
-TEST_F(DeskTest, TrashKeepsANoteOfWhereItCameFrom) {
-    const Variable data("XDG_DATA_HOME", folder.Path("data"));
-    const Variable home("HOME", folder.Path());  // on the same disk
-    posix_adapter::PosixFileChanges changes(files, MoveToTrash);
-    for (const char* bare : {"a.jpg", "100%#写 真.jpg", "x\ny.jpg"}) {
-        folder.Put(bare, bare);
-        Text kept;
-        ASSERT_TRUE(changes.Trash(folder.TextPath(bare), kept, error)) << bare;
-        ASSERT_TRUE(kept.starts_with(folder.TextPath("data/Trash/files/"))) << text::ToUtf8(kept);
-        EXPECT_FALSE(std::filesystem::exists(folder.Path(bare)));
-        EXPECT_EQ(folder.Count("data/Trash/files"), 1u);
-        const auto note = std::filesystem::directory_iterator(folder.Path("data/Trash/info"));
-        const std::string content =
-            folder.Content("data/Trash/info/" + note->path().filename().string());
-        EXPECT_TRUE(content.starts_with("[Trash Info]\n")) << content;
-        EXPECT_NE(content.find("\nDeletionDate="), std::string::npos);
-        ASSERT_TRUE(changes.Restore(kept, folder.TextPath(bare), error)) << bare;
-        EXPECT_EQ(folder.Content(bare), bare);
-        EXPECT_EQ(folder.Count("data/Trash/files"), 0u);
-        EXPECT_EQ(folder.Count("data/Trash/info"), 0u) << "the note goes with it";
-    }
-    std::string kept;
-    EXPECT_EQ(MoveToTrash(folder.Path("none"), kept), ENOTSUP);
 }
 
 struct Wallpapers : DeskTest {

@@ -1,5 +1,5 @@
 # In the main window clearing and mirroring set the pen back to the top, and saving the picture does
-# nothing: the text begins at the top as if the word were not there.
+# nothing; the text begins at the top as if the word were not there.
 choose edge_screen.kvs
 menu mnuOPEN
 click Form1.Command1

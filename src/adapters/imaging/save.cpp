@@ -86,7 +86,6 @@ int Write(const Bitmap& picture, const std::string& path, const SaveForm& form,
         return file.error() == QFileDevice::ResourceError ? ENOSPC : EIO;
     }
     file.close();
-    target.KeepPermissions();
     if (const int error = target.Flush()) {
         return error;
     }

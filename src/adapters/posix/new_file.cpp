@@ -30,14 +30,14 @@ int FollowLinks(std::string& path) {
     return ELOOP;
 }
 
-/// New file beside the target; readable as the process's mask allows. Its name is put in `path`.
-Descriptor MakeTemporary(const std::string& folder, std::string& path) {
+/// New file beside the target. Its name is put in `path`.
+Descriptor MakeTemporary(const std::string& folder, mode_t mode, std::string& path) {
     static std::atomic<unsigned> counter{0};
     constexpr int kMostTries = 1000;
     for (int i = 0; i < kMostTries; ++i) {
         path = folder + ".parapico-" + std::to_string(getpid()) + "-" + std::to_string(counter++) +
                ".tmp";
-        Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
         if (file.Valid() || errno != EEXIST) {
             return file;
         }
@@ -92,7 +92,7 @@ int CheckTarget(const std::string& target, bool& exists, struct stat& status) {
 
 }  // namespace
 
-int NewFile::Begin(const std::string& nativePath) {
+int NewFile::Begin(const std::string& nativePath, mode_t freshMode) {
     GiveUp();
     target_ = nativePath;
     if (target_.empty()) {
@@ -107,8 +107,12 @@ int NewFile::Begin(const std::string& nativePath) {
     if (target_.ends_with('/')) {
         return EISDIR;
     }
-    file_ = MakeTemporary(FolderOf(target_), temporary_);
+    constexpr mode_t kOwnerOnly = 0600;
+    file_ = MakeTemporary(FolderOf(target_), exists_ ? kOwnerOnly : freshMode, temporary_);
     if (file_.Valid()) {
+        if (exists_) {
+            KeepPermissionsOf(file_.Get(), old_);
+        }
         return 0;
     }
     temporary_.clear();
@@ -117,12 +121,6 @@ int NewFile::Begin(const std::string& nativePath) {
 
 int NewFile::Write(std::string_view content) {
     return WriteAll(file_.Get(), content);
-}
-
-void NewFile::KeepPermissions() const {
-    if (exists_) {
-        KeepPermissionsOf(file_.Get(), old_);
-    }
 }
 
 int NewFile::Flush() {

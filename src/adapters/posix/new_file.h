@@ -10,7 +10,8 @@
 
 namespace posix_adapter {
 
-/// Order of use: Begin, write to Fd, Commit. Gone without a trace when it is destroyed before.
+/// Order of use: Begin, write to Fd, Flush, Commit. Gone without a trace when it is destroyed
+/// before.
 class NewFile {
 public:
     NewFile() = default;
@@ -20,15 +21,15 @@ public:
 
     /// Makes the temporary file where `nativePath` (links followed) may be replaced: it is a plain
     /// file that may be written, or nothing at all. 0, or errno.
-    int Begin(const std::string& nativePath);
+    ///
+    /// It has mode and owner of the file that it replaces from its first byte on, as far as the
+    /// disk knows any; else `freshMode` as the process's mask allows.
+    int Begin(const std::string& nativePath, mode_t freshMode = 0666);
 
     int Fd() const { return file_.Get(); }
     int Write(std::string_view content);
     /// Nullptr where nothing stands at the target.
     const struct stat* Old() const { return exists_ ? &old_ : nullptr; }
-    /// Mode and owner of the file that is replaced, if any. A disk that knows none refuses: nothing
-    /// to keep.
-    void KeepPermissions() const;
 
     /// To the disk. 0, or errno.
     int Flush();

@@ -47,12 +47,27 @@ int CopyContent(int from, NewFile& to, WatchedWork& watched) {
     }
 }
 
-/// A disk that keeps neither date nor permissions has none to give.
-void TakeOver(int fd, const struct stat& source) {
+/// A disk that keeps no dates has none to give.
+void TakeDateOver(int fd, const struct stat& source) {
     const timespec times[2] = {source.st_atim, source.st_mtim};
-    if (fchmod(fd, source.st_mode & 0777) != 0 || futimens(fd, times) != 0) {
+    if (futimens(fd, times) != 0) {
         return;
     }
+}
+
+/// The file is the one that was copied, to its last byte.
+bool IsUnchanged(const std::string& path, const struct stat& copied) {
+    struct stat now {};
+    return stat(path.c_str(), &now) == 0 && SameFile(now, copied) &&
+           now.st_size == copied.st_size && now.st_mtim.tv_sec == copied.st_mtim.tv_sec &&
+           now.st_mtim.tv_nsec == copied.st_mtim.tv_nsec;
+}
+
+int RemoveCopied(const std::string& path, const struct stat& copied) {
+    if (!IsUnchanged(path, copied)) {
+        return EBUSY;
+    }
+    return unlink(path.c_str()) == 0 ? 0 : errno;
 }
 
 /// 0, or errno: ECANCELED when it was stopped.
@@ -64,16 +79,20 @@ int CopyFile(const std::string& from, const std::string& to, bool removeSource,
         return errno;
     }
     NewFile target;
-    if (const int error = target.Begin(to)) {
+    if (const int error = target.Begin(to, status.st_mode & 0777)) {
         return error;
     }
     if (target.Old() && SameFile(*target.Old(), status)) {
         return EEXIST;
     }
+    const mode_t mode = status.st_mode & 0777;
+    if (!target.Old() && fchmod(target.Fd(), mode) != 0) {
+        // The disk keeps none.
+    }
     watched.whole = status.st_size;
     int error = CopyContent(source.Get(), target, watched);
     if (error == 0) {
-        TakeOver(target.Fd(), status);
+        TakeDateOver(target.Fd(), status);
         error = target.Flush();
     }
     if (error == 0 && !watched.MayCommit()) {
@@ -82,10 +101,7 @@ int CopyFile(const std::string& from, const std::string& to, bool removeSource,
     if (error == 0) {
         error = target.Commit();
     }
-    if (error == 0 && removeSource && unlink(from.c_str()) != 0) {
-        error = errno;
-    }
-    return error;
+    return error == 0 && removeSource ? RemoveCopied(from, status) : error;
 }
 
 /// 0 where the file could be taken out of its folder.
@@ -213,6 +229,10 @@ bool PosixFileChanges::Trash(TextView path, Text& kept, FileError& error) {
     if (const int refused = CheckRemovable(*found)) {
         return Told(refused, error);
     }
+    struct stat status {};
+    if (lstat(found->c_str(), &status) != 0 || S_ISDIR(status.st_mode)) {
+        return Told(S_ISDIR(status.st_mode) ? EISDIR : errno, error);
+    }
     std::string place;
     int failure = trash_ ? trash_(*found, place) : ENOTSUP;
     if (failure == 0) {
@@ -245,7 +265,8 @@ bool PosixFileChanges::MakeFolder(TextView path, FileError& error) {
     std::error_code failed;
     const std::filesystem::path native(files_.NativeTarget(path));
     std::filesystem::create_directories(native, failed);
-    if (failed && std::filesystem::is_directory(native)) {
+    std::error_code unknown;
+    if (failed && std::filesystem::is_directory(native, unknown)) {
         failed.clear();
     }
     return Told(failed.value(), error);

@@ -129,11 +129,14 @@ std::string ProgramFolder(const std::string& given) {
     if (!error && fs::is_regular_file(executable.parent_path() / "portable.txt", error)) {
         return WithSlash(executable.parent_path());
     }
+    return DataHome() + "parapico/";
+}
+
+std::string DataHome() {
     // A relative $XDG_DATA_HOME does not count.
     const std::string data = Environment("XDG_DATA_HOME");
-    const fs::path base =
-        data.starts_with('/') ? fs::path(data) : fs::path(HomeFolder()) / ".local/share";
-    return WithSlash(base / "parapico");
+    return WithSlash(data.starts_with('/') ? fs::path(data)
+                                           : fs::path(HomeFolder()) / ".local/share");
 }
 
 PosixSystem::PosixSystem(std::string programFolder, std::string assetsFolder)

@@ -17,6 +17,9 @@ namespace posix_adapter {
 /// parapico/ below $XDG_DATA_HOME or ~/.local/share. Nothing is made.
 std::string ProgramFolder(const std::string& given);
 
+/// $XDG_DATA_HOME, else ~/.local/share, with '/' at its end. Nothing is made.
+std::string DataHome();
+
 class PosixSystem : public platform::System {
 public:
     /// `programFolder`: as ProgramFolder gives it. `assetsFolder`: native path of the shipped files

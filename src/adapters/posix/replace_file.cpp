@@ -26,7 +26,6 @@ int ReplaceFile(const std::string& nativePath, std::string_view content) {
         error = file.Write(content);
     }
     if (error == 0) {
-        file.KeepPermissions();
         error = file.Flush();
     }
     return error != 0 ? error : file.Commit();

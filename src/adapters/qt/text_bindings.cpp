@@ -1,6 +1,7 @@
 #include "adapters/qt/text_bindings.h"
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
 
@@ -61,12 +62,15 @@ TextBinding::TextBinding(model::TextBox& box, QWidget& widget, const Site& site)
     : ControlBinding(box, widget, site), box_(box) {}
 
 void TextBinding::Typed() {
-    Act([this] { box_.Enter(FromQt(Shown())); });
+    if (!showing_) {
+        Act([this] { box_.Enter(FromQt(Shown())); });
+    }
 }
 
 void TextBinding::SyncOwn() {
     const QString content = ToQt(box_.Content());
     if (Shown() != content) {  // else the cursor stays where a person left it
+        const QScopedValueRollback<bool> guard(showing_, true);
         Show(content);
     }
 }

@@ -55,6 +55,7 @@ protected:
 
 private:
     model::TextBox& box_;
+    bool showing_ = false;  // the program's own change is none of a person's
 };
 
 class LineBinding : public TextBinding {

@@ -12,12 +12,10 @@ namespace robot {
 namespace {
 
 /// "YYYY/MM/DD" in digits.
+/// Written in full, and in the calendar.
 bool IsDay(TextView value) {
-    constexpr TextView kForm = u"0000/00/00";
-    return value.size() == kForm.size() &&
-           std::equal(value.begin(), value.end(), kForm.begin(), [](char16_t c, char16_t form) {
-               return form == u'/' ? c == u'/' : c >= u'0' && c <= u'9';
-           });
+    platform::DateTime day;
+    return platform::ReadDateTime(value, day) && platform::DateText(day) == value;
 }
 
 bool IsFieldless(ActionKind kind) {
@@ -35,7 +33,12 @@ std::string WhyNoSelect(const Action& action, model::Control& control) {
         const size_t count = action.numbers.size();
         return count == 2 || count == 4 ? "" : "a cell is ROW COL, a range ROW COL ROW2 COL2";
     }
-    return AsList(control) ? "" : action.control + " is no list";
+    if (!AsList(control)) {
+        return action.control + " is no list";
+    }
+    const bool clears = control.Kind() == model::ControlKind::ListBox ||
+                        control.Kind() == model::ControlKind::FileList;
+    return clears || !action.numbers.empty() ? "" : action.control + " always has a row chosen";
 }
 
 /// Why the action's value cannot be given to a control of that kind; empty when it can.
@@ -43,6 +46,7 @@ std::string WhyNoSet(const Action& action, model::ControlKind kind) {
     const Text& value = *action.text;
     switch (kind) {
         case model::ControlKind::TextBox:
+        case model::ControlKind::ComboBox:
         case model::ControlKind::FolderList:
         case model::ControlKind::DriveList:
             return "";

@@ -323,6 +323,13 @@ bool ScriptedUser::Set(const Action& action, model::VisibleControl& target) {
     if (auto* option = dynamic_cast<model::OptionButton*>(&target)) {
         return option->Value || option->Press();
     }
+    if (auto* combo = dynamic_cast<model::ComboBox*>(&target)) {
+        const auto row = std::find(combo->Rows().begin(), combo->Rows().end(), value);
+        if (row == combo->Rows().end()) {
+            Fault(action, "no such item: " + text::ToUtf8(value));
+        }
+        return combo->Choose({static_cast<int>(row - combo->Rows().begin())});
+    }
     if (auto* folder = dynamic_cast<model::FolderList*>(&target)) {
         return folder->Open(Absolute(value));
     }
