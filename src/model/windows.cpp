@@ -9,6 +9,7 @@
 #include "model/windows/linked_folder.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
+#include "model/windows/relink_preview.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_windows.h"
@@ -52,6 +53,7 @@ struct Windows::Made {
     Form22 form22;
     Form23 form23;
     Form24 form24;
+    RelinkPreview relinkPreview;
     Slidescreen slidescreen;
     Slidescreen2 slidescreen2;
 };
@@ -86,11 +88,11 @@ Slidescreen::Slidescreen() : Window("Slidescreen", u"パラピコ") {
     }
 }
 
-std::array<Window*, 26> Windows::All() {
-    return {&form1,  &form2,  &form3,  &form4,       &form5,       &form6,  &form7,
-            &form8,  &form9,  &form10, &form11,      &form12,      &form13, &form14,
-            &form15, &form16, &form17, &form18,      &form19,      &form20, &form21,
-            &form22, &form23, &form24, &slidescreen, &slidescreen2};
+std::array<Window*, 27> Windows::All() {
+    return {&form1,  &form2,  &form3,  &form4,         &form5,       &form6,       &form7,
+            &form8,  &form9,  &form10, &form11,        &form12,      &form13,      &form14,
+            &form15, &form16, &form17, &form18,        &form19,      &form20,      &form21,
+            &form22, &form23, &form24, &relinkPreview, &slidescreen, &slidescreen2};
 }
 
 Windows::Windows()
@@ -119,6 +121,7 @@ Windows::Windows()
       form22(made_->form22),
       form23(made_->form23),
       form24(made_->form24),
+      relinkPreview(made_->relinkPreview),
       slidescreen(made_->slidescreen),
       slidescreen2(made_->slidescreen2) {}
 

@@ -34,6 +34,7 @@ struct Form21;
 struct Form22;
 struct Form23;
 struct Form24;
+struct RelinkPreview;
 struct Slidescreen;
 struct Slidescreen2;
 
@@ -69,6 +70,7 @@ public:
     Form22& form22;
     Form23& form23;
     Form24& form24;
+    RelinkPreview& relinkPreview;
     Slidescreen& slidescreen;
     Slidescreen2& slidescreen2;
 
@@ -82,7 +84,7 @@ public:
     void ForceCursor(bool seen);
 
     /// In declaration order.
-    std::array<Window*, 26> All();
+    std::array<Window*, 27> All();
     /// By name, without case; null when there is none.
     Window* Find(std::string_view name);
 };

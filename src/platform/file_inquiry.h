@@ -21,7 +21,7 @@ struct FileFacts {
 };
 
 /// Bytes of a file's beginning by which it is known again under another name.
-constexpr size_t kBeginningBytes = 16384;
+constexpr size_t kBeginningBytes = 4096;
 /// Of at most that many bytes. Equal bytes have equal sums, in every run.
 uint64_t BeginningSum(std::string_view bytes);
 

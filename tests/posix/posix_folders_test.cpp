@@ -45,6 +45,12 @@ TEST_F(Folders, ListsWhatIsSeenInNaturalOrder) {
     EXPECT_EQ(folders.Files(folder.TextPath("nowhere"), u"*.*"), Names());
     EXPECT_TRUE(folders.IsFolder(folder.TextPath("sub2")));
     EXPECT_FALSE(folders.IsFolder(folder.TextPath("2.jpg")));
+    const Text identity = folders.Identity(folder.TextPath("sub2"));
+    EXPECT_FALSE(identity.empty());
+    EXPECT_EQ(folders.Identity(folder.TextPath("link")), identity) << "a link to it";
+    EXPECT_NE(folders.Identity(folder.TextPath("sub10")), identity);
+    EXPECT_EQ(folders.Identity(folder.TextPath("2.jpg")), Text());
+    EXPECT_EQ(folders.Identity(folder.TextPath("nowhere")), Text());
 }
 
 TEST_F(Folders, PlacesBeginAtHomeAndNameTheDesktopsFolders) {

@@ -33,6 +33,8 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   high.kvs      tall in full screen, shown from the top
   avi.kvs       clip.avi until 2020; text.jpg; clip.avi; a; b from 2030; c until 2030
   failing.kvs   a, text.jpg, zero.png, missing.png, b; stops at the end
+  strayed.kvs   trip/a trip/b, a.png, c and none: all but a.png in a folder /gone that is not there;
+                moved/ has trip/A trip/b 1/c 2/c, and trip/later
   hostile.kvs   a, endless.svg, garbage.psd, bomb.png, bar.svg (a blue bar at the top), b
   names.kvs     絵１, wide, tall
   vue2.kvs      a b in the oldest form
@@ -371,6 +373,10 @@ def main():
     files["autstart.dat"] = document([" 0 "])
     files["failing.kvs"] = document(lines_of_show(
         ["a.png", "text.jpg", "zero.png", "missing.png", "b.png"]))
+    files["strayed.kvs"] = document(lines_of_show(
+        ["/gone/trip/a.png", "/gone/trip/b.png", "a.png", "/gone/c.png", "/gone/none.png"]))
+    for name in ("trip/A.png", "trip/b.png", "1/c.png", "2/c.png", "trip/later.png"):
+        files["moved/" + name] = png(32, 24, (200, 200, 200))
     svg = "<svg xmlns='http://www.w3.org/2000/svg' width='320' height='240'>{}</svg>"
     files["bar.svg"] = svg.format("<rect width='320' height='60' fill='#00f'/>").encode()
     # Every rule is held against every level: hours of work.
@@ -463,6 +469,7 @@ def main():
 
     files.update(edge_macros())
     for name, content in files.items():
+        (folder / name).parent.mkdir(parents=True, exist_ok=True)
         (folder / name).write_bytes(content)
     picture = files["a.png"]
     for name in ("1.png", "3.bmp", "a/10.png", "a/9.png", "a/x/4.png", "b/5.TIF", "none/words.txt",

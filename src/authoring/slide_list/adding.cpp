@@ -38,22 +38,13 @@ bool Inserts(const model::Form3& form3) {
     return form3.Check6.Value == 1 && form3.List1.SelCount() == 1;
 }
 
-void AddRows(Application& app, std::vector<Text> paths) {
-    model::Form3& form3 = app.windows.form3;
-    std::vector<model::ListRow> rows;
-    rows.reserve(paths.size());
-    for (Text& path : paths) {
-        rows.push_back(document::SlideRow(std::move(path)));
-    }
+/// In front of which row what is added comes.
+int Place(const model::Form3& form3) {
     if (!Inserts(form3)) {
-        document::AppendRows(document::SlideRows(app), std::move(rows));
-        return;
+        return form3.List1.ListCount();
     }
     const int current = form3.List1.ListIndex;
-    document::InsertRows(document::SlideRows(app),
-                         current >= 0 ? current : form3.List1.SelectedRows().front(),
-                         std::move(rows));
-    form3.List2.ListIndex = form3.List1.ListIndex();
+    return current >= 0 ? current : form3.List1.SelectedRows().front();
 }
 
 void ScrollBy(model::Form3& form3, int rows) {
@@ -92,10 +83,7 @@ void Command3_Click(Application& app) {
 void List1_FilesDropped(Application& app, const std::vector<Text>& paths) {
     app.state.SlideSearchStop = 0;
     std::vector<Text> taken;
-    std::copy_if(paths.begin(), paths.end(), std::back_inserter(taken), [](const Text& path) {
-        const Text kind = text::KindOf(path);
-        return std::find(kDropKinds.begin(), kDropKinds.end(), kind) != kDropKinds.end();
-    });
+    std::copy_if(paths.begin(), paths.end(), std::back_inserter(taken), IsDroppedKind);
     if (AddSlides(app, std::move(taken))) {
         ScrollPast(app.windows.form3, paths.size());
     } else {
@@ -105,18 +93,37 @@ void List1_FilesDropped(Application& app, const std::vector<Text>& paths) {
 
 }  // namespace
 
-bool AddSlides(Application& app, std::vector<Text> paths) {
+bool IsDroppedKind(TextView path) {
+    return std::find(kDropKinds.begin(), kDropKinds.end(), text::KindOf(path)) != kDropKinds.end();
+}
+
+bool InsertSlides(Application& app, int before, std::vector<model::ListRow> rows) {
     if (ToldFull(app)) {
         return false;
     }
     const auto room = static_cast<size_t>(Room(app));
-    const bool fills = paths.size() >= room;
-    paths.resize(std::min(paths.size(), room));
-    if (!paths.empty()) {
-        AddRows(app, std::move(paths));
+    const bool fills = rows.size() >= room;
+    rows.resize(std::min(rows.size(), room));
+    if (!rows.empty()) {
+        document::InsertRows(document::SlideRows(app), before, std::move(rows));
         app.state.SlideListDirty = 1;
     }
     return !fills || !ToldFull(app);
+}
+
+bool AddSlides(Application& app, std::vector<Text> paths) {
+    model::Form3& form3 = app.windows.form3;
+    std::vector<model::ListRow> rows;
+    rows.reserve(paths.size());
+    for (Text& path : paths) {
+        rows.push_back(document::SlideRow(std::move(path)));
+    }
+    const bool inserts = Inserts(form3);
+    const bool room = InsertSlides(app, Place(form3), std::move(rows));
+    if (inserts) {
+        form3.List2.ListIndex = form3.List1.ListIndex();
+    }
+    return room;
 }
 
 void AddFiles(Application& app, TextView folder, const std::vector<Text>& names) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "model/application.h"
+#include "model/row_history.h"
 
 namespace authoring {
 
@@ -16,6 +17,12 @@ extern const TextView kSlidePatterns;
 /// with Check6 and one selected row in front of the current one, which stays current. False once it
 /// is full. Nothing that was added is taken back.
 bool AddSlides(Application& app, std::vector<Text> paths);
+
+/// Puts rows in front of row `before` under the same rule.
+bool InsertSlides(Application& app, int before, std::vector<model::ListRow> rows);
+
+/// Of the kinds that a drop takes; the browser shows more.
+bool IsDroppedKind(TextView path);
 
 /// What 一括選択 does with the files of a folder, bare names: adds them all and scrolls on. A full
 /// list also ends a search.

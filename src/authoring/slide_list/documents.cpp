@@ -2,6 +2,7 @@
 
 #include "authoring/slide_list/linked_work.h"
 #include "authoring/slide_list/preview.h"
+#include "authoring/slide_list/remembered_files.h"
 #include "authoring/slide_list/selection.h"
 #include "authoring/slide_list/stopped_search.h"
 #include "authoring/sound_list.h"
@@ -53,6 +54,7 @@ void SaveAs(Application& app, TextView title, int16_t distribution) {
     if (const auto path = app.platform.dialogs.ChooseFile(request)) {
         app.state.DistributionSaveFlag = distribution;
         document::WriteShowDocument(app, *path);
+        RememberFiles(app);
     }
 }
 

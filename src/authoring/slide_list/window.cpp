@@ -6,17 +6,22 @@
 #include "authoring/shared/open_window.h"
 #include "authoring/slide_list/adding.h"
 #include "authoring/slide_list/check_boxes.h"
+#include "authoring/slide_list/clipboard_rows.h"
 #include "authoring/slide_list/commit.h"
 #include "authoring/slide_list/documents.h"
 #include "authoring/slide_list/double_click.h"
+#include "authoring/slide_list/filter.h"
+#include "authoring/slide_list/history.h"
 #include "authoring/slide_list/linked_sound.h"
 #include "authoring/slide_list/linked_text.h"
 #include "authoring/slide_list/linked_work.h"
 #include "authoring/slide_list/preview.h"
+#include "authoring/slide_list/relink.h"
 #include "authoring/slide_list/row_faces.h"
 #include "authoring/slide_list/rows.h"
 #include "authoring/slide_list/run_from_selection.h"
 #include "authoring/slide_list/selection.h"
+#include "authoring/slide_list/sorting.h"
 #include "authoring/slide_list/stopped_search.h"
 #include "authoring/slide_list/tree_search.h"
 #include "document/main_caption.h"
@@ -183,6 +188,11 @@ void AttachSlideList(Application& app) {
     AttachRunFromSelection(app);
     AttachTreeSearch(app);
     AttachRowFaces(app);
+    AttachHistory(app);
+    AttachClipboardRows(app);
+    AttachSorting(app);
+    AttachFilter(app);
+    AttachRelink(app);
 }
 
 }  // namespace authoring

@@ -1,0 +1,37 @@
+#include "authoring/slide_list/history.h"
+
+#include "authoring/shared/list_history.h"
+#include "authoring/slide_list/selection.h"
+#include "authoring/slide_list/stopped_search.h"
+#include "document/slide_rows.h"
+#include "model/windows/slide_list.h"
+
+namespace authoring {
+
+namespace {
+
+using model::Application;
+
+/// Buttons and preview are those of the selection that comes back.
+void GoBack(Application& app, bool (*back)(Application& app)) {
+    if (!StoppedSearch(app) && back(app)) {
+        app.state.SlideListDirty = 1;
+        FollowSelection(app);
+    }
+}
+
+}  // namespace
+
+void AttachHistory(Application& app) {
+    model::Form3& form3 = app.windows.form3;
+    AttachHistory(
+        {form3.history, form3.Undo, form3.Redo, form3.mnuUNDO, form3.mnuREDO},
+        [&app] { GoBack(app, document::UndoSlideRows); },
+        [&app] { GoBack(app, document::RedoSlideRows); });
+    form3.List1.RowsDragged = [&app](int before) {
+        document::MoveRows(document::SlideRows(app), SelectedSlides(app), before);
+        app.state.SlideListDirty = 1;
+    };
+}
+
+}  // namespace authoring
