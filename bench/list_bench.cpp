@@ -80,6 +80,7 @@ void MeasureShowing(qt_adapter::Desktop& desktop, const std::string& folder,
 void MeasureChanges(Program& program, const char* how) {
     Application& app = program.app;
     const auto slides = [&] { return document::SlideRows(app); };
+    program.List().verticalScrollBar()->setValue(0);
     model::ListBox& list = app.windows.form3.List1;
     const double added = MedianUntilPainted(program, [&] {
         document::InsertRows(slides(), 0, {document::SlideRow(u"/home/me/new.jpg")});
@@ -100,14 +101,14 @@ void MeasureChanges(Program& program, const char* how) {
     std::printf("budget frames-of-a-page-%s %.3f 1\n", how, scrolled / kFrameMs);
 }
 
-void MeasureThumbnails(Program& program, const char* how) {
+/// `before`: what the program took without thumbnails.
+void MeasureThumbnails(Program& program, double before, const char* how) {
     QScrollBar& bar = *program.List().verticalScrollBar();
     bar.setValue(0);
     program.Settle();
     std::printf("budget thumbnails-wanted-over-rows-in-sight-%s %.3f 1\n", how,
                 static_cast<double>(program.thumbnails.wanted.size()) / program.RowsInSight());
-    const double before = ResidentMiB();
-    double most = before;
+    double most = ResidentMiB();
     while (bar.value() < bar.maximum()) {
         bar.triggerAction(QAbstractSlider::SliderPageStepAdd);
         program.desktop.Loop().PumpEvents();
@@ -128,13 +129,15 @@ int main(int argc, char** argv) {
     WriteDocument(document);
     qt_adapter::Desktop desktop(argc, argv, {.offscreen = true, .screens = {{0, 0, 1920, 1080}}});
     MeasureShowing(desktop, folder, document);
+    double before = 0;
     for (const bool grid : {false, true}) {
         Program program(desktop, folder, desktop.Loop());
         program.app.windows.form3.List1.AsGrid = grid;
         program.app.windows.form3.Show();
         authoring::OpenDocument(program.app, text::FromUtf8(document));
         program.Settle();
-        MeasureThumbnails(program, grid ? "grid" : "lines");
+        before = grid ? before : ResidentMiB();
+        MeasureThumbnails(program, before, grid ? "grid" : "lines");
         MeasureChanges(program, grid ? "grid" : "lines");
     }
     std::filesystem::remove(document);

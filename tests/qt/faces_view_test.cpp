@@ -210,6 +210,24 @@ TEST_F(FaceView, FacesOfRowsInSightAloneAreAskedFor) {
     EXPECT_EQ(asked, std::set<int>{30000});
 }
 
+TEST_F(FaceView, TheFirstRowFollowsOnceRowsHaveCome) {
+    Show({});
+    const auto top = [&] { return view.indexAt(QPoint(1, 1)).row(); };
+    for (int row = 0; row < 300; ++row) {
+        list.AddItem(u"/写真/絵.jpg");
+        list.TopIndex = row / 2;
+    }
+    EXPECT_EQ(list.TopIndex, 149) << "the view's own place is no news";
+    Pump();
+    EXPECT_EQ(top(), 149);
+    EXPECT_EQ(list.TopIndex, 149);
+    list.TopIndex = 50;
+    EXPECT_EQ(top(), 50) << "at once where no row came or went";
+    list.RemoveRows(0, 280);
+    Pump();
+    EXPECT_LT(top(), 20);
+}
+
 TEST_F(FaceView, StandsBesideEachOtherInAGrid) {
     Show();
     EXPECT_EQ(Place(0).left(), Place(1).left());

@@ -47,6 +47,7 @@ ListBinding::ListBinding(model::ListBox& list, QListView& view, const Site& site
     });
     Sync();
     RowsChanged(list, {model::RowChange::Cleared, 0});
+    unsettled_ = false;
     ShowCurrent();
     ShowTop();
 }
@@ -105,7 +106,10 @@ void ListBinding::RowsChanged(model::Control&, const model::RowChange& change) {
     rows_.Follow(change);
     if (replaced) {
         ShowSelection(change.row, change.count);
-    } else if (change.kind == model::RowChange::Cleared) {
+    } else {
+        Unsettle();
+    }
+    if (change.kind == model::RowChange::Cleared) {
         ShowSelection(0, list_.ListCount());
     }
     // The view's current row goes with its row; the list's is a number.
@@ -179,11 +183,33 @@ void ListBinding::ShowCurrent() {
 }
 
 void ListBinding::ShowTop() {
+    if (following_) {
+        return;
+    }
+    if (unsettled_) {
+        topWanted_ = true;
+        return;
+    }
+    const QScopedValueRollback<bool> guard(following_, true);
     const int row = std::min(rows_.From(list_.TopIndex), rows_.rowCount() - 1);
-    const QModelIndex top = view_.indexAt(QPoint(1, 1));
-    if (!following_ && row >= 0 && top.row() != row) {
-        const QScopedValueRollback<bool> guard(following_, true);
+    if (row >= 0 && view_.indexAt(QPoint(1, 1)).row() != row) {
         view_.scrollTo(rows_.index(row), QAbstractItemView::PositionAtTop);
+    }
+}
+
+/// To ask where a row stands lays all rows out anew: once for all changes between two turns of the
+/// event loop.
+void ListBinding::Unsettle() {
+    if (!std::exchange(unsettled_, true)) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                unsettled_ = false;
+                if (std::exchange(topWanted_, false)) {
+                    ShowTop();
+                }
+            },
+            Qt::QueuedConnection);
     }
 }
 

@@ -32,6 +32,7 @@ private:
     void ShowSelection(int first, int count);
     void ShowCurrent();
     void ShowTop();
+    void Unsettle();
     void FollowSelection(const QItemSelection& on, const QItemSelection& off);
     void SelectInList(const QItemSelection& ranges, bool on);
     void FollowCurrent(const QModelIndex& current);
@@ -48,6 +49,8 @@ private:
     bool held_ = false;     // a button of the mouse is down
     bool chosen_ = false;   // rows were selected since it went down: no click yet
     bool pressQueued_ = false;
+    bool unsettled_ = false;  // rows have come or gone in this turn of the event loop
+    bool topWanted_ = false;  // and the first one to be seen is another one since
     bool following_ = false;  // a change is being passed on: its echo is not news
 };
 
