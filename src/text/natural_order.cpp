@@ -42,8 +42,11 @@ int CompareNatural(TextView a, TextView b) {
             }
             continue;
         }
-        if (const int order = Compare(Upper(a.substr(0, 1)), Upper(b.substr(0, 1))); order != 0) {
-            return order;
+        if (a.front() != b.front()) {
+            const int order = Compare(Upper(a.substr(0, 1)), Upper(b.substr(0, 1)));
+            if (order != 0) {
+                return order;
+            }
         }
         a.remove_prefix(1);
         b.remove_prefix(1);

@@ -12,6 +12,12 @@ constexpr TextView kVoiced = u"カキクケコサシスセソタチツテトハ�
 constexpr TextView kHalfVoiced = u"ハヒフヘホ";
 constexpr int kKatakanaAfterHiragana = 0x60;
 
+constexpr char16_t kFirstBeyondAscii = 0x80;
+
+char16_t UpperOne(char16_t c) {
+    return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - u'a' + u'A') : c;
+}
+
 char16_t FoldOne(char16_t c) {
     if (c >= u'！' && c <= u'～') {
         c = static_cast<char16_t>(c - u'！' + u'!');
@@ -20,7 +26,7 @@ char16_t FoldOne(char16_t c) {
     } else if (c >= u'｡' && c < u'｡' + static_cast<int>(kFullWidth.size())) {
         c = kFullWidth[static_cast<size_t>(c - u'｡')];
     }
-    return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - u'a' + u'A') : c;
+    return UpperOne(c);
 }
 
 /// 1 for a voiced mark, 2 for a half-voiced one, 0 for any other character. It is how much further
@@ -51,6 +57,11 @@ Text SearchFold(TextView value) {
     Text folded;
     folded.reserve(value.size());
     for (const char16_t c : value) {
+        // Most characters by far, of every row with every key that a person presses.
+        if (c < kFirstBeyondAscii) {
+            folded += UpperOne(c);
+            continue;
+        }
         const int mark = SoundMark(c);
         if (mark == 0 || folded.empty() || !TakeMark(folded.back(), mark)) {
             folded += FoldOne(c);
