@@ -30,6 +30,24 @@ struct Folders : testing::Test {
     PosixFolders folders{files};
 };
 
+TEST_F(Folders, ListsNamesThatAreNoUtf8) {
+    folder.Put("\x8A\x43.jpg", "sea");
+    folder.Put("\x8E\x52\xFF.jpg", "mountain");
+    folder.Put("\x8E\x52\xFE.jpg", "the same as text");
+    folder.Put("album\x83/a.jpg", "x");
+    const Names listed{u"\uFFFDC.jpg", u"\uFFFDR\uFFFD.jpg"};
+    EXPECT_EQ(folders.Files(folder.TextPath(), u"*.jpg"), listed);
+    EXPECT_EQ(folders.Subfolders(folder.TextPath()), Names{u"album\uFFFD"});
+    const platform::FolderContent content =
+        folders.Read(folder.TextPath(), u"*.jpg", 100, [] { return true; });
+    EXPECT_EQ(content.files, listed);
+    EXPECT_EQ(content.folders, Names{u"album\uFFFD"});
+    for (const Text& name : listed) {
+        EXPECT_TRUE(files.Exists(folder.TextPath("") + u"/" + name));
+    }
+    EXPECT_TRUE(files.Exists(folder.TextPath("") + u"/album\uFFFD/a.jpg"));
+}
+
 TEST_F(Folders, ListsWhatIsSeenInNaturalOrder) {
     for (const char* name : {"10.jpg", "2.jpg", "a.TXT", ".hidden.jpg"}) {
         std::ofstream(folder.Path(name)) << "x";

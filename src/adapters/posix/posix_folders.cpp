@@ -104,6 +104,13 @@ private:
     std::vector<std::string> endings_;  // without their dots
 };
 
+/// In their order, each once: names that are no UTF-8 can be the same as text, and only one of
+/// them is then found by it.
+void SortOnce(std::vector<Text>& names) {
+    std::sort(names.begin(), names.end(), text::NaturalLess);
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+}
+
 /// The first `most` of the names in their order; in any order unless `sorted`.
 void KeepFirst(std::vector<Text>& names, size_t most, bool sorted) {
     if (names.size() > most) {
@@ -112,7 +119,7 @@ void KeepFirst(std::vector<Text>& names, size_t most, bool sorted) {
         names.erase(end, names.end());
     }
     if (sorted) {
-        std::sort(names.begin(), names.end(), text::NaturalLess);
+        SortOnce(names);
     }
 }
 
@@ -204,13 +211,11 @@ std::vector<Text> PosixFolders::Names(TextView path, bool folders) {
     const std::optional<std::string> native = files_.Find(path);
     const std::unique_ptr<DIR, FolderCloser> handle(native ? opendir(native->c_str()) : nullptr);
     while (const dirent* entry = handle ? readdir(handle.get()) : nullptr) {
-        // A name that is no UTF-8 has no form as text, so it could not be opened by that.
-        if (entry->d_name[0] != '.' && text::IsUtf8(entry->d_name) &&
-            IsOfKind(*native, *entry, folders)) {
+        if (entry->d_name[0] != '.' && IsOfKind(*native, *entry, folders)) {
             names.push_back(text::FromUtf8(entry->d_name));
         }
     }
-    std::sort(names.begin(), names.end(), text::NaturalLess);
+    SortOnce(names);
     return names;
 }
 
@@ -251,7 +256,7 @@ platform::FolderContent PosixFolders::Read(TextView path, TextView patterns, siz
         if (++entries % kEntriesBetween == 0 && !goOn()) {
             break;
         }
-        if (entry->d_name[0] == '.' || !text::IsUtf8(entry->d_name)) {
+        if (entry->d_name[0] == '.') {
             continue;
         }
         if (entry->d_type != DT_REG && IsOfKind(*native, *entry, true)) {
@@ -263,7 +268,7 @@ platform::FolderContent PosixFolders::Read(TextView path, TextView patterns, siz
             }
         }
     }
-    std::sort(content.folders.begin(), content.folders.end(), text::NaturalLess);
+    SortOnce(content.folders);
     KeepFirst(content.files, mostFiles, true);
     return content;
 }
