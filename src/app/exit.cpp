@@ -1,6 +1,7 @@
 #include "app/exit.h"
 
 #include "app/window_size.h"
+#include "authoring/slide_list/linked_work.h"
 #include "document/state_files.h"
 #include "model/controls.h"
 #include "model/windows/control_box.h"
@@ -57,6 +58,7 @@ void ExitProgram(Application& application) {
     state.SlideListDirty = 0;
     state.LinkListDirty = 0;
     picture::ReleaseEffectContext(application);
+    authoring::StopLinkedWork(application);
     sound::StopCd(application);
     sound::StopSound(application);
     WriteStateFiles(application);

@@ -37,6 +37,27 @@ TEST_F(Values, FieldsOfEveryKind) {
     EXPECT_EQ(Read(""), "! no such field: ");
 }
 
+TEST_F(Values, SomeFieldsHaveASecondName) {
+    state.SlideListDirty = 1;
+    state.ListDblClickRecord = 2;
+    state.ListDblClickWallpaper = 3;
+    state.ListDblClickText = 4;
+    state.ListDblClickStart = 5;
+    EXPECT_EQ(Read("ListWindowPainted"), "1");
+    EXPECT_EQ(Read("ListCheck2Flag"), "2");
+    EXPECT_EQ(Read("ListCheck3Flag"), "3");
+    EXPECT_EQ(Read("ListCheck4Flag"), "4");
+    EXPECT_EQ(Read("ListCheck5Flag"), "5");
+}
+
+TEST_F(Values, AFlagAmongTheFieldsIsTrueOrOne) {
+    EXPECT_TRUE(Matches(1.0, u"true"));
+    EXPECT_TRUE(Matches(0.0, u"false"));
+    EXPECT_FALSE(Matches(1.0, u"false"));
+    EXPECT_FALSE(Matches(2.0, u"true"));
+    EXPECT_FALSE(Matches(true, u"1"));
+}
+
 TEST_F(Values, EverySettingAndRunFieldCanBeRead) {
     for (const model::Setting& setting : model::Settings()) {
         EXPECT_NE(Read(std::string(setting.name)).front(), '!') << setting.name;

@@ -81,6 +81,7 @@ bool LoadDetail(Application& app, const Text& slide) {
         control.Resize(size.width, size.height, 0);
     }
     app.windows.form7.Picture1.SetPicture(control.Picture());
+    app.windows.form7.Picture1.Visible = true;
     return true;
 }
 
@@ -125,7 +126,6 @@ void List1_DblClick(Application& app) {
     StopLinkedWork(app);
     form3.List1.Select(current, false);
     form3.List2.Select(current, false);
-    app.windows.form7.Picture1.Visible = true;
     const int flags = state.ListCheck1Flag * 1000 + state.ListDblClickRecord * 100 +
                       state.ListDblClickWallpaper * 10 + state.ListDblClickText;
     for (const Function& function : kFunctions) {
