@@ -31,10 +31,10 @@ TEST(Exit, UnloadsTheWindowsInTheirOrderAfterTheFiles) {
         window->Load();
     }
     EXPECT_THROW(app::ExitProgram(around.app), platform::ProgramEnd);
-    // The video window goes with the sound, before the files.
+    // A recording ends, and the video window goes with the sound, before the files.
     EXPECT_EQ(unloaded,
-              (Names{"Form24", "form2", "Form3", "Form4", "Form5", "Form6", "Form7", "form8",
-                     "Form9", "Form10", "Form11", "Form12", "form13", "Form14"}));
+              (Names{"Form20", "Form24", "form2", "Form3", "Form4", "Form5", "Form6", "Form7",
+                     "form8", "Form9", "Form10", "Form11", "Form12", "form13", "Form14"}));
     EXPECT_EQ(around.files.written,
               (std::vector<Text>{u"C:\\app\\uautst.dat", u"C:\\app\\autstart.dat",
                                  u"C:\\app\\wavlist.dat"}));

@@ -50,14 +50,6 @@ TEST_F(Values, SomeFieldsHaveASecondName) {
     EXPECT_EQ(Read("ListCheck5Flag"), "5");
 }
 
-TEST_F(Values, AFlagAmongTheFieldsIsTrueOrOne) {
-    EXPECT_TRUE(Matches(1.0, u"true"));
-    EXPECT_TRUE(Matches(0.0, u"false"));
-    EXPECT_FALSE(Matches(1.0, u"false"));
-    EXPECT_FALSE(Matches(2.0, u"true"));
-    EXPECT_FALSE(Matches(true, u"1"));
-}
-
 TEST_F(Values, EverySettingAndRunFieldCanBeRead) {
     for (const model::Setting& setting : model::Settings()) {
         EXPECT_NE(Read(std::string(setting.name)).front(), '!') << setting.name;

@@ -343,10 +343,6 @@ bool Matches(const ScriptValue& value, TextView expected) {
     const std::optional<ScriptValue> wanted = ParseJson(text::ToUtf8(expected));
     const auto* none = wanted ? std::get_if<std::vector<Text>>(&*wanted) : nullptr;
     const auto* numbers = std::get_if<std::vector<double>>(&value);
-    const auto* flag = wanted ? std::get_if<bool>(&*wanted) : nullptr;
-    if (flag && value == ScriptValue(*flag ? 1.0 : 0.0)) {
-        return true;  // a flag among the fields is a number
-    }
     if (wanted == value || (none && none->empty() && numbers && numbers->empty())) {
         return true;
     }

@@ -77,7 +77,12 @@ void File1_Click(Application& app) {
 
 void Command3_Click(Application& app) {
     const model::FileList& files = app.windows.form3.File1;
-    AddFiles(app, files.Path(), {files.Rows().begin(), files.Rows().end()});
+    const Text inside = text::WithSeparator(files.Path());
+    std::vector<Text> paths;
+    for (const Text& name : files.Rows()) {
+        paths.push_back(inside + name);
+    }
+    AddFiles(app, std::move(paths));
 }
 
 void List1_FilesDropped(Application& app, const std::vector<Text>& paths) {
@@ -126,16 +131,11 @@ bool AddSlides(Application& app, std::vector<Text> paths) {
     return room;
 }
 
-void AddFiles(Application& app, TextView folder, const std::vector<Text>& names) {
+void AddFiles(Application& app, std::vector<Text> paths) {
     app.state.SlideSearchStop = 0;
-    const Text inside = text::WithSeparator(folder);
-    std::vector<Text> paths;
-    paths.reserve(names.size());
-    for (const Text& name : names) {
-        paths.push_back(inside + name);
-    }
+    const size_t count = paths.size();
     if (AddSlides(app, std::move(paths))) {
-        ScrollPast(app.windows.form3, names.size());
+        ScrollPast(app.windows.form3, count);
     } else {
         app.state.SlideSearchStop = 1;
         app.state.SlideSearchActive = 0;

@@ -24,8 +24,8 @@ bool InsertSlides(Application& app, int before, std::vector<model::ListRow> rows
 /// Of the kinds that a drop takes; the browser shows more.
 bool IsDroppedKind(TextView path);
 
-/// What 一括選択 does with the files of a folder, bare names: adds them all and scrolls on. A full
-/// list also ends a search.
-void AddFiles(Application& app, TextView folder, const std::vector<Text>& names);
+/// What 一括選択 does with the files of a folder: adds them all and scrolls on. A full list also
+/// ends a search.
+void AddFiles(Application& app, std::vector<Text> paths);
 
 }  // namespace authoring

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <new>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include "authoring/shared/long_work.h"
 #include "authoring/shared/open_window.h"
@@ -17,8 +19,9 @@ namespace authoring {
 
 namespace {
 
-/// A running clock lets handlers run this often, which no person notices.
-constexpr double kBetweenPumps = 10;  // milliseconds
+/// A running clock lets handlers run this often, which no person notices. What is found meanwhile
+/// comes into the list at once, as each change of a long list costs its view some time.
+constexpr double kBetweenPumps = 20;  // milliseconds
 /// More names than this are read once more rather than kept while the subfolders are searched.
 constexpr size_t kMostKeptNames = 1000;
 
@@ -58,8 +61,15 @@ public:
     /// True when the search was stopped.
     bool Walk(const Text& folder) {
         model::ShowState& state = app_.state;
+        const bool due = IsDue();
+        if (due) {
+            AddFound();
+        }
         state.SlideSearchActive = 1;
-        if (!Yield()) {
+        if (due) {
+            Pump();
+        }
+        if (!Goes()) {
             return true;
         }
         if (state.SlideSearchStop == 1) {
@@ -67,7 +77,7 @@ public:
             return true;
         }
         platform::FolderContent content = Read(folder);
-        if (state.SlideSearchActive == 0) {
+        if (!Goes()) {
             return true;
         }
         if (content.identity.empty() || !entered_.insert(content.identity).second) {
@@ -84,33 +94,71 @@ public:
                 return true;
             }
         }
-        if (state.SlideSearchActive == 1) {
-            AddFiles(app_, folder, many ? Read(folder).files : content.files);
+        if (Goes()) {
+            Find(inside, many ? Read(folder).files : content.files);
         }
         return false;
     }
 
-private:
-    /// False when the search is to end.
-    bool Yield() {
-        const double now = app_.platform.loop.Milliseconds();
-        if (now == pumpedAt_ || now - pumpedAt_ >= kBetweenPumps) {
-            work_.GoOn(0, 0);
-            pumpedAt_ = app_.platform.loop.Milliseconds();
+    /// Puts into the list what was found since the last time.
+    void AddFound() {
+        if (folders_ > 0) {
+            folders_ = 0;
+            AddFiles(app_, std::exchange(found_, {}));
         }
-        return app_.state.SlideSearchActive == 1 && app_.windows.form3.Loaded;
+    }
+
+private:
+    bool Goes() const { return app_.state.SlideSearchActive == 1 && app_.windows.form3.Loaded; }
+
+    /// A clock that stands still, as a script's, has waited long enough.
+    bool IsDue() const {
+        const double now = app_.platform.loop.Milliseconds();
+        return now == pumpedAt_ || now - pumpedAt_ >= kBetweenPumps;
+    }
+
+    void Pump() {
+        work_.GoOn(0, 0);
+        pumpedAt_ = app_.platform.loop.Milliseconds();
+    }
+
+    /// Within a folder that takes long to read.
+    bool Yield() {
+        if (IsDue()) {
+            AddFound();
+            if (Goes()) {
+                Pump();
+            }
+        }
+        return Goes();
+    }
+
+    /// Rows that the list still takes, and one more that is refused.
+    size_t Room() const {
+        const int room = app_.state.SlideListLimit - app_.windows.form3.List1.ListCount();
+        return static_cast<size_t>(std::max(0, room)) + 1;
     }
 
     platform::FolderContent Read(const Text& folder) {
-        const int room = app_.state.SlideListLimit - app_.windows.form3.List1.ListCount();
-        return app_.platform.folders.Read(folder, pattern_, static_cast<size_t>(std::max(1, room)),
-                                          [this] { return Yield(); });
+        return app_.platform.folders.Read(folder, pattern_, Room(), [this] { return Yield(); });
+    }
+
+    void Find(const Text& inside, const std::vector<Text>& names) {
+        ++folders_;
+        for (const Text& name : names) {
+            found_.push_back(inside + name);
+        }
+        if (found_.size() >= Room()) {
+            AddFound();
+        }
     }
 
     Application& app_;
     const Text pattern_;
     LongWork work_;
     std::unordered_set<Text> entered_;  // identities
+    std::vector<Text> found_;           // paths, not in the list yet
+    int folders_ = 0;                   // that they were found in
     double pumpedAt_ = 0;
 };
 
@@ -120,6 +168,7 @@ void Search(Application& app) {
     TreeSearch search(app);
     try {
         search.Walk(app.windows.form3.Dir1.Path());
+        search.AddFound();
     } catch (const std::bad_alloc&) {
         app.platform.dialogs.Message(u"ﾘｽﾄ ﾎﾞｯｸｽがいっぱいになりました。検索を中止します。",
                                      platform::kPlain, u"");
