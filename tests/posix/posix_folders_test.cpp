@@ -71,6 +71,46 @@ TEST_F(Folders, ListsWhatIsSeenInNaturalOrder) {
     EXPECT_EQ(folders.Identity(folder.TextPath("nowhere")), Text());
 }
 
+TEST_F(Folders, ReadsSubfoldersAndMatchingFilesAtOnce) {
+    for (const char* name : {"10.jpg", "2.JPG", "3.jpeg", "a.TXT", ".hidden.jpg", "jpg", "4.png"}) {
+        folder.Put(name, "x");
+    }
+    folder.Put("sub10/x.jpg", "x");
+    std::filesystem::create_directory(folder.Path("sub2.jpg"));
+    std::filesystem::create_directory_symlink("..", folder.Path("sub10/up"));
+    std::filesystem::create_symlink("2.JPG", folder.Path("link.jpg"));
+    std::filesystem::create_symlink("nowhere", folder.Path("broken.jpg"));
+    const auto goOn = [] { return true; };
+    const auto here = folders.Read(folder.TextPath(""), u"*.jpg;*.PNG", 100, goOn);
+    EXPECT_EQ(here.folders, (Names{u"sub2.jpg", u"sub10"}));
+    EXPECT_EQ(here.files, (Names{u"2.JPG", u"4.png", u"10.jpg", u"link.jpg"}));
+    EXPECT_EQ(here.identity, folders.Identity(folder.TextPath("")));
+    EXPECT_EQ(folders.Read(folder.TextPath("sub10/up"), u"*.jpg", 100, goOn).identity,
+              here.identity);
+    EXPECT_EQ(folders.Read(folder.TextPath(""), u"*.*", 100, goOn).files.size(), 7u);
+    EXPECT_EQ(folders.Read(folder.TextPath(""), u"?.j*;a.txt", 100, goOn).files,
+              (Names{u"2.JPG", u"3.jpeg", u"a.TXT"}));
+    EXPECT_EQ(folders.Read(folder.TextPath(""), u"*.jpg;*.png", 2, goOn).files,
+              (Names{u"2.JPG", u"4.png"}));
+    EXPECT_EQ(folders.Read(folder.TextPath("gone"), u"*.jpg", 100, goOn).identity, u"");
+}
+
+TEST_F(Folders, AReadingKeepsTheFirstNamesOnlyAndEndsWhenAsked) {
+    constexpr int kFiles = 3000;
+    for (int i = 0; i < kFiles; ++i) {
+        folder.Put(std::to_string(i) + ".jpg", "");
+    }
+    int asked = 0;
+    const auto first = folders.Read(folder.TextPath(""), u"*.jpg", 3, [&] { return ++asked > 0; });
+    EXPECT_EQ(first.files, (Names{u"0.jpg", u"1.jpg", u"2.jpg"}));
+    EXPECT_GE(asked, 5);
+    asked = 0;
+    const auto some =
+        folders.Read(folder.TextPath(""), u"*.jpg", kFiles, [&] { return ++asked < 2; });
+    EXPECT_EQ(asked, 2);
+    EXPECT_LT(some.files.size(), static_cast<size_t>(kFiles));
+}
+
 TEST_F(Folders, PlacesBeginAtHomeAndNameTheDesktopsFolders) {
     std::filesystem::create_directories(folder.Path("home/絵"));
     std::filesystem::create_directories(folder.Path("home/.config"));
