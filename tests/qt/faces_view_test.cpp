@@ -34,7 +34,7 @@ struct FaceView : testing::Test {
     qt_adapter::Gate gate;
     FaceWindow window;
     model::ListBox& list = window.List1;
-    QListView view;
+    qt_adapter::FaceView view;
     std::unique_ptr<qt_adapter::ListBinding> binding;
     std::set<int> asked;  // rows whose faces were wanted
 
@@ -226,6 +226,40 @@ TEST_F(FaceView, TheFirstRowFollowsOnceRowsHaveCome) {
     list.RemoveRows(0, 280);
     Pump();
     EXPECT_LT(top(), 20);
+}
+
+TEST_F(FaceView, KeysWalkThroughTheGrid) {
+    Show({u"a", u"b", u"c", u"d", u"e"});  // two in a line
+    list.AsGrid = true;
+    list.ListIndex = 1;
+    const auto key = [&](int code, Qt::KeyboardModifiers modifiers = {}) {
+        acts::Key(view, code, modifiers);
+        Pump();
+        return list.ListIndex();
+    };
+    EXPECT_EQ(key(Qt::Key_Right), 2);
+    EXPECT_EQ(key(Qt::Key_Down), 4);
+    EXPECT_EQ(key(Qt::Key_Down), 4);
+    EXPECT_EQ(key(Qt::Key_Up), 2);
+    EXPECT_EQ(key(Qt::Key_Right), 3);
+    EXPECT_EQ(key(Qt::Key_Down), 4) << "the last line is shorter";
+    EXPECT_EQ(key(Qt::Key_Home), 0);
+    EXPECT_EQ(key(Qt::Key_Left), 0);
+    EXPECT_EQ(key(Qt::Key_Down, Qt::ShiftModifier), 2);
+    EXPECT_EQ(list.SelectedRows(), (Numbers{0, 1, 2})) << "in the order of the rows";
+    list.AsGrid = false;
+    EXPECT_EQ(key(Qt::Key_Right), 2) << "lines have one column";
+    EXPECT_EQ(key(Qt::Key_End), 4);
+}
+
+TEST_F(FaceView, AFrameSelectsWhatItTouches) {
+    Show({u"a", u"b", u"c", u"d", u"e"});
+    list.AsGrid = true;
+    view.resize(600, 600);  // three in a line
+    Pump();
+    acts::Drag(*view.viewport(), Place(4).bottomRight() + QPoint(40, 40), Place(1).center());
+    Pump();
+    EXPECT_EQ(list.SelectedRows(), (Numbers{1, 2, 4}));
 }
 
 TEST_F(FaceView, StandsBesideEachOtherInAGrid) {

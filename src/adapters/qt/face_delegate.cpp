@@ -100,7 +100,7 @@ QSize FaceDelegate::RowSize(bool asGrid) const {
 }
 
 QSize FaceDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
-    return list_.AsGrid ? view_.gridSize() : RowSize(false);
+    return RowSize(list_.AsGrid);
 }
 
 FaceDelegate::Parts FaceDelegate::PartsOf(const QRect& place, const model::RowFace& face) const {

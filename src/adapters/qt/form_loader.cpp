@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "adapters/qt/canvas_widget.h"
+#include "adapters/qt/face_view.h"
 #include "adapters/qt/image_widget.h"
 #include "adapters/qt/panes_binding.h"
 #include "adapters/qt/stage_widget.h"
@@ -49,6 +50,8 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
         widget = new ImageWidget(parent);
     } else if (className == "StageWidget") {
         widget = new StageWidget(parent);
+    } else if (className == "FaceView") {
+        widget = new FaceView(parent);
     } else if (className == "QSplitter") {
         widget = new PaneSplitter(parent);
     } else if (className == "VideoWidget") {

@@ -20,8 +20,8 @@ ListBinding::ListBinding(model::ListBox& list, QListView& view, const Site& site
     view.setUniformItemSizes(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setModel(&rows_);
-    if (list.face) {
-        faces_ = std::make_unique<RowFaces>(list, rows_, view);
+    if (auto* faces = qobject_cast<FaceView*>(&view); faces && list.face) {
+        faces_ = std::make_unique<RowFaces>(list, rows_, *faces);
     }
     HearKeys();
     view.viewport()->installEventFilter(this);

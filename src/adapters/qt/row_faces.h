@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "adapters/qt/face_delegate.h"
+#include "adapters/qt/face_view.h"
 #include "adapters/qt/row_pictures.h"
 
 namespace qt_adapter {
@@ -14,7 +15,7 @@ namespace qt_adapter {
 /// no row is seen.
 class RowFaces : public QObject {
 public:
-    RowFaces(const model::ListBox& list, RowsModel& rows, QListView& view);
+    RowFaces(const model::ListBox& list, RowsModel& rows, FaceView& view);
     ~RowFaces() override;
     /// Lines or a grid, as the list says.
     void FollowLook();
@@ -23,12 +24,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void FitGrid();
     void FollowWords();
 
     const model::ListBox& list_;
-    const RowsModel& rows_;
-    QListView& view_;
+    RowsModel& rows_;
+    FaceView& view_;
     FaceDelegate* delegate_;  // owned by the view
     QLabel* words_;           // so is it
     std::unique_ptr<RowPictures> pictures_;
