@@ -5,6 +5,7 @@
 #include "authoring/slide_list/commit.h"
 #include "authoring/slide_list/linked_work.h"
 #include "model/windows/slide_list.h"
+#include "model/windows/slide_screen.h"
 #include "playback/full_screen.h"
 #include "playback/schedule.h"
 #include "playback/transport.h"
@@ -30,12 +31,16 @@ bool PrepareRun(Application& app) {
     return true;
 }
 
-/// The full screen goes back to this window, whose coming clears the flag of the return.
+/// The full screen goes back to this window, whose coming clears the flag of the return. One that
+/// did not come up goes nowhere.
 void Command21_Click(Application& app) {
     if (PrepareRun(app)) {
         app.state.ReturnToSlideList = 1;
         playback::Command4_Click(app);
         app.state.JumpRequested = 0;
+        if (!app.windows.slidescreen.Loaded) {
+            app.state.ReturnToSlideList = 0;
+        }
     }
 }
 
