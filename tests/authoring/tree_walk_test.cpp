@@ -10,9 +10,9 @@ namespace {
 
 std::vector<Text> All(platform::Folders& folders, const Text& root) {
     std::vector<Text> all;
-    TreeWalk walk(folders, root);
-    while (const std::optional<Text> folder = walk.Next()) {
-        all.push_back(*folder);
+    TreeWalk walk(folders, root, u"*.jpg");
+    while (const auto folder = walk.Next([] { return true; })) {
+        all.push_back(folder->path);
     }
     return all;
 }
@@ -36,6 +36,17 @@ TEST(TreeWalk, LinksThatLeadBackAreEnteredOnce) {
     around.folders.links[u"D:\\t\\a\\loop"] = u"D:\\t";
     around.folders.links[u"D:\\t\\b"] = u"D:\\t\\a";
     EXPECT_EQ(All(around.folders, u"D:\\t"), (std::vector<Text>{u"D:\\t", u"D:\\t\\a"}));
+}
+
+TEST(TreeWalk, BringsTheFilesOfEachFolder) {
+    fakes::FakePlatform around;
+    around.files.Put(u"D:\\t\\x.jpg", "");
+    around.files.Put(u"D:\\t\\a\\y.jpg", "");
+    TreeWalk walk(around.folders, u"D:\\t", u"*.jpg");
+    const auto goOn = [] { return true; };
+    EXPECT_EQ(walk.Next(goOn)->files, std::vector<Text>{u"x.jpg"});
+    EXPECT_EQ(walk.Next(goOn)->files, std::vector<Text>{u"y.jpg"});
+    EXPECT_FALSE(walk.Next(goOn));
 }
 
 TEST(TreeWalk, AFolderThatIsNotThereHasNone) {

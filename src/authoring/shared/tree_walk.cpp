@@ -1,25 +1,30 @@
 #include "authoring/shared/tree_walk.h"
 
-#include <functional>
-#include <utility>
-
 #include "text/paths.h"
 
 namespace authoring {
 
-std::optional<Text> TreeWalk::Next() {
+namespace {
+
+/// Of one folder: far more than a person has, and no more than memory holds.
+constexpr size_t kMostFiles = 500000;
+
+}  // namespace
+
+std::optional<WalkedFolder> TreeWalk::Next(const std::function<bool()>& goOn) {
     while (!coming_.empty()) {
-        Text folder = std::move(coming_.back());
+        const Text folder = std::move(coming_.back());
         coming_.pop_back();
-        const Text identity = folders_.Identity(folder);
-        if (identity.empty() || !entered_.insert(std::hash<Text>()(identity)).second) {
+        platform::FolderContent content = folders_.Read(folder, patterns_, kMostFiles, goOn);
+        if (content.identity.empty() ||
+            !entered_.insert(std::hash<Text>()(content.identity)).second) {
             continue;
         }
-        const std::vector<Text> inside = folders_.Subfolders(folder);
-        for (auto name = inside.rbegin(); name != inside.rend(); ++name) {
-            coming_.push_back(text::WithSeparator(folder) + *name);
+        const Text inside = text::WithSeparator(folder);
+        for (auto name = content.folders.rbegin(); name != content.folders.rend(); ++name) {
+            coming_.push_back(inside + *name);
         }
-        return folder;
+        return WalkedFolder{folder, std::move(content.files)};
     }
     return std::nullopt;
 }

@@ -13,25 +13,51 @@ namespace authoring {
 
 namespace {
 
-constexpr TextView kEveryFile = u"*.*";
 /// Files that are asked about at once, so that the answers come while the next folders are read.
 constexpr size_t kAskedAtOnce = 1000;
+
+/// Of the files that have one of the paths' endings.
+Text Patterns(const std::vector<Text>& paths) {
+    std::set<Text> patterns;
+    for (const Text& path : paths) {
+        const Text name = text::BareName(path);
+        const size_t dot = name.rfind(u'.');
+        const Text ending = dot == Text::npos ? Text() : text::Upper(name.substr(dot));
+        // One that could not stand in a pattern counts as none.
+        patterns.insert(ending.find_first_of(u"*?;") == Text::npos ? u"*" + ending : u"*");
+    }
+    Text all;
+    for (const Text& pattern : patterns) {
+        all += (all.empty() ? u"" : u";") + pattern;
+    }
+    return all;
+}
+
+/// Goes through the tree until the work is stopped; `take` gets every folder.
+template <class Take>
+void ForEachFolder(Application& app, ListWork& work, const Text& root, const Text& patterns,
+                   Take take) {
+    TreeWalk walk(app.platform.folders, root, patterns);
+    int64_t files = 0;
+    const auto goOn = [&] { return work.GoOn(files, 0); };
+    while (goOn()) {
+        const std::optional<WalkedFolder> folder = walk.Next(goOn);
+        if (!folder) {
+            return;
+        }
+        files += static_cast<int64_t>(folder->files.size());
+        take(*folder);
+    }
+}
 
 Findings ByName(Application& app, ListWork& work, const Text& root,
                 const std::vector<Text>& missing) {
     NameSearch search(missing);
-    TreeWalk walk(app.platform.folders, root);
-    int64_t files = 0;
-    while (work.GoOn(files, 0)) {
-        const std::optional<Text> folder = walk.Next();
-        if (!folder) {
-            break;
+    ForEachFolder(app, work, root, Patterns(missing), [&](const WalkedFolder& folder) {
+        for (const Text& name : folder.files) {
+            search.Look(folder.path, name);
         }
-        for (const Text& name : app.platform.folders.Files(*folder, kEveryFile)) {
-            search.Look(*folder, name);
-            ++files;
-        }
-    }
+    });
     return search.Found();
 }
 
@@ -45,7 +71,7 @@ public:
             if (const std::optional<FileTraits> file = known.Find(path)) {
                 sizes_.insert(file->size);
                 wanted_[{file->size, file->beginning}].push_back(path);
-                patterns_.insert(u"*" + Ending(path));
+                known_.push_back(path);
             }
         }
     }
@@ -53,40 +79,24 @@ public:
     bool Wanted() const { return !wanted_.empty(); }
 
     Findings Search(const Text& root) {
-        Text patterns;
-        for (const Text& pattern : patterns_) {
-            patterns += (patterns.empty() ? u"" : u";") + pattern;
-        }
-        TreeWalk walk(app_.platform.folders, root);
-        int64_t files = 0;
-        while (work_.GoOn(files, 0)) {
-            const std::optional<Text> folder = walk.Next();
-            if (!folder) {
-                Ask();
-                break;
+        ForEachFolder(app_, work_, root, Patterns(known_), [&](const WalkedFolder& folder) {
+            for (const Text& name : folder.files) {
+                met_.push_back(text::WithSeparator(folder.path) + name);
+                if (met_.size() >= kAskedAtOnce) {
+                    Ask();
+                }
             }
-            for (const Text& name : app_.platform.folders.Files(*folder, patterns)) {
-                met_.push_back(text::WithSeparator(*folder) + name);
-                ++files;
-            }
-            if (met_.size() >= kAskedAtOnce) {
-                Ask();
-            }
-        }
+        });
+        Ask();
         return std::move(found_);
     }
 
 private:
-    /// ".jpg"; empty for a name without one, and for one that could not stand in a pattern.
-    static Text Ending(const Text& path) {
-        const Text name = text::BareName(path);
-        const size_t dot = name.rfind(u'.');
-        const Text ending = dot == Text::npos ? Text() : name.substr(dot);
-        return ending.find_first_of(u"*?;") == Text::npos ? ending : Text();
-    }
-
     /// Those of the size are opened.
     void Ask() {
+        if (met_.empty()) {
+            return;
+        }
         const auto sizes =
             AskFacts(app_, work_, std::exchange(met_, {}), platform::FileInquiry::Presence);
         std::vector<Text> alike;
@@ -115,9 +125,9 @@ private:
 
     Application& app_;
     ListWork& work_;
+    std::vector<Text> known_;  // missing files of which something is known
     std::set<int64_t> sizes_;
     std::map<std::pair<int64_t, uint64_t>, std::vector<Text>> wanted_;
-    std::set<Text> patterns_;
     std::vector<Text> met_;
     Findings found_;
 };
