@@ -25,7 +25,7 @@ Kind KindOf(LinkedSound kind) {
 }
 
 void Command19_Click(Application& app) {
-    const std::optional<int> row = OnlySelectedSlide(app);
+    const std::optional<int> row = AskForOneSlide(app, u"連動音削除");
     if (!row) {
         return;
     }
@@ -66,13 +66,13 @@ void AskToDeleteLinkedSound(Application& app, const Text& slide, LinkedSound kin
 void AttachLinkedSound(Application& app) {
     model::Form3& form3 = app.windows.form3;
     form3.Command18.Click = [&app] {
-        if (OnlySelectedSlide(app)) {
+        if (AskForOneSlide(app, u"連動録音")) {
             RecordLinkedSound(app);
         }
     };
     form3.Command19.Click = [&app] { Command19_Click(app); };
     form3.Command20.Click = [&app] {
-        if (OnlySelectedSlide(app)) {
+        if (AskForOneSlide(app, u"連動音設定")) {
             OpenModal(app, app.windows.form13);
         }
     };

@@ -165,7 +165,7 @@ void AttachButtons(Application& app) {
     form3.Command23.Click = [&app] { OpenWindow(app, app.windows.form10); };
     form3.Command24.Click = [&app] { OpenModal(app, app.windows.form15); };
     form3.Command25.Click = [&app] {
-        if (OnlySelectedSlide(app)) {
+        if (AskForOneSlide(app, u"切取ﾏｸﾛ生成")) {
             OpenWindow(app, app.windows.form23);
         }
     };

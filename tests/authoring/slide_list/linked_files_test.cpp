@@ -97,6 +97,18 @@ TEST_F(LinkedFiles, TextsNeedOneSlide) {
                             u"テキスト削除|リストから１項目だけ選んで行ってください。"));
 }
 
+/// They can still be enabled when a selection was taken back.
+TEST_F(LinkedFiles, WhatElseNeedsOneSlideAsksForIt) {
+    EnableSlideButtons();
+    form3.List1.Choose({});
+    const Text words = u"|リストから１項目だけ選んで行ってください。";
+    for (model::Button* button :
+         {&form3.Command18, &form3.Command19, &form3.Command20, &form3.Command25}) {
+        button->Press();
+        EXPECT_THAT(TakeMessages(), ElementsAre(button->Caption() + words));
+    }
+}
+
 TEST_F(LinkedFiles, TheSoundOfTheModeInForceIsDeleted) {
     const struct {
         int16_t mode;
