@@ -22,7 +22,11 @@ void CaptionBoxes(ControlArray<CheckBox>& boxes, const TextView (&captions)[coun
 }
 
 struct Form18 : Window {  // pictures and films, for the slide list
-    Form18() : Window("Form18", u"画像・動画ﾌｧｲﾙ検索") { CaptionBoxes(Check1, kPictureTypes); }
+    Form18() : Window("Form18", u"画像・動画ﾌｧｲﾙ検索") {
+        Width = 7200;  // 480 x 350 pixels
+        Height = 5250;
+        CaptionBoxes(Check1, kPictureTypes);
+    }
 
     Label Label1{this, "Label1", u"選択されたフォルダ以下を検索し、ｽﾗｲﾄﾞﾘｽﾄに登録します。"};
     Frame Frame1{this, "Frame1", u"画像"};
@@ -36,7 +40,11 @@ struct Form18 : Window {  // pictures and films, for the slide list
 };
 
 struct Form19 : Window {  // sounds, for the sound list
-    Form19() : Window("Form19", u"音声ﾌｧｲﾙ検索") { CaptionBoxes(Check1, kSoundTypes); }
+    Form19() : Window("Form19", u"音声ﾌｧｲﾙ検索") {
+        Width = 6000;  // 400 x 170 pixels
+        Height = 2550;
+        CaptionBoxes(Check1, kSoundTypes);
+    }
 
     Label Label1{this, "Label1", u"選択されたフォルダ以下を検索し、ﾘｽﾄに登録します。"};
     ControlArray<CheckBox> Check1{this, "Check1", 0, 3};
