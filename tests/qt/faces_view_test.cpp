@@ -210,6 +210,52 @@ TEST_F(FaceView, FacesOfRowsInSightAloneAreAskedFor) {
     EXPECT_EQ(asked, std::set<int>{30000});
 }
 
+/// Flat pictures of one colour, at once.
+struct FlatThumbnails : platform::Thumbnails {
+    platform::Pixel colour = 0xFFFF0000u;
+    std::set<Text> wanted;
+    void Want(const void*, const std::vector<Text>& paths, int side, Ready ready) override {
+        for (const Text& path : paths) {
+            wanted.insert(path);
+            ready(path, std::make_shared<platform::Bitmap>(side, side, colour));
+        }
+    }
+};
+
+TEST_F(FaceView, AFileThatHasChangedIsShownAnew) {
+    FlatThumbnails thumbnails;
+    list.thumbnails = &thumbnails;
+    list.face = [this](int row) {
+        model::RowFace face;
+        face.file = list.List(row);
+        return face;
+    };
+    Show();
+    const auto shows = [&](QRgb colour) {
+        const QImage image = view.grab().toImage();
+        const QRect place = Place(0);
+        for (int x = place.left(); x < place.right(); ++x) {
+            if (image.pixel(x, place.center().y()) == colour) {
+                return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(shows(0xFFFF0000u));
+    thumbnails.wanted.clear();
+    thumbnails.colour = 0xFF0000FFu;
+    list.FacesChanged(0, 1);
+    EXPECT_TRUE(shows(0xFFFF0000u));
+    EXPECT_TRUE(thumbnails.wanted.empty()) << "the marks of one row are no other picture";
+    list.FacesChanged(0, list.ListCount());
+    EXPECT_TRUE(shows(0xFF0000FFu));
+    EXPECT_EQ(thumbnails.wanted.size(), 5u);
+    thumbnails.wanted.clear();
+    shows(0);
+    EXPECT_TRUE(thumbnails.wanted.empty()) << "once";
+    binding.reset();
+}
+
 TEST_F(FaceView, TheFirstRowFollowsOnceRowsHaveCome) {
     Show({});
     const auto top = [&] { return view.indexAt(QPoint(1, 1)).row(); };

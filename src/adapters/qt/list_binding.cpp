@@ -106,6 +106,9 @@ void ListBinding::RowsChanged(model::Control&, const model::RowChange& change) {
     rows_.Follow(change);
     if (replaced) {
         ShowSelection(change.row, change.count);
+        if (faces_ && change.count == list_.ListCount()) {
+            faces_->Refresh();
+        }
     } else {
         Unsettle();
     }

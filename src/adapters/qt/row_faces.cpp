@@ -55,6 +55,12 @@ void RowFaces::FollowLook() {
     }
 }
 
+void RowFaces::Refresh() {
+    if (pictures_) {
+        pictures_->Refresh();
+    }
+}
+
 void RowFaces::FollowWords() {
     const char* property = list_.ListCount() == 0 ? "emptyWords" : "noneSeenWords";
     words_->setVisible(rows_.rowCount() == 0);

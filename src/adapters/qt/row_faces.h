@@ -19,6 +19,8 @@ public:
     ~RowFaces() override;
     /// Lines or a grid, as the list says.
     void FollowLook();
+    /// All faces may be others, their pictures too.
+    void Refresh();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

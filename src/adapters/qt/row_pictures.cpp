@@ -70,6 +70,14 @@ QPixmap RowPictures::Of(int row) const {
 void RowPictures::Forget() {
     held_.clear();
     without_.clear();
+    stale_.clear();
+    asked_.clear();
+}
+
+void RowPictures::Refresh() {
+    const QList<Text> held = held_.keys();
+    stale_ = without_;
+    stale_.unite({held.begin(), held.end()});
     asked_.clear();
 }
 
@@ -103,7 +111,7 @@ std::vector<Text> RowPictures::Missing() const {
             break;
         }
         const Text path = pathOf_(row);
-        if (!held_.contains(path) && !without_.contains(path)) {
+        if (stale_.contains(path) || (!held_.contains(path) && !without_.contains(path))) {
             missing.push_back(path);
         }
     }
@@ -126,9 +134,12 @@ void RowPictures::AskForSeen() {
 }
 
 void RowPictures::Take(const Text& path, const platform::BitmapPtr& picture) {
+    stale_.remove(path);
     if (!picture || picture->Empty()) {
+        held_.remove(path);
         without_.insert(path);
     } else {
+        without_.remove(path);
         const double ratio = view_.devicePixelRatioF();
         QImage image(reinterpret_cast<const uchar*>(picture->pixels.data()), picture->width,
                      picture->height, QImage::Format_RGB32);

@@ -25,8 +25,10 @@ public:
     /// not there yet or there is none.
     QPixmap Of(int row) const;
 
-    /// The rows are others, or files have changed: what is held is let go.
+    /// The rows are others: what is held is let go.
     void Forget();
+    /// Files may have changed: what is held is shown until it has been asked for anew.
+    void Refresh();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,6 +45,7 @@ private:
     std::function<Text(int)> pathOf_;
     QCache<Text, QPixmap> held_;  // cost in KiB
     QSet<Text> without_;          // files that have none
+    QSet<Text> stale_;            // of both, what may be another one by now
     std::vector<Text> asked_;     // what was wanted last
     QPixmap waiting_, none_, film_;
 };
