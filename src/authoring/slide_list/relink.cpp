@@ -86,7 +86,7 @@ private:
         missing_.clear();
         found_.clear();
         {
-            ListWork work(app_, u"ファイルを確認中");
+            ListWork work(app_, u"確認中");
             const auto& rows = app_.windows.form3.List1.Rows();
             const auto facts =
                 AskFacts(app_, work, {rows.begin(), rows.end()}, platform::FileInquiry::Presence);

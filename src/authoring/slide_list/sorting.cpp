@@ -97,7 +97,7 @@ void SortByDate(Application& app, FileInquiry::What what,
     }
     std::optional<FactsOfFiles> facts;
     {
-        ListWork work(app, u"日付を確認中");
+        ListWork work(app, u"確認中");
         facts = AskFacts(app, work, std::move(paths), what);
     }
     if (!facts) {
