@@ -6,8 +6,8 @@
 //                         scales; as large as a monitor it covers that one as full screen
 //   root   over         name of the window that this one stands above
 //   root   unseen       names of controls that are never shown
-//   canvas hostsObjects controls without a widget are made over this canvas when shown
 //   root   firstFocus   the widget that has the keyboard at first
+//   canvas hostsObjects controls without a widget are made over this canvas when shown
 //   any    glyph, glyphRole  icon shape, and "highlight" for one on the accent colour
 //   any    focusKey     "Ctrl+F": gives it the keyboard
 //   any    roomOf       name of a control whose Width and Height in the model follow this one's
@@ -15,11 +15,11 @@
 //   button entry        menu entry that it stands for, with its mark and its being enabled
 //   button menu         menu that it opens
 //   list   contextMenus "A B": entries of menu A and below them the menu B, at the mouse or keys
+//   list   keysHere     entries whose keys are theirs only while the list has the keyboard
 //   list   emptyWords, noneSeenWords  what stands in place of rows (faces only)
 //   list   insertsWhile check box: while it is ticked, files that are dropped go in front of the
 //                       one selected row, else to the end
 //   line   escClears    Esc empties it
-//   list   keysHere     entries whose keys are theirs only while the list has the keyboard
 //   any    showWhile    "idle A !B": shown while the pointer is normal, A enabled, B disabled
 //   label  textWithDrop words used instead when the window takes dropped files
 // A label called windowCaption follows the window's caption.
