@@ -1,9 +1,11 @@
 #include "authoring/slide_list/remembered_files.h"
 
+#include <charconv>
 #include <cinttypes>
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "model/windows/slide_list.h"
@@ -16,12 +18,26 @@ constexpr std::string_view kTag = "known1\n";
 constexpr size_t kMostFiles = 60000;
 constexpr size_t kLongestFile = 8u << 20;  // bytes
 
+constexpr int kDecimal = 10, kHexadecimal = 16;
+
 Text FilePath(const Application& app) {
     return app.state.AppFolder + u"known.dat";
 }
 
 uint64_t SumOfPath(const Text& path) {
     return platform::BeginningSum(text::ToUtf8(path));
+}
+
+/// Takes a number and the blank or line end after it off the beginning. False where there is none.
+template <class Number>
+bool TakeNumber(std::string_view& rest, Number& number, int base) {
+    const char* const last = rest.data() + rest.size();
+    const auto [end, error] = std::from_chars(rest.data(), last, number, base);
+    if (error != std::errc() || end == last) {
+        return false;
+    }
+    rest.remove_prefix(static_cast<size_t>(end + 1 - rest.data()));
+    return true;
 }
 
 }  // namespace
@@ -35,18 +51,15 @@ RememberedFiles RememberedFiles::Read(Application& app) {
         !bytes.starts_with(kTag)) {
         return known;
     }
-    for (size_t at = kTag.size(); at < bytes.size();) {
-        uint64_t path = 0;
-        FileTraits file;
-        if (std::sscanf(bytes.c_str() + at, "%" SCNx64 " %" SCNd64 " %" SCNx64, &path, &file.size,
-                        &file.beginning) != 3) {
-            break;
-        }
+    std::string_view rest(bytes);
+    rest.remove_prefix(kTag.size());
+    uint64_t path = 0;
+    FileTraits file;
+    while (TakeNumber(rest, path, kHexadecimal) && TakeNumber(rest, file.size, kDecimal) &&
+           TakeNumber(rest, file.beginning, kHexadecimal)) {
         if (known.files_.insert_or_assign(path, file).second) {
             known.order_.push_back(path);
         }
-        const size_t end = bytes.find('\n', at);
-        at = end == std::string::npos ? bytes.size() : end + 1;
     }
     return known;
 }
