@@ -14,6 +14,7 @@
 #include "adapters/qt/convert.h"
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/form_words.h"
+#include "adapters/qt/glyph_shapes.h"
 #include "model/windows.h"
 #include "model/windows/slide_list.h"
 #include "qt/widget_acts.h"
@@ -79,6 +80,17 @@ TEST_F(SlideListForm, NamesAndExplainsWhatCanBePressed) {
     }
     EXPECT_EQ(Find("Command13").accessibleName(), "上へ") << "its caption is an arrow";
     EXPECT_EQ(Find("Command16").accessibleName(), "ﾃｷｽﾄ編集");
+}
+
+TEST_F(SlideListForm, EveryIconHasItsShape) {
+    for (model::Window* window : windows.All()) {
+        QWidget* form = desktop.WidgetOf(*window);
+        for (const QWidget* widget : form ? form->findChildren<QWidget*>() : QWidgetList()) {
+            const QString glyph = widget->property("glyph").toString();
+            EXPECT_TRUE(glyph.isEmpty() || !qt_adapter::ShapeOf(glyph).Empty())
+                << glyph.toStdString();
+        }
+    }
 }
 
 TEST_F(SlideListForm, IsWalkedInTheOrderOfTheEye) {
