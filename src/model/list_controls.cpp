@@ -8,6 +8,21 @@
 
 namespace model {
 
+namespace {
+
+/// Value first + i becomes what value from[i] is now.
+template <class T>
+void Permute(std::deque<T>& values, int first, const std::vector<int>& from) {
+    std::vector<T> moved;
+    moved.reserve(from.size());
+    for (const int row : from) {
+        moved.push_back(std::move(values[static_cast<size_t>(row)]));
+    }
+    std::move(moved.begin(), moved.end(), values.begin() + first);
+}
+
+}  // namespace
+
 ListBox::ListBox(Window* window, std::string name, int multiSelect)
     : ListBox(window, ControlKind::ListBox, std::move(name), multiSelect) {}
 
@@ -77,25 +92,10 @@ void ListBox::Reorder(int first, const std::vector<int>& from) {
     if (from.empty()) {
         return;
     }
-    struct Row {
-        Text text;
-        bool selected;
-        platform::BitmapPtr picture;
-    };
-    std::vector<Row> moved;
-    moved.reserve(from.size());
-    for (const int row : from) {
-        const auto i = static_cast<size_t>(row);
-        moved.push_back({std::move(rows_[i]), selected_[i], RowPicture(row)});
-    }
-    auto place = static_cast<size_t>(first);
-    for (Row& row : moved) {
-        rows_[place] = std::move(row.text);
-        selected_[place] = row.selected;
-        if (!pictures_.empty()) {
-            pictures_[place] = std::move(row.picture);
-        }
-        ++place;
+    Permute(rows_, first, from);
+    Permute(selected_, first, from);
+    if (!pictures_.empty()) {
+        Permute(pictures_, first, from);
     }
     AnnounceRows({RowChange::Replaced, first, static_cast<int>(from.size())});
 }
