@@ -88,19 +88,6 @@ TEST_F(Inquiry, SaysWhatIsThere) {
     EXPECT_FALSE(AtOnce(folder.TextPath("pipe.jpg"), FileInquiry::DateTaken).there);
 }
 
-TEST_F(Inquiry, AFileIsKnownByItsBeginning) {
-    const std::string start(platform::kBeginningBytes, 'x');
-    const FileFacts facts = AtOnce(Put("a.jpg", start + "a"), FileInquiry::Beginning);
-    EXPECT_EQ(facts.beginning, platform::BeginningSum(start));
-    EXPECT_EQ(AtOnce(Put("b.jpg", start + "other"), FileInquiry::Beginning).beginning,
-              facts.beginning);
-    EXPECT_EQ(AtOnce(Put("c.jpg", ""), FileInquiry::Beginning).beginning,
-              platform::BeginningSum(""));
-    EXPECT_NE(AtOnce(Put("d.jpg", "y" + start), FileInquiry::Beginning).beginning, facts.beginning);
-    EXPECT_FALSE(AtOnce(folder.TextPath("a.jpg")).beginning) << "only where it is asked for";
-    EXPECT_FALSE(AtOnce(folder.TextPath("none.jpg"), FileInquiry::Beginning).beginning);
-}
-
 TEST_F(Inquiry, FindsPathsAsTheProgramDoes) {
     Put("Show/Umi.JPG", "1");
     EXPECT_TRUE(AtOnce(folder.TextPath("show/uMI.jpg")).there) << "without case";
