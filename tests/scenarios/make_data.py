@@ -90,8 +90,10 @@ Documents with sound (all without repetition):
                 edge_*_full.kvs the same in the full screen
 w1 and w2 are 320x240, olive.
 tree has pictures at several depths, folders that a search leaves out, and a link back to itself.
+odd has pictures whose names hold line ends, quotes, bytes that are no UTF-8, and 255 bytes.
 """
 
+import os
 import pathlib
 import struct
 import sys
@@ -476,6 +478,9 @@ def main():
                  "Windows/WinSxS/no.png", "Windows/6.png", "windows.old/no.png"):
         (folder / "tree" / name).parent.mkdir(parents=True, exist_ok=True)
         (folder / "tree" / name).write_bytes(picture)
+    (folder / "odd").mkdir(exist_ok=True)
+    for name in (b"1\ra.png", b"2\nb.png", b"3\"c'd%s.png", b"4\x8aC.png", b"5" + b"x" * 250 + b".png"):
+        (folder / "odd" / os.fsdecode(name)).write_bytes(picture)
     loop = folder / "tree" / "b" / "loop"
     if not loop.is_symlink():
         loop.symlink_to("..")
