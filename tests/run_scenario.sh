@@ -8,6 +8,7 @@
 #   # app: uautst.dat b.wav=vue1.wav                         data that the program folder begins with,
 #                                                            under another name after '='
 #   # first: other.robot                                     a script of an earlier run of the program
+#   # moved: a=b c=d                                         what is called otherwise after the earlier run
 #   # held: yes                                              another instance holds the program folder
 #   # exit: 2                                                the robot's status for a script at fault (2: refused
 #                                                            before anything happens)
@@ -21,7 +22,7 @@ mkdir -p "$scratch/app"
 cp -r "$data" "$scratch/data"
 cd "$scratch/data"
 
-declare -A said=([args]='' [app]='' [first]='' [held]='' [exit]='' [unheard]='')
+declare -A said=([args]='' [app]='' [first]='' [moved]='' [held]='' [exit]='' [unheard]='')
 while IFS= read -r line; do
     if [[ $line =~ ^\#\ ([a-z]+):\ (.*)$ ]]; then
         if [[ ! -v said[${BASH_REMATCH[1]}] ]]; then
@@ -42,6 +43,7 @@ for name in ${said[first]}; do
     "$program" --robot "$(dirname "$script")/$name" --app-folder "$scratch/app" ||
         { echo "$script: the earlier run of $name failed" >&2; exit 1; }
 done
+for name in ${said[moved]}; do mv "${name%%=*}" "${name##*=}"; done
 # Its own trace and folder come first: a scenario can have others.
 run=("$program")
 if [[ -n ${said[held]} ]]; then

@@ -1,5 +1,6 @@
 #include "authoring/attach.h"
 
+#include "authoring/batch_conversion.h"
 #include "authoring/settings/linked_folder.h"
 #include "authoring/settings/text_display.h"
 #include "authoring/shared/file_search.h"
@@ -10,6 +11,7 @@ namespace authoring {
 void AttachWindows(model::Application& app) {
     AttachLinkedFolder(app);
     AttachTextDisplay(app);
+    AttachBatchConversion(app);
     AttachFileSearch(app);
     AttachSlideList(app);
 }

@@ -1,6 +1,8 @@
 // Show documents (.kvs): one text file with a slide list and nearly all settings.
 #pragma once
 
+#include <functional>
+
 #include "model/application.h"
 
 namespace document {
@@ -17,5 +19,10 @@ bool ReadShowDocument(Application& app, TextView path);
 /// document's identity and the caption. A failure shows the platform's words: in a plain box where
 /// the file cannot be opened, under the title of saving where its content cannot be written.
 void WriteShowDocument(Application& app, TextView path);
+
+/// The text of a document that stands beside all its files, under that path: `named` says how a
+/// name goes into it, and there is no linked folder. Changes nothing.
+Text TextOfCopiedShow(const Application& app, TextView path,
+                      const std::function<Text(const Text&)>& named);
 
 }  // namespace document

@@ -1,4 +1,7 @@
 // Writing show documents: always today's form.
+#include <functional>
+#include <utility>
+
 #include "document/document_file.h"
 #include "document/interval.h"
 #include "document/line_writer.h"
@@ -16,15 +19,19 @@ namespace {
 
 constexpr TextView kTag = u"21vue3167893";
 
+/// A name as it goes into the file.
+using NameInFile = std::function<Text(const Text&)>;
+
 /// Builds the document's text and changes nothing: a save that fails leaves the record alone.
 class ShowWriter {
 public:
-    explicit ShowWriter(const Application& app)
+    ShowWriter(const Application& app, NameInFile named, bool linkedFolder)
         : state_(app.state),
           form3_(app.windows.form3),
-          distribution_(app.state.DistributionSaveFlag == 1) {}
+          named_(std::move(named)),
+          linkedFolder_(linkedFolder) {}
 
-    const Text& Write(TextView path);
+    const Text& Write(const Text& path);
 
 private:
     void WriteSoundAndEffects();
@@ -33,16 +40,16 @@ private:
     void WriteSoundList();
     void WriteModesAndRows();
 
-    /// A name as it goes into the file: a distribution save drops the folder.
-    void Path(TextView path) { lines_.Line(distribution_ ? text::BareName(path) : Text(path)); }
+    void Path(const Text& path) { lines_.Line(named_(path)); }
 
     const model::ShowState& state_;
     const model::Form3& form3_;
-    const bool distribution_;
+    const NameInFile named_;
+    const bool linkedFolder_;
     LineWriter lines_;
 };
 
-const Text& ShowWriter::Write(TextView path) {
+const Text& ShowWriter::Write(const Text& path) {
     lines_.Line(kTag);
     Path(path);
     lines_.Number(IntervalMs(state_));
@@ -73,8 +80,8 @@ void ShowWriter::WriteSoundAndEffects() {
          {state_.SoundSyncFlag, state_.LinkedSoundPosition, state_.RandomFlag, state_.CdOrder}) {
         lines_.Number(value);
     }
-    lines_.Number(distribution_ ? 0 : state_.LinkedFolderFlag);
-    lines_.Line(distribution_ ? TextView() : TextView(state_.LinkedFolder));
+    lines_.Number(linkedFolder_ ? state_.LinkedFolderFlag : 0);
+    lines_.Line(linkedFolder_ ? TextView(state_.LinkedFolder) : TextView());
 }
 
 void ShowWriter::WriteSlides() {
@@ -130,12 +137,17 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
     auto& files = app.platform.files;
     const Text path = text::WithDefaultExtension(requestedPath, u".kvs");
     form1.MousePointer = model::kPointerBusy;
-    ShowWriter writer(app);
+    // A distribution save drops the folders.
+    const bool distribution = state.DistributionSaveFlag == 1;
+    ShowWriter writer(
+        app,
+        [distribution](const Text& name) { return distribution ? text::BareName(name) : name; },
+        !distribution);
     if (!SaveDocumentFile(app, path, writer.Write(path))) {
         form1.MousePointer = model::kPointerNormal;
         return;
     }
-    if (state.DistributionSaveFlag == 1) {
+    if (distribution) {
         // Kept: for good, the program goes on without a linked folder.
         state.LinkedFolderFlag = 0;
         state.LinkedFolder.clear();
@@ -148,6 +160,10 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
     state.DocumentName = files.Dir(path);
     const auto date = files.LastWrite(path);
     state.DocumentFileDate = date ? platform::DateTimeText(*date) : Text();
+}
+
+Text TextOfCopiedShow(const Application& app, TextView path, const NameInFile& named) {
+    return ShowWriter(app, named, false).Write(Text(path));
 }
 
 }  // namespace document

@@ -26,6 +26,7 @@ class Button : public PressedControl {
 public:
     Button(Window* window, std::string name, Text caption = {});
     Property<Text> Caption;
+    Event<> SetFocus;  // takes the keyboard; attached by the view
 };
 
 /// A press changes Value, then clicks.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/windows/batch_conversion.h"
 #include "model/windows/control_box.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/file_search.h"

@@ -53,6 +53,9 @@ public:
     /// 0 no such file, 1 its first 45 bytes can be read (a shorter file counts), 2 it cannot.
     virtual int Readable(TextView path) = 0;
 
+    /// True for a plain file that begins with these bytes; false also where it cannot be read.
+    virtual bool BeginsWith(TextView path, std::string_view bytes) = 0;
+
     /// Last-write time (local, whole seconds); nullopt when there is no such file.
     virtual std::optional<DateTime> LastWrite(TextView path) = 0;
 };

@@ -84,6 +84,24 @@ struct SaveForm {
     int quality = 90;
 };
 
+/// How a picture file is made of another one.
+struct Conversion {
+    enum Kind { Same, Bmp, Jpeg, Png } kind = Same;  // Same: as the source is
+    /// Size of the new picture. Called on another thread: a pure function of values it holds.
+    FitFunction fit;
+    int quality = 90;  // of a JPEG: 1 small to 100 good
+};
+
+/// What became of it.
+enum class Converted {
+    Done,
+    Stopped,     // by its report; nothing half made stays
+    Needless,    // with Same: the new picture would be the old one
+    NoWriter,    // with Same: files of that kind cannot be written
+    Unreadable,  // the source is no picture that can be decoded
+    Failed       // the new file cannot be written
+};
+
 /// A picture that will be loaded soon.
 struct Wanted {
     Text path;
@@ -109,6 +127,14 @@ public:
     /// how much is done is not known.
     virtual Outcome Save(const BitmapPtr& picture, TextView path, const SaveForm& form,
                          const Report& report, FileError& error) = 0;
+
+    /// Decodes a file, brings it to size and writes it as another one, whole or not at all. The
+    /// picture stands upright; its depth stays unless new colours arise, its colour profile where
+    /// the kind has room for one (in a BMP the colours are those of a plain screen), and what is
+    /// transparent stays so in a PNG and lies over white elsewhere. `from` may be `to`. Reports as
+    /// Save does.
+    virtual Converted Convert(TextView from, TextView to, const Conversion& conversion,
+                              const Report& report, FileError& error) = 0;
 };
 
 }  // namespace platform

@@ -109,6 +109,17 @@ TEST_F(FilesTest, ReadableTellsThreeThings) {
     EXPECT_EQ(error_.message, u"アクセスが許可されていません。");
 }
 
+TEST_F(FilesTest, TellsByWhatAFileBegins) {
+    folder_.Put("a", "\xFF\xD8rest");
+    folder_.Put("short", "\xFF");
+    EXPECT_TRUE(files_.BeginsWith(At("A"), "\xFF\xD8"));
+    EXPECT_FALSE(files_.BeginsWith(At("a"), "\xFF\xD9"));
+    EXPECT_TRUE(files_.BeginsWith(At("short"), "\xFF"));
+    for (const char* none : {"short", "none", ""}) {
+        EXPECT_FALSE(files_.BeginsWith(At(none), "\xFF\xD8")) << none;
+    }
+}
+
 TEST_F(FilesTest, LastWriteIsLocalTime) {
     folder_.Put("a", "x");
     setenv("TZ", "JST-9", 1);

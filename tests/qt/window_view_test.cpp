@@ -24,6 +24,7 @@
 #include "model/picture_controls.h"
 #include "model/scroll_bar.h"
 #include "model/windows.h"
+#include "model/windows/linked_folder.h"
 #include "qt/widget_acts.h"
 
 namespace {
@@ -233,6 +234,33 @@ TEST_F(WindowViews, EnterPressesTheButtonThatTheFormNames) {
     Show();
     acts::Key(Find("Check1"), Qt::Key_Return);
     EXPECT_EQ(presses, 1);
+}
+
+TEST_F(WindowViews, TheProgramGivesAButtonTheKeyboard) {
+    Show();
+    Find("Text1").setFocus();
+    EXPECT_TRUE(window.Command1.SetFocus());
+    EXPECT_EQ(QApplication::focusWidget(), &Find("Command1"));
+}
+
+/// Form12's Enter is that of its OK, unless the cancel button has the keyboard.
+TEST(OwnWindows, EnterPressesTheButtonThatHasTheKeyboard) {
+    int argc = 0;
+    qt_adapter::Desktop desktop{argc, nullptr, {true, {}}};
+    model::Windows windows;
+    desktop.MakeViews(windows);
+    model::Form12& form12 = windows.form12;
+    std::string pressed;
+    form12.Command1.Click = [&] { pressed += "ok "; };
+    form12.Command2.Click = [&] { pressed += "cancel "; };
+    form12.Show();
+    for (const char* name : {"Check1", "Command2", "Command1"}) {
+        auto* widget = desktop.WidgetOf(form12)->findChild<QWidget*>(name);
+        widget->setFocus();
+        acts::Key(*widget, Qt::Key_Return);
+    }
+    EXPECT_EQ(pressed, "ok cancel ok ");
+    desktop.UnmakeViews();
 }
 
 TEST_F(WindowViews, KeysAreHeardByTheControlThatHasThem) {

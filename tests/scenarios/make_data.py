@@ -52,6 +52,8 @@ polygon in it.
 gaps.kvl      a show that is not there, empty.kvs, one.kvs, another that is not there
 ends_empty.kvl  one.kvs, then empty.kvs
 gone.kvl      two shows that are not there; empties.kvl twice empty.kvs; none.kvl nothing
+gather/one and gather/two hold an a.png each, whose macros name files of gather/pieces; out is an
+empty folder but for old.txt. large.png has 2560x720, false.jpg is a PNG.
 State files and settings, for the program folder:
   lines1080.conf  macro-scale = 1080
   uautst.dat    the link window with its auto start: one.kvs, then repeat.kvs beside itself
@@ -298,6 +300,24 @@ def edge_macros():
     return files
 
 
+def gathered():
+    """Slides of equal names with macros, and their pieces, in folders of their own; no document."""
+    return {
+        "gather/one/a.png": png(320, 240, (255, 0, 0)),
+        "gather/one/a.txt": macro('PicPB01(0,"../pieces/star.png")', 'PlayWav("../pieces/s.wav",0)'),
+        "gather/two/a.png": png(320, 240, (0, 255, 0)),
+        "gather/two/a.txt": macro('PicPBData(2,"../pieces/cut.dat")', 'PicPB02(0,"star.png")'),
+        "gather/two/star.png": png(30, 20, (255, 255, 0)),
+        "gather/two/b.png": png(320, 240, (0, 0, 255)),
+        "gather/pieces/star.png": png(60, 40, (0, 255, 255)),
+        "gather/pieces/s.wav": wav(500),
+        "gather/pieces/cut.dat": macro("KVS_PICTYPE_DATA", "0,0", "20,0", "20,10", "0,10"),
+        "out/old.txt": b"",
+        "large.png": png(2560, 720, (64, 128, 192)),
+        "false.jpg": png(8, 8, (0, 0, 0)),
+    }
+
+
 def main():
     folder = pathlib.Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
@@ -470,6 +490,7 @@ def main():
     files["words.kvs"] = document(lines_of_show(["s2.png", "s3.png", "a.png"], always_full=0))
 
     files.update(edge_macros())
+    files.update(gathered())
     for name, content in files.items():
         (folder / name).parent.mkdir(parents=True, exist_ok=True)
         (folder / name).write_bytes(content)

@@ -102,6 +102,9 @@ public:
     int Readable(TextView path) override {
         return !Get(path) ? 0 : unreadable_.contains(Key(path)) ? 2 : 1;
     }
+    bool BeginsWith(TextView path, std::string_view bytes) override {
+        return Readable(path) == 1 && Get(path)->content.starts_with(bytes);
+    }
     std::optional<platform::DateTime> LastWrite(TextView path) override {
         const File* file = Get(path);
         return file ? std::optional(file->date) : std::nullopt;

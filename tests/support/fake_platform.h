@@ -171,6 +171,43 @@ public:
         saved.push_back({Text(path), {picture->width, picture->height}, form});
         return platform::Outcome::Done;
     }
+    struct Made {
+        Text from, to;
+        platform::Conversion::Kind kind;
+        platform::Size size;
+        int quality;
+    };
+    std::vector<Made> converted;
+    Text convertError;       // not empty: no conversion can be written, with these words
+    bool writesSame = true;  // a conversion to the same kind has a writer
+    /// A "picture" of the new size.
+    platform::Converted Convert(TextView from, TextView to, const platform::Conversion& conversion,
+                                const platform::Report& report,
+                                platform::FileError& error) override {
+        using platform::Converted;
+        if (report && !report({0, 0})) {
+            return Converted::Stopped;
+        }
+        FakeImagingControl control(files_, log);
+        if (!control.Load(from, {})) {
+            return Converted::Unreadable;
+        }
+        const platform::Size own = control.HeldSize();
+        const platform::Size size = conversion.fit ? conversion.fit(own) : own;
+        const bool same = conversion.kind == platform::Conversion::Same;
+        if (same && (size == own || !writesSame)) {
+            return size == own ? Converted::Needless : Converted::NoWriter;
+        }
+        if (!convertError.empty() ||
+            !files_.Write(to,
+                          "PIC " + std::to_string(size.width) + " " + std::to_string(size.height),
+                          error)) {
+            error.message = convertError;
+            return Converted::Failed;
+        }
+        converted.push_back({Text(from), Text(to), conversion.kind, size, conversion.quality});
+        return Converted::Done;
+    }
 
 private:
     platform::Files& files_;

@@ -79,6 +79,8 @@ bool HasBmpWords(std::string_view start) {
 /// Bits per pixel that a drawing has before it was drawn.
 constexpr int kDrawnDepth = 32;
 
+constexpr int kMostPaletteBits = 8;
+
 /// Bits per pixel as the file stores it, from the form that its reader chose.
 int DepthOf(const QImage& image) {
     constexpr int kMostSmallPalette = 16;
@@ -311,14 +313,14 @@ int64_t PictureFile::WorkingBytes(Size size) const {
     return DecodesScaledTo(size) ? scaledDecodeBytes_ : PixelBytes(own_);
 }
 
-BitmapPtr PictureFile::DecodeHere(Size size, int* depth, ReadingContext& context) const {
+QImage PictureFile::DecodeHere(Size size, int* depth, ReadingContext& context) const {
     PictureReader reader(path_, context);
     if (!reader.IsSameFile(*this)) {
-        return nullptr;
+        return {};
     }
     QImage image = reader.Decode(*this, size);
     if (context.MustEnd()) {
-        return nullptr;
+        return {};
     }
     if (image.isNull() && kind_ == Kind::Tiff) {
         // Tiles larger than the picture, for one, are too much for the toolkit's reader.
@@ -326,15 +328,12 @@ BitmapPtr PictureFile::DecodeHere(Size size, int* depth, ReadingContext& context
         if (depth != nullptr) {
             *depth = result.bitsPerPixel;
         }
-        return result.pixels;
+        return ImageOf(result.pixels);
     }
-    if (image.isNull()) {
-        return nullptr;
-    }
-    if (depth != nullptr) {
+    if (depth != nullptr && !image.isNull()) {
         *depth = DepthOf(image);
     }
-    return OverWhite(std::move(image));
+    return image;
 }
 
 BitmapPtr PictureFile::DecodeForeign(Size size, ReadingContext& context) const {
@@ -359,14 +358,29 @@ BitmapPtr PictureFile::Decode(Size size, int* depth, ReadingContext& context) co
         *depth = foreignDepth_;
     }
     try {
-        BitmapPtr pixels =
-            foreign ? DecodeForeign(decoded, context) : DecodeHere(decoded, depth, context);
+        BitmapPtr pixels = foreign ? DecodeForeign(decoded, context)
+                                   : OverWhite(DecodeHere(decoded, depth, context));
         const bool asAsked = pixels && pixels->width == size.width && pixels->height == size.height;
         return asAsked || !pixels ? pixels : Smooth(*pixels, size);
     } catch (const std::bad_alloc&) {
         context.hindrance = Hindrance::Passing;
         return nullptr;
     }
+}
+
+QImage PictureFile::DecodeImage(Size size, ReadingContext& context) const {
+    if (!FitsMemory(size)) {
+        return {};
+    }
+    if (foreign_ == sandbox::Kind::None) {
+        return DecodeHere(size, nullptr, context);
+    }
+    const QImage image = ImageOf(DecodeForeign(size, context));
+    // What came back has as few colours as the file; a drawing has none of its own.
+    return foreignDepth_ > kMostPaletteBits || image.isNull() ? image
+           : foreignDepth_ == 1
+               ? image.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither)
+               : image.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither);
 }
 
 }  // namespace imaging

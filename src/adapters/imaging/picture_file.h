@@ -14,6 +14,8 @@
 #include "adapters/sandbox/client.h"
 #include "platform/imaging.h"
 
+class QImage;
+
 namespace imaging {
 
 /// Largest picture that is decoded, as opaque pixels.
@@ -103,10 +105,17 @@ public:
     /// bits per pixel.
     platform::BitmapPtr Decode(platform::Size size, int* depth, ReadingContext& context) const;
 
+    /// The same with what the file holds beside colours: alpha, depth and colour profile, where
+    /// the toolkit decodes it. `size` may be smaller than the own one only where DecodesScaledTo.
+    QImage DecodeImage(platform::Size size, ReadingContext& context) const;
+
+    /// The toolkit's name of the kind; empty where the file is decoded in the sandbox.
+    const char* KindName() const { return ReaderName(kind_); }
+
 private:
     friend class PictureReader;
 
-    platform::BitmapPtr DecodeHere(platform::Size size, int* depth, ReadingContext& context) const;
+    QImage DecodeHere(platform::Size size, int* depth, ReadingContext& context) const;
     platform::BitmapPtr DecodeForeign(platform::Size size, ReadingContext& context) const;
 
     std::string path_;

@@ -61,6 +61,16 @@ BitmapPtr OverWhite(QImage image) {
     return result;
 }
 
+QImage ImageOf(const BitmapPtr& bitmap) {
+    if (!bitmap || bitmap->Empty()) {
+        return {};
+    }
+    const auto letGo = [](void* held) { delete static_cast<BitmapPtr*>(held); };
+    return QImage(reinterpret_cast<const uchar*>(bitmap->pixels.data()), bitmap->width,
+                  bitmap->height, static_cast<qsizetype>(bitmap->width) * 4, QImage::Format_RGB32,
+                  letGo, new BitmapPtr(bitmap));
+}
+
 BitmapPtr Smooth(const Bitmap& source, platform::Size size) {
     return OverWhite(View(source).scaled(size.width, size.height, Qt::IgnoreAspectRatio,
                                          Qt::SmoothTransformation));

@@ -13,6 +13,9 @@ int Brightness(platform::Pixel p);
 /// Opaque pixels of a decoded image: what is transparent lies over white. Null on failure.
 platform::BitmapPtr OverWhite(QImage image);
 
+/// The bitmap's own pixels, which the image keeps alive. Null where there are none.
+QImage ImageOf(const platform::BitmapPtr& bitmap);
+
 /// Resampled to the size: area averages downwards, smooth upwards. Null on failure.
 platform::BitmapPtr Smooth(const platform::Bitmap& source, platform::Size size);
 

@@ -7,6 +7,7 @@
 #include <new>
 #include <utility>
 
+#include "adapters/imaging/convert.h"
 #include "adapters/imaging/filters.h"
 #include "adapters/imaging/picture_file.h"
 #include "adapters/imaging/pixels.h"
@@ -238,6 +239,7 @@ QtImaging::QtImaging(platform::Files& files, bool prepares, const sandbox::Clien
     : files_(files),
       prepares_(prepares),
       savesApart_(savesApart),
+      decoder_(decoder),
       context_(decoder),
       prepared_(decoder) {
     // What the readers say of a damaged file, or of a decoding that was given up, helps no one.
@@ -271,6 +273,17 @@ platform::Outcome QtImaging::Save(const platform::BitmapPtr& picture, TextView p
                                   platform::FileError& error) {
     return SavePicture(picture, path.empty() ? std::string() : files_.NativeTarget(path), form,
                        report, savesApart_, error);
+}
+
+platform::Converted QtImaging::Convert(TextView from, TextView to,
+                                       const platform::Conversion& conversion,
+                                       const platform::Report& report, platform::FileError& error) {
+    const std::optional<std::string> found = files_.Find(from);
+    if (!found) {
+        return platform::Converted::Unreadable;
+    }
+    return ConvertPicture(*found, to.empty() ? std::string() : files_.NativeTarget(to), conversion,
+                          {decoder_, report, savesApart_}, error);
 }
 
 }  // namespace imaging

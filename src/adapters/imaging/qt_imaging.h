@@ -16,7 +16,7 @@ namespace imaging {
 class QtImaging : public platform::Imaging {
 public:
     /// `files` must outlive this object, and this object its controls. With `prepares` false
-    /// Prepare does nothing; with `savesApart` false Save runs on the caller's thread.
+    /// Prepare does nothing; with `savesApart` false Save and Convert run on the caller's thread.
     explicit QtImaging(platform::Files& files, bool prepares = true,
                        const sandbox::ClientOptions& decoder = {}, bool savesApart = true);
 
@@ -26,6 +26,9 @@ public:
     platform::Outcome Save(const platform::BitmapPtr& picture, TextView path,
                            const platform::SaveForm& form, const platform::Report& report,
                            platform::FileError& error) override;
+    platform::Converted Convert(TextView from, TextView to, const platform::Conversion& conversion,
+                                const platform::Report& report,
+                                platform::FileError& error) override;
 
     /// What stands ready; for measuring and tests.
     PreparedPictures& Prepared() { return prepared_; }
@@ -34,6 +37,7 @@ private:
     platform::Files& files_;
     bool prepares_;
     bool savesApart_;
+    sandbox::ClientOptions decoder_;
     ReadingContext context_;  // of the caller's thread
     PreparedPictures prepared_;
 };

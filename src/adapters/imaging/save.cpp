@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <new>
+#include <string_view>
 
 #include "adapters/imaging/pixels.h"
 #include "adapters/posix/error_text.h"
@@ -60,13 +61,14 @@ QImage InForm(const Bitmap& picture, const SaveForm& form) {
                   : QImage();
 }
 
-int Write(const Bitmap& picture, const std::string& path, const SaveForm& form,
-          WatchedWork& watched) {
+}  // namespace
+
+int WriteImage(const QImage& image, const std::string& nativePath, const char* kind, int quality,
+               WatchedWork& watched) {
     posix_adapter::NewFile target;
-    if (const int error = target.Begin(path)) {
+    if (const int error = target.Begin(nativePath)) {
         return error;
     }
-    const QImage image = InForm(picture, form);
     if (image.isNull()) {
         return ENOMEM;
     }
@@ -74,9 +76,9 @@ int Write(const Bitmap& picture, const std::string& path, const SaveForm& form,
     if (!file.open(target.Fd(), QIODevice::WriteOnly, QFileDevice::DontCloseHandle)) {
         return EIO;
     }
-    QImageWriter writer(&file, kFormats[form.kind]);
-    if (form.kind == SaveForm::Jpeg) {
-        writer.setQuality(std::clamp(form.quality, 1, 100));
+    QImageWriter writer(&file, kind);
+    if (kind == std::string_view("jpeg")) {
+        writer.setQuality(std::clamp(quality, 1, 100));
     }
     const bool written = writer.write(image) && file.flush();
     if (watched.Stopped()) {
@@ -92,8 +94,6 @@ int Write(const Bitmap& picture, const std::string& path, const SaveForm& form,
     return watched.MayCommit() ? target.Commit() : ECANCELED;
 }
 
-}  // namespace
-
 platform::Outcome SavePicture(const platform::BitmapPtr& picture, const std::string& nativePath,
                               const SaveForm& form, const platform::Report& report, bool ownThread,
                               platform::FileError& error) {
@@ -105,7 +105,8 @@ platform::Outcome SavePicture(const platform::BitmapPtr& picture, const std::str
     const platform::Outcome outcome = posix_adapter::RunWatched(
         [picture, nativePath, form](WatchedWork& watched) {
             try {
-                return Write(*picture, nativePath, form, watched);
+                return WriteImage(InForm(*picture, form), nativePath, kFormats[form.kind],
+                                  form.quality, watched);
             } catch (const std::bad_alloc&) {
                 return ENOMEM;
             }

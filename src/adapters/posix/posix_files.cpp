@@ -173,6 +173,15 @@ int PosixFiles::Readable(TextView path) {
     return file.Valid() && ::read(file.Get(), bytes, sizeof bytes) >= 0 ? 1 : 2;
 }
 
+bool PosixFiles::BeginsWith(TextView path, std::string_view bytes) {
+    const std::optional<std::string> found = Find(path);
+    const Descriptor file = found ? OpenPlainFile(*found) : Descriptor();
+    std::string start(bytes.size(), '\0');
+    return file.Valid() &&
+           ::read(file.Get(), start.data(), start.size()) == static_cast<ssize_t>(bytes.size()) &&
+           start == bytes;
+}
+
 std::optional<platform::DateTime> PosixFiles::LastWrite(TextView path) {
     struct stat status {};
     const std::optional<std::string> found = Find(path);

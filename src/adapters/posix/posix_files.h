@@ -26,6 +26,7 @@ public:
     bool Write(TextView path, std::string_view content, platform::FileError& error) override;
     bool SetAside(TextView path, TextView mark, Text& name, platform::FileError& error) override;
     int Readable(TextView path) override;
+    bool BeginsWith(TextView path, std::string_view bytes) override;
     std::optional<platform::DateTime> LastWrite(TextView path) override;
 
 private:

@@ -13,8 +13,13 @@ ButtonBinding::ButtonBinding(model::Button& button, QAbstractButton& widget, con
       face_(widget),
       named_(!widget.accessibleName().isEmpty()) {
     connect(&widget, &QAbstractButton::clicked, this, [this] { Act([this] { button_.Press(); }); });
+    button.SetFocus = [this] { face_.setFocus(); };
     HearKeys();
     Sync();
+}
+
+ButtonBinding::~ButtonBinding() {
+    button_.SetFocus = nullptr;
 }
 
 void ButtonBinding::SyncOwn() {

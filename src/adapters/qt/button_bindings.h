@@ -13,6 +13,7 @@ namespace qt_adapter {
 class ButtonBinding : public ControlBinding {
 public:
     ButtonBinding(model::Button& button, QAbstractButton& widget, const Site& site);
+    ~ButtonBinding() override;
 
 protected:
     void SyncOwn() override;

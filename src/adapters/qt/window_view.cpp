@@ -274,13 +274,23 @@ void WindowView::ActivatedBySystem() {
     }
 }
 
-/// Enter and Esc press the buttons that the form names for them.
+/// Enter and Esc press the buttons that the form names for them; a button that has the keyboard
+/// takes Enter itself.
 void WindowView::PressButtonOf(int key) {
     const char* property = key == kKeyEnter    ? "enterPresses"
                            : key == kKeyEscape ? "escPresses"
                                                : "";
-    const std::string name = root_->property(property).toString().toStdString();
-    if (auto* button = dynamic_cast<model::Button*>(window_.FindControl(name))) {
+    model::Control* pressed =
+        window_.FindControl(root_->property(property).toString().toStdString());
+    if (pressed && key == kKeyEnter) {
+        for (const auto& binding : bindings_) {
+            if (&binding->Widget() == root_->focusWidget() &&
+                binding->Control().Kind() == model::ControlKind::Button) {
+                pressed = &binding->Control();
+            }
+        }
+    }
+    if (auto* button = dynamic_cast<model::Button*>(pressed)) {
         button->Press();
     }
 }

@@ -41,6 +41,10 @@ public:
                            const platform::Report&, platform::FileError&) override {
         return platform::Outcome::Failed;
     }
+    platform::Converted Convert(TextView, TextView, const platform::Conversion&,
+                                const platform::Report&, platform::FileError&) override {
+        return platform::Converted::Unreadable;
+    }
     Text VersionText() const override { return u"0"; }
     std::unique_ptr<platform::ImagingControl> MakeControl() override {
         return std::make_unique<BlindControl>();

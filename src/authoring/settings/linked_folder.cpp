@@ -32,20 +32,6 @@ void Form_Load(Application& app) {
     FollowCheck1(form12);
 }
 
-bool IsRefused(Application& app, const Text& folder) {
-    const Text upper = text::Upper(folder);
-    return folder == u"/" || folder == app.platform.folders.HomeFolders() || upper == u"C:\\" ||
-           upper == u"C:\\USERS";
-}
-
-/// The root keeps its separator.
-Text WithoutSeparator(Text path) {
-    if (path.size() > 1 && (path.back() == u'/' || path.back() == u'\\')) {
-        path.pop_back();
-    }
-    return path;
-}
-
 void Command1_Click(Application& app) {
     model::Form12& form12 = app.windows.form12;
     if (form12.Check1.Value == 1) {
@@ -54,7 +40,7 @@ void Command1_Click(Application& app) {
         return;
     }
     const Text shown = form12.Dir1.Path;
-    if (IsRefused(app, shown)) {
+    if (IsRefusedFolder(app, shown)) {
         app.platform.dialogs.Message(
             shown +
                 u"\r\nこのフォルダは指定できません。"
@@ -65,7 +51,7 @@ void Command1_Click(Application& app) {
         FollowCheck1(form12);
         return;
     }
-    app.state.LinkedFolder = WithoutSeparator(form12.Text1.Content);
+    app.state.LinkedFolder = text::WithoutSeparator(form12.Text1.Content());
     form12.Unload();
     app.state.LinkedFolderFlag = 1;
     RememberFolder(app, app.state.LinkedFolder);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "authoring/shared/browser_memory.h"
+#include "text/paths.h"
 
 namespace authoring {
 
@@ -60,6 +61,13 @@ void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& d
     file.PicturesChanged.Anew() = [&app, &file] { RememberPictures(app, file.Pictures); };
     OpenBrowser(app, drive, dir, folder);
     file.Refresh();
+}
+
+bool IsRefusedFolder(Application& app, TextView folder) {
+    const Text bare = text::WithoutSeparator(folder);
+    const Text upper = text::Upper(bare);
+    return bare == u"/" || bare == app.platform.folders.HomeFolders() || upper == u"C:\\" ||
+           upper == u"C:\\USERS";
 }
 
 }  // namespace authoring

@@ -26,4 +26,8 @@ void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& d
 void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& dir,
                  model::FileList& file, const Text& folder);
 
+/// The root and the folder that holds the users' home folders, with or without a separator at the
+/// end: no place to keep files in.
+bool IsRefusedFolder(Application& app, TextView folder);
+
 }  // namespace authoring

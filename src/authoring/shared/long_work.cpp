@@ -75,7 +75,8 @@ void LongWork::ShowHowFar(int64_t done, int64_t whole) {
     }
     shownAt_ = now;
     face_.howFar->Caption =
-        whole > 0 ? NumberText(done) + u" / " + NumberText(whole) : NumberText(done);
+        face_.before +
+        (whole > 0 ? NumberText(done) + u" / " + NumberText(whole) : NumberText(done));
 }
 
 int64_t ForEachPiece(LongWork& work, int64_t count, const std::function<bool(int64_t)>& piece) {

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 
+#include "authoring/batch_conversion.h"
 #include "authoring/shared/file_browser.h"
 #include "authoring/shared/open_window.h"
 #include "authoring/slide_list/adding.h"
 #include "authoring/slide_list/check_boxes.h"
 #include "authoring/slide_list/clipboard_rows.h"
 #include "authoring/slide_list/commit.h"
+#include "authoring/slide_list/copies.h"
 #include "authoring/slide_list/documents.h"
 #include "authoring/slide_list/double_click.h"
 #include "authoring/slide_list/filter.h"
@@ -139,7 +141,7 @@ void Command12_Click(Application& app) {
             platform::kExclamation, u"変換コピー選択エラー");
         return;
     }
-    OpenWindow(app, app.windows.form16);
+    OpenBatchConversion(app);
 }
 
 void AttachLife(Application& app) {
@@ -187,6 +189,7 @@ void AttachSlideList(Application& app) {
     AttachDoubleClick(app);
     AttachRunFromSelection(app);
     AttachTreeSearch(app);
+    AttachCopies(app);
     AttachRowFaces(app);
     AttachHistory(app);
     AttachClipboardRows(app);

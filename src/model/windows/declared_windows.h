@@ -29,9 +29,6 @@ struct Form14 : Window {
     Form14() : Window("Form14", u"ＣＤプログラム選択") {}
     CheckBox Check1{this, "Check1", u"プログラム再生終了でパラピコ停止"};
 };
-struct Form16 : Window {
-    Form16() : Window("Form16", u"選択画像の一括変換コピー") {}
-};
 struct Form20 : Window {
     Form20() : Window("Form20", u"画像連動効果音(WAV)録音・再生") {}
 };
