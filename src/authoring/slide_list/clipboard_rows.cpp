@@ -80,8 +80,14 @@ void Paste(Application& app, const CopiedRows& copied) {
     if (rows.empty()) {
         return;
     }
-    const int before = OnlySelectedSlide(app).value_or(app.windows.form3.List1.ListCount());
-    app.state.SlideSearchStop = InsertSlides(app, before, std::move(rows)) ? 0 : 1;
+    model::Form3& form3 = app.windows.form3;
+    const std::optional<int> selected = OnlySelectedSlide(app);
+    const int end = form3.List1.ListCount();
+    app.state.SlideSearchStop = InsertSlides(app, selected.value_or(end), std::move(rows)) ? 0 : 1;
+    if (!selected && form3.List1.ListCount() > end) {
+        form3.List1.TopIndex = end;
+        form3.List2.TopIndex = end;
+    }
 }
 
 void SelectAll(Application& app) {

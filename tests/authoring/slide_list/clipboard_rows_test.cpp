@@ -42,10 +42,12 @@ TEST(ClipboardRows, OwnRowsComeBackWithTheirSchedules) {
     EXPECT_EQ(desk.Rows(),
               (Paths{u"/p/a.tif", u"/p/b.jpg", u"/p/a.tif", u"/p/b.jpg", u"/p/c.jpg"}));
     EXPECT_EQ(desk.Selected(), Paths{u"/p/c.jpg"}) << "the selected row stays it";
+    EXPECT_EQ(desk.form3.List1.TopIndex, 0);
     EXPECT_EQ(desk.Steps(), 1u);
     desk.form3.List1.Choose({0, 1});
     desk.form3.mnuPASTE.Choose();
     EXPECT_EQ(desk.Rows().back(), u"/p/b.jpg") << "at the end unless one row is selected";
+    EXPECT_EQ(desk.form3.List1.TopIndex, 5) << "where it is seen";
 }
 
 TEST(ClipboardRows, CutIsOneStep) {
