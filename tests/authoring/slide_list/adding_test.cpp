@@ -51,6 +51,18 @@ TEST_F(Adding, AllAddsEveryFileInItsOrderAsOneStepAndScrolls) {
     EXPECT_FALSE(document::UndoSlideRows(app));
 }
 
+TEST_F(Adding, ABulkScrollsByItsFilesAndByOneLessFromTheTop) {
+    FillWith(10);
+    Browse({u"a.png", u"b.png", u"c.png"});
+    form3.Command3.Press();
+    EXPECT_EQ(form3.List1.TopIndex, 2);
+    form3.Command3.Press();
+    EXPECT_EQ(form3.List1.TopIndex, 5);
+    form3.List1.Drop({u"/x/a.png", u"/x/b.tif"});
+    EXPECT_EQ(form3.List1.TopIndex, 7);  // both count
+    EXPECT_EQ(form3.List2.TopIndex, 7);
+}
+
 TEST_F(Adding, ADropTakesSevenKindsInTheGivenOrderWithoutAWord) {
     form3.List1.Drop({u"/x/9.tif", u"/x/8.JPG", u"/x/7.bmp", u"/x/6.png", u"/x/5.mp4", u"/x/4.wmv",
                       u"/x/3.mov", u"/x/2.avi", u"/x/1.psd", u"/x/0.jpeg"});
