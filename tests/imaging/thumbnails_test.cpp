@@ -89,6 +89,17 @@ TEST_F(Thumbnails, FitTheSquareAndAreNeverEnlarged) {
     EXPECT_EQ(line->height, 1);
 }
 
+TEST_F(Thumbnails, AreTurnedAsTheCameraWasHeld) {
+    const QByteArray lying = Encoded(Quarters(640, 320), "jpg", 100);
+    const BitmapPtr turned = Get(Put("turned.jpg", WithOrientation(lying, 6)));
+    ASSERT_TRUE(turned);
+    EXPECT_EQ(turned->width, 64);
+    EXPECT_EQ(turned->height, 128);
+    // A quarter to the right: what was the bottom left is the top left now.
+    EXPECT_LT(Distance(turned->Row(20)[10], kBlue), 30);
+    EXPECT_LT(Distance(turned->Row(20)[50], kRed), 30);
+}
+
 TEST_F(Thumbnails, AreKeptForOtherPrograms) {
     const std::string name = "写真 100%#\n.png";
     Get(Put(name, Flat(640, 320, kRed)), 100);

@@ -179,10 +179,9 @@ private:
         platform::Folders& folders = app_.platform.folders;
         const Text own = folders.Identity(text::WithoutSeparator(folder_));
         return !own.empty() &&
-               std::any_of(plan_.Folders().begin(), plan_.Folders().end(),
-                           [&](const Text& folder) {
-                               return folders.Identity(text::WithoutSeparator(folder)) == own;
-                           });
+               std::any_of(plan_.Folders().begin(), plan_.Folders().end(), [&](const Text& folder) {
+                   return folders.Identity(text::WithoutSeparator(folder)) == own;
+               });
     }
 
     bool MayReplace(const Text& document) {
