@@ -210,6 +210,12 @@ TEST_F(FaceView, FacesOfRowsInSightAloneAreAskedFor) {
     EXPECT_EQ(asked, std::set<int>{30000});
 }
 
+TEST_F(FaceView, ARowIsOneLine) {
+    Show({u"a\r\nb"});
+    EXPECT_EQ(Seen(), QStringList{"a  b"});
+    EXPECT_EQ(list.List(0), u"a\r\nb");
+}
+
 /// Flat pictures of one colour, at once.
 struct FlatThumbnails : platform::Thumbnails {
     platform::Pixel colour = 0xFFFF0000u;

@@ -11,6 +11,15 @@
 
 namespace qt_adapter {
 
+namespace {
+
+/// Names of files can hold line ends.
+QString InOneLine(QString text) {
+    return text.replace(u'\r', u' ').replace(u'\n', u' ');
+}
+
+}  // namespace
+
 RowsModel::RowsModel(const model::ListBox& list, std::function<void(int)> dragged)
     : list_(list), dragged_(std::move(dragged)), count_(list.ListCount()) {
     Map();
@@ -27,7 +36,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
     }
     switch (role) {
         case Qt::DisplayRole:
-            return ToQt(list_.List(row));
+            return InOneLine(ToQt(list_.List(row)));
         case Qt::AccessibleTextRole:
             return list_.face ? FaceWords(list_.face(row)) : QVariant();
         case Qt::DecorationRole:
