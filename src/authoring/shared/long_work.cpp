@@ -75,8 +75,7 @@ void LongWork::ShowHowFar(int64_t done, int64_t whole) {
     }
     shownAt_ = now;
     face_.howFar->Caption =
-        face_.before +
-        (whole > 0 ? NumberText(done) + u" / " + NumberText(whole) : NumberText(done));
+        whole > 0 ? NumberText(done) + u" / " + NumberText(whole) : NumberText(done);
 }
 
 int64_t ForEachPiece(LongWork& work, int64_t count, const std::function<bool(int64_t)>& piece) {

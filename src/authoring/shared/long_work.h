@@ -17,7 +17,6 @@ struct LongWorkFace {
     model::Label* doing = nullptr;   // says what is being done
     model::Label* howFar = nullptr;  // "12 / 340"
     model::Button* stop = nullptr;   // its Click sets what `stopAsked` asks
-    Text before = {};                // in front of how far
 };
 
 /// One piece of work from its making to its end, however it is left.

@@ -7,8 +7,8 @@
 
 #include "authoring/shared/browser_memory.h"
 #include "authoring/shared/file_browser.h"
-#include "authoring/shared/long_work.h"
 #include "authoring/slide_list/collect_plan.h"
+#include "authoring/slide_list/list_work.h"
 #include "document/show_document.h"
 #include "model/menu.h"
 #include "model/windows/slide_list.h"
@@ -22,7 +22,6 @@ using platform::Outcome;
 
 constexpr TextView kTitle = u"配布フォルダ";
 constexpr TextView kUnnamed = u"スライドショー.kvs";
-constexpr TextView kStopCaption = u"中止";
 constexpr size_t kMostListed = 10;  // names in a box
 
 Text NumberText(size_t number) {
@@ -41,16 +40,16 @@ Text Listed(const std::vector<Text>& names) {
     return lines;
 }
 
-/// While it lives nothing but `left` takes input in its window, and no other window that the rows
-/// or settings could be changed in does.
+/// While it lives Form3 takes no input but a stop, and no other window that the rows or settings
+/// could be changed in takes any.
 class Alone {
 public:
-    Alone(Application& app, model::VisibleControl& left) {
-        model::Window& own = left.Parent();
+    explicit Alone(Application& app) {
+        model::Form3& own = app.windows.form3;
         for (model::Control* control : own.Controls()) {
             auto* entry = dynamic_cast<model::MenuEntry*>(control);
             auto* seen = dynamic_cast<model::VisibleControl*>(control);
-            if (seen != &left && (entry || seen)) {
+            if (seen != &own.Collect && seen != &own.Command8 && (entry || seen)) {
                 Disable(entry ? entry->Enabled : seen->Enabled);
             }
         }
@@ -81,43 +80,18 @@ private:
     std::vector<model::Property<bool>*> disabled_;
 };
 
-/// Form3 while it collects.
-class CollectingFace {
-public:
-    explicit CollectingFace(model::Form3& form3)
-        : form3_(form3), collect_(form3.Collect.Caption), doing_(form3.Label1.Caption) {
-        form3_.Collect.Caption = Text(kStopCaption);
-    }
-    ~CollectingFace() {
-        form3_.Collect.Caption = collect_;
-        form3_.Label1.Caption = doing_;
-    }
-    CollectingFace(const CollectingFace&) = delete;
-    CollectingFace& operator=(const CollectingFace&) = delete;
-
-private:
-    model::Form3& form3_;
-    const Text collect_, doing_;
-};
-
 class Collector {
 public:
-    Collector(Application& app, Text folder, bool& stopAsked)
-        : app_(app),
-          folder_(text::WithSeparator(folder)),
-          stopAsked_(stopAsked),
-          plan_(app),
-          work_(app, {app.windows.form3, nullptr, &app.windows.form3.Label1, nullptr, u"作成中 "},
-                [this] { return IsToStop(); }) {}
+    Collector(Application& app, const Text& folder)
+        : app_(app), folder_(text::WithSeparator(folder)), plan_(app), work_(app, u"作成中") {}
 
     /// What there is to say at the end.
     Text Run() {
-        ForEachPiece(work_, plan_.Slides(), [this](int64_t slide) {
+        for (int64_t slide = 0; slide < plan_.Slides(); ++slide) {
+            if (!work_.GoOn(slide, plan_.Slides())) {
+                return Broken();
+            }
             plan_.LookAt(slide);
-            return true;
-        });
-        if (work_.Stopped()) {
-            return Broken();
         }
         plan_.Settle();
         const Text document = DocumentName();
@@ -133,12 +107,11 @@ public:
         if (!MayReplace(document)) {
             return Broken();
         }
-        const auto count = static_cast<int64_t>(plan_.Files().size());
-        const int64_t done = ForEachPiece(work_, count, [this](int64_t file) {
-            return Take(plan_.Files()[static_cast<size_t>(file)]);
-        });
-        if (done < count || work_.Stopped()) {
-            return Broken();
+        int64_t done = 0;
+        for (const CollectedFile& file : plan_.Files()) {
+            if (!work_.GoOn(done++, static_cast<int64_t>(plan_.Files().size())) || !Take(file)) {
+                return Broken();
+            }
         }
         const Text content = document::TextOfCopiedShow(
             app_, folder_ + document, [this](const Text& path) { return plan_.NameOf(path); });
@@ -154,13 +127,6 @@ private:
     bool Ask(const Text& question) {
         return app_.platform.dialogs.Message(question, platform::kYesNoQuestion, kTitle) ==
                platform::Answer::Yes;
-    }
-
-    bool IsToStop() {
-        if (stopAsked_) {
-            stopAsked_ = Ask(u"配布フォルダの作成を中止しますか ?");
-        }
-        return stopAsked_;
     }
 
     /// A name in the folder; the open document itself is never replaced.
@@ -274,9 +240,8 @@ private:
 
     Application& app_;
     const Text folder_;
-    bool& stopAsked_;
     CollectPlan plan_;
-    LongWork work_;
+    ListWork work_;
     size_t copied_[CollectedFile::Piece + 1] = {};
     size_t renamed_ = 0;
     std::vector<Text> failed_;
@@ -288,9 +253,8 @@ void Say(Application& app, const Text& words, int flags) {
 
 }  // namespace
 
-void CollectShow(Application& app, bool& stopAsked) {
-    model::Form3& form3 = app.windows.form3;
-    if (form3.List1.ListCount() == 0) {
+void CollectShow(Application& app) {
+    if (app.windows.form3.List1.ListCount() == 0) {
         Say(app, u"スライドリストがないので配布フォルダを作れません。", platform::kExclamation);
         return;
     }
@@ -307,10 +271,8 @@ void CollectShow(Application& app, bool& stopAsked) {
     }
     Text words;
     {
-        stopAsked = false;
-        const CollectingFace face(form3);
-        const Alone alone(app, form3.Collect);
-        words = Collector(app, *folder, stopAsked).Run();
+        const Alone alone(app);
+        words = Collector(app, *folder).Run();
     }
     Say(app, words, platform::kInformation);
 }

@@ -6,7 +6,7 @@
 namespace authoring {
 
 /// Asks for the folder, copies, and tells what was copied and what was missing. Nothing of the open
-/// document changes. `stopAsked` becomes true meanwhile where a person wants it to end.
-void CollectShow(model::Application& app, bool& stopAsked);
+/// document changes.
+void CollectShow(model::Application& app);
 
 }  // namespace authoring

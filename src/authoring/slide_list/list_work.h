@@ -29,6 +29,7 @@ public:
     /// As LongWork.
     bool GoOn(int64_t done, int64_t whole);
     bool Stopped() const { return work_.Stopped(); }
+    platform::Report Report() { return work_.Report(); }
 
 private:
     Application& app_;
