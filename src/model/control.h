@@ -117,12 +117,13 @@ public:
     bool Press(const MousePress& press = {}) { return Reachable() && OnPress(press); }
     /// The second press of a double click; the first was a Press of its own.
     bool PressAgain(const MousePress& press = {}) { return Reachable() && OnPressAgain(press); }
-    bool PressKey(int code) { return Reachable() && KeyDown(code); }
+    bool PressKey(int code) { return Reachable() && OnKey(code); }
     bool Drop(const std::vector<Text>& paths) { return Reachable() && FilesDropped(paths); }
 
 protected:
     virtual bool OnPress(const MousePress& press) { return !press.right && Click(); }
     virtual bool OnPressAgain(const MousePress& press) { return !press.right && DblClick(); }
+    virtual bool OnKey(int code) { return KeyDown(code); }
 };
 
 }  // namespace model

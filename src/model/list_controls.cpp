@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "model/window.h"
 #include "text/paths.h"
 
 namespace model {
@@ -218,6 +219,10 @@ void FileList::Refresh() {
     for (Text& name : folders->Files(Path(), Pattern())) {
         AddItem(std::move(name));
     }
+}
+
+bool FileList::OnKey(int code) {
+    return code == kKeyEnter ? Press() : ListBox::OnKey(code);
 }
 
 bool FileList::ShowPictures(bool on) {

@@ -129,6 +129,10 @@ public:
     /// A person chooses between thumbnails and names alone. False unless Reachable.
     bool ShowPictures(bool on);
 
+protected:
+    /// Enter presses the current row.
+    bool OnKey(int code) override;
+
 private:
     void PropertyChanged(Control& control, PropertyBase& property) override;
 };

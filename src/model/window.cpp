@@ -1,5 +1,6 @@
 #include "model/window.h"
 
+#include "model/controls.h"
 #include "model/same_name.h"
 
 namespace model {
@@ -38,6 +39,12 @@ void Window::ShowModal(platform::EventLoop& loop) {
 
 void Window::Hide() {
     Visible = false;
+}
+
+bool Window::OnKey(int code) {
+    const bool heard = KeyDown(code);
+    Button* pressed = code == kKeyEnter ? EnterPresses : code == kKeyEscape ? EscPresses : nullptr;
+    return (pressed && pressed->Press()) || heard;
 }
 
 bool Window::Unload() {

@@ -16,6 +16,11 @@ enum MousePointerShape : int { kPointerNormal = 0, kPointerBusy = 11, kPointerAr
 /// Values of a window's WindowState.
 enum WindowStates : int { kWindowNormal = 0, kWindowMinimised = 1, kWindowMaximised = 2 };
 
+class Button;
+
+/// Numbers of keys.
+constexpr int kKeyEnter = 13, kKeyEscape = 27;
+
 class Window : public VisibleControl {
 public:
     explicit Window(std::string name, Text caption = {});
@@ -35,6 +40,11 @@ public:
     Event<> OnUnload;
     Event<> OnDeactivate;  // another window took the keyboard
     Event<> OnPaint;  // it was painted after another window had covered it, or for the first time
+
+    /// Buttons that Enter and Esc press, wherever in the window the keyboard is; null: none. A
+    /// button that has the keyboard keeps its own Enter.
+    Button* EnterPresses = nullptr;
+    Button* EscPresses = nullptr;
 
     /// A view shows this window. A menu must not open one without a view, least of all in place
     /// of another window.
@@ -60,6 +70,9 @@ public:
     const std::vector<Control*>& Controls() const { return controls_; }
     /// By its name, "Picture2(3)" for an element; without case. Null when there is none.
     Control* FindControl(std::string_view name) const;
+
+protected:
+    bool OnKey(int code) override;
 
 private:
     friend class Control;

@@ -14,9 +14,6 @@ namespace {
 
 using platform::VideoState;
 
-constexpr int kKeyEnter = 13;
-constexpr int kKeyEscape = 27;
-
 constexpr int kSizeLimitMs = 300;
 
 void Move(model::VisibleControl& control, const platform::Rect& pixels) {
@@ -146,13 +143,13 @@ void Form_Click(Application& app) {
 }
 
 void Form_KeyDown(Application& app, int code) {
-    if (code == kKeyEscape) {
+    if (code == model::kKeyEscape) {
         app.state.VideoCloseRequest = 1;
     }
 }
 
 void Player_KeyDown(Application& app, int code) {
-    if (code == kKeyEscape || code == kKeyEnter) {
+    if (code == model::kKeyEscape || code == model::kKeyEnter) {
         app.state.VideoCloseRequest = 1;
         app.state.VideoStoppedByUser = 1;
     }

@@ -32,8 +32,6 @@ namespace playback {
 
 namespace {
 
-constexpr int kKeyEscape = 27;
-
 bool MacroButtonsUp(const Application& app) {
     return app.state.MacroButtonsShown == 1 || app.windows.slidescreen.Command1.Visible;
 }
@@ -255,7 +253,7 @@ void P2_Click(Application& app) {
 
 void Screen_KeyDown(Application& app, int code) {
     NoteInput(app);
-    if (app.state.MacroWaitClick != 1 && code == kKeyEscape &&
+    if (app.state.MacroWaitClick != 1 && code == model::kKeyEscape &&
         app.windows.Pointer() == model::kPointerNormal) {
         app.windows.slidescreen.Unload();
     }

@@ -33,7 +33,7 @@ using model::ControlKind;
 using Paths = std::vector<Text>;
 
 struct EveryKind : model::Window {
-    EveryKind() : Window("EveryKind", u"各種") {}
+    EveryKind() : Window("EveryKind", u"各種") { EnterPresses = &Command1; }
     model::Frame Frame1{this, "Frame1", u"枠"};
     model::OptionButton Option1{this, "Option1", u"選択", &Frame1};
     model::CheckBox Check1{this, "Check1", u"確認"};
@@ -228,7 +228,7 @@ TEST_F(WindowViews, TheKeyboardGoesByTheFormsOrder) {
     }
 }
 
-TEST_F(WindowViews, EnterPressesTheButtonThatTheFormNames) {
+TEST_F(WindowViews, EnterPressesTheButtonThatTheWindowNames) {
     int presses = 0;
     window.Command1.Click = [&] { ++presses; };
     Show();

@@ -33,4 +33,19 @@ set Form12.Check1 1
 click Form12.Command2
 expect LinkedFolderFlag 1
 
+# Esc is キャンセル wherever the keyboard is, Enter is ＯＫ but on a button.
+menu mnuRENF
+key Form12.Text1 27
+expect Form12.Visible false
+menu mnuRENF
+set Form12.Check1 1
+key Form12.Command2 13
+expect Form12.Visible false
+expect LinkedFolderFlag 1
+menu mnuRENF
+set Form12.Check1 1
+key Form12 13
+expect Form12.Visible false
+expect LinkedFolderFlag 0
+
 expect-trace message title=フォルダ未指定 text="/\r\nこのフォルダは指定できません。\r\n再度チェックを外し、別のフォルダを指定してください。" flags=48

@@ -61,11 +61,7 @@ void FileListBinding::SyncOwn() {
 bool FileListBinding::eventFilter(QObject* watched, QEvent* event) {
     ListBinding::eventFilter(watched, event);
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
-    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
-        return false;
-    }
-    Act([this] { files_.Press(); });
-    return true;
+    return key == Qt::Key_Return || key == Qt::Key_Enter;  // the list's own, not the window's
 }
 
 void FileListBinding::ShowAs(bool pictures) {

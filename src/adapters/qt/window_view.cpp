@@ -20,13 +20,6 @@
 
 namespace qt_adapter {
 
-namespace {
-
-constexpr int kKeyEnter = 13;
-constexpr int kKeyEscape = 27;
-
-}  // namespace
-
 WindowView::WindowView(model::Window& window, FormLoader& loader, Gate& gate,
                        std::function<WindowView*(const QString&)> viewOf)
     : window_(window), loader_(loader), gate_(gate), viewOf_(std::move(viewOf)) {
@@ -216,8 +209,9 @@ bool WindowView::eventFilter(QObject* watched, QEvent* event) {
             const int key = VirtualKey(static_cast<QKeyEvent*>(event)->key());
             if (key != 0) {
                 gate_.Guarded([&] {
-                    window_.PressKey(key);
-                    PressButtonOf(key);
+                    if (key != model::kKeyEnter || !PressFocusedButton()) {
+                        window_.PressKey(key);
+                    }
                 });
             }
             return false;
@@ -274,25 +268,15 @@ void WindowView::ActivatedBySystem() {
     }
 }
 
-/// Enter and Esc press the buttons that the form names for them; a button that has the keyboard
-/// takes Enter itself.
-void WindowView::PressButtonOf(int key) {
-    const char* property = key == kKeyEnter    ? "enterPresses"
-                           : key == kKeyEscape ? "escPresses"
-                                               : "";
-    model::Control* pressed =
-        window_.FindControl(root_->property(property).toString().toStdString());
-    if (pressed && key == kKeyEnter) {
-        for (const auto& binding : bindings_) {
-            if (&binding->Widget() == root_->focusWidget() &&
-                binding->Control().Kind() == model::ControlKind::Button) {
-                pressed = &binding->Control();
-            }
+/// Enter on a button that has the keyboard presses that one; not all of the toolkit's styles do.
+bool WindowView::PressFocusedButton() {
+    for (const auto& binding : bindings_) {
+        if (binding->Control().Kind() == model::ControlKind::Button &&
+            &binding->Widget() == root_->focusWidget()) {
+            return binding->Control().Press();
         }
     }
-    if (auto* button = dynamic_cast<model::Button*>(pressed)) {
-        button->Press();
-    }
+    return false;
 }
 
 }  // namespace qt_adapter

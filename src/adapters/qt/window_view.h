@@ -93,7 +93,7 @@ private:
     void DeactivatedBySystem();
     void Resized();
     void StateChangedByPerson();
-    void PressButtonOf(int key);
+    bool PressFocusedButton();
     void Dragged(QDropEvent& drag);
     bool TakesDrops() const;
     model::VisibleControl* TakerOfDrop(QPoint place);

@@ -282,8 +282,18 @@ bool ScriptedUser::Mouse(const Action& action, model::Window& window,
 bool ScriptedUser::Key(const Action& action, model::VisibleControl& target) {
     const int code = action.numbers.front();
     const bool reached = target.PressKey(code);
-    auto* window = dynamic_cast<model::Window*>(&target);
-    return (window && PressShortcut(*window, code)) || reached;
+    if (auto* window = dynamic_cast<model::Window*>(&target)) {
+        return PressShortcut(*window, code) || reached;
+    }
+    if (code != model::kKeyEnter && code != model::kKeyEscape) {
+        return reached;
+    }
+    // Controls leave these two to the window around them, but for the Enter of buttons and files.
+    if (code == model::kKeyEnter && target.Kind() == model::ControlKind::Button) {
+        return target.Press() || reached;
+    }
+    const bool own = code == model::kKeyEnter && target.Kind() == model::ControlKind::FileList;
+    return (!own && target.Parent().PressKey(code)) || reached;
 }
 
 void ScriptedUser::Menu(const Action& action) {

@@ -26,6 +26,8 @@ struct Form18 : Window {  // pictures and films, for the slide list
         Width = 7200;  // 480 x 350 pixels
         Height = 5250;
         CaptionBoxes(Check1, kPictureTypes);
+        EnterPresses = &Command3;
+        EscPresses = &Command4;
     }
 
     Label Label1{this, "Label1", u"選択されたフォルダ以下を検索し、ｽﾗｲﾄﾞﾘｽﾄに登録します。"};
@@ -44,6 +46,8 @@ struct Form19 : Window {  // sounds, for the sound list
         Width = 6000;  // 400 x 170 pixels
         Height = 2550;
         CaptionBoxes(Check1, kSoundTypes);
+        EnterPresses = &Command3;
+        EscPresses = &Command4;
     }
 
     Label Label1{this, "Label1", u"選択されたフォルダ以下を検索し、ﾘｽﾄに登録します。"};

@@ -11,6 +11,8 @@ struct Form12 : Window {
     Form12() : Window("Form12", u"画像連動ファイル(WAV,MID,MP3,TXT)のフォルダ指定") {
         Width = 9000;  // 600 x 460 pixels
         Height = 6900;
+        EnterPresses = &Command1;
+        EscPresses = &Command2;
     }
 
     Label Label1{this, "Label1", u"画像連動フォルダを変更する場合は指定してください。"};

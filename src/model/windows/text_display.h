@@ -10,6 +10,8 @@ struct Form15 : Window {
     Form15() : Window("Form15", u"テキスト表示設定") {
         Width = 6600;  // 440 x 320 pixels
         Height = 4800;
+        EnterPresses = &Command1;
+        EscPresses = &Command1;
     }
 
     Frame Frame1{this, "Frame1", u"画面全体表示時のテキスト座標設定"};
