@@ -88,6 +88,7 @@ bool GoBack(Application& app, bool (*back)(const EditedList& list)) {
     const bool done = back(SlideRows(app));
     if (app.state.DocumentPath != path) {
         ShowDocumentCaption(app);
+        CommitSlides(app);  // as opening does: what is named is what plays
     }
     return done;
 }

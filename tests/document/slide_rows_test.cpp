@@ -173,6 +173,8 @@ TEST(SlideRows, OpeningWithinAStepCanBeTakenBack) {
     EXPECT_TRUE(document::UndoSlideRows(slides.app));
     EXPECT_THAT(slides.List1(), ElementsAre(u"C:\\a.jpg", u"C:\\b.jpg"));
     EXPECT_THAT(slides.List2(), ElementsAre(kRow, kBlankRow));
+    EXPECT_THAT(slides.Played(), ElementsAre(u"C:\\a.jpg", u"C:\\b.jpg"));
+    EXPECT_EQ(slides.From().front(), kFrom);
     EXPECT_EQ(slides.app.state.DocumentPath, kPath);
     EXPECT_EQ(slides.app.state.DocumentName, u"test.kvs");
     EXPECT_EQ(slides.app.state.BaseFolder, kBase);
@@ -180,6 +182,7 @@ TEST(SlideRows, OpeningWithinAStepCanBeTakenBack) {
     EXPECT_EQ(slides.app.windows.form1.Caption(), Text(u"ｽﾗｲﾄﾞ - ") + kPath);
     EXPECT_TRUE(document::RedoSlideRows(slides.app));
     EXPECT_THAT(slides.List1(), ElementsAre(u"D:\\c.jpg", u"D:\\d.jpg"));
+    EXPECT_THAT(slides.Played(), ElementsAre(u"D:\\c.jpg", u"D:\\d.jpg"));
     EXPECT_EQ(slides.app.state.DocumentName, u"other.kvs");
     EXPECT_EQ(slides.app.windows.form1.Caption(), u"ｽﾗｲﾄﾞ - D:\\other.kvs");
 }
