@@ -11,6 +11,8 @@ struct RelinkPreview : Window {
     RelinkPreview() : Window("RelinkPreview", u"見つからないファイルのつなぎ直し") {
         Width = 11400;  // 760 x 520 pixels
         Height = 7800;
+        EnterPresses = &Command1;
+        EscPresses = &Command2;
     }
 
     Label Label1{this, "Label1"};     // how many of how many
