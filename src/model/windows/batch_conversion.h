@@ -11,6 +11,8 @@ struct Form16 : Window {
     Form16() : Window("Form16", u"選択画像の一括変換コピー") {
         Width = 10800;  // 720 x 500 pixels
         Height = 7500;
+        EnterPresses = &Command1;
+        EscPresses = &Command2;
         for (VisibleControl* shown :
              {static_cast<VisibleControl*>(&Label2), static_cast<VisibleControl*>(&Label6),
               static_cast<VisibleControl*>(&Command3)}) {
