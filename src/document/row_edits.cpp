@@ -230,6 +230,10 @@ bool GoBack(const EditedList& list, std::deque<RowStep>& from, std::deque<RowSte
             *list.identity[i] = std::move(step.identity[i]);
         }
     }
+    if (step.exchange) {
+        step.exchange();
+        back.exchange = std::move(step.exchange);
+    }
     Restore(list, step.selection);
     ShowCount(list);
     to.push_back(std::move(back));
@@ -242,7 +246,7 @@ bool GoBack(const EditedList& list, std::deque<RowStep>& from, std::deque<RowSte
 UndoStep::UndoStep(EditedList list) : list_(std::move(list)) {
     RowHistory& history = list_.history;
     if (history.depth++ == 0) {
-        history.open = {{}, SelectionOf(list_.rows), IdentityOf(list_)};
+        history.open = {{}, SelectionOf(list_.rows), IdentityOf(list_), {}};
     }
 }
 
@@ -255,7 +259,7 @@ UndoStep::~UndoStep() {
     if (step.identity == IdentityOf(list_)) {
         step.identity.clear();
     }
-    if (step.edits.empty() && step.identity.empty()) {
+    if (step.edits.empty() && step.identity.empty() && !step.exchange) {
         return;
     }
     history.redo.clear();
@@ -359,7 +363,7 @@ bool Redo(const EditedList& list) {
 void ForgetSteps(const EditedList& list) {
     list.history.undo.clear();
     list.history.redo.clear();
-    list.history.open.edits.clear();
+    list.history.open = {{}, SelectionOf(list.rows), IdentityOf(list), {}};
     list.history.Changed();
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
 #include <numeric>
 
 #include "document/main_caption.h"
@@ -73,6 +74,29 @@ void EraseSlides(model::ShowState& state) {
     }
 }
 
+struct PlayedSlides {
+    model::TextArray slides, from, to;
+    int16_t end;
+};
+
+/// Before the slides are replaced within a step: they come back with it. Films without a row do,
+/// too, and the rows stay ahead of the slides as far as they were.
+void KeepSlides(Application& app) {
+    model::RowStep& step = app.windows.form3.history.open;
+    if (app.windows.form3.history.depth == 0 || step.exchange) {
+        return;
+    }
+    model::ShowState& state = app.state;
+    const auto kept = std::make_shared<PlayedSlides>(
+        PlayedSlides{state.SlideList, state.ScheduleFrom, state.ScheduleTo, state.SlideListEnd});
+    step.exchange = [&state, kept] {
+        std::swap(state.SlideList, kept->slides);
+        std::swap(state.ScheduleFrom, kept->from);
+        std::swap(state.ScheduleTo, kept->to);
+        std::swap(state.SlideListEnd, kept->end);
+    };
+}
+
 /// What a reader brings is no change of a person's, unless it is part of a step.
 void LayRows(Application& app, std::vector<model::ListRow> rows) {
     const EditedList list = SlideRows(app);
@@ -88,7 +112,6 @@ bool GoBack(Application& app, bool (*back)(const EditedList& list)) {
     const bool done = back(SlideRows(app));
     if (app.state.DocumentPath != path) {
         ShowDocumentCaption(app);
-        CommitSlides(app);  // as opening does: what is named is what plays
     }
     return done;
 }
@@ -140,6 +163,7 @@ void RevertSlideRows(Application& app) {
 }
 
 void ClearSlides(Application& app) {
+    KeepSlides(app);
     EraseSlides(app.state);
     app.state.SlideListEnd = 0;
     LayRows(app, {});
@@ -203,6 +227,7 @@ void RebuildSchedule(Application& app) {
 }
 
 SlideIntake::SlideIntake(Application& app) : app_(app) {
+    KeepSlides(app);
     EraseSlides(app.state);
 }
 

@@ -23,8 +23,8 @@ EditedList SlideRows(Application& app);
 /// A row without schedule.
 model::ListRow SlideRow(Text path);
 
-/// Undo and Redo of SlideRows. Where another document comes back so does its caption, and its rows
-/// become the slides.
+/// Undo and Redo of SlideRows. Where another document comes back so does its caption; slides that a
+/// step replaced come back with it.
 bool UndoSlideRows(Application& app);
 bool RedoSlideRows(Application& app);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -47,6 +48,8 @@ struct RowStep {
     std::vector<RowEdit> edits;  // the last one is carried out first
     RowSelection selection;      // to be restored
     std::vector<Text> identity;  // to be restored; empty: the step left it alone
+    /// Puts back what else the step replaced, and keeps what stood there instead; may be empty.
+    std::function<void()> exchange;
 };
 
 struct RowHistory {

@@ -1,6 +1,5 @@
 #include "model/window.h"
 
-#include "model/controls.h"
 #include "model/same_name.h"
 
 namespace model {
@@ -43,7 +42,9 @@ void Window::Hide() {
 
 bool Window::OnKey(int code) {
     const bool heard = KeyDown(code);
-    Button* pressed = code == kKeyEnter ? EnterPresses : code == kKeyEscape ? EscPresses : nullptr;
+    VisibleControl* pressed = code == kKeyEnter    ? EnterPresses
+                              : code == kKeyEscape ? EscPresses
+                                                   : nullptr;
     return (pressed && pressed->Press()) || heard;
 }
 

@@ -16,8 +16,6 @@ enum MousePointerShape : int { kPointerNormal = 0, kPointerBusy = 11, kPointerAr
 /// Values of a window's WindowState.
 enum WindowStates : int { kWindowNormal = 0, kWindowMinimised = 1, kWindowMaximised = 2 };
 
-class Button;
-
 /// Numbers of keys.
 constexpr int kKeyEnter = 13, kKeyEscape = 27;
 
@@ -43,8 +41,8 @@ public:
 
     /// Buttons that Enter and Esc press, wherever in the window the keyboard is; null: none. A
     /// button that has the keyboard keeps its own Enter.
-    Button* EnterPresses = nullptr;
-    Button* EscPresses = nullptr;
+    VisibleControl* EnterPresses = nullptr;
+    VisibleControl* EscPresses = nullptr;
 
     /// A view shows this window. A menu must not open one without a view, least of all in place
     /// of another window.

@@ -247,5 +247,42 @@ TEST(SlideRows, MoreRowsThanSlidesCanBe) {
     EXPECT_EQ(slides.app.state.SlideList.Count(), model::kSlideListLast);
 }
 
+TEST(SlideRows, FilmsWithoutARowComeBackWithTheirDocument) {
+    Slides slides;
+    slides.WithFilms();
+    document::RebuildSchedule(slides.app);
+    document::CountSlides(slides.app);
+    {
+        const document::UndoStep step(slides.list);
+        document::ClearSlides(slides.app);
+    }
+    EXPECT_THAT(slides.Played(), IsEmpty());
+    EXPECT_EQ(slides.app.state.SlideListEnd, 0);
+    ASSERT_TRUE(document::UndoSlideRows(slides.app));
+    EXPECT_THAT(slides.Played(), ElementsAre(u"f.avi", u"a", u"b", u"g.AVI", u"c"));
+    EXPECT_THAT(slides.From(),
+                ElementsAre(kOtherFrom, kBlankField, kFrom, kBlankField, kBlankField));
+    EXPECT_EQ(slides.app.state.SlideListEnd, 6);
+    ASSERT_TRUE(document::RedoSlideRows(slides.app));
+    EXPECT_THAT(slides.Played(), IsEmpty());
+    EXPECT_EQ(slides.app.state.SlideListEnd, 0);
+}
+
+TEST(SlideRows, TakingBackAClearingLeavesTheShowAlone) {
+    Edited slides;
+    slides.app.state.DocumentPath = u"C:\\test.kvs";
+    document::RemoveRows(slides.list, {0});  // not committed
+    {
+        const document::UndoStep clearing(slides.list);
+        document::ClearRows(slides.list);
+        slides.app.state.DocumentPath.clear();
+    }
+    for (const auto back : {document::UndoSlideRows, document::RedoSlideRows}) {
+        ASSERT_TRUE(back(slides.app));
+        EXPECT_THAT(slides.Played(), ElementsAre(u"a", u"b", u"c"));
+        EXPECT_EQ(slides.app.state.SlideListEnd, 4);
+    }
+}
+
 }  // namespace
 }  // namespace document_tests

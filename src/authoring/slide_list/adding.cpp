@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <optional>
 #include <utility>
 
+#include "authoring/slide_list/selection.h"
 #include "document/slide_rows.h"
 #include "model/windows/slide_list.h"
 #include "text/paths.h"
@@ -34,17 +36,13 @@ bool ToldFull(Application& app) {
     return true;
 }
 
-bool Inserts(const model::Form3& form3) {
-    return form3.Check6.Value == 1 && form3.List1.SelCount() == 1;
-}
-
-/// In front of which row what is added comes.
-int Place(const model::Form3& form3) {
-    if (!Inserts(form3)) {
-        return form3.List1.ListCount();
-    }
+/// The row in front of which what is added comes; nothing where it goes to the end.
+std::optional<int> InsertionRow(const Application& app) {
+    const model::Form3& form3 = app.windows.form3;
+    const std::optional<int> selected =
+        form3.Check6.Value == 1 ? OnlySelectedSlide(app) : std::nullopt;
     const int current = form3.List1.ListIndex;
-    return current >= 0 ? current : form3.List1.SelectedRows().front();
+    return selected && current >= 0 && form3.List1.Seen(current) ? current : selected;
 }
 
 void ScrollBy(model::Form3& form3, int rows) {
@@ -123,9 +121,9 @@ bool AddSlides(Application& app, std::vector<Text> paths) {
     for (Text& path : paths) {
         rows.push_back(document::SlideRow(std::move(path)));
     }
-    const bool inserts = Inserts(form3);
-    const bool room = InsertSlides(app, Place(form3), std::move(rows));
-    if (inserts) {
+    const std::optional<int> before = InsertionRow(app);
+    const bool room = InsertSlides(app, before.value_or(form3.List1.ListCount()), std::move(rows));
+    if (before) {
         form3.List2.ListIndex = form3.List1.ListIndex();
     }
     return room;

@@ -1,10 +1,13 @@
 #include "authoring/slide_list/history.h"
 
 #include "authoring/shared/list_history.h"
+#include "authoring/slide_list/preview.h"
 #include "authoring/slide_list/selection.h"
 #include "authoring/slide_list/stopped_search.h"
 #include "document/slide_rows.h"
 #include "model/windows/slide_list.h"
+#include "playback/prepare.h"
+#include "playback/run.h"
 
 namespace authoring {
 
@@ -14,9 +17,17 @@ using model::Application;
 
 /// Buttons and preview are those of the selection that comes back.
 void GoBack(Application& app, bool (*back)(Application& app)) {
-    if (!StoppedSearch(app) && back(app)) {
-        app.state.SlideListDirty = 1;
-        FollowSelection(app);
+    const int16_t slides = app.state.SlideListEnd;
+    if (StoppedSearch(app) || !back(app)) {
+        return;
+    }
+    app.state.SlideListDirty = 1;
+    DisableSlideButtons(app);
+    ClearPreview(app);
+    FollowSelection(app);
+    if (app.state.SlideListEnd != slides) {
+        playback::ForgetPrepared(app);
+        playback::SetButtons(app, playback::Buttons::Idle);
     }
 }
 
@@ -29,8 +40,10 @@ void AttachHistory(Application& app) {
         [&app] { GoBack(app, document::UndoSlideRows); },
         [&app] { GoBack(app, document::RedoSlideRows); });
     form3.List1.RowsDragged = [&app](int before) {
-        document::MoveRows(document::SlideRows(app), SelectedSlides(app), before);
-        app.state.SlideListDirty = 1;
+        if (!StoppedSearch(app)) {
+            document::MoveRows(document::SlideRows(app), SelectedSlides(app), before);
+            app.state.SlideListDirty = 1;
+        }
     };
 }
 

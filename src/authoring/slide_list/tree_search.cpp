@@ -166,8 +166,9 @@ void Search(Application& app) {
     const document::UndoStep step(document::SlideRows(app));
     const SearchFace face(app);
     TreeSearch search(app);
+    const Text root = app.windows.form3.Dir1.Path;  // a person may look elsewhere meanwhile
     try {
-        search.Walk(app.windows.form3.Dir1.Path());
+        search.Walk(root);
         search.AddFound();
     } catch (const std::bad_alloc&) {
         app.platform.dialogs.Message(u"ﾘｽﾄ ﾎﾞｯｸｽがいっぱいになりました。検索を中止します。",
