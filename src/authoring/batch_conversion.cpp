@@ -268,7 +268,7 @@ private:
 
     Next CopyLinkedFiles(const Text& source, const Text& target) {
         Next next = Next::File;
-        for (const LinkedFile& file : LinkedFiles(app_, source)) {
+        for (const LinkedFile& file : linkedFiles_.Of(source)) {
             const Text linkedTarget = LinkedNameBeside(target, file);
             if (next != Next::File || IsSameFile(file.path, linkedTarget) ||
                 !MayReplace(linkedTarget)) {
@@ -285,6 +285,7 @@ private:
     bool& goesOn_;
     const Text folder_;
     LongWork work_;
+    LinkedFiles linkedFiles_{app_};
     int64_t number_ = 0, copied_ = 0, linked_ = 0, asTheyAre_ = 0, replaced_ = 0;
     bool lastCopied_ = false;
     Text made_;               // the picture that was just written

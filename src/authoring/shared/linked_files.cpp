@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "document/linked_names.h"
 #include "macro/cutouts.h"
@@ -27,22 +28,37 @@ Text DataEnding(int piece) {
 
 }  // namespace
 
-std::vector<LinkedFile> LinkedFiles(model::Application& app, TextView slide) {
+const std::set<Text>& LinkedFiles::DataFilesIn(const Text& folder) {
+    const auto [found, isNew] = dataFiles_.try_emplace(folder);
+    if (isNew) {
+        for (const Text& name :
+             app_.platform.folders.Files(text::WithoutSeparator(folder), u"*.dat")) {
+            found->second.insert(text::Upper(name));
+        }
+    }
+    return found->second;
+}
+
+std::vector<LinkedFile> LinkedFiles::Of(TextView slide) {
     constexpr size_t kExtension = 3, kEnding = 4;
     std::vector<LinkedFile> found;
     const auto add = [&](Text path, size_t cut, TextView ending) {
-        if (app.platform.files.Exists(path)) {
+        if (app_.platform.files.Exists(path)) {
             found.push_back({std::move(path), cut, Text(ending)});
         }
     };
-    const Text text = macro::MacroFile(app, slide);
+    const Text text = macro::MacroFile(app_, slide);
     add(text, kEnding, u".txt");
     for (const TextView kind : kSoundKinds) {
-        add(document::LinkedName(app, slide, kind), kExtension, kind);
+        add(document::LinkedName(app_, slide, kind), kExtension, kind);
     }
-    for (int piece = 0; piece <= macro::kLastCutout && !text.empty(); ++piece) {
+    const std::set<Text>& dataFiles = DataFilesIn(text::FolderPart(text));
+    for (int piece = 0; piece <= macro::kLastCutout && !dataFiles.empty(); ++piece) {
         const Text ending = DataEnding(piece);
-        add(WithEnding(text, kEnding, ending), kEnding, ending);
+        const Text path = WithEnding(text, kEnding, ending);
+        if (dataFiles.contains(text::Upper(text::BareName(path)))) {
+            add(path, kEnding, ending);
+        }
     }
     return found;
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
+#include <set>
 #include <vector>
 
 #include "model/application.h"
@@ -14,8 +16,20 @@ struct LinkedFile {
     Text ending;
 };
 
-/// Those of the slide that are there, by the settings in force.
-std::vector<LinkedFile> LinkedFiles(model::Application& app, TextView slide);
+/// Lists each folder's coordinate files once, so it serves one piece of work.
+class LinkedFiles {
+public:
+    explicit LinkedFiles(model::Application& app) : app_(app) {}
+
+    /// Those of the slide that are there, by the settings in force.
+    std::vector<LinkedFile> Of(TextView slide);
+
+private:
+    const std::set<Text>& DataFilesIn(const Text& folder);
+
+    model::Application& app_;
+    std::map<Text, std::set<Text>> dataFiles_;  // by folder: names in upper case
+};
 
 /// The name that such a file has beside a slide of that name.
 Text LinkedNameBeside(TextView slide, const LinkedFile& file);

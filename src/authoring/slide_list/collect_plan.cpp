@@ -93,7 +93,7 @@ void CollectPlan::LookAt(int64_t slide) {
     group.slides.push_back(source);
     if (isNew) {
         group.stem = Clean(WithoutEnd(text::BareName(source.there ? source.key : path), kEnding));
-        group.linked = LinkedFiles(app_, path);
+        group.linked = linkedFiles_.Of(path);
         for (const LinkedFile& file : group.linked) {
             known_.insert(Note(file.path, CollectedFile::Linked).key);
             if (file.ending == kTextEnding) {

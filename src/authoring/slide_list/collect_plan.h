@@ -71,6 +71,7 @@ private:
     void Give(const Text& key, const Text& name);
 
     model::Application& app_;
+    LinkedFiles linkedFiles_{app_};
     std::vector<Text> slides_;
     std::map<Text, Text> keys_;   // by path: the file that it is
     std::map<Text, Text> names_;  // by key
