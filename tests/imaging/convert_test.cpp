@@ -9,6 +9,7 @@
 #include <atomic>
 #include <cmath>
 #include <filesystem>
+#include <utility>
 
 #include "imaging_support.h"
 
@@ -92,6 +93,58 @@ TEST_F(Convert, TheColourProfileIsCarriedOver) {
             EXPECT_EQ(Read("b.jpg", "jpeg").colorSpace().primaries(),
                       QColorSpace::Primaries::AdobeRgb)
                 << source;
+        }
+    }
+}
+
+/// Whatever a source's depth: one colour on the left, another on the right, half seen through.
+TEST_F(Convert, EveryDepthIsReducedInItsColours) {
+    constexpr QRgb kLeft = 0xFFC86432u, kRight = 0xFF3264C8u, kHalf = 0x80C86432u;
+    const auto halves = [](QRgb left, QRgb right) {
+        QImage image(800, 600, QImage::Format_ARGB32);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                image.setPixel(x, y, x < 400 ? left : right);
+            }
+        }
+        return image;
+    };
+    const auto twoColours = [](QImage::Format format, QRgb left, QRgb right) {
+        QImage image(800, 600, format);
+        image.setColorTable({left, right});
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                image.setPixel(x, y, x < 400 ? 0 : 1);
+            }
+        }
+        return image;
+    };
+    const QRgb grey = 0xFF000000u, white = 0xFFFFFFFFu;
+    const struct {
+        const char* what;
+        QImage image;
+        QRgb left, right;
+    } rows[] = {
+        {"1 bit", twoColours(QImage::Format_Mono, kLeft, kRight), kLeft, kRight},
+        {"1 bit, grey", twoColours(QImage::Format_Mono, grey, white), grey, white},
+        {"1 bit with alpha", twoColours(QImage::Format_Mono, kHalf, kRight), kHalf, kRight},
+        {"palette", twoColours(QImage::Format_Indexed8, kLeft, kRight), kLeft, kRight},
+        {"palette with alpha", twoColours(QImage::Format_Indexed8, kHalf, kRight), kHalf, kRight},
+        {"24 bits", halves(kLeft, kRight).convertToFormat(QImage::Format_RGB888), kLeft, kRight},
+        {"32 bits", halves(kHalf, kRight), kHalf, kRight},
+        {"48 bits", halves(kLeft, kRight).convertToFormat(QImage::Format_RGBX64), kLeft, kRight},
+        {"64 bits", halves(kHalf, kRight).convertToFormat(QImage::Format_RGBA64), kHalf, kRight},
+    };
+    for (const auto& row : rows) {
+        folder.Put("a.png", Encoded(row.image, "png"));
+        ASSERT_EQ(Make("a.png", "b.png", Conversion::Png, Small), Converted::Done) << row.what;
+        const QImage image = Read("b.png", "png");
+        EXPECT_EQ(image.size(), QSize(40, 30)) << row.what;
+        for (const auto& [x, expected] : {std::pair{10, row.left}, std::pair{30, row.right}}) {
+            const QRgb seen = image.pixel(x, 15);
+            EXPECT_LE(Distance(seen | 0xFF000000u, expected | 0xFF000000u), 3)
+                << row.what << " at " << x << ": " << std::hex << seen;
+            EXPECT_NEAR(qAlpha(seen), qAlpha(expected), 1) << row.what << " at " << x;
         }
     }
 }

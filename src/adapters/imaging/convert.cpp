@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QColorSpace>
 #include <QImage>
+#include <QRgba64>
 #include <algorithm>
 #include <atomic>
 #include <iterator>
@@ -55,16 +56,51 @@ QColorSpace ProfileOf(const QImage& image) {
     return space.iccProfile().mid(kSpaceAt, kSpaceLength) == "CMYK" ? QColorSpace() : space;
 }
 
-/// New colours arise: of a palette stays what is grey.
+/// The same pixels under another name of their form. The toolkit's own conversion between these
+/// two (Qt 6.4) applies the alpha twice.
+QImage WithEach(QImage image, QRgba64 (*change)(QRgba64), QImage::Format format) {
+    for (int y = 0; y < image.height(); ++y) {
+        auto* row = reinterpret_cast<QRgba64*>(image.scanLine(y));
+        std::transform(row, row + image.width(), row, change);
+    }
+    image.reinterpretAsFormat(format);
+    return image;
+}
+
+/// In a form whose pixels can be mixed: palettes hold numbers of colours, and of their own only
+/// what is grey stays as small.
+QImage Mixable(const QImage& image) {
+    if (image.format() == QImage::Format_RGBA64) {
+        return WithEach(image, qPremultiply, QImage::Format_RGBA64_Premultiplied);
+    }
+    if (image.depth() > kMostPaletteBits || image.format() == QImage::Format_Grayscale8) {
+        return image;
+    }
+    if (image.hasAlphaChannel()) {
+        return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    }
+    return image.convertToFormat(image.convertToFormat(QImage::Format_Indexed8).isGrayscale()
+                                     ? QImage::Format_Grayscale8
+                                     : QImage::Format_RGB32);
+}
+
 QImage Scaled(const QImage& image, Size size) {
     if (image.width() == size.width && image.height() == size.height) {
         return image;
     }
-    const bool grey =
-        image.depth() <= kMostPaletteBits && !image.hasAlphaChannel() && image.isGrayscale();
-    const QImage scaled =
-        image.scaled(size.width, size.height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return grey ? scaled.convertToFormat(QImage::Format_Grayscale8) : scaled;
+    const QImage scaled = Mixable(image).scaled(size.width, size.height, Qt::IgnoreAspectRatio,
+                                                Qt::SmoothTransformation);
+    switch (scaled.format()) {
+        case QImage::Format_RGBA64_Premultiplied:
+            return WithEach(scaled, qUnpremultiply, QImage::Format_RGBA64);
+        case QImage::Format_ARGB32_Premultiplied:
+            return scaled.convertToFormat(QImage::Format_ARGB32);
+        default:
+            // Smoothing makes true colours of greys, too.
+            return image.depth() <= kMostPaletteBits && scaled.isGrayscale()
+                       ? scaled.convertToFormat(QImage::Format_Grayscale8)
+                       : scaled;
+    }
 }
 
 /// What the kind has no room for, in the form that comes nearest.
