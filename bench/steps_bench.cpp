@@ -101,9 +101,11 @@ int main() {
     fakes::FakeClipboard clipboard;
     fakes::FakeWallpaper wallpaper;
     fakes::FakeThumbnails thumbnails(files);
+    fakes::FakeFileInquiry fileInquiry(files);
     posix_adapter::IconvCodePage codePage;
     Application app({loop, files, dialogs, monitors, imaging, text, sound, video, system, trace,
-                     codePage, folders, fileChanges, clipboard, wallpaper, thumbnails});
+                     codePage, folders, fileChanges, clipboard, wallpaper, thumbnails,
+                     fileInquiry});
     app.windows.form4.Lead1.imaging = imaging.MakeControl();
     app.windows.form4.Lead2.imaging = imaging.MakeControl();
     model::SetStartDefaults(app.state);
