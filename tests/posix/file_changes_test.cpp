@@ -13,6 +13,7 @@
 
 #include "adapters/posix/posix_files.h"
 #include "adapters/posix/watched_work.h"
+#include "posix/ordinary_user.h"
 #include "posix/temporary_folder.h"
 
 namespace posix_adapter {
@@ -21,22 +22,6 @@ namespace {
 using platform::FileError;
 using platform::Outcome;
 using platform::Progress;
-
-/// The rights of an ordinary user, also for a test run by root.
-class AsOrdinaryUser {
-public:
-    AsOrdinaryUser() : root_(geteuid() == 0) { done_ = !root_ || seteuid(65534) == 0; }
-    ~AsOrdinaryUser() {
-        if (root_ && seteuid(0) != 0) {
-            abort();
-        }
-    }
-    bool Done() const { return done_; }
-
-private:
-    bool root_;
-    bool done_ = false;
-};
 
 /// No file may become longer than this.
 class FullDisk {

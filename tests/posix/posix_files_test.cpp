@@ -8,6 +8,7 @@
 
 #include <csignal>
 
+#include "posix/ordinary_user.h"
 #include "posix/temporary_folder.h"
 
 namespace {
@@ -25,22 +26,6 @@ protected:
     PosixFiles files_{folder_.Path("program")};
     FileError error_;
     std::string content_ = "untouched";
-};
-
-/// The rights of an ordinary user, also for a test run by root.
-class AsOrdinaryUser {
-public:
-    AsOrdinaryUser() : root_(geteuid() == 0) { done_ = !root_ || seteuid(65534) == 0; }
-    ~AsOrdinaryUser() {
-        if (root_ && seteuid(0) != 0) {
-            abort();
-        }
-    }
-    bool Done() const { return done_; }
-
-private:
-    bool root_;
-    bool done_ = false;
 };
 
 TEST_F(FilesTest, ReadsWholeFiles) {
@@ -102,7 +87,7 @@ TEST_F(FilesTest, ReadableTellsThreeThings) {
     EXPECT_EQ(files_.Readable(At("short")), 1);
     EXPECT_EQ(files_.Readable(At("empty")), 1);
     EXPECT_EQ(files_.Readable(At("none")), 0);
-    const AsOrdinaryUser user;
+    const posix_adapter::AsOrdinaryUser user;
     ASSERT_TRUE(user.Done());
     EXPECT_EQ(files_.Readable(At("closed")), 2);
     EXPECT_FALSE(files_.Read(At("closed"), content_, error_, kNoLimit));
@@ -230,7 +215,7 @@ TEST_F(FilesTest, AReadOnlyFolderOrFileIsLeftAlone) {
     chmod(folder_.Path("open").c_str(), 0777);
     chmod(folder_.Path("open/show.kvs").c_str(), 0444);
     {
-        const AsOrdinaryUser user;
+        const posix_adapter::AsOrdinaryUser user;
         ASSERT_TRUE(user.Done());
         EXPECT_FALSE(files_.Write(At("locked/show.kvs"), "new", error_));
         EXPECT_EQ(error_.message, u"アクセスが許可されていません。");
