@@ -254,6 +254,7 @@ bool FolderList::Open(TextView path) {
 }
 
 void FolderList::Refresh() {
+    const Text current = List(ListIndex);
     Clear();
     if (!folders || Path().empty()) {
         return;
@@ -261,7 +262,18 @@ void FolderList::Refresh() {
     const Text parent = text::WithSeparator(Path());
     for (const Text& name : folders->Subfolders(Path())) {
         AddItem(parent + name);
+        if (!current.empty() && parent + name == current) {
+            ListIndex = ListCount() - 1;
+        }
     }
+}
+
+bool FolderList::OnKey(int code) {
+    if (code != kKeyF5) {
+        return ListBox::OnKey(code);
+    }
+    Refresh();
+    return true;
 }
 
 void FolderList::OnChosen() {

@@ -148,10 +148,13 @@ public:
     /// A person opens the folder. False, and nothing happens, where there is none or unless
     /// Reachable.
     bool Open(TextView path);
+    /// Reads the subfolders anew; the current one stays the current one.
     void Refresh();
 
 protected:
     void OnChosen() override;
+    /// F5 reads anew.
+    bool OnKey(int code) override;
 
 private:
     void PropertyChanged(Control& control, PropertyBase& property) override;

@@ -125,14 +125,14 @@ FolderBinding::~FolderBinding() {
     face_.setModel(nullptr);
 }
 
-/// The same folder read anew: so is the whole tree.
+/// The same folder read anew: so is all that was read of the tree.
 void FolderBinding::RowsChanged(model::Control&, const model::RowChange& change) {
     if (change.kind == model::RowChange::Cleared && !following_ && shown_ == dir_.Path()) {
-        {
-            const QScopedValueRollback<bool> guard(following_, true);
-            tree_->Forget();
+        const QScopedValueRollback<bool> guard(following_, true);
+        tree_->Renew();
+        if (tree_->PathOf(face_.currentIndex()) != dir_.Path()) {
+            face_.setCurrentIndex(tree_->Find(dir_.Path()));  // it came or went
         }
-        SyncOwn();
     }
 }
 

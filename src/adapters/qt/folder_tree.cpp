@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QStyle>
+#include <iterator>
+#include <unordered_set>
 
 #include "adapters/qt/convert.h"
 #include "text/paths.h"
@@ -21,6 +23,10 @@ Text RootOf(const Text& path) {
 
 bool IsSeparator(char16_t c) {
     return c == u'/' || c == u'\\';
+}
+
+std::ptrdiff_t Offset(size_t row) {
+    return static_cast<std::ptrdiff_t>(row);
 }
 
 }  // namespace
@@ -63,10 +69,75 @@ QModelIndex FolderTree::Find(const Text& path) {
     return IndexOf(node);
 }
 
-void FolderTree::Forget() {
-    beginResetModel();
-    root_.reset();
-    endResetModel();
+void FolderTree::Renew() {
+    if (root_) {
+        Renew(*root_);
+    }
+}
+
+void FolderTree::Renew(Node& node) {
+    if (!node.read) {
+        return;
+    }
+    const std::vector<Text> names = folders_->Subfolders(node.path);
+    const std::unordered_set<Text> there(names.begin(), names.end());
+    const auto isGone = [&](size_t row) { return !there.contains(node.below[row]->name); };
+    for (size_t end = node.below.size(); end > 0; --end) {
+        size_t first = end;
+        while (first > 0 && isGone(first - 1)) {
+            --first;
+        }
+        if (first < end) {
+            Remove(node, first, end);
+            end = first + 1;
+        }
+    }
+    // What stays has its order, so whatever differs from it is new.
+    const auto isKept = [&](size_t row, size_t name) {
+        return row < node.below.size() && node.below[row]->name == names[name];
+    };
+    for (size_t row = 0; row < names.size(); ++row) {
+        size_t end = row;
+        while (end < names.size() && !isKept(row, end)) {
+            ++end;
+        }
+        if (row < end) {
+            Insert(node, row, {names.begin() + Offset(row), names.begin() + Offset(end)});
+            row = end - 1;
+        } else {
+            Renew(*node.below[row]);
+        }
+    }
+}
+
+void FolderTree::Insert(Node& node, size_t row, const std::vector<Text>& names) {
+    std::vector<std::unique_ptr<Node>> made;
+    for (const Text& name : names) {
+        made.push_back(std::make_unique<Node>());
+        made.back()->path = text::WithSeparator(node.path) + name;
+        made.back()->name = name;
+        made.back()->above = &node;
+    }
+    const int first = static_cast<int>(row);
+    beginInsertRows(IndexOf(&node), first, first + static_cast<int>(names.size()) - 1);
+    node.below.insert(node.below.begin() + Offset(row), std::make_move_iterator(made.begin()),
+                      std::make_move_iterator(made.end()));
+    Number(node);
+    endInsertRows();
+}
+
+void FolderTree::Remove(Node& node, size_t first, size_t end) {
+    beginRemoveRows(IndexOf(&node), static_cast<int>(first), static_cast<int>(end) - 1);
+    node.below.erase(node.below.begin() + Offset(first), node.below.begin() + Offset(end));
+    Number(node);
+    endRemoveRows();
+}
+
+void FolderTree::Number(Node& node) {
+    int row = 0;
+    for (const auto& child : node.below) {
+        child->row = row++;
+    }
 }
 
 Text FolderTree::PathOf(const QModelIndex& index) const {
@@ -127,17 +198,7 @@ void FolderTree::fetchMore(const QModelIndex& parent) {
     if (names.empty()) {
         return;
     }
-    beginInsertRows(parent, 0, static_cast<int>(names.size()) - 1);
-    const Text folder = text::WithSeparator(node->path);
-    for (const Text& name : names) {
-        auto child = std::make_unique<Node>();
-        child->path = folder + name;
-        child->name = name;
-        child->above = node;
-        child->row = static_cast<int>(node->below.size());
-        node->below.push_back(std::move(child));
-    }
-    endInsertRows();
+    Insert(*node, 0, names);
 }
 
 FolderTree::Node* FolderTree::NodeOf(const QModelIndex& index) const {

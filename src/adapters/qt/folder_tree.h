@@ -17,8 +17,8 @@ public:
     /// The folder's row, with the folders above it read; not valid for one that is not there. A
     /// path under another root than before makes the tree anew.
     QModelIndex Find(const Text& path);
-    /// Folders are read anew when they are asked for next.
-    void Forget();
+    /// Reads anew what was read: new folders come in, those that are gone go, all others stay.
+    void Renew();
     Text PathOf(const QModelIndex& index) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent) const override;
@@ -39,6 +39,11 @@ private:
         bool read = false;
         std::vector<std::unique_ptr<Node>> below;
     };
+
+    void Renew(Node& node);
+    void Insert(Node& node, size_t row, const std::vector<Text>& names);
+    void Remove(Node& node, size_t first, size_t end);
+    static void Number(Node& node);
 
     Node* NodeOf(const QModelIndex& index) const;
     QModelIndex IndexOf(Node* node) const;

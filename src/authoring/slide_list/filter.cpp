@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+#include "authoring/slide_list/preview.h"
+#include "authoring/slide_list/selection.h"
 #include "model/windows/slide_list.h"
 #include "text/search_fold.h"
 
@@ -13,8 +15,6 @@ namespace authoring {
 namespace {
 
 using model::Application;
-
-constexpr int kKeyEsc = 27;
 
 /// Keeps count of the rows that are seen, however the list changes.
 class FilteredRows : public model::Listener {
@@ -35,6 +35,7 @@ public:
         }
         following_ = false;
         CountAnew();
+        ShowBeginning();
     }
 
     void RowsChanged(model::Control&, const model::RowChange& change) override {
@@ -82,6 +83,17 @@ private:
         ShowCount();
     }
 
+    /// The current row, or else the first one that is seen.
+    void ShowBeginning() {
+        const int current = form3_.List1.ListIndex;
+        const auto first = std::find(seen_.begin(), seen_.end(), true);
+        if (current >= 0 && form3_.List1.Seen(current)) {
+            form3_.List1.TopIndex = current;
+        } else if (first != seen_.end()) {
+            form3_.List1.TopIndex = static_cast<int>(first - seen_.begin());
+        }
+    }
+
     void Look(int first, int count) {
         for (int row = first; row < first + count; ++row) {
             const bool seen = form3_.List1.Seen(row);
@@ -110,9 +122,17 @@ void AttachFilter(Application& app) {
     model::Form3& form3 = app.windows.form3;
     const auto rows = std::make_shared<FilteredRows>(form3);
     rows->Follow();
-    form3.Filter.Change = [rows] { rows->Follow(); };
+    form3.Filter.Change = [&app, rows] {
+        rows->Follow();
+        if (SelectedSlides(app).empty()) {
+            DisableSlideButtons(app);
+            ClearPreview(app);
+        } else {
+            FollowSelection(app);
+        }
+    };
     form3.Filter.KeyDown = [&form3](int key) {
-        if (key == kKeyEsc) {
+        if (key == model::kKeyEscape) {
             form3.Filter.Enter({});
         }
     };

@@ -20,7 +20,8 @@ std::optional<int> OnlySelectedSlide(const Application& app);
 std::optional<int> AskForOneSlide(Application& app, TextView title);
 
 /// Enables the buttons for linked files and the cut-out generator as the selection and the files
-/// on the disk have it, and previews the current row. Neither while Check1 is off.
+/// on the disk have it, and previews the current row (where the filter hides it the first one that
+/// is selected and seen). Neither while Check1 is off.
 void FollowSelection(Application& app);
 
 /// Command16 to Command20.

@@ -73,6 +73,7 @@ void TakePlace(Application& app) {
 }
 
 void Form_Activate(Application& app) {
+    app.windows.form3.Dir1.Refresh();
     RefreshFiles(app);
     RefreshFaces(app);
     if (app.state.ListWasClicked == 1) {

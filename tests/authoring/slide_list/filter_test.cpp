@@ -41,6 +41,41 @@ TEST(Filter, NamesAndFoldersAreLookedThrough) {
     EXPECT_EQ(Seen(desk).size(), 4u);
 }
 
+TEST(Filter, ScrollsToTheCurrentRowOrElseToTheFirstHit) {
+    ListDesk desk({u"a0", u"b1", u"a2", u"a3", u"b4"});
+    desk.form3.List1.TopIndex = 4;
+    desk.form3.Filter.Enter(u"b");
+    EXPECT_EQ(desk.form3.List1.TopIndex, 1);
+    desk.form3.List1.Choose({4});
+    desk.form3.Filter.Enter(u"");
+    EXPECT_EQ(desk.form3.List1.TopIndex, 4);
+    desk.form3.Filter.Enter(u"a");
+    EXPECT_EQ(desk.form3.List1.TopIndex, 0) << "the current row is hidden";
+    desk.form3.Filter.Enter(u"none");
+    EXPECT_EQ(desk.form3.List1.TopIndex, 0);
+}
+
+TEST(Filter, PreviewAndButtonsAreOfWhatIsSeen) {
+    ListDesk desk;
+    desk.PutPicture(u"/a.png", 4, 3);
+    desk.PutPicture(u"/b.png", 4, 3);
+    desk.Fill({u"/a.png", u"/b.png", u"/c.mp4"});
+    desk.form3.List1.Choose({1, 0});
+    EXPECT_EQ(desk.state.LastPreviewPath, u"/a.png");
+    EXPECT_FALSE(desk.form3.Command25.Enabled) << "two rows";
+    desk.form3.Filter.Enter(u"b.");
+    EXPECT_TRUE(desk.form3.Command25.Enabled) << "one of them is seen";
+    EXPECT_EQ(desk.state.LastPreviewPath, u"/b.png");
+    desk.form3.Filter.Enter(u"c.");
+    EXPECT_FALSE(desk.form3.Command25.Enabled);
+    EXPECT_FALSE(desk.form3.Command18.Enabled);
+    EXPECT_EQ(desk.form3.Image1.Picture(), nullptr);
+    desk.form3.Filter.Enter(u"");
+    EXPECT_EQ(desk.state.LastPreviewPath, u"/a.png");
+    EXPECT_FALSE(desk.form3.Command25.Enabled);
+    EXPECT_NE(desk.form3.Image1.Picture(), nullptr);
+}
+
 TEST(Filter, EscEmptiesIt) {
     ListDesk desk({u"a", u"b"});
     desk.form3.Filter.Enter(u"a");

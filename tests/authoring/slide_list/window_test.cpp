@@ -87,6 +87,25 @@ TEST_F(SlideListWindow, ComingBackFollowsTheFilesOfTheFolderAndOfTheSlide) {
     EXPECT_EQ(state.ListWasClicked, 1);
 }
 
+TEST_F(SlideListWindow, ComingBackSeesTheFoldersThatAreThereNow) {
+    files.Put(u"D:\\p\\a\\1.png", "x");
+    files.Put(u"D:\\p\\c\\1.png", "x");
+    form3.Dir1.Open(u"D:\\p");
+    form3.Dir1.ListIndex = 1;
+    files.Put(u"D:\\p\\b\\1.png", "x");
+    form3.OnActivate();
+    EXPECT_THAT(form3.Dir1.Rows(), ElementsAre(u"D:\\p\\a", u"D:\\p\\b", u"D:\\p\\c"));
+    EXPECT_EQ(form3.Dir1.ListIndex, 2) << "the same folder";
+    files.Remove(u"D:\\p\\a\\1.png");
+    form3.Dir1.PressKey(116);
+    EXPECT_THAT(form3.Dir1.Rows(), ElementsAre(u"D:\\p\\b", u"D:\\p\\c"));
+    EXPECT_EQ(form3.Dir1.ListIndex, 1);
+    files.Remove(u"D:\\p\\c\\1.png");
+    form3.OnActivate();
+    EXPECT_THAT(form3.Dir1.Rows(), ElementsAre(u"D:\\p\\b"));
+    EXPECT_EQ(form3.Dir1.ListIndex, -1);
+}
+
 TEST_F(SlideListWindow, ComingBackBeforeAClickChangesNoButton) {
     Fill({u"a.png"});
     form3.List1.Select(0, true);
