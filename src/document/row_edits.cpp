@@ -270,6 +270,13 @@ UndoStep::~UndoStep() {
     history.Changed();
 }
 
+void LeaveIdentityAsItIs(const EditedList& list) {
+    RowStep& open = list.history.open;
+    if (open.edits.empty() && !open.exchange) {
+        open.identity = IdentityOf(list);
+    }
+}
+
 model::ListRow RowAt(const EditedList& list, int row) {
     return {list.rows.List(row), list.schedules ? list.schedules->List(row) : Text()};
 }

@@ -37,6 +37,10 @@ private:
     EditedList list_;
 };
 
+/// Within a step that has changed nothing else so far: the identity as it is now does not belong to
+/// it, so that it may still leave no trace.
+void LeaveIdentityAsItIs(const EditedList& list);
+
 /// A row that is there.
 model::ListRow RowAt(const EditedList& list, int row);
 

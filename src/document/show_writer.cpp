@@ -160,6 +160,7 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
     state.DocumentName = files.Dir(path);
     const auto date = files.LastWrite(path);
     state.DocumentFileDate = date ? platform::DateTimeText(*date) : Text();
+    KnowSavedDocument(app);
 }
 
 Text TextOfCopiedShow(const Application& app, TextView path, const NameInFile& named) {

@@ -140,6 +140,18 @@ bool RedoSlideRows(Application& app) {
     return GoBack(app, Redo);
 }
 
+void KnowSavedDocument(Application& app) {
+    constexpr size_t kPath = 0, kDate = 3;
+    model::RowHistory& history = app.windows.form3.history;
+    for (auto* steps : {&history.undo, &history.redo}) {
+        for (model::RowStep& step : *steps) {
+            if (!step.identity.empty() && step.identity[kPath] == app.state.DocumentPath) {
+                step.identity[kDate] = app.state.DocumentFileDate;
+            }
+        }
+    }
+}
+
 void CommitSlides(Application& app) {
     const model::ListBox& rows = app.windows.form3.List1;
     const int slides = std::min(rows.ListCount(), model::kSlideListLast);

@@ -28,6 +28,10 @@ model::ListRow SlideRow(Text path);
 bool UndoSlideRows(Application& app);
 bool RedoSlideRows(Application& app);
 
+/// The document was saved: steps that bring it back bring it back as it is on the disk now, or a
+/// show would take it for changed by others and read it anew.
+void KnowSavedDocument(Application& app);
+
 /// The slides become what the rows are; films without a row are gone.
 void CommitSlides(Application& app);
 /// The rows become what the slides are, with blank schedules.

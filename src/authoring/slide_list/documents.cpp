@@ -44,6 +44,14 @@ bool RefusedWithoutSlides(Application& app) {
     return true;
 }
 
+/// The document in use was written by another program since it was read or saved here.
+bool ChangedByOthers(Application& app, const Text& path) {
+    const model::ShowState& state = app.state;
+    const auto date = app.platform.files.LastWrite(path);
+    return path == state.DocumentPath && !state.DocumentFileDate.empty() && date &&
+           platform::DateTimeText(*date) != state.DocumentFileDate;
+}
+
 void SaveAs(Application& app, TextView title, int16_t distribution) {
     platform::Dialogs::FileRequest request;
     request.save = true;
@@ -51,11 +59,20 @@ void SaveAs(Application& app, TextView title, int16_t distribution) {
     request.filter = kFilter;
     request.initial =
         app.state.DocumentName.empty() ? Text(kAnyName) : document::NameInCaption(app);
-    if (const auto path = app.platform.dialogs.ChooseFile(request)) {
-        app.state.DistributionSaveFlag = distribution;
-        document::WriteShowDocument(app, *path);
-        RememberFiles(app);
+    const auto chosen = app.platform.dialogs.ChooseFile(request);
+    if (!chosen) {
+        return;
     }
+    const Text path = text::WithDefaultExtension(*chosen, u".kvs");
+    if (ChangedByOthers(app, path) &&
+        app.platform.dialogs.Message(
+            path + u"\r\nこのファイルは開いた後にほかで変更されています。\r\n上書きしますか ?",
+            platform::kYesNoQuestion, u"ファイルの保存") != platform::Answer::Yes) {
+        return;
+    }
+    app.state.DistributionSaveFlag = distribution;
+    document::WriteShowDocument(app, path);
+    RememberFiles(app);
 }
 
 }  // namespace
@@ -115,11 +132,15 @@ bool OpenDocument(Application& app) {
 }
 
 void OpenDocument(Application& app, TextView path) {
+    if (StoppedSearch(app)) {
+        return;
+    }
     const document::UndoStep step(document::SlideRows(app));
     app.state.BaseFolder = text::FolderPart(path);
     StopLinkedWork(app);
     DisableSlideButtons(app);
     document::ReadShowDocument(app, path);
+    document::LeaveIdentityAsItIs(document::SlideRows(app));  // of one that was refused
     ClearPreview(app);
     playback::PrepareStart(app, false);
 }

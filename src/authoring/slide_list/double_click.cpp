@@ -1,5 +1,7 @@
 #include "authoring/slide_list/double_click.h"
 
+#include <array>
+
 #include "authoring/shared/open_window.h"
 #include "authoring/slide_list/linked_sound.h"
 #include "authoring/slide_list/linked_text.h"
@@ -107,16 +109,19 @@ void ShowDetail(Application& app, const Text& slide) {
 
 void DoNothing(Application&, const Text&) {}
 
+using Flags = std::array<int16_t, 4>;
+
 struct Function {
-    int flags;  // ListCheck1Flag and those of Check2, Check3, Check4 as the digits of a number
+    Flags flags;  // ListCheck1Flag and those of Check2, Check3, Check4
     void (*run)(Application& app, const Text& slide);
 };
-constexpr Function kFunctions[] = {{100, OfferRecording}, {1, OfferText}, {0, DoNothing}};
+constexpr Function kFunctions[] = {
+    {{0, 1, 0, 0}, OfferRecording}, {{0, 0, 0, 1}, OfferText}, {{0, 0, 0, 0}, DoNothing}};
 
 void List1_DblClick(Application& app) {
     const model::ShowState& state = app.state;
     model::Form3& form3 = app.windows.form3;
-    const int current = form3.List1.ListIndex;
+    const int current = RowInSight(app);
     const Text slide = form3.List1.List(current);
     if (slide.empty()) {
         return;
@@ -126,8 +131,8 @@ void List1_DblClick(Application& app) {
     StopLinkedWork(app);
     form3.List1.Select(current, false);
     form3.List2.Select(current, false);
-    const int flags = state.ListCheck1Flag * 1000 + state.ListDblClickRecord * 100 +
-                      state.ListDblClickWallpaper * 10 + state.ListDblClickText;
+    const Flags flags{state.ListCheck1Flag, state.ListDblClickRecord, state.ListDblClickWallpaper,
+                      state.ListDblClickText};
     for (const Function& function : kFunctions) {
         if (function.flags == flags) {
             return function.run(app, slide);

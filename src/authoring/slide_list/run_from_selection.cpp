@@ -4,6 +4,7 @@
 
 #include "authoring/slide_list/commit.h"
 #include "authoring/slide_list/linked_work.h"
+#include "authoring/slide_list/selection.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "playback/full_screen.h"
@@ -21,7 +22,7 @@ bool PrepareRun(Application& app) {
     if (list.ListCount() == 0) {
         return false;
     }
-    const int current = std::max(0, list.ListIndex());
+    const int current = std::max(0, RowInSight(app));
     StopLinkedWork(app);
     CommitSlideList(app);
     app.state.JumpTarget = static_cast<int16_t>(current);

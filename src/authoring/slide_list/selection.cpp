@@ -19,16 +19,6 @@ bool LinkedSoundExists(Application& app, const Text& slide) {
     return app.platform.files.Exists(document::LinkedName(app, slide, mp3 ? u"mp3" : u"wav"));
 }
 
-/// The current row, or where the filter hides that the first one of the selected that are seen.
-Text SlideInSight(const Application& app) {
-    const model::ListBox& list = app.windows.form3.List1;
-    if (list.ListIndex < 0 || list.Seen(list.ListIndex)) {
-        return list.List(list.ListIndex);
-    }
-    const std::vector<int> rows = SelectedSlides(app);
-    return rows.empty() ? Text() : list.List(rows.front());
-}
-
 void List1_Click(Application& app) {
     app.state.ListWasClicked = 1;
     FollowSelection(app);
@@ -57,9 +47,18 @@ std::optional<int> AskForOneSlide(Application& app, TextView title) {
     return row;
 }
 
+int RowInSight(const Application& app) {
+    const model::ListBox& list = app.windows.form3.List1;
+    if (list.ListIndex < 0 || list.Seen(list.ListIndex)) {
+        return list.ListIndex;
+    }
+    const std::vector<int> rows = SelectedSlides(app);
+    return rows.empty() ? -1 : rows.front();
+}
+
 void FollowSelection(Application& app) {
     model::Form3& form3 = app.windows.form3;
-    ShowPreview(app, SlideInSight(app));
+    ShowPreview(app, Text(form3.List1.List(RowInSight(app))));
     if (form3.Check1.Value == 0) {
         return;
     }

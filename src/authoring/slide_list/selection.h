@@ -19,9 +19,11 @@ std::optional<int> OnlySelectedSlide(const Application& app);
 /// The same; otherwise a warning under that title says that one has to be chosen.
 std::optional<int> AskForOneSlide(Application& app, TextView title);
 
+/// The current row; where the filter hides it the first one that is selected and seen. -1: none.
+int RowInSight(const Application& app);
+
 /// Enables the buttons for linked files and the cut-out generator as the selection and the files
-/// on the disk have it, and previews the current row (where the filter hides it the first one that
-/// is selected and seen). Neither while Check1 is off.
+/// on the disk have it, and previews the row in sight. Neither while Check1 is off.
 void FollowSelection(Application& app);
 
 /// Command16 to Command20.

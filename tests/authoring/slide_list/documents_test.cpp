@@ -154,6 +154,34 @@ TEST(Save, ClearsTheMarkOfAnEarlierDistribution) {
     EXPECT_EQ(desk.LineOf(u"C:\\show\\two.kvs", 28), u"D:\\p\\b.png");
 }
 
+TEST(Save, WhatAnotherProgramWroteIsNotReplacedWithoutAQuestion) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    const Text theirs = ShowOf({u"c.png"});
+    desk.PutText(u"C:\\show\\two.kvs", theirs);
+    desk.dialogs.fileAnswers = {Text(u"C:\\show\\two")};
+    desk.dialogs.answers = {Answer::No};
+    SaveDocument(desk.app);
+    ASSERT_EQ(desk.dialogs.messages.size(), 1u);
+    EXPECT_EQ(desk.dialogs.messages[0].text,
+              u"C:\\show\\two.kvs\r\nこのファイルは開いた後にほかで変更されています。\r\n"
+              u"上書きしますか ?");
+    EXPECT_EQ(desk.dialogs.messages[0].title, u"ファイルの保存");
+    EXPECT_EQ(desk.dialogs.messages[0].flags, 36);
+    EXPECT_TRUE(desk.files.written.empty());
+    // Under another name there is nothing to ask.
+    desk.dialogs.fileAnswers = {Text(u"C:\\show\\mine.kvs")};
+    SaveDocument(desk.app);
+    EXPECT_EQ(desk.dialogs.messages.size(), 1u);
+    desk.Open(u"C:\\show\\two.kvs");
+    desk.PutText(u"C:\\show\\two.kvs", theirs);
+    for (int i = 0; i < 2; ++i) {
+        desk.dialogs.fileAnswers = {Text(u"C:\\show\\two.kvs")};
+        SaveDocument(desk.app);
+        EXPECT_EQ(desk.dialogs.messages.size(), 2u) << "after a yes it is one's own again";
+    }
+}
+
 TEST(Distribution, AsksThenWritesBareNames) {
     Desk desk;
     desk.Open(u"C:\\show\\two.kvs");

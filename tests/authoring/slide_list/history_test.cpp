@@ -88,6 +88,49 @@ TEST(History, AnOpeningIsAStep) {
     EXPECT_EQ(desk.app.windows.form1.Caption(), caption);
 }
 
+TEST(History, ARefusedDocumentIsNoStep) {
+    ListDesk desk({u"a", u"b"});
+    document::RemoveRows(document::SlideRows(desk.app), {0});
+    desk.form3.Undo.Press();
+    desk.PutText(u"C:\\show\\bad.kvs", u"vue\r\n");
+    OpenDocument(desk.app, u"C:\\show\\bad.kvs");
+    OpenDocument(desk.app, u"C:\\show\\missing.kvs");
+    EXPECT_EQ(desk.state.BaseFolder, u"C:\\show\\");
+    EXPECT_FALSE(desk.form3.Undo.Enabled);
+    EXPECT_TRUE(desk.form3.Redo.Enabled) << "nothing was done that would end it";
+    // One that fails on its way has emptied the list: that can be taken back.
+    desk.PutText(u"C:\\show\\short.kvs", u"21vue3167893\r\nx\r\n");
+    OpenDocument(desk.app, u"C:\\show\\short.kvs");
+    EXPECT_EQ(desk.Rows(), Paths{});
+    desk.form3.Undo.Press();
+    EXPECT_EQ(desk.Rows(), (Paths{u"a", u"b"}));
+}
+
+TEST(History, ASavedDocumentComesBackAsItIsOnTheDisk) {
+    ListDesk desk;
+    desk.PutText(u"C:\\show\\new.kvs", app_tests::ShowOf({u"x.png", u"y.png"}));
+    OpenDocument(desk.app, u"C:\\show\\new.kvs");
+    const Text opened = desk.state.DocumentFileDate;
+    desk.form3.Command4.Press();
+    document::AppendRows(document::SlideRows(desk.app), {{u"z.png", model::BlankScheduleRow()}});
+    desk.dialogs.fileAnswers = {Text(u"C:\\show\\new.kvs")};
+    desk.form3.Command7.Press();
+    const Text saved = desk.state.DocumentFileDate;
+    ASSERT_NE(saved, opened);
+    desk.form3.Undo.Press();
+    desk.form3.Undo.Press();
+    EXPECT_EQ(desk.form3.List1.ListCount(), 2);
+    EXPECT_EQ(desk.state.DocumentPath, u"C:\\show\\new.kvs");
+    EXPECT_EQ(desk.state.DocumentFileDate, saved) << "or a show would read it anew";
+    desk.dialogs.fileAnswers = {Text(u"C:\\show\\new.kvs")};
+    desk.form3.Command7.Press();
+    const Text again = desk.state.DocumentFileDate;
+    desk.form3.Undo.Press();
+    EXPECT_EQ(desk.state.DocumentPath, u"");
+    desk.form3.Redo.Press();
+    EXPECT_EQ(desk.state.DocumentFileDate, again);
+}
+
 TEST(History, NewIsAStepWithoutItsSettings) {
     ListDesk desk({u"a", u"b"});
     desk.state.DocumentName = u"old.kvs";

@@ -167,6 +167,24 @@ TEST_F(LinkedFiles, AClickOnThePreviewIsADoubleClickOnTheSlide) {
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }
 
+TEST_F(LinkedFiles, ARowThatTheFilterHidesIsNotClickedByThePreview) {
+    Fill({u"C:\\s\\one.png", u"C:\\s\\two.png"});
+    PutPicture(u"C:\\s\\two.png", 40, 10);
+    form3.List1.Choose({2, 1});
+    form3.Filter.Enter(u"two");
+    ASSERT_EQ(form3.List1.ListIndex, 1);
+    ASSERT_TRUE(form3.Image1.Picture());
+    state.ListCheck1Flag = 0;
+    state.ListDblClickRecord = 0;
+    state.ListDblClickText = 1;
+    dialogs.answers = {Answer::No};
+    form3.Image1.Press();
+    EXPECT_THAT(TakeMessages(), ElementsAre(u"テキスト作成|C:\\s\\two.txt\r\n"
+                                            u"のテキストファイルを作成しますか ?"));
+    EXPECT_TRUE(form3.List1.Selected(1));
+    EXPECT_FALSE(form3.List1.Selected(2));
+}
+
 TEST_F(LinkedFiles, ADoubleClickPlaysAFilmAndDropsASecondOne) {
     picture::AttachVideoWindow(app);
     Fill({u"C:\\s\\b.mp4"});
@@ -224,6 +242,10 @@ TEST_F(LinkedFiles, WhatADoubleClickAsksByTheFlags) {
     EXPECT_TRUE(files.Exists(textPath));
 
     state.ListDblClickWallpaper = 1;  // any other combination
+    form3.List1.DblClick();
+    EXPECT_THAT(TakeMessages(), ElementsAre(notYet));
+    state.ListDblClickText = 0;
+    state.ListDblClickWallpaper = 10;  // from a damaged file
     form3.List1.DblClick();
     EXPECT_THAT(TakeMessages(), ElementsAre(notYet));
 }
