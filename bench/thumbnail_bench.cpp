@@ -7,12 +7,9 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstdio>
-#include <deque>
 #include <filesystem>
 #include <functional>
-#include <mutex>
 #include <string>
 #include <thread>
 #include <vector>
@@ -20,6 +17,7 @@
 // Needs the standard headers before it.
 #include <jpeglib.h>
 
+#include "../tests/support/posted_calls.h"
 #include "adapters/imaging/thumbnailer.h"
 #include "photograph.h"
 
@@ -32,31 +30,6 @@ constexpr int kMostThreads = 4;
 constexpr int kSide = 128;
 constexpr double kAllowed = 1.3;
 constexpr double kKeptASecond = 500;
-
-/// Stands for the event loop of the asking thread.
-class Calls {
-public:
-    void Post(std::function<void()> call) {
-        const std::lock_guard lock(mutex_);
-        calls_.push_back(std::move(call));
-        changed_.notify_all();
-    }
-    void RunUntil(const std::function<bool()>& done) {
-        while (!done()) {
-            std::unique_lock lock(mutex_);
-            changed_.wait(lock, [this] { return !calls_.empty(); });
-            const auto call = std::move(calls_.front());
-            calls_.pop_front();
-            lock.unlock();
-            call();
-        }
-    }
-
-private:
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    std::deque<std::function<void()>> calls_;
-};
 
 double Milliseconds(const std::function<void()>& work) {
     const auto start = std::chrono::steady_clock::now();
@@ -127,11 +100,9 @@ void DecodeByLibrary(const std::vector<std::string>& paths, int threads) {
 }
 
 void MakeThumbnails(const std::vector<std::string>& paths, const std::string& cache, int threads) {
-    Calls calls;
+    fakes::PostedCalls calls;
     imaging::Thumbnailer thumbnails(
-        {.cacheFolder = cache,
-         .post = [&calls](std::function<void()> call) { calls.Post(std::move(call)); },
-         .threads = threads});
+        {.cacheFolder = cache, .post = calls.Taker(), .threads = threads});
     std::vector<Text> wanted;
     std::transform(paths.begin(), paths.end(), std::back_inserter(wanted), text::FromUtf8);
     size_t made = 0;

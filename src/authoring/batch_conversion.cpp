@@ -1,8 +1,9 @@
 #include "authoring/batch_conversion.h"
 
 #include <algorithm>
+#include <map>
 #include <memory>
-#include <set>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -157,6 +158,14 @@ private:
         return goesOn ? Next::File : Next::End;
     }
 
+    /// Where the folder takes no file the next ones would fail, too: that is said once.
+    Next AfterFailedWrite(TextView target) {
+        const Text folder = text::WithoutSeparator(folder_);
+        const bool takesFiles =
+            app_.platform.folders.IsFolder(folder) && app_.platform.fileChanges.CanWrite(folder);
+        return takesFiles ? AskAfterFailure(target) : Break(target);
+    }
+
     Next Break(TextView target) {
         app_.platform.dialogs.Message(
             Text(target) + u"\r\n変換コピーできません。\r\nコピー先フォルダを変更してください。",
@@ -164,10 +173,23 @@ private:
         return Next::Broken;
     }
 
-    bool MayReplace(TextView target) {
-        return form16_.Check1.Value == 1 || !app_.platform.files.Exists(target) ||
+    /// What this run made of another source is never replaced unasked.
+    bool MayReplace(TextView source, TextView target) {
+        return (form16_.Check1.Value == 1 && !IsMadeOfAnother(source, target)) ||
+               !app_.platform.files.Exists(target) ||
                Ask(Text(target) + u"\r\nこのファイルはすでに存在します。\r\n上書きしますか ?",
                    u"コピー");
+    }
+
+    bool IsMadeOfAnother(TextView source, TextView target) {
+        platform::Files& files = app_.platform.files;
+        const auto made = madeOf_.find(files.Find(target).value_or(std::string()));
+        return made != madeOf_.end() && made->second != files.Find(source);
+    }
+
+    void NoteMade(TextView source, TextView target) {
+        platform::Files& files = app_.platform.files;
+        madeOf_[files.Find(target).value_or(std::string())] = files.Find(source);
     }
 
     bool IsSameFile(TextView a, TextView b) {
@@ -199,7 +221,7 @@ private:
             return Next::File;
         }
         form16_.Label6.Caption = u"コピー進捗：" + NumberText(++number_);
-        if (!MayReplace(target)) {
+        if (!MayReplace(source, target)) {
             return Next::File;
         }
         if (!keepsKind && IsFalseJpeg(source)) {
@@ -214,6 +236,7 @@ private:
     Next WritePicture(const Text& source, const Text& target, Conversion::Kind kind) {
         made_.clear();
         const bool reduces = form16_.Check2.Value == 1;
+        replaces_ = IsMadeOfAnother(source, target);
         if (kind == Conversion::Same && !reduces) {
             return CopyPicture(source, target, false);
         }
@@ -224,7 +247,7 @@ private:
             app_.platform.imaging.Convert(source, target, conversion, work_.Report(), error);
         switch (made) {
             case Converted::Done:
-                Count(target);
+                Count(source, target);
                 return Next::File;
             case Converted::Stopped:
                 return Next::End;
@@ -232,17 +255,17 @@ private:
             case Converted::Needless:
                 return CopyPicture(source, target, made == Converted::NoWriter);
             case Converted::Unreadable:
-                return Break(target);
+                return AskAfterFailure(target);
             case Converted::Failed:
                 break;
         }
-        return AskAfterFailure(target);
+        return AfterFailedWrite(target);
     }
 
     Next CopyPicture(const Text& source, const Text& target, bool forWantOfWriter) {
         const Next next = Copy(source, target);
         if (lastCopied_) {
-            Count(target);
+            Count(source, target);
             asTheyAre_ += forWantOfWriter ? 1 : 0;
         }
         return next;
@@ -253,17 +276,16 @@ private:
         const Outcome outcome =
             app_.platform.fileChanges.Copy(source, target, work_.Report(), error);
         lastCopied_ = outcome == Outcome::Done;
-        return outcome == Outcome::Failed    ? AskAfterFailure(target)
+        return outcome == Outcome::Failed    ? AfterFailedWrite(target)
                : outcome == Outcome::Stopped ? Next::End
                                              : Next::File;
     }
 
-    void Count(const Text& target) {
+    void Count(const Text& source, const Text& target) {
         made_ = target;
         ++copied_;
-        if (!written_.insert(text::Upper(target)).second) {
-            ++replaced_;
-        }
+        replaced_ += replaces_ ? 1 : 0;
+        NoteMade(source, target);
     }
 
     Next CopyLinkedFiles(const Text& source, const Text& target) {
@@ -271,11 +293,14 @@ private:
         for (const LinkedFile& file : linkedFiles_.Of(source)) {
             const Text linkedTarget = LinkedNameBeside(target, file);
             if (next != Next::File || IsSameFile(file.path, linkedTarget) ||
-                !MayReplace(linkedTarget)) {
+                !MayReplace(file.path, linkedTarget)) {
                 continue;
             }
             next = Copy(file.path, linkedTarget);
-            linked_ += lastCopied_ ? 1 : 0;
+            if (lastCopied_) {
+                ++linked_;
+                NoteMade(file.path, linkedTarget);
+            }
         }
         return next;
     }
@@ -288,12 +313,14 @@ private:
     LinkedFiles linkedFiles_{app_};
     int64_t number_ = 0, copied_ = 0, linked_ = 0, asTheyAre_ = 0, replaced_ = 0;
     bool lastCopied_ = false;
-    Text made_;               // the picture that was just written
-    std::set<Text> written_;  // targets of this run
+    bool replaces_ = false;  // what the run made of another source
+    Text made_;              // the picture that was just written
+    /// What the run made, and of which file; both as they are on disk.
+    std::map<std::string, std::optional<std::string>> madeOf_;
 };
 
 bool RefusesFolder(Application& app, const Text& folder) {
-    if (!IsRefusedFolder(app, folder)) {
+    if (!folder.empty() && !IsRefusedFolder(app, folder)) {
         return false;
     }
     app.platform.dialogs.Message(folder +

@@ -92,7 +92,7 @@ TEST_F(BatchConversion, TheReductionKeepsTheProportionsAndNeverEnlarges) {
 TEST_F(BatchConversion, RefusesTheFolderOfHomesAndTheRoot) {
     around.PutPicture(u"D:\\a.png", 10, 10);
     Slides({u"D:\\a.png"});
-    for (const Text& folder : {Text(u"C:\\Users"), Text(u"C:\\"), Text(u"C:\\Users\\")}) {
+    for (const Text& folder : {Text(u"C:\\Users"), Text(u"C:\\"), Text(u"C:\\Users\\"), Text()}) {
         Open();
         form16.Text1.Enter(folder);
         around.dialogs.messages.clear();
@@ -249,17 +249,37 @@ TEST_F(BatchConversion, AsksBeforeItReplaces) {
     EXPECT_EQ(around.files.Get(u"D:\\out\\a.png")->content, "PIC 10 10");
 }
 
-TEST_F(BatchConversion, SaysWhenEqualNamesReplacedEachOther) {
+/// Also where all is to be overwritten: nobody meant to lose one of them.
+TEST_F(BatchConversion, EqualNamesReplaceEachOtherOnlyAfterAQuestion) {
     around.PutPicture(u"D:\\in\\a.png", 10, 10);
     around.PutPicture(u"D:\\in\\more\\A.png", 20, 20);
-    Slides({u"D:\\in\\a.png", u"D:\\in\\more\\A.png"});
+    around.PutPicture(u"D:\\in\\deep\\a.png", 30, 30);
+    around.files.Put(u"D:\\in\\a.txt", "one");
+    around.files.Put(u"D:\\in\\deep\\a.txt", "other");
+    Slides({u"D:\\in\\a.png", u"D:\\in\\a.png", u"D:\\in\\more\\A.png", u"D:\\in\\deep\\a.png"});
     Open();
     form16.Check1.Press();
+    form16.Check3.Press();
+    around.dialogs.answers = {Answer::No, Answer::Yes, Answer::No};
     Run();
-    ASSERT_EQ(Boxes().size(), 1u);
-    EXPECT_EQ(
-        Boxes()[0].text,
-        u"2個の画像を変換コピーしました。\r\n同じ名前のため、この実行中に上書きされた画像：1");
+    ASSERT_EQ(Boxes().size(), 4u) << "a slide that is there twice is copied as ever";
+    EXPECT_EQ(Boxes()[0].text,
+              u"D:\\out\\A.png\r\nこのファイルはすでに存在します。\r\n上書きしますか ?");
+    EXPECT_EQ(Boxes()[0].title, u"コピー");
+    EXPECT_EQ(Boxes()[0].flags, platform::kYesNoQuestion);
+    EXPECT_TRUE(Boxes()[2].text.starts_with(u"D:\\out\\a.txt\r\n"));
+    EXPECT_EQ(Boxes()[3].text,
+              u"3個の画像を変換コピーしました。\r\n連動ファイル：2"
+              u"\r\n同じ名前のため、この実行中に上書きされた画像：1");
+    EXPECT_EQ(around.files.Get(u"D:\\out\\a.png")->content, "PIC 30 30");
+    EXPECT_EQ(around.files.Get(u"D:\\out\\a.txt")->content, "one");
+    Open();
+    form16.Check1.Press();
+    around.dialogs.messages.clear();
+    around.dialogs.answers = {Answer::No, Answer::No};
+    Run();
+    EXPECT_EQ(Boxes().size(), 3u) << "what an earlier run made is overwritten, its own is not";
+    EXPECT_EQ(around.files.Get(u"D:\\out\\a.png")->content, "PIC 10 10");
 }
 
 TEST_F(BatchConversion, AFalseJpegIsNotConverted) {
@@ -303,20 +323,87 @@ TEST_F(BatchConversion, AFailingCopyOrSaveAsks) {
     EXPECT_EQ(around.files.Below(kOut).size(), 1u);
 }
 
-TEST_F(BatchConversion, APictureThatCannotBeReadEndsTheRun) {
+TEST_F(BatchConversion, APictureThatCannotBeReadAsks) {
     around.files.Put(u"D:\\in\\a.png", "damaged");
     around.PutPicture(u"D:\\in\\b.png", 10, 10);
     Slides({u"D:\\in\\a.png", u"D:\\in\\b.png"});
     Open();
+    around.dialogs.answers = {Answer::Yes};
+    Run();
+    ASSERT_EQ(Boxes().size(), 2u);
+    EXPECT_EQ(Boxes()[0].text, u"D:\\out\\a.png\r\n変換コピーできませんでした。\r\n継続しますか ?");
+    EXPECT_EQ(Boxes()[0].title, u"変換コピーエラー");
+    EXPECT_EQ(Boxes()[1].text, u"1個の画像を変換コピーしました。");
+    EXPECT_TRUE(Exists(u"D:\\out\\b.png"));
+    EXPECT_FALSE(Exists(u"D:\\out\\a.png"));
+}
+
+TEST_F(BatchConversion, ASourceThatVanishesMeanwhileAsks) {
+    around.PutPicture(u"D:\\in\\b.png", 10, 10);
+    Slides({u"D:\\in\\a.png", u"D:\\in\\b.png"});
+    for (model::OptionButton* kind : {&form16.nasi, &form16.BMP}) {
+        around.PutPicture(u"D:\\in\\a.png", 10, 10);
+        around.files.Put(u"D:\\out\\a.png", "old");
+        around.files.Put(u"D:\\out\\a.bmp", "old");
+        Open(kind);
+        around.dialogs.messages.clear();
+        around.dialogs.answers = {Answer::Yes, Answer::Yes};
+        around.dialogs.whileOpen = [&](const auto&) { around.files.Remove(u"D:\\in\\a.png"); };
+        Run();
+        ASSERT_EQ(Boxes().size(), 3u);
+        EXPECT_EQ(Boxes()[0].title, u"コピー");
+        EXPECT_TRUE(
+            Boxes()[1].text.ends_with(u"\r\n変換コピーできませんでした。\r\n継続しますか ?"));
+        EXPECT_EQ(Boxes()[2].text, u"1個の画像を変換コピーしました。");
+        around.dialogs.whileOpen = nullptr;
+    }
+    EXPECT_EQ(around.files.Get(u"D:\\out\\a.bmp")->content, "old");
+}
+
+TEST_F(BatchConversion, AFolderThatTakesNoFileIsSaidOnce) {
+    for (const char16_t* const name : {u"a.png", u"b.png"}) {
+        around.PutPicture(u"D:\\in\\" + Text(name), 10, 10);
+    }
+    Slides({u"D:\\in\\a.png", u"D:\\in\\b.png"});
+    around.fileChanges.unwritable = {kOut};
+    around.fileChanges.failure = u"許可がない。";
+    around.imaging.convertError = u"許可がない。";
+    for (const Text& folder : {kOut, Text(u"D:\\none")}) {
+        for (model::OptionButton* kind : {&form16.nasi, &form16.JPEG}) {
+            Open(kind);
+            form16.Text1.Enter(folder);
+            around.dialogs.messages.clear();
+            Run();
+            ASSERT_EQ(Boxes().size(), 1u);
+            EXPECT_EQ(Boxes()[0].text, folder + (kind == &form16.nasi ? u"\\a.png" : u"\\a.jpg") +
+                                           u"\r\n変換コピーできません。"
+                                           u"\r\nコピー先フォルダを変更してください。");
+            EXPECT_EQ(Boxes()[0].title, u"変換コピーエラー");
+            EXPECT_EQ(Boxes()[0].flags, platform::kPlain);
+            EXPECT_TRUE(form16.Command1.Enabled && form16.Command2.Enabled && form16.Text1.Enabled);
+            EXPECT_FALSE(form16.Label2.Visible || form16.Label6.Visible || form16.Command3.Visible);
+        }
+    }
+    EXPECT_TRUE(ReadBrowserMemory(around.app).last.empty());
+}
+
+/// A disk that is pulled out in the middle.
+TEST_F(BatchConversion, AFolderThatIsGoneInTheMiddleEndsTheRun) {
+    for (const char16_t* const name : {u"a.png", u"b.png", u"c.png"}) {
+        around.PutPicture(u"D:\\in\\" + Text(name), 10, 10);
+    }
+    Slides({u"D:\\in\\a.png", u"D:\\in\\b.png", u"D:\\in\\c.png"});
+    Open();
+    around.loop.onPump = [&] {
+        if (Exists(u"D:\\out\\a.png")) {
+            around.files.Remove(u"D:\\out\\a.png");
+            around.files.Remove(u"D:\\out\\old.txt");
+            around.fileChanges.failure = u"フォルダが見つかりません。";
+        }
+    };
     Run();
     ASSERT_EQ(Boxes().size(), 1u);
-    EXPECT_EQ(Boxes()[0].text,
-              u"D:\\out\\a.png\r\n変換コピーできません。"
-              u"\r\nコピー先フォルダを変更してください。");
-    EXPECT_EQ(Boxes()[0].title, u"変換コピーエラー");
-    EXPECT_TRUE(form16.Command1.Enabled && form16.Command2.Enabled && form16.Text1.Enabled);
-    EXPECT_FALSE(form16.Label2.Visible || form16.Label6.Visible || form16.Command3.Visible);
-    EXPECT_FALSE(Exists(u"D:\\out\\b.png"));
+    EXPECT_TRUE(Boxes()[0].text.starts_with(u"D:\\out\\b.png\r\n変換コピーできません。"));
 }
 
 TEST_F(BatchConversion, ShowsItselfWhileItRuns) {

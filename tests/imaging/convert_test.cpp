@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "adapters/imaging/exif_date.h"
 #include "imaging_support.h"
 
 namespace {
@@ -253,6 +254,68 @@ TEST_F(Convert, WhatIsNoPictureIsUnreadable) {
         EXPECT_EQ(Make(name, "out.png", Conversion::Png), Converted::Unreadable) << name;
     }
     EXPECT_FALSE(std::filesystem::exists(folder.Folder().Path("out.png")));
+}
+
+/// Their decoders would make up what is missing.
+TEST_F(Convert, WhatWasCutOffIsUnreadable) {
+    QImage image = Quarters(80, 60);
+    for (int y = 0; y < 60; ++y) {
+        image.setPixel(y, y, qRgb(y * 4, 255 - y * 3, y));
+    }
+    const auto cut = [&](const char* name, const QByteArray& bytes, qsizetype most) {
+        folder.Put(name, bytes.left(most));
+        return Make(name, "out.png", Conversion::Png);
+    };
+    const QByteArray jpeg = Encoded(image, "jpg", 95);
+    EXPECT_EQ(cut("a.jpg", jpeg, jpeg.size() / 2), Converted::Unreadable);
+    EXPECT_EQ(cut("a.jpg", jpeg, jpeg.size() - 2), Converted::Unreadable);
+    EXPECT_EQ(cut("a.jpg", jpeg, jpeg.size()), Converted::Done);
+    EXPECT_EQ(cut("a.jpg", jpeg + "more", jpeg.size() + 4), Converted::Done);
+    // The end of a small picture within it does not count.
+    QByteArray outer = jpeg.left(2);
+    outer.append("\xFF\xE1", 2).append(static_cast<char>((jpeg.size() + 2) >> 8));
+    outer.append(static_cast<char>((jpeg.size() + 2) & 255)).append(jpeg).append(jpeg.mid(2));
+    EXPECT_EQ(cut("a.jpg", outer, outer.size() - 2), Converted::Unreadable);
+    EXPECT_EQ(cut("a.jpg", outer, outer.size()), Converted::Done);
+    for (const QImage::Format format :
+         {QImage::Format_RGB888, QImage::Format_Indexed8, QImage::Format_Mono}) {
+        const QByteArray bmp = Encoded(image.convertToFormat(format), "bmp");
+        EXPECT_EQ(cut("a.bmp", bmp, bmp.size() - 80), Converted::Unreadable) << format;
+        EXPECT_EQ(cut("a.bmp", bmp, bmp.size()), Converted::Done) << format;
+    }
+}
+
+/// With nothing said of a turn: the pixels were turned.
+TEST_F(Convert, TheDateTakenIsCarriedOver) {
+    const auto taken = platform::FromCalendar({2024, 5, 6, 7, 8, 9});
+    const auto dated = [&](const QByteArray& picture, const imaging::DatePiece& date) {
+        return picture.left(date.at) + QByteArray::fromStdString(date.bytes) + picture.mid(date.at);
+    };
+    const QImage image = Quarters(80, 60);
+    const QByteArray sources[] = {
+        dated(WithOrientation(Encoded(image, "jpg", 95), 3), imaging::JpegDate(taken)),
+        dated(Encoded(image, "png"), imaging::PngDate(taken))};
+    for (const QByteArray& source : sources) {
+        folder.Put("a", source);
+        for (const auto& fit : {platform::FitFunction(), platform::FitFunction(Small)}) {
+            for (const auto kind : {Conversion::Jpeg, Conversion::Png}) {
+                ASSERT_EQ(Make("a", "b", kind, fit), Converted::Done);
+                const std::string made = folder.Folder().Content("b");
+                const auto date = imaging::DateTaken([&](uint64_t at, size_t count) {
+                    return at < made.size() ? made.substr(at, count) : std::string();
+                });
+                ASSERT_TRUE(date);
+                EXPECT_EQ(platform::DateTimeText(*date), u"2024/05/06 07:08:09");
+                const QImage picture = Read("b", kind == Conversion::Jpeg ? "jpeg" : "png");
+                EXPECT_EQ(picture.size(), fit ? QSize(40, 30) : QSize(80, 60));
+            }
+        }
+    }
+    QImageReader reader(QString::fromStdString(folder.Folder().Path("b")));
+    EXPECT_EQ(reader.transformation(), QImageIOHandler::TransformationNone);
+    folder.Put("a", Encoded(image, "jpg"));
+    ASSERT_EQ(Make("a", "b", Conversion::Jpeg), Converted::Done);
+    EXPECT_EQ(folder.Folder().Content("b").find("Exif"), std::string::npos) << "without one, none";
 }
 
 TEST_F(Convert, LeavesTheOldFileWhateverFails) {

@@ -4,50 +4,18 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <condition_variable>
-#include <deque>
 #include <map>
-#include <mutex>
 #include <thread>
 
 #include "adapters/imaging/file_inquirer.h"
 #include "imaging_support.h"
+#include "support/posted_calls.h"
 
 namespace imaging {
 namespace {
 
 using platform::FileFacts;
 using platform::FileInquiry;
-
-/// Stands for an event loop: keeps the calls that threads post, and waits for them.
-class Posts {
-public:
-    std::function<void(std::function<void()>)> Taker() {
-        return [this](std::function<void()> call) {
-            const std::lock_guard lock(mutex_);
-            calls_.push_back(std::move(call));
-            changed_.notify_all();
-        };
-    }
-    /// Runs the calls that come until `done`.
-    void RunUntil(const std::function<bool()>& done) {
-        while (!done()) {
-            std::unique_lock lock(mutex_);
-            changed_.wait(lock, [this] { return !calls_.empty(); });
-            const auto call = std::move(calls_.front());
-            calls_.pop_front();
-            lock.unlock();
-            call();
-            ++ran;
-        }
-    }
-    int ran = 0;
-
-private:
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    std::deque<std::function<void()>> calls_;
-};
 
 struct Inquiry : testing::Test {
     TemporaryFolder folder;
@@ -131,7 +99,7 @@ TEST_F(Inquiry, ByThreadsAnswersEveryQuestionOnTheAskingThread) {
         const std::string name = std::to_string(i) + ".jpg";
         paths.push_back(i % 2 == 0 ? Put(name, "x") : folder.TextPath(name));
     }
-    Posts posts;
+    fakes::PostedCalls posts;
     FileInquirer inquirer({folder.Path("program"), posts.Taker(), 0});
     const auto asking = std::this_thread::get_id();
     inquirer.Ask(this, paths, FileInquiry::Presence, [&](const Text& path, const FileFacts& found) {
@@ -150,7 +118,7 @@ TEST_F(Inquiry, ByThreadsAnswersEveryQuestionOnTheAskingThread) {
 /// Paths in the order of their answers, where many were asked for at once and then `late` alone.
 std::vector<Text> Answered(const std::string& program, const std::vector<Text>& early,
                            const Text& late) {
-    Posts posts;
+    fakes::PostedCalls posts;
     std::vector<Text> order;
     const auto keep = [&](const Text& path, const FileFacts&) { order.push_back(path); };
     FileInquirer inquirer({program, posts.Taker(), 1});
@@ -182,7 +150,7 @@ TEST_F(Inquiry, AForgottenOwnerHearsNothingMore) {
     for (int i = 0; i < 500; ++i) {
         paths.push_back(folder.TextPath(std::to_string(i)));
     }
-    Posts posts;
+    fakes::PostedCalls posts;
     FileInquirer inquirer({folder.Path("program"), posts.Taker(), 0});
     const int first = 0, second = 0;
     bool answered = false;
@@ -207,7 +175,7 @@ TEST_F(Inquiry, AForgottenOwnerHearsNothingMore) {
 }
 
 TEST_F(Inquiry, EndsWithQuestionsLeft) {
-    Posts posts;
+    fakes::PostedCalls posts;
     {
         FileInquirer inquirer({folder.Path("program"), posts.Taker(), 0});
         std::vector<Text> paths(5000, folder.TextPath("none"));

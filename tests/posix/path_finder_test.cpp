@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <filesystem>
+
 #include "posix/temporary_folder.h"
 
 namespace {
@@ -84,6 +86,31 @@ TEST_F(Finding, SeesFilesThatComeAndGo) {
         std::filesystem::remove(folder_.Path(name));
         ASSERT_EQ(Find("SECOND" + std::to_string(i) + ".JPG"), std::nullopt);
     }
+}
+
+/// So that a folder which fills is not read for each of its files.
+TEST_F(Finding, KnowsWhatTheProgramMadeWithoutReadingTheFolderAnew) {
+    folder_.Put("show/first.jpg", "x");
+    const std::string folder = folder_.Path("show");
+    EXPECT_EQ(Find("show/FIRST.jpg"), folder_.Path("show/first.jpg"));
+    for (int i = 0; i < 3; ++i) {
+        const std::string name = "show/New" + std::to_string(i) + ".jpg";
+        EXPECT_EQ(finder_.Target(folder_.TextPath(name)), folder_.Path(name));
+        struct stat status {};
+        ASSERT_EQ(stat(folder.c_str(), &status), 0);
+        folder_.Put(name, "x");
+        finder_.Added(folder_.Path(name), status.st_mtim);
+        EXPECT_EQ(Find("show/NEW" + std::to_string(i) + ".JPG"), folder_.Path(name));
+        EXPECT_EQ(Find("show/first.JPG"), folder_.Path("show/first.jpg"));
+    }
+    std::filesystem::remove(folder_.Path("show/New1.jpg"));
+    EXPECT_EQ(Find("show/new1.jpg"), std::nullopt);
+    // What others put there in between takes the listing's place: it was not of that moment.
+    struct stat before {};
+    ASSERT_EQ(stat(folder.c_str(), &before), 0);
+    folder_.Put("show/Other.jpg", "x");
+    finder_.Added(folder_.Path("show/Other.jpg"), timespec{1, 0});
+    EXPECT_EQ(Find("show/other.jpg"), folder_.Path("show/Other.jpg"));
 }
 
 TEST_F(Finding, GoesThroughTheDriveTable) {

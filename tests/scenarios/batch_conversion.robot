@@ -45,9 +45,8 @@ click Form16.Command1
 during click Form16.Command3
 expect Form16.Command3.Visible false
 expect Form16.Command1.Enabled true
-# A folder that is not there.
+# A folder that is not there is said once.
 set Form16.Text1 /none
-answer no
 click Form16.Command1
 shot batch_conversion.png Form16
 click Form16.Command2
@@ -61,4 +60,4 @@ expect-trace message title=コピー text~"out/large.png\r\nこのファイル�
 expect-trace message title=変換コピー text=0個の画像を変換コピーしました。
 expect-trace message title=変換コピー中止 text="変換コピーを中止しますか ?" flags=36 answer=no
 expect-trace message title=変換コピー text="変換コピーを中止しました。\r\n0個の画像を変換コピーしました。"
-expect-trace message title=変換コピーエラー text="/none/large.png\r\n変換コピーできませんでした。\r\n継続しますか ?"
+expect-trace message title=変換コピーエラー text="/none/large.png\r\n変換コピーできません。\r\nコピー先フォルダを変更してください。" flags=0

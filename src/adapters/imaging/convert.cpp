@@ -11,10 +11,12 @@
 #include <new>
 #include <string_view>
 
+#include "adapters/imaging/exif_date.h"
 #include "adapters/imaging/picture_file.h"
 #include "adapters/imaging/pixels.h"
 #include "adapters/imaging/save.h"
 #include "adapters/posix/error_text.h"
+#include "adapters/posix/posix_files.h"
 #include "adapters/posix/watched_work.h"
 
 namespace imaging {
@@ -31,12 +33,13 @@ struct Writer {
     std::string_view name;  // the toolkit's
     bool holdsAlpha;
     bool holdsProfile;
+    DatePiece (*date)(const platform::DateTime& taken);
 };
-constexpr Writer kWriters[] = {{"bmp", false, false},
-                               {"jpeg", false, true},
-                               {"png", true, true},
-                               {"tiff", true, true},
-                               {"webp", true, true}};
+constexpr Writer kWriters[] = {{"bmp", false, false, nullptr},
+                               {"jpeg", false, true, JpegDate},
+                               {"png", true, true, PngDate},
+                               {"tiff", true, true, nullptr},
+                               {"webp", true, true, nullptr}};
 constexpr std::string_view kNameOf[] = {"", "bmp", "jpeg", "png"};  // by Conversion::Kind
 
 constexpr int kMostPaletteBits = 8;
@@ -123,6 +126,14 @@ QImage InForm(QImage image, const Writer& writer) {
     return image;
 }
 
+DatePiece DateOf(const std::string& path, const Writer& writer) {
+    const posix_adapter::Descriptor file =
+        writer.date ? posix_adapter::OpenPlainFile(path) : posix_adapter::Descriptor();
+    const auto taken =
+        DateTaken([&](uint64_t at, size_t count) { return BytesAt(file.Get(), at, count); });
+    return taken ? writer.date(*taken) : DatePiece();
+}
+
 /// One conversion; the thread that works on it may outlast the wait for it.
 struct Job {
     Job(std::string source, std::string result, Conversion wanted,
@@ -152,15 +163,16 @@ struct Job {
         }
         context.Begin();
         const QImage image = file->DecodeImage(file->DecodesScaledTo(size) ? size : own, context);
-        if (image.isNull()) {
+        if (image.isNull() || !file->IsWhole(context)) {
             return watched.Stopped() ? ECANCELED : 0;
         }
         const QColorSpace profile = ProfileOf(image);
         QImage scaled = Scaled(image, size);
         scaled.setColorSpace(profile);
         verdict = Converted::Failed;
-        const int failure = WriteImage(InForm(std::move(scaled), *writer), to, writer->name.data(),
-                                       conversion.quality, watched);
+        const int failure =
+            WriteImage(InForm(std::move(scaled), *writer), to,
+                       {writer->name.data(), conversion.quality, DateOf(from, *writer)}, watched);
         verdict = failure == 0 ? Converted::Done : Converted::Failed;
         return failure;
     }

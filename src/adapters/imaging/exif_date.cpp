@@ -1,6 +1,10 @@
 #include "adapters/imaging/exif_date.h"
 
+#include <sys/types.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cstdio>
 #include <string_view>
 
 namespace imaging {
@@ -14,6 +18,11 @@ constexpr size_t kMostReads = 4096;
 constexpr int kMostParts = 256;  // segments, chunks or boxes before the one that is looked for
 constexpr size_t kLargestMeta = 1u << 20;
 constexpr size_t kDateLength = 19;  // "2026:01:31 08:00:00"
+constexpr std::string_view kExifMark("Exif\0\0", 6);
+
+constexpr uint64_t kExif = 0x8769, kVersion = 0x9000, kTaken = 0x9003, kChanged = 0x0132;
+constexpr uint64_t kAscii = 2, kLong = 4, kUndefined = 7;  // kinds of values
+constexpr size_t kEntry = 12;
 
 /// A file, as far as the bounds allow.
 class Source {
@@ -86,10 +95,6 @@ public:
     }
 
 private:
-    static constexpr uint64_t kExif = 0x8769, kTaken = 0x9003, kChanged = 0x0132;
-    static constexpr uint64_t kAscii = 2, kLong = 4;
-    static constexpr size_t kEntry = 12;
-
     /// The entries of the directory there.
     std::string Directory(uint64_t at) {
         const std::string count = source_.Exactly(base_ + at, 2);
@@ -121,7 +126,6 @@ private:
 /// Where the TIFF words begin; 0: there are none.
 uint64_t InJpeg(Source& source) {
     constexpr uint64_t kApp1 = 0xE1, kStartOfScan = 0xDA, kEndOfImage = 0xD9, kFill = 0xFF;
-    constexpr std::string_view kMark("Exif\0\0", 6);
     uint64_t at = 2;
     for (int i = 0; i < kMostParts; ++i) {
         const std::string head = source.Exactly(at, 4);
@@ -133,8 +137,8 @@ uint64_t InJpeg(Source& source) {
             ++at;
             continue;
         }
-        if (marker == kApp1 && source.Exactly(at + 4, kMark.size()) == kMark) {
-            return at + 4 + kMark.size();
+        if (marker == kApp1 && source.Exactly(at + 4, kExifMark.size()) == kExifMark) {
+            return at + 4 + kExifMark.size();
         }
         if (length < 2) {
             return 0;
@@ -251,7 +255,66 @@ uint64_t InHeic(Source& source) {
     return 0;
 }
 
+std::string Bytes(uint64_t value, size_t count) {
+    std::string bytes;
+    for (size_t i = count; i-- > 0;) {
+        bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+    }
+    return bytes;
+}
+
+/// TIFF words with the date alone: nothing of how the picture would have to be turned.
+std::string ExifOf(const DateTime& taken) {
+    const platform::CalendarTime date = platform::ToCalendar(taken);
+    char words[64];
+    std::snprintf(words, sizeof words, "%04d:%02d:%02d %02d:%02d:%02d", date.year, date.month,
+                  date.day, date.hour, date.minute, date.second);
+    const auto entry = [](uint64_t tag, uint64_t kind, uint64_t count, const std::string& value) {
+        return Bytes(tag, 2) + Bytes(kind, 2) + Bytes(count, 4) + value;
+    };
+    constexpr size_t kMain = 8, kInner = kMain + 2 + kEntry + 4,
+                     kDate = kInner + 2 + 2 * kEntry + 4;
+    return "MM" + Bytes(42, 2) + Bytes(kMain, 4) +                    //
+           Bytes(1, 2) + entry(kExif, kLong, 1, Bytes(kInner, 4)) +   //
+           Bytes(0, 4) +                                              //
+           Bytes(2, 2) + entry(kVersion, kUndefined, 4, "0232") +     //
+           entry(kTaken, kAscii, kDateLength + 1, Bytes(kDate, 4)) +  //
+           Bytes(0, 4) + std::string(words, kDateLength) + std::string(1, '\0');
+}
+
+/// The checksum of PNG chunks.
+uint32_t Crc(std::string_view bytes) {
+    constexpr uint32_t kPolynomial = 0xEDB88320u;
+    uint32_t crc = ~0u;
+    for (const char byte : bytes) {
+        crc ^= static_cast<unsigned char>(byte);
+        for (int bit = 0; bit < 8; ++bit) {
+            crc = crc >> 1 ^ ((crc & 1) != 0 ? kPolynomial : 0);
+        }
+    }
+    return ~crc;
+}
+
 }  // namespace
+
+std::string BytesAt(int fd, uint64_t at, size_t count) {
+    std::string bytes(count, '\0');
+    const ssize_t length = pread(fd, bytes.data(), count, static_cast<off_t>(at));
+    bytes.resize(length > 0 ? static_cast<size_t>(length) : 0);
+    return bytes;
+}
+
+DatePiece JpegDate(const DateTime& taken) {
+    constexpr int64_t kAfterStart = 2;
+    const std::string content = std::string(kExifMark) + ExifOf(taken);
+    return {kAfterStart, "\xFF\xE1" + Bytes(content.size() + 2, 2) + content};
+}
+
+DatePiece PngDate(const DateTime& taken) {
+    constexpr int64_t kAfterHeader = 33;
+    const std::string exif = ExifOf(taken), content = "eXIf" + exif;
+    return {kAfterHeader, Bytes(exif.size(), 4) + content + Bytes(Crc(content), 4)};
+}
 
 std::optional<DateTime> DateTaken(const ReadBytes& read) {
     Source source(read);

@@ -29,13 +29,6 @@ namespace {
 constexpr size_t kMostAtOnce = 256;
 constexpr std::chrono::milliseconds kMomentToEnd{300};
 
-std::string BytesOf(int fd, uint64_t at, size_t count) {
-    std::string bytes(count, '\0');
-    const ssize_t length = pread(fd, bytes.data(), count, static_cast<off_t>(at));
-    bytes.resize(length > 0 ? static_cast<size_t>(length) : 0);
-    return bytes;
-}
-
 FileFacts FactsOf(const Text& path, What what, posix_adapter::PathFinder& finder) {
     FileFacts facts;
     const std::optional<std::string> native = finder.Find(path);
@@ -52,9 +45,9 @@ FileFacts FactsOf(const Text& path, What what, posix_adapter::PathFinder& finder
     const posix_adapter::Descriptor file = posix_adapter::OpenPlainFile(*native);
     if (file.Valid() && what == platform::FileInquiry::DateTaken) {
         facts.taken =
-            DateTaken([&](uint64_t at, size_t count) { return BytesOf(file.Get(), at, count); });
+            DateTaken([&](uint64_t at, size_t count) { return BytesAt(file.Get(), at, count); });
     } else if (file.Valid()) {
-        facts.beginning = platform::BeginningSum(BytesOf(file.Get(), 0, platform::kBeginningBytes));
+        facts.beginning = platform::BeginningSum(BytesAt(file.Get(), 0, platform::kBeginningBytes));
     }
     return facts;
 }

@@ -45,6 +45,45 @@ JpegHeader ReadFrame(int marker, const QByteArray& frame) {
     return header;
 }
 
+/// The marker there, of which any number of FF bytes may stand in front; -1 where there is none.
+int TakeMarker(QIODevice& device) {
+    QByteArray head = device.read(2);
+    while (head.size() == 2 && Byte(head, 0) == 0xFF && Byte(head, 1) == 0xFF) {
+        head = head.right(1) + device.read(1);
+    }
+    return head.size() == 2 && Byte(head, 0) == 0xFF ? Byte(head, 1) : -1;
+}
+
+/// Bytes of the segment after its length; -1 where it is cut off there or has none.
+int TakeLength(QIODevice& device) {
+    const QByteArray length = device.read(2);
+    return length.size() == 2 ? std::max(Word(length, 0) - 2, -1) : -1;
+}
+
+bool IsWithinCode(int marker) {
+    constexpr int kFirstRestart = 0xD0, kLastRestart = 0xD7;
+    return marker == 0 || marker == 0xFF || (marker >= kFirstRestart && marker <= kLastRestart);
+}
+
+/// To the marker after the coded pixels. False where they have no end.
+bool SkipCode(QIODevice& device) {
+    constexpr qsizetype kBlock = 1 << 16;
+    while (true) {
+        const QByteArray block = device.peek(kBlock);
+        for (qsizetype at = block.indexOf('\xFF'); at >= 0 && at + 1 < block.size();
+             at = block.indexOf('\xFF', at + 1)) {
+            if (!IsWithinCode(Byte(block, at + 1))) {
+                device.skip(at);
+                return true;
+            }
+        }
+        if (block.size() < kBlock) {
+            return false;
+        }
+        device.skip(kBlock - 1);  // its last byte may begin a marker
+    }
+}
+
 }  // namespace
 
 int64_t JpegHeader::WorkingBytes() const {
@@ -55,19 +94,12 @@ int64_t JpegHeader::WorkingBytes() const {
 JpegHeader ReadJpegHeader(QIODevice& device) {
     device.seek(2);
     while (true) {
-        QByteArray head = device.read(2);
-        // Any number of FF bytes may stand before a marker.
-        while (head.size() == 2 && Byte(head, 0) == 0xFF && Byte(head, 1) == 0xFF) {
-            head = head.right(1) + device.read(1);
-        }
-        const int marker = Byte(head, 1);
-        if (head.size() != 2 || Byte(head, 0) != 0xFF || marker == kStartOfScan ||
-            marker == kEndOfImage) {
+        const int marker = TakeMarker(device);
+        if (marker < 0 || marker == kStartOfScan || marker == kEndOfImage) {
             return {};
         }
-        const QByteArray lengthBytes = device.read(2);
-        const int length = Word(lengthBytes, 0) - 2;
-        if (lengthBytes.size() != 2 || length < 0) {
+        const int length = TakeLength(device);
+        if (length < 0) {
             return {};
         }
         if (IsFrame(marker)) {
@@ -77,6 +109,22 @@ JpegHeader ReadJpegHeader(QIODevice& device) {
             return {};
         }
     }
+}
+
+bool HoldsJpegEnd(QIODevice& device) {
+    device.seek(2);
+    // Whatever stands between two segments is passed over, as decoders do.
+    while (SkipCode(device)) {
+        const int marker = TakeMarker(device);
+        if (marker == kEndOfImage) {
+            return true;
+        }
+        const int length = TakeLength(device);
+        if (length < 0 || !device.seek(device.pos() + length)) {
+            return false;
+        }
+    }
+    return false;
 }
 
 }  // namespace imaging

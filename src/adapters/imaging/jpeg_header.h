@@ -21,4 +21,8 @@ struct JpegHeader {
 /// none. Moves the device.
 JpegHeader ReadJpegHeader(QIODevice& device);
 
+/// Whether the device holds the picture up to the mark of its end: one that was cut off has none,
+/// and its decoder makes up the rest. Moves the device.
+bool HoldsJpegEnd(QIODevice& device);
+
 }  // namespace imaging

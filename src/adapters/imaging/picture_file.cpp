@@ -9,6 +9,7 @@
 #include <QImageReader>
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -70,10 +71,36 @@ double ThreadSeconds() {
     return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) / 1e9;
 }
 
+uint32_t LittleEndian(std::string_view bytes, size_t at, size_t count) {
+    uint32_t value = 0;
+    for (size_t i = count; i-- > 0;) {
+        value = value << 8 | static_cast<unsigned char>(at + i < bytes.size() ? bytes[at + i] : 0);
+    }
+    return value;
+}
+
+constexpr size_t kBmpBitsAt = 28;
+
 /// Pixels of 16 bits: the toolkit's reader makes their white a light grey.
 bool HasBmpWords(std::string_view start) {
-    constexpr size_t kBitsAt = 28;
-    return start.size() > kBitsAt + 1 && start[kBitsAt] == 16 && start[kBitsAt + 1] == 0;
+    return LittleEndian(start, kBmpBitsAt, 2) == 16;
+}
+
+/// Up to the last pixel, by the header of a picture that was decoded; 0 where pixels are packed.
+int64_t BytesOfBmp(std::string_view start) {
+    constexpr uint32_t kOldHeader = 12, kNotPacked = 0, kMasks = 3, kMasksWithAlpha = 6;
+    const bool old = LittleEndian(start, 14, 4) == kOldHeader;
+    const uint32_t packing = old ? kNotPacked : LittleEndian(start, 30, 4);
+    const int64_t width =
+        old ? LittleEndian(start, 18, 2) : static_cast<int32_t>(LittleEndian(start, 18, 4));
+    const int64_t height =
+        old ? LittleEndian(start, 20, 2)
+            : std::abs(int64_t{static_cast<int32_t>(LittleEndian(start, 22, 4))});
+    const int64_t rowBits = width * LittleEndian(start, old ? 24 : kBmpBitsAt, 2);
+    if (packing != kNotPacked && packing != kMasks && packing != kMasksWithAlpha) {
+        return 0;
+    }
+    return LittleEndian(start, 10, 4) + (rowBits + 31) / 32 * 4 * (height - 1) + (rowBits + 7) / 8;
 }
 
 /// Bits per pixel that a drawing has before it was drawn.
@@ -215,6 +242,12 @@ public:
         return kind_ == known.kind_ && foreign_ == known.foreign_ && identity_ == known.identity_;
     }
 
+    bool HoldsWholePicture() {
+        return kind_ == Kind::Jpeg  ? HoldsJpegEnd(file_)
+               : kind_ == Kind::Bmp ? file_.size() >= BytesOfBmp(ViewOf(file_.peek(kSniffBytes)))
+                                    : true;
+    }
+
     QImage Decode(const PictureFile& file, Size size) {
         // Below 50 the reader would scale without smoothing.
         constexpr int kQuality = 75;
@@ -311,6 +344,11 @@ Size PictureFile::SizeToDecode(Size wanted) const {
 
 int64_t PictureFile::WorkingBytes(Size size) const {
     return DecodesScaledTo(size) ? scaledDecodeBytes_ : PixelBytes(own_);
+}
+
+bool PictureFile::IsWhole(ReadingContext& context) const {
+    PictureReader reader(path_, context);
+    return reader.IsSameFile(*this) && reader.HoldsWholePicture();
 }
 
 QImage PictureFile::DecodeHere(Size size, int* depth, ReadingContext& context) const {

@@ -109,6 +109,10 @@ public:
     /// the toolkit decodes it. `size` may be smaller than the own one only where DecodesScaledTo.
     QImage DecodeImage(platform::Size size, ReadingContext& context) const;
 
+    /// False where a JPEG or BMP file is shorter than its picture: decoding makes up the rest.
+    /// Also where it is gone or another one.
+    bool IsWhole(ReadingContext& context) const;
+
     /// The toolkit's name of the kind; empty where the file is decoded in the sandbox.
     const char* KindName() const { return ReaderName(kind_); }
 

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <new>
 #include <string_view>
+#include <utility>
 
 #include "adapters/imaging/pixels.h"
 #include "adapters/posix/error_text.h"
@@ -26,18 +27,36 @@ constexpr const char* kFormats[] = {"bmp", "jpeg", "png"};
 
 constexpr int kMostPaletteBits = 8;
 
-/// A file that seems full as soon as its writer is to end.
+/// A file that seems full as soon as its writer is to end, and that gets a piece put in.
 class WatchedFile : public QFile {
 public:
-    explicit WatchedFile(const WatchedWork& watched) : watched_(watched) {}
+    WatchedFile(const WatchedWork& watched, DatePiece piece)
+        : watched_(watched), piece_(std::move(piece)) {}
 
 protected:
     qint64 writeData(const char* data, qint64 size) override {
-        return watched_.Stopped() ? -1 : QFile::writeData(data, size);
+        if (watched_.Stopped()) {
+            return -1;
+        }
+        qint64 before = 0;
+        if (!piece_.bytes.empty() && written_ + size >= piece_.at) {
+            before = piece_.at - written_;
+            const DatePiece piece = std::exchange(piece_, {});
+            const auto length = static_cast<qint64>(piece.bytes.size());
+            if (QFile::writeData(data, before) != before ||
+                QFile::writeData(piece.bytes.data(), length) != length) {
+                return -1;
+            }
+        }
+        const qint64 after = QFile::writeData(data + before, size - before);
+        written_ += before + std::max<qint64>(after, 0);
+        return after < 0 ? -1 : before + after;
     }
 
 private:
     const WatchedWork& watched_;
+    DatePiece piece_;
+    qint64 written_ = 0;
 };
 
 /// The bitmap's own pixels, for as long as it lives.
@@ -63,7 +82,7 @@ QImage InForm(const Bitmap& picture, const SaveForm& form) {
 
 }  // namespace
 
-int WriteImage(const QImage& image, const std::string& nativePath, const char* kind, int quality,
+int WriteImage(const QImage& image, const std::string& nativePath, const FileForm& form,
                WatchedWork& watched) {
     posix_adapter::NewFile target;
     if (const int error = target.Begin(nativePath)) {
@@ -72,13 +91,13 @@ int WriteImage(const QImage& image, const std::string& nativePath, const char* k
     if (image.isNull()) {
         return ENOMEM;
     }
-    WatchedFile file(watched);
+    WatchedFile file(watched, form.date);
     if (!file.open(target.Fd(), QIODevice::WriteOnly, QFileDevice::DontCloseHandle)) {
         return EIO;
     }
-    QImageWriter writer(&file, kind);
-    if (kind == std::string_view("jpeg")) {
-        writer.setQuality(std::clamp(quality, 1, 100));
+    QImageWriter writer(&file, form.kind);
+    if (form.kind == std::string_view("jpeg")) {
+        writer.setQuality(std::clamp(form.quality, 1, 100));
     }
     const bool written = writer.write(image) && file.flush();
     if (watched.Stopped()) {
@@ -105,8 +124,8 @@ platform::Outcome SavePicture(const platform::BitmapPtr& picture, const std::str
     const platform::Outcome outcome = posix_adapter::RunWatched(
         [picture, nativePath, form](WatchedWork& watched) {
             try {
-                return WriteImage(InForm(*picture, form), nativePath, kFormats[form.kind],
-                                  form.quality, watched);
+                return WriteImage(InForm(*picture, form), nativePath,
+                                  {kFormats[form.kind], form.quality, {}}, watched);
             } catch (const std::bad_alloc&) {
                 return ENOMEM;
             }

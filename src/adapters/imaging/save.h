@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "adapters/imaging/exif_date.h"
 #include "adapters/posix/watched_work.h"
 #include "platform/imaging.h"
 
@@ -15,9 +16,16 @@ platform::Outcome SavePicture(const platform::BitmapPtr& picture, const std::str
                               const platform::SaveForm& form, const platform::Report& report,
                               bool ownThread, platform::FileError& error);
 
-/// Writes a file of the kind, by the toolkit's name for it, as the last step of `watched`, whole or
-/// not at all. `quality`: of a JPEG. 0, or errno: ECANCELED when it was stopped.
-int WriteImage(const QImage& image, const std::string& nativePath, const char* kind, int quality,
+/// What a picture file is to be.
+struct FileForm {
+    const char* kind = "";  // the toolkit's name
+    int quality = 90;       // of a JPEG
+    DatePiece date;         // put in as the file is written; a JPEG or PNG is, from start to end
+};
+
+/// Writes the file as the last step of `watched`, whole or not at all. 0, or errno: ECANCELED when
+/// it was stopped.
+int WriteImage(const QImage& image, const std::string& nativePath, const FileForm& form,
                posix_adapter::WatchedWork& watched);
 
 }  // namespace imaging

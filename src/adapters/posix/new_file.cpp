@@ -124,11 +124,13 @@ int NewFile::Write(std::string_view content) {
 }
 
 int NewFile::Flush() {
-    int error = fsync(file_.Get()) != 0 ? errno : 0;
-    if (!file_.Close() && error == 0) {
-        error = errno;
-    }
-    return error;
+    const int error = fsync(file_.Get()) != 0 ? errno : 0;
+    const int late = Close();
+    return error != 0 ? error : late;
+}
+
+int NewFile::Close() {
+    return file_.Close() ? 0 : errno;
 }
 
 int NewFile::Commit(bool durable) {

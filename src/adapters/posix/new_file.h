@@ -10,8 +10,8 @@
 
 namespace posix_adapter {
 
-/// Order of use: Begin, write to Fd, Flush, Commit. Gone without a trace when it is destroyed
-/// before.
+/// Order of use: Begin, write to Fd, Flush or Close, Commit. Gone without a trace when it is
+/// destroyed before.
 class NewFile {
 public:
     NewFile() = default;
@@ -33,6 +33,8 @@ public:
 
     /// To the disk. 0, or errno.
     int Flush();
+    /// Without waiting for the disk. 0, or errno.
+    int Close();
     /// Takes the target's place. 0, or errno: then nothing has changed. `durable` false: what may
     /// be lost with the power needs no Flush, and its name does not wait for the disk either.
     int Commit(bool durable = true);

@@ -14,6 +14,8 @@
 
 namespace posix_adapter {
 
+using std::chrono::steady_clock;
+
 namespace {
 
 constexpr size_t kMostListings = 256;
@@ -58,6 +60,13 @@ Text Key(TextView name) {
     std::replace_if(
         key.begin(), key.end(), [](char16_t c) { return c == u'\r' || c == u'\n'; }, u' ');
     return key;
+}
+
+/// Of names that differ by case only, always the same one answers.
+void Prefer(std::string& kept, const std::string& name) {
+    if (kept.empty() || name < kept) {
+        kept = name;
+    }
 }
 
 bool Exists(const std::string& path) {
@@ -232,7 +241,7 @@ const PathFinder::Listing* PathFinder::List(const std::string& folder, const Tex
         const auto name = known->second.names.find(wanted);
         const bool holds =
             name != known->second.names.end() && Exists(Joined(folder, name->second));
-        if (holds || known->second.settled) {
+        if (holds || known->second.settled || IsRecent(known->second)) {
             return &known->second;
         }
     }
@@ -246,17 +255,37 @@ const PathFinder::Listing* PathFinder::List(const std::string& folder, const Tex
     Listing fresh;
     fresh.changed = status.st_mtim;
     fresh.settled = Settled(status.st_mtim);
+    fresh.rightAt = steady_clock::now();
     while (const dirent* entry = readdir(handle.get())) {
-        const std::string name = entry->d_name;
-        std::string& kept = fresh.names[Key(text::FromUtf8(name))];
-        // Of names that differ by case only, always the same one answers.
-        if (kept.empty() || name < kept) {
-            kept = name;
-        }
+        Prefer(fresh.names[Key(text::FromUtf8(entry->d_name))], entry->d_name);
     }
     Listing& stored = listings_[folder];
     stored = std::move(fresh);
     return &stored;
+}
+
+bool PathFinder::IsRecent(const Listing& listing) {
+    return listing.grown && steady_clock::now() - listing.rightAt < std::chrono::seconds(1);
+}
+
+void PathFinder::Added(const std::string& nativePath, const timespec& before) {
+    const size_t end = nativePath.rfind('/');
+    const std::string folder = end == 0 ? "/" : nativePath.substr(0, end);
+    const auto known = listings_.find(folder);
+    struct stat status {};
+    if (known == listings_.end() || !Same(known->second.changed, before) ||
+        stat(folder.c_str(), &status) != 0) {
+        return;
+    }
+    Listing& listing = known->second;
+    const std::string name = nativePath.substr(end + 1);
+    Prefer(listing.names[Key(text::FromUtf8(name))], name);
+    listing.changed = status.st_mtim;
+    if (listing.settled) {
+        listing.rightAt = steady_clock::now();
+    }
+    listing.settled = false;
+    listing.grown = true;
 }
 
 std::optional<std::string> PathFinder::DriveRoot(char16_t letter) {

@@ -3,6 +3,7 @@
 
 #include <sys/stat.h>
 
+#include <chrono>
 #include <map>
 #include <optional>
 #include <string>
@@ -29,6 +30,11 @@ public:
     /// when the path has no place on this machine (a drive that the table lacks).
     std::string Target(TextView path);
 
+    /// The program made this file in a folder that had last changed at `before`. What is known of
+    /// the folder then stays of use for a second, so that many files can be made in it without
+    /// reading it each time; what others put there meanwhile is found under its exact name only.
+    void Added(const std::string& nativePath, const timespec& before);
+
 private:
     /// Where a walk starts, and what it goes through.
     struct Route {
@@ -39,6 +45,8 @@ private:
     struct Listing {
         timespec changed{};
         bool settled = false;  // an equal time stamp can hide no change
+        bool grown = false;    // by files of the program since it was right
+        std::chrono::steady_clock::time_point rightAt;
         std::unordered_map<std::u16string, std::string> names;  // by folded name
     };
 
@@ -47,6 +55,7 @@ private:
     /// Name on disk of a part, exact or without case; nullopt when the folder has none.
     std::optional<std::string> NameIn(const std::string& folder, const Text& part);
     const Listing* List(const std::string& folder, const Text& wanted);
+    static bool IsRecent(const Listing& listing);
     std::optional<std::string> DriveRoot(char16_t letter);
     void ReadDrives();
 

@@ -4,7 +4,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
@@ -70,6 +72,22 @@ int RemoveCopied(const std::string& path, const struct stat& copied) {
     return unlink(path.c_str()) == 0 ? 0 : errno;
 }
 
+/// Copies that replace nothing can be made again, so many of them wait for the disk together, once
+/// a second. 0, or errno.
+int CloseOfMany(NewFile& target) {
+    using std::chrono::steady_clock;
+    static std::atomic<steady_clock::duration> flushedAt{};
+    const steady_clock::duration now = steady_clock::now().time_since_epoch();
+    if (now - flushedAt.load() < std::chrono::seconds(1)) {
+        return target.Close();
+    }
+    if (syncfs(target.Fd()) != 0) {
+        return errno;
+    }
+    flushedAt = steady_clock::now().time_since_epoch();
+    return target.Close();
+}
+
 /// 0, or errno: ECANCELED when it was stopped.
 int CopyFile(const std::string& from, const std::string& to, bool removeSource,
              WatchedWork& watched) {
@@ -85,6 +103,7 @@ int CopyFile(const std::string& from, const std::string& to, bool removeSource,
     if (target.Old() && SameFile(*target.Old(), status)) {
         return EEXIST;
     }
+    const bool durable = removeSource || target.Old() != nullptr;
     const mode_t mode = status.st_mode & 0777;
     if (!target.Old() && fchmod(target.Fd(), mode) != 0) {
         // The disk keeps none.
@@ -93,13 +112,13 @@ int CopyFile(const std::string& from, const std::string& to, bool removeSource,
     int error = CopyContent(source.Get(), target, watched);
     if (error == 0) {
         TakeDateOver(target.Fd(), status);
-        error = target.Flush();
+        error = durable ? target.Flush() : CloseOfMany(target);
     }
     if (error == 0 && !watched.MayCommit()) {
         error = ECANCELED;
     }
     if (error == 0) {
-        error = target.Commit();
+        error = target.Commit(durable);
     }
     return error == 0 && removeSource ? RemoveCopied(from, status) : error;
 }
@@ -159,7 +178,7 @@ bool HoldsZero(TextView path) {
     return path.find(u'\0') != TextView::npos;
 }
 
-Outcome Transfer(platform::Files& files, TextView from, TextView to, bool removeSource,
+Outcome Transfer(PosixFiles& files, TextView from, TextView to, bool removeSource,
                  const platform::Report& report, bool threads, FileError& error) {
     const std::optional<std::string> source = files.Find(from);
     if (!source || to.empty() || HoldsZero(to)) {
@@ -173,12 +192,17 @@ Outcome Transfer(platform::Files& files, TextView from, TextView to, bool remove
             return Told(moved, error) ? Outcome::Done : Outcome::Failed;
         }
     }
+    struct stat folder {};
+    const bool known = stat(FolderOf(target).c_str(), &folder) == 0;
     int failure = 0;
     const Outcome outcome = RunWatched(
         [source = *source, target, removeSource](WatchedWork& watched) {
             return CopyFile(source, target, removeSource, watched);
         },
         report, threads, failure);
+    if (outcome == Outcome::Done && known) {
+        files.Added(target, folder.st_mtim);
+    }
     Told(outcome == Outcome::Failed ? failure : 0, error);
     return outcome;
 }

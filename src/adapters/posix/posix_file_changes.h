@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "adapters/posix/posix_files.h"
 #include "platform/file_changes.h"
 
 namespace posix_adapter {
@@ -19,7 +20,7 @@ class PosixFileChanges : public platform::FileChanges {
 public:
     /// Finds paths by `files`. `threads` false: everything on the caller's thread, with one report
     /// at its beginning.
-    PosixFileChanges(platform::Files& files, MoveToTrash trash, bool threads = true)
+    PosixFileChanges(PosixFiles& files, MoveToTrash trash, bool threads = true)
         : files_(files), trash_(std::move(trash)), threads_(threads) {}
 
     platform::Outcome Copy(TextView from, TextView to, const platform::Report& report,
@@ -32,7 +33,7 @@ public:
     bool CanWrite(TextView path) override;
 
 private:
-    platform::Files& files_;
+    PosixFiles& files_;
     MoveToTrash trash_;
     bool threads_;
 };

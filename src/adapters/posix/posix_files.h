@@ -29,6 +29,11 @@ public:
     bool BeginsWith(TextView path, std::string_view bytes) override;
     std::optional<platform::DateTime> LastWrite(TextView path) override;
 
+    /// As PathFinder::Added.
+    void Added(const std::string& nativePath, const timespec& before) {
+        finder_.Added(nativePath, before);
+    }
+
 private:
     PathFinder finder_;
 };

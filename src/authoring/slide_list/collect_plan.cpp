@@ -54,10 +54,22 @@ CollectPlan::CollectPlan(model::Application& app) : app_(app) {
     }
 }
 
+/// Its name on disk after the name by which its folder was met first.
+Text CollectPlan::KeyOf(const Text& path) {
+    const Text found = text::FromUtf8(app_.platform.files.Find(path).value_or(std::string()));
+    const Text folder = text::FolderPart(found);
+    const auto [known, isNew] = folderOf_.try_emplace(folder, folder);
+    if (isNew) {
+        const Text id = app_.platform.folders.Identity(text::WithoutSeparator(folder));
+        known->second = id.empty() ? folder : folderById_.try_emplace(id, folder).first->second;
+    }
+    return known->second + found.substr(folder.size());
+}
+
 CollectPlan::Source CollectPlan::Note(const Text& path, CollectedFile::Kind kind) {
     Source source{{}, path, app_.platform.files.Exists(path), kind};
     if (source.there) {
-        source.key = text::FromUtf8(app_.platform.files.Find(path).value_or(std::string()));
+        source.key = KeyOf(path);
         folders_.insert(text::FolderPart(source.key));
     } else {
         source.key = u"?" + text::Upper(path);  // no file's own

@@ -61,6 +61,7 @@ private:
     };
 
     Source Note(const Text& path, CollectedFile::Kind kind);
+    Text KeyOf(const Text& path);
     void LookAtMacro(Group& group, const Source& slide);
     void Need(const Text& path, CollectedFile::Kind kind);
     void Miss(const Text& path);
@@ -73,8 +74,9 @@ private:
     model::Application& app_;
     LinkedFiles linkedFiles_{app_};
     std::vector<Text> slides_;
-    std::map<Text, Text> keys_;   // by path: the file that it is
-    std::map<Text, Text> names_;  // by key
+    std::map<Text, Text> folderOf_, folderById_;  // one name for each folder, however it is spelt
+    std::map<Text, Text> keys_;                   // by path: the file that it is
+    std::map<Text, Text> names_;                  // by key
     std::map<Text, size_t> groupOf_;
     std::vector<Group> groups_;
     std::vector<Source> others_;

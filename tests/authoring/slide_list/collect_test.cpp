@@ -110,6 +110,25 @@ TEST_F(Collect, LinkedFilesStandBesideTheirPictureUnderItsNewName) {
     EXPECT_NE(LastBox().text.find(u"連動ファイル：10"), Text::npos);
 }
 
+TEST_F(Collect, AFolderThatIsSpeltInTwoWaysHoldsEachFileOnce) {
+    Slides({u"D:\\one\\a.jpg", u"D:\\one\\..\\two\\a.jpg", u"D:\\two\\a.jpg"});
+    for (const char16_t* const path :
+         {u"D:\\p\\x.png", u"D:\\one\\..\\p\\x.png", u"D:\\two\\s.wav"}) {
+        Put(path);
+    }
+    around.folders.links = {{u"D:\\one\\..\\p", u"D:\\p"}, {u"D:\\one\\..\\two", u"D:\\two"}};
+    around.PutText(u"D:\\one\\a.txt",
+                   u"PicPB0(0,\"..\\p\\x.png\")\r\nPicPB1(0,\"D:\\p\\x.png\")\r\n");
+    Run();
+    EXPECT_EQ(Names().size(), 5u) << "a.jpg, a_2.jpg, a.txt, x.png and the document";
+    EXPECT_EQ(text::DecodeFile(In(u"a.txt"), app.platform.codePage),
+              u"PicPB0(0,\"x.png\")\r\nPicPB1(0,\"x.png\")\r\n");
+    EXPECT_NE(LastBox().text.find(u"画像・動画：2\r\n"), Text::npos);
+    EXPECT_NE(LastBox().text.find(u"マクロのファイル：1\r\n"), Text::npos);
+    EXPECT_EQ(ReadBack(),
+              (std::vector<Text>{u"E:\\show\\a.jpg", u"E:\\show\\a_2.jpg", u"E:\\show\\a_2.jpg"}));
+}
+
 /// The text of one must not become the text of the other.
 TEST_F(Collect, PicturesOfOneNameAndDifferentKindsStayApart) {
     Slides({u"D:\\one\\a.jpg", u"D:\\two\\a.png", u"D:\\one\\a.bmp"});
@@ -332,6 +351,25 @@ TEST_F(Collect, AFailingCopyAsksAndIsToldAtTheEnd) {
     EXPECT_TRUE(
         LastBox().text.ends_with(u"\r\n\r\nコピーできなかったファイル：1\r\nD:\\one\\b.jpg"));
     EXPECT_NE(In(u"スライドショー.kvs"), "none");
+}
+
+TEST_F(Collect, ASourceThatVanishesIsToldAndTheRestGoesOn) {
+    Slides({u"D:\\one\\a.jpg", u"D:\\one\\b.jpg", u"D:\\one\\c.jpg"});
+    around.loop.onPump = [&] {
+        if (around.files.Get(u"E:\\show\\a.jpg")) {
+            around.files.Remove(u"D:\\one\\b.jpg");
+        }
+    };
+    around.dialogs.answers = {Answer::Yes};
+    Run();
+    ASSERT_EQ(around.dialogs.messages.size(), 2u);
+    EXPECT_EQ(around.dialogs.messages[0].text,
+              u"D:\\one\\b.jpg\r\nコピーできませんでした。\r\nファイルが見つかりません。"
+              u"\r\n継続しますか ?");
+    EXPECT_EQ(In(u"c.jpg"), "D:\\one\\c.jpg");
+    EXPECT_TRUE(
+        LastBox().text.ends_with(u"\r\n\r\nコピーできなかったファイル：1\r\nD:\\one\\b.jpg"));
+    EXPECT_EQ(ReadBack().size(), 3u);
 }
 
 TEST_F(Collect, OnNoAfterAFailureItSaysWhatIsThere) {

@@ -1,4 +1,6 @@
 // The search of a folder tree.
+#include <new>
+
 #include "model/windows/file_search.h"
 #include "slide_list_support.h"
 
@@ -146,6 +148,27 @@ TEST_F(TreeSearch, ItEndsInOrderWhenTheProgramDoes) {
     EXPECT_EQ(state.SlideSearchActive, 0);
     EXPECT_EQ(form3.Command8.Caption(), u"検索");
     EXPECT_EQ(form3.history.depth, 0);
+}
+
+TEST_F(TreeSearch, WithoutMemoryForMoreRowsItEndsAndKeepsThoseItHas) {
+    AtYield(7, [] { throw std::bad_alloc(); });
+    Search();
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].flags, platform::kPlain);
+    EXPECT_THAT(TakeMessages(),
+                ElementsAre(u"|ﾘｽﾄ ﾎﾞｯｸｽがいっぱいになりました。検索を中止します。"));
+    EXPECT_THAT(Rows(), ElementsAre(u"D:\\t\\empty\\deep\\6.png"));
+    EXPECT_EQ(form3.List2.ListCount(), 1);
+    EXPECT_EQ(state.SlideSearchActive, 0);
+    EXPECT_EQ(windows.Pointer(), 0);
+    EXPECT_EQ(form3.Command8.Caption(), u"検索");
+    EXPECT_FALSE(form3.Label1.Visible);
+    EXPECT_TRUE(form3.File1.Pattern().starts_with(u"*.png;*.psd"));
+    EXPECT_EQ(form3.history.depth, 0);
+    EXPECT_TRUE(document::UndoSlideRows(app));
+    EXPECT_THAT(Rows(), IsEmpty());
+    Search();
+    EXPECT_EQ(form3.List1.ListCount(), 6) << "the next one searches as ever";
 }
 
 TEST_F(TreeSearch, InsertsInFrontOfTheOneSelectedRow) {
