@@ -107,6 +107,15 @@ void LayRows(Application& app, std::vector<model::ListRow> rows) {
     }
 }
 
+bool HoldsRows(const EditedList& list, const std::vector<model::ListRow>& rows) {
+    if (list.rows.ListCount() != static_cast<int>(rows.size())) {
+        return false;
+    }
+    int row = 0;
+    return std::all_of(rows.begin(), rows.end(),
+                       [&](const model::ListRow& wanted) { return RowAt(list, row++) == wanted; });
+}
+
 bool GoBack(Application& app, bool (*back)(const EditedList& list)) {
     const Text path = app.state.DocumentPath;
     const bool done = back(SlideRows(app));
@@ -165,11 +174,19 @@ void CommitSlides(Application& app) {
 
 void RevertSlideRows(Application& app) {
     const EditedList list = SlideRows(app);
-    const UndoStep step(list);
     std::vector<model::ListRow> rows;
     for (int slide = 1; slide <= app.state.SlideList.Count(); ++slide) {
         rows.push_back(SlideRow(app.state.SlideList(slide)));
     }
+    if (HoldsRows(list, rows)) {
+        for (model::ListBox* box : {&list.rows, list.schedules}) {
+            box->SelectRows(0, box->ListCount(), false);
+            box->ListIndex = -1;
+            box->TopIndex = 0;
+        }
+        return;
+    }
+    const UndoStep step(list);
     ClearRows(list);
     AppendRows(list, std::move(rows));
 }

@@ -34,7 +34,8 @@ void KnowSavedDocument(Application& app);
 
 /// The slides become what the rows are; films without a row are gone.
 void CommitSlides(Application& app);
-/// The rows become what the slides are, with blank schedules.
+/// The rows become what the slides are, with blank schedules, and none is selected or current. No
+/// step where they were that already.
 void RevertSlideRows(Application& app);
 
 /// No rows and no slides, SlideListEnd 0: a new document. Nothing can be undone afterwards, unless

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "document/linked_names.h"
+#include "macro/macro.h"
 #include "model/sound_modes.h"
 #include "model/windows/slide_list.h"
 #include "text/paths.h"
@@ -77,16 +78,14 @@ bool IsThere(Application& app, int row, const Text& path, bool presumed) {
 
 unsigned Marks(Application& app, int row, const Text& path) {
     const bool missing = !IsThere(app, row, path, true);
-    const auto linked = [&](TextView extension) {
-        return IsThere(app, row, document::LinkedNameAsWritten(app.state, path, extension), false);
-    };
     const char16_t* own = model::SoundModeInForce(app.state).linked;
     unsigned marks = text::IsVideoKind(path) ? model::kMarkFilm : 0u;
     marks |= missing ? model::kMarkMissing : 0u;
     // In a folder of their own linked files go by the name on the disk, which is not there.
     if (!missing || app.state.LinkedFolderFlag == 0) {
-        marks |= linked(u"txt") ? model::kMarkText : 0u;
-        marks |= linked(own ? own : u"wav") ? model::kMarkSound : 0u;
+        const Text sound = document::LinkedNameAsWritten(app.state, path, own ? own : u"wav");
+        marks |= IsThere(app, row, macro::MacroFile(app, path), false) ? model::kMarkText : 0u;
+        marks |= IsThere(app, row, sound, false) ? model::kMarkSound : 0u;
     }
     return marks;
 }

@@ -89,6 +89,19 @@ TEST_F(Faces, AreMarkedForWhatLiesBesideThem) {
     EXPECT_EQ(MarksOf(3), unsigned{kMarkMissing | kMarkFilm});
 }
 
+/// A text's name loses four characters, a sound's three.
+TEST_F(Faces, ALongEndingHasTheLinkedFilesThatAShowWouldTake) {
+    around.files.Put(u"D:\\a.jpeg", "x");
+    around.files.Put(u"D:\\a.jtxt", "x");
+    Add(u"D:\\a.jpeg");
+    EXPECT_EQ(MarksOf(0), 0u);
+    around.files.Put(u"D:\\a..txt", "x");
+    around.files.Put(u"D:\\a.jwav", "x");
+    RefreshFaces(app);
+    MarksOf(0);
+    EXPECT_EQ(MarksOf(0), unsigned{kMarkText | kMarkSound});
+}
+
 TEST_F(Faces, MarkTheSoundOfTheModeInForce) {
     around.files.Put(u"D:\\a.jpg", "x");
     Add(u"D:\\a.jpg");

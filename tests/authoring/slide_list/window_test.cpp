@@ -173,6 +173,27 @@ TEST_F(SlideListWindow, CancelBringsTheShowsSlidesBackWithBlankSchedules) {
     EXPECT_EQ(state.SlideListWindowOpen, 0);
 }
 
+TEST_F(SlideListWindow, CancelIsAStepOnlyWhereItBringsSomethingBack) {
+    Fill({u"a.png", u"b.png"});
+    form3.List2.SetRow(0, model::BlankScheduleRow());
+    form3.List2.SetRow(1, model::BlankScheduleRow());
+    form3.Command1.Press();
+    form3.Show();
+    form3.List1.Choose({1});
+    form3.Command2.Press();
+    EXPECT_FALSE(form3.Undo.Enabled);
+    EXPECT_EQ(form3.List1.ListIndex, -1);
+    EXPECT_EQ(form3.List1.SelCount(), 0);
+    form3.Show();
+    form3.List2.SetRow(1, Schedule(u"2026/01/0212:30", u""));
+    form3.Command2.Press();
+    EXPECT_TRUE(form3.Undo.Enabled);
+    EXPECT_EQ(form3.List2.List(1), Text(30, u' '));
+    form3.Show();
+    form3.Undo.Press();
+    EXPECT_EQ(form3.List2.List(1), Schedule(u"2026/01/0212:30", u""));
+}
+
 TEST_F(SlideListWindow, NoShowStartsWhileItIsOpen) {
     EXPECT_EQ(state.SlideListWindowOpen, 1);
 }
