@@ -304,7 +304,8 @@ def gathered():
     """Slides of equal names with macros, and their pieces, in folders of their own; no document."""
     return {
         "gather/one/a.png": png(320, 240, (255, 0, 0)),
-        "gather/one/a.txt": macro('PicPB01(0,"../pieces/star.png")', 'PlayWav("../pieces/s.wav",0)'),
+        "gather/one/a.txt": macro('PicPB01(0,"../pieces/star.png")', 'PlayWav("../pieces/s.wav",0)',
+                                  'PlayWav("../two/../pieces/s.wav",0)'),
         "gather/two/a.png": png(320, 240, (0, 255, 0)),
         "gather/two/a.txt": macro('PicPBData(2,"../pieces/cut.dat")', 'PicPB02(0,"star.png")'),
         "gather/two/star.png": png(30, 20, (255, 255, 0)),

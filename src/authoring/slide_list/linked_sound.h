@@ -8,7 +8,8 @@ namespace authoring {
 /// Command18, Command19 and Command20.
 void AttachLinkedSound(Application& app);
 
-/// Opens the window that records the selected slide's sound.
+/// Opens the window that records the sound of List1's current slide: after a double click that one
+/// is not selected any more.
 void RecordLinkedSound(Application& app);
 
 enum class LinkedSound { Wav, Mp3 };

@@ -214,6 +214,8 @@ TEST_F(LinkedFiles, WhatADoubleClickAsksByTheFlags) {
     const Text record = u"効果音録音|C:\\s\\umi01.wav\r\nの画像連動効果音を録音しますか ?";
     form3.List1.DblClick();
     EXPECT_THAT(TakeMessages(), ElementsAre(record, notYet));
+    EXPECT_EQ(form3.List1.ListIndex, 0) << "the slide to record for, though it is not selected";
+    EXPECT_FALSE(form3.List1.Selected(0));
     dialogs.answers = {Answer::No};
     form3.List1.DblClick();
     EXPECT_THAT(TakeMessages(), ElementsAre(record));
