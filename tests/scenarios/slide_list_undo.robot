@@ -68,3 +68,14 @@ expect DocumentFileDate ""
 click Form3.Redo
 expect DocumentName five.kvs
 expect Form3.List1.ListCount 5
+
+# A file that is no document is refused: that is no step, and what could be done again still can.
+click Form3.Undo
+expect Form3.Redo.Enabled true
+choose a.png
+click Form3.Command6
+expect Form3.Redo.Enabled true
+expect Form3.List1.ListCount 4
+click Form3.Redo
+expect DocumentName five.kvs
+expect-trace message title=ファイルを開く text~a.png
