@@ -4,6 +4,7 @@
 #include "authoring/slide_list/linked_work.h"
 #include "document/state_files.h"
 #include "model/controls.h"
+#include "model/windows/cd_program.h"
 #include "model/windows/control_box.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/link_list.h"
@@ -15,6 +16,7 @@
 #include "model/windows/sound_windows.h"
 #include "picture/effect_context.h"
 #include "playback/run.h"
+#include "sound/cd.h"
 #include "sound/sound.h"
 
 namespace app {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "model/windows/main_window.h"
+#include "sound/cd.h"
 #include "text/numbers.h"
 
 namespace app {
@@ -13,7 +14,6 @@ namespace {
 
 constexpr TextView kBadSetting = u"設定が不適切です";
 constexpr int kMillisecondsPerSecond = 1000;
-constexpr int kFewestTracks = 2;
 
 // Effects by their place in the menus.
 constexpr int kHorizontalSlits = 6, kVerticalSlits = 7, kMosaic = 8, kAtRandom = 9, kInTurn = 10;
@@ -132,11 +132,9 @@ void AskEffectSpeedTrim(Application& app) {
 }
 
 void AskCdTrack(Application& app) {
-    const double tracks =
-        text::SafeNumber(app.platform.sound.MciSendString(u"status cdaudio number of tracks"));
-    if (tracks < kFewestTracks) {
-        app.platform.dialogs.Message(u"ＣＤが準備できていません。", platform::kExclamation,
-                                     u"ＣＤ再生");
+    const int tracks = sound::LookAtDisc(app, false).tracks;
+    if (tracks == 0) {
+        sound::SayNoDisc(app);
         return;
     }
     constexpr TextView kTitle = u"ＣＤ再生トラック";

@@ -1,5 +1,6 @@
 #include "app/sound_menu.h"
 
+#include "authoring/settings/cd_program.h"
 #include "authoring/shared/open_window.h"
 #include "model/sound_modes.h"
 #include "model/windows/declared_windows.h"
@@ -114,7 +115,7 @@ void FollowCdOrder(Application& app, int16_t orderBefore) {
         state.CdTrackSetting = u"1";
     }
     if (state.CdOrder == kProgrammeOrder) {
-        OpenWindow(app, app.windows.form14);
+        authoring::OpenCdProgram(app);
     } else if (orderBefore == kProgrammeOrder && state.CdProgramCount > 0) {
         app.platform.dialogs.Message(u"ＣＤプログラム選択の曲順リストは消去されます。",
                                      platform::kPlain, u"曲順リスト消去");

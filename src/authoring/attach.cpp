@@ -1,6 +1,7 @@
 #include "authoring/attach.h"
 
 #include "authoring/batch_conversion.h"
+#include "authoring/settings/cd_program.h"
 #include "authoring/settings/linked_folder.h"
 #include "authoring/settings/text_display.h"
 #include "authoring/shared/file_search.h"
@@ -11,6 +12,7 @@ namespace authoring {
 void AttachWindows(model::Application& app) {
     AttachLinkedFolder(app);
     AttachTextDisplay(app);
+    AttachCdProgram(app);
     AttachBatchConversion(app);
     AttachFileSearch(app);
     AttachSlideList(app);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/windows/batch_conversion.h"
+#include "model/windows/cd_program.h"
 #include "model/windows/control_box.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/file_search.h"

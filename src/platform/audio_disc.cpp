@@ -2,10 +2,27 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <string>
 
 #include "platform/sound_command.h"
 
 namespace platform {
+
+namespace {
+
+Text TwoDigits(int number) {
+    char words[16];
+    std::snprintf(words, sizeof words, "%02d", number);
+    return text::FromUtf8(words);
+}
+
+Text MinutesText(int sectors) {
+    const int seconds = sectors / kSectorsPerSecond;
+    return TwoDigits(seconds / 60) + u':' + TwoDigits(seconds % 60) + u':' +
+           TwoDigits(sectors % kSectorsPerSecond);
+}
+
+}  // namespace
 
 int TrackTable::TrackAt(int sector) const {
     int track = 0;
@@ -45,17 +62,30 @@ Text TrackTable::PositionText(int sector, bool byTracks) const {
     if (byTracks) {
         sector -= tracks_[static_cast<size_t>(track - 1)].firstSector;
     }
-    sector = std::max(sector, 0);
-    const int minutes = sector / kSectorsPerSecond / 60;
-    const int seconds = sector / kSectorsPerSecond % 60;
-    const int frames = sector % kSectorsPerSecond;
-    char words[32];
-    if (byTracks) {
-        std::snprintf(words, sizeof words, "%02d:%02d:%02d:%02d", track, minutes, seconds, frames);
-    } else {
-        std::snprintf(words, sizeof words, "%02d:%02d:%02d", minutes, seconds, frames);
+    return (byTracks ? TwoDigits(track) + u':' : Text()) + MinutesText(std::max(sector, 0));
+}
+
+Text TrackTable::LengthText(int track) const {
+    if (track < 1 || track > Count()) {
+        return {};
     }
-    return text::FromUtf8(words);
+    const int sectors = tracks_[static_cast<size_t>(track - 1)].sectors;
+    return MinutesText(sectors);
+}
+
+Text TrackTable::Status(TextView what, int sector, bool byTracks) const {
+    constexpr TextView kLength = u"length track ";
+    if (what == u"number of tracks") {
+        return text::FromUtf8(std::to_string(Count()));
+    }
+    if (what == u"current track") {
+        return text::FromUtf8(std::to_string(TrackAt(sector)));
+    }
+    if (what == u"position") {
+        return PositionText(sector, byTracks);
+    }
+    return what.starts_with(kLength) ? LengthText(WholeNumber(what.substr(kLength.size()), 0))
+                                     : Text();
 }
 
 std::optional<SectorRange> TrackTable::Range(TextView range, bool byTracks) const {

@@ -39,6 +39,13 @@ public:
     /// "tt:mm:ss:ff" counted within the track with `byTracks`, else "mm:ss:ff" on the disc.
     Text PositionText(int sector, bool byTracks) const;
 
+    /// Length of the track, a number from 1: "mm:ss:ff". Empty for one that is not there.
+    Text LengthText(int track) const;
+
+    /// What "status cdaudio WHAT" answers of a disc whose head stands on the sector: "number of
+    /// tracks", "current track", "position", "length track N"; else the empty text.
+    Text Status(TextView what, int sector, bool byTracks) const;
+
     /// What "play cdaudio from RANGE" plays, RANGE being "PLACE" or "PLACE to PLACE". A place is
     /// "tt[:mm[:ss[:ff]]]" within a track with `byTracks`, else "mm[:ss[:ff]]" on the disc. Nullopt
     /// where one is none of that, lies outside of the disc or before the beginning.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "document/interval.h"
 #include "model/controls.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_screen.h"
@@ -70,13 +71,17 @@ void Begin(Application& app, const CauseRow& row) {
         app.state.ScheduleSkipped = 0;
     }
     if (row.sound == ShowSound::BeforeStep) {
-        StartShowSound(app);
+        StartShowSound(app, row.byPerson);
     }
 }
 
 void GoOn(Application& app, const CauseRow& row) {
     if (row.sound == ShowSound::AfterStep) {
-        StartShowSound(app);
+        StartShowSound(app, row.byPerson);
+    }
+    if (app.windows.form1.Timer1.Interval < static_cast<int>(document::IntervalMs(app.state))) {
+        // The next slide follows at once: in so short a time no disc is seen to move.
+        app.state.LastCdTrackText.clear();
     }
     if (row.advances) {
         app.state.SlideIndex = static_cast<int16_t>(app.state.SlideIndex + 1);
@@ -134,7 +139,7 @@ void StartByTick(Application& app, bool fromFirst) {
     model::ShowState& state = app.state;
     SetButtons(app, Buttons::Running);
     SkipFirstSyncWait(app);
-    StartShowSound(app);
+    StartShowSound(app, true);
     SetSlideInterval(app);
     if (fromFirst) {
         state.SlideIndex = 1;  // not before the sound, which would give way to a film there

@@ -36,6 +36,7 @@ Loading LoadEntry(Application& app, int entry) {
     // be started twice.
     state.RestartSoundFlag = 0;
     state.RestartSoundMacro = 0;
+    state.CdProgramPosition = 0;  // its program is the document's own, too
     document::CommitSlides(app);
     state.LinkIndex = static_cast<int16_t>(entry + 1);
     if (state.SlideListEnd <= 1) {

@@ -14,6 +14,7 @@
 #include "picture/load.h"
 #include "playback/prepare.h"
 #include "playback/schedule.h"
+#include "sound/cd.h"
 #include "sound/sound.h"
 
 namespace playback {

@@ -190,6 +190,9 @@ void TraceSlide(Application& app) {
 void ShowPicture(Application& app) {
     model::ShowState& state = app.state;
     PollCd(app);
+    if (model::StepOutlived(state) || state.StopRequest == 1 || state.ShowAbort == 1) {
+        return;  // no picture comes up to go at once
+    }
     // The load mode is only carried: every step puts it back before the load.
     state.LoadMode = 0;
     app.windows.form1.mnuYOMI.Check(0);

@@ -3,6 +3,8 @@
 #include "document/linked_names.h"
 #include "model/sound_modes.h"
 #include "model/windows/main_window.h"
+#include "sound/answer.h"
+#include "sound/cd.h"
 #include "sound/sound.h"
 #include "sound/volume.h"
 #include "text/paths.h"
@@ -151,12 +153,14 @@ void PollCd(Application& app) {
     if (state.CdPaused == 0 && RunsForward(app)) {
         const Text position =
             text::Left(app.platform.sound.MciSendString(u"status cdaudio position"), 8);
+        bool stuck = false;
         if (position == state.LastCdTrackText) {
+            stuck = !position.empty() && sound::Reports(app, u"status cdaudio mode", u"playing");
             app.platform.sound.MciSendString(u"stop cdaudio");
         }
         state.LastCdTrackText = position;
         if (sound::Reports(app, u"status cdaudio mode", u"stopped")) {
-            sound::StartCd(app);
+            sound::StartCd(app, stuck ? sound::CdStart::TrackStuck : sound::CdStart::TrackEnded);
             state.RestartSoundFlag = 0;
         }
     }
@@ -213,8 +217,8 @@ void SkipFirstSyncWait(Application& app) {
     }
 }
 
-void StartShowSound(Application& app) {
-    sound::StartCd(app);
+void StartShowSound(Application& app, bool byPerson) {
+    sound::StartCd(app, byPerson ? sound::CdStart::ByPerson : sound::CdStart::InShow);
     if (!model::PlaysPerPicture(app.state)) {
         sound::StartSound(app);
     }

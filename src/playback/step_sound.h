@@ -29,7 +29,9 @@ bool FadeBeforeLinkedMedia(Application& app, bool isVideo);
 /// Sound that goes with a video.
 void StartSoundBesideVideo(Application& app);
 
-/// Starts the CD again where it is the mode and has come to its end.
+/// Starts the next track of the CD where that is the mode and the last one has ended, and the same
+/// one again where the disc has not moved since the last slide. The end of a program may set
+/// ShowAbort. May wait for the drive, with the loop pumping.
 void PollCd(Application& app);
 
 /// Starts the background piece again where it has ended.
@@ -41,7 +43,7 @@ void StartLinkedSounds(Application& app);
 /// The first step of a show that starts waits for no sound: call this before it.
 void SkipFirstSyncWait(Application& app);
 
-/// CD and background sound of a show that starts or goes on.
-void StartShowSound(Application& app);
+/// CD and background sound of a show that starts or goes on; `byPerson`: see sound::CdStart.
+void StartShowSound(Application& app, bool byPerson);
 
 }  // namespace playback

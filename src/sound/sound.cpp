@@ -10,6 +10,8 @@
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_windows.h"
 #include "model/windows/video_window.h"
+#include "sound/answer.h"
+#include "sound/cd.h"
 #include "text/numbers.h"
 
 namespace sound {
@@ -221,26 +223,12 @@ void SetSoundMode(Application& app, int mode) {
     state.SoundMode = static_cast<int16_t>(mode);
     app.windows.form1.mnuKOU.Check(mode);
     document::FollowMenuVisibility(app);
-    if (mode == model::kCdSound &&
-        !app.platform.sound.MciSendString(u"status cdaudio mode").starts_with(u"playing")) {
-        StartCd(app);
+    if (mode == model::kCdSound && !Reports(app, u"status cdaudio mode", u"playing")) {
+        StartCd(app, CdStart::InShow);
     }
     if (state.MacroEndShow != 1 && !model::PlaysPerPicture(state)) {
         StartSound(app);
     }
-}
-
-void StartCd(Application&) {}
-
-void StopCd(Application& app) {
-    model::ShowState& state = app.state;
-    if (state.SoundMode == model::kCdSound) {
-        app.platform.sound.MciSendString(u"stop cdaudio");
-        app.platform.sound.MciSendString(u"close cdaudio");
-    }
-    state.CdPaused = 0;
-    state.CdPlaying = 0;
-    state.CdStopPending = 0;
 }
 
 }  // namespace sound

@@ -25,9 +25,4 @@ void StopSound(Application& app);
 /// background piece of the new mode. Nothing happens for the mode in force and beyond the range.
 void SetSoundMode(Application& app, int mode);
 
-/// Starts the audio CD in mode 2. Not built yet: does nothing.
-void StartCd(Application& app);
-/// Stops the audio CD in mode 2; clears its flags in every mode.
-void StopCd(Application& app);
-
 }  // namespace sound

@@ -1,6 +1,7 @@
 #include "sound/volume.h"
 
 #include "model/sound_modes.h"
+#include "sound/answer.h"
 #include "sound/sound.h"
 #include "text/numbers.h"
 
@@ -44,10 +45,6 @@ bool FadeOut(Application& app, int step) {
     }
     StopSound(app);
     return true;
-}
-
-bool Reports(Application& app, TextView question, TextView answer) {
-    return text::Left(app.platform.sound.MciSendString(question), answer.size()) == answer;
 }
 
 }  // namespace sound

@@ -1,4 +1,4 @@
-// Volume of what plays, and what the device says of itself.
+// Volume of what plays.
 #pragma once
 
 #include "model/application.h"
@@ -13,8 +13,5 @@ void SendVolume(Application& app, int volume);
 /// plays, and stops all sound then. False when the show was stopped or the full screen closed
 /// meanwhile: what plays on has the volume that macros set.
 bool FadeOut(Application& app, int step);
-
-/// True when the device's answer to the question begins with `answer`.
-bool Reports(Application& app, TextView question, TextView answer);
 
 }  // namespace sound

@@ -3,6 +3,7 @@
 
 #include "menu_support.h"
 #include "model/menu.h"
+#include "model/windows/cd_program.h"
 #include "model/windows/control_box.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/link_list.h"
@@ -134,7 +135,10 @@ TEST(RadioMenus, EveryEntrySetsItsFieldMovesItsCheckAndSaysItsNote) {
         const int count = static_cast<int>(row.captions.size());
         for (int chosen = count - 1; chosen >= 0; --chosen) {
             Menus menus;
-            menus.app.windows.form14.HasView = true;  // of the programme order
+            model::Form14& form14 = menus.app.windows.form14;  // of the programme order
+            form14.HasView = true;
+            menus.sound.cd.Insert({60, 60});
+            menus.loop.After(100, [&] { form14.Unload(); });
             model::MenuArray& array = menus.form1.*row.menu;
             SCOPED_TRACE(array.Name() + " " + std::to_string(chosen));
             ASSERT_EQ(array.Count(), count);

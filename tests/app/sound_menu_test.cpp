@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "menu_support.h"
+#include "model/windows/cd_program.h"
 #include "model/windows/declared_windows.h"
 #include "model/windows/main_window.h"
 #include "model/windows/sound_windows.h"
@@ -213,11 +214,18 @@ TEST(CdOrder, WithoutAProgrammeNothingIsSaid) {
 
 TEST(CdOrder, ChoosingTheProgrammeOpensItsWindowAndKeepsIt) {
     Menus menus;
-    menus.app.windows.form14.HasView = true;
+    model::Form14& form14 = menus.app.windows.form14;
+    form14.HasView = true;
+    menus.sound.cd.Insert({60, 60});
     menus.state.CdProgramCount = 1;
     menus.state.CdOrder = 2;
+    bool shown = false;
+    menus.loop.After(100, [&] {
+        shown = form14.Visible;
+        form14.Unload();
+    });
     menus.form1.mnuCDRND(2).Click();
-    EXPECT_TRUE(menus.app.windows.form14.Visible);
+    EXPECT_TRUE(shown);
     EXPECT_EQ(menus.state.CdProgramCount, 1);
     EXPECT_FALSE(menus.form1.mnuCD.Visible);
     EXPECT_FALSE(menus.form1.mnuCDRP.Visible);

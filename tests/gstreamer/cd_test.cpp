@@ -82,6 +82,50 @@ TEST(GstCd, ADiscThatIsPutInLaterIsFoundByTheNextOpening) {
     EXPECT_EQ(Ask(studio, "ready"), "true");
 }
 
+/// Can be read up to a sector, as if it was taken out then.
+class LostDisc : public MadeUpDisc {
+public:
+    LostDisc(std::vector<DiscTrack> of, int readable)
+        : MadeUpDisc(std::move(of)), readable_(readable) {}
+    bool Read(int sector, int count, int16_t* frames) override {
+        return sector < readable_ && MadeUpDisc::Read(sector, count, frames);
+    }
+
+private:
+    int readable_;
+};
+
+TEST(GstCd, ADiscThatWasTakenOutStopsAndIsLookedForAgain) {
+    std::atomic<int> asked{0};
+    Studio studio({"testsink"}, [&](const std::string&) -> std::unique_ptr<Disc> {
+        ++asked;
+        const std::vector<DiscTrack> tracks{{0, 400, true}, {400, 400, true}};
+        return asked == 1 ? std::make_unique<LostDisc>(tracks, 32) : nullptr;
+    });
+    studio.Send("open cdaudio");
+    EXPECT_EQ(Ask(studio, "ready"), "true");
+    studio.Send("set cdaudio time format tmsf");
+    studio.Send("play cdaudio from 1 to 2");
+    ASSERT_TRUE(studio.Stops("cdaudio"));
+    EXPECT_EQ(Heard()[2], 32 + 5 * 16) << "silence, until it is given up";
+    studio.Send("open cdaudio");
+    EXPECT_EQ(Ask(studio, "ready"), "false");
+    EXPECT_EQ(asked, 2);
+}
+
+TEST(GstCd, ADiscThatIsThereIsAskedForOnce) {
+    std::atomic<int> asked{0};
+    Studio studio({}, [&](const std::string&) {
+        ++asked;
+        return std::make_unique<MadeUpDisc>(kThreeTracks);
+    });
+    for (int i = 0; i < 3; ++i) {
+        studio.Send("open cdaudio");
+        EXPECT_EQ(Ask(studio, "length track 2"), "00:00:30");
+    }
+    EXPECT_EQ(asked, 1);
+}
+
 TEST(GstCd, TracksArePlayedAndTheDeviceStopsAfterThem) {
     struct Row {
         const char* range;

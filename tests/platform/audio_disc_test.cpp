@@ -29,6 +29,29 @@ TEST(TrackTable, TellsPlacesByTracksAndOnTheDisc) {
     EXPECT_EQ(disc.PositionText(150 + 61 * 75 + 74, false), u"01:03:74");
 }
 
+TEST(TrackTable, AnswersWhatADriveIsAsked) {
+    const TrackTable disc = ThreeTracks();
+    struct Row {
+        const char16_t* question;
+        const char16_t* answer;
+    };
+    for (const Row& row : {Row{u"number of tracks", u"3"},
+                           {u"current track", u"2"},
+                           {u"position", u"02:00:02:01"},
+                           {u"length track 1", u"00:02:00"},
+                           {u"length track 2", u"01:30:00"},
+                           {u"length track 3", u"00:01:00"},
+                           {u"length track 0", u""},
+                           {u"length track 4", u""},
+                           {u"length track x", u""},
+                           {u"length", u""},
+                           {u"", u""}}) {
+        EXPECT_EQ(disc.Status(row.question, 150 + 151, true), row.answer)
+            << text::ToUtf8(row.question);
+    }
+    EXPECT_EQ(disc.Status(u"position", 301, false), u"00:04:01");
+}
+
 TEST(TrackTable, ReadsWhatIsToBePlayed) {
     struct Row {
         const char16_t* range;

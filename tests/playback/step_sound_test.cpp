@@ -170,6 +170,14 @@ TEST(StepCd, ADiscThatStandsIsStopped) {
     CdShow show;
     show.state.LastCdTrackText = u"01:02:03";
     show.Step(2);
+    EXPECT_EQ(show.sound.commands, (Texts{u"status cdaudio position", u"status cdaudio mode",
+                                          u"stop cdaudio", u"status cdaudio mode"}));
+}
+
+TEST(StepCd, NothingThatStandsIsStoppedWithoutAQuestion) {
+    CdShow show;
+    show.sound.answer = {};  // an empty drive
+    show.Step(2);
     EXPECT_EQ(show.sound.commands,
               (Texts{u"status cdaudio position", u"stop cdaudio", u"status cdaudio mode"}));
 }

@@ -26,6 +26,7 @@
 #include "model/controls.h"
 #include "model/menu.h"
 #include "model/picture_controls.h"
+#include "model/windows/cd_program.h"
 #include "model/windows/control_box.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
@@ -174,6 +175,33 @@ TEST_F(Views, EveryControlHasAWidgetThatFollowsIt) {
     }
     // 63 slots each, 17 buttons and 3 more in the main window; 7 and 3 in the full-screen one.
     EXPECT_GE(walked, 63 + 63 + 16 + 3 + 7 + 3 + 5);
+}
+
+TEST_F(Views, ElementsOfAnArrayStandInLinesInTheirOrder) {
+    model::Form14& form14 = windows.form14;
+    for (int track = 13; track <= 99; ++track) {
+        form14.Command3(track).Visible = false;
+    }
+    form14.Command3(7).Caption = Text(u"7");
+    form14.Command3(7).Detail = Text(u"4:05");
+    form14.Show();
+    QApplication::processEvents();
+    const QPoint first = WidgetOf(form14.Command3(1))->pos();
+    const QPoint fifth = WidgetOf(form14.Command3(5))->pos();
+    const QPoint sixth = WidgetOf(form14.Command3(6))->pos();
+    EXPECT_EQ(first.y(), fifth.y());
+    EXPECT_LT(first.x(), fifth.x());
+    EXPECT_EQ(sixth.x(), first.x());
+    EXPECT_GT(sixth.y(), first.y());
+    EXPECT_FALSE(WidgetOf(form14.Command3(13))->isVisible());
+    auto* button = qobject_cast<QAbstractButton*>(WidgetOf(form14.Command3(7)));
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->text(), "7\n4:05");
+    int pressed = 0;
+    form14.Command3(7).Click = [&] { ++pressed; };
+    ClickAt(*button);
+    EXPECT_EQ(pressed, 1);
+    EXPECT_EQ(WidgetOf(form14.Command3(1))->nextInFocusChain(), WidgetOf(form14.Command3(2)));
 }
 
 TEST_F(Views, ControlsThatAreNeverShownGetNoWidget) {

@@ -11,6 +11,10 @@ Documents (3 s a slide, no effects, no sound, main window, unless said):
   random.kvs    a b c d e in random order
   random_films.kvs  clip.avi a b in random order
   one.kvs       a alone
+  cd.kvs        a b c, repeated, with an audio CD
+  cd_full.kvs   a b in the full screen, with an audio CD
+  cd_program.kvs a b c d e in the full screen, with tracks 2 and 1 of a CD, and ends with them
+  cd.kvl        cd_program.kvs, then cd_full.kvs
   schedule.kvs  a always; b until 2020; c from 2030; d 2020 to 2030
   night.kvs     a always; b from 00:00 to 06:00 of every day; c from 2026/01/02; from the top again
   outdated.kvs  a b c, all until 2020; from the top again
@@ -169,7 +173,7 @@ def mp4(milliseconds, width=0, height=0, turned=False):
 
 def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_full=1,
                   effects=(11, 12), sound=7, wav_file="", midi_file="", mp3_file="", sync=0,
-                  sounds=(), over_mp3=0, over_list=0, overlay=0):
+                  sounds=(), over_mp3=0, over_list=0, overlay=0, cd_order=0, cd_program=(), cd_stop=0):
     """Lines of a document in the newest form; numbers with their blanks, strings as they stand."""
     def number(value):
         return (f" {value}" if value >= 0 else str(value)) + " "
@@ -179,10 +183,12 @@ def lines_of_show(slides, rows=None, repeat=1, random=1, interval=3000, always_f
               number(7 if sound == 8 else sound), "*.wav", wav_file,
               number(effects[0]), number(-30), number(effects[1]), number(-30), number(10), number(10), number(1),
               "1", number(20), number(20), number(0), midi_file, number(sync), number(0), number(random),
-              number(0), number(0), "", number(len(slides))]
-    # Overlay and its size, no programme, origin, CD 1 0, background, position; no sound list; MIDI, MP3, its
-    # mode, always full screen (0 is on), speed, load mode, two linked WAV options.
-    after = ["480", *map(number, (overlay, 0, 0, 0, 1, 0, 0, 0, 1 if sounds else 0)),
+              number(cd_order), number(0), "", number(len(slides))]
+    # Overlay and its size, the CD's programme, origin, no linked WAV over the CD, the end of the programme,
+    # background, position; the sound list; MIDI, MP3, its mode, always full screen (0 is on), speed, load
+    # mode, two linked WAV options.
+    after = ["480", *map(number, (overlay, 0, len(cd_program))), *cd_program,
+             *map(number, (0, 1, cd_stop, 0, 0, 1 if sounds else 0)),
              *([number(len(sounds)), *sounds] if sounds else []), number(0), mp3_file,
              *map(number, (1 if sound == 8 else 0, always_full, 0, 0, over_mp3, over_list))]
     return before + list(slides) + after + ["-" + row for row in rows]
@@ -343,6 +349,11 @@ def main():
     files["random_films.kvs"] = document(lines_of_show(
         ["clip.avi", "a.png", "b.png"], repeat=0, random=0))
     files["one.kvs"] = document(lines_of_show(five[:1]))
+    files["cd.kvs"] = document(lines_of_show(five[:3], repeat=0, sound=2))
+    files["cd_full.kvs"] = document(lines_of_show(five[:2], sound=2, always_full=0))
+    files["cd_program.kvs"] = document(lines_of_show(
+        five, sound=2, always_full=0, cd_order=2, cd_program=("2", "1"), cd_stop=1))
+    files["cd.kvl"] = document(["1vue3167", "cd.kvl", " 2 ", "cd_program.kvs", "cd_full.kvs"])
     files["schedule.kvs"] = document(lines_of_show(five[:4], [
         BLANK_ROW, row("2010/01/01", "00:00", "2020/01/01", "00:00"),
         row("2030/01/01", "00:00", "2031/01/01", "00:00"),

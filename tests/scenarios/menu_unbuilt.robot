@@ -12,9 +12,6 @@ expect SoundMode 3
 expect SoundMode 4
 @1100 menu mnuKOU 8
 expect SoundMode 8
-menu mnuKOU 2
-@1200 menu mnuCDRND 2
-expect CdOrder 2
 expect Form1.Command10.Enabled true
 expect Form1.Command11.Enabled true
 expect Form1.mnuWAVLIST.Enabled true
@@ -33,5 +30,4 @@ expect-trace message t=800 title="" text=この版にはまだありません。
 expect-trace message t=900 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=1000 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=1100 title="" text=この版にはまだありません。 flags=0
-expect-trace message t=1200 title="" text=この版にはまだありません。 flags=0
 expect-no act

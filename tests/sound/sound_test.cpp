@@ -387,17 +387,6 @@ TEST(StopSound, ClosesTheVideoWindow) {
     EXPECT_EQ(player.video.path, u"");
 }
 
-TEST(StopCd, SpeaksToTheDriveInItsModeOnly) {
-    for (const int16_t mode : {2, 3}) {
-        Rig player(mode);
-        player.state.CdPaused = player.state.CdPlaying = player.state.CdStopPending = 1;
-        sound::StopCd(player.app);
-        EXPECT_EQ(player.sound.commands,
-                  mode == 2 ? (Texts{u"stop cdaudio", u"close cdaudio"}) : Texts());
-        EXPECT_EQ(player.state.CdPaused + player.state.CdPlaying + player.state.CdStopPending, 0);
-    }
-}
-
 TEST(SetSoundMode, MovesTheMenusAndStartsBackgroundPieces) {
     struct Setting {
         int mode;
@@ -406,7 +395,7 @@ TEST(SetSoundMode, MovesTheMenusAndStartsBackgroundPieces) {
     };
     for (const Setting& setting : {Setting{0, false, true, true, 0},
                                    {1, false, true, true, 0},
-                                   {2, true, false, false, 1},  // asks the drive
+                                   {2, true, false, false, 3},  // asks the drive, opens it, ready?
                                    {3, false, false, false, 3},
                                    {4, false, true, true, 2},
                                    {5, false, false, true, 0},

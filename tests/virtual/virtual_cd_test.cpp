@@ -21,8 +21,8 @@ struct Drive {
     Text Ask(const Text& what) { return sound.MciSendString(u"status cdaudio " + what); }
 };
 
-constexpr const char16_t* kQuestions[] = {u"ready", u"mode", u"position", u"number of tracks",
-                                          u"current track"};
+constexpr const char16_t* kQuestions[] = {
+    u"ready", u"mode", u"position", u"number of tracks", u"current track", u"length track 1"};
 
 TEST(VirtualCd, AClosedDeviceAnswersNothing) {
     Drive drive;

@@ -1,6 +1,7 @@
 #include "adapters/gstreamer/cd_audio.h"
 
 #include <algorithm>
+#include <atomic>
 #include <mutex>
 #include <optional>
 #include <utility>
@@ -27,8 +28,10 @@ struct Span {
 /// Sectors of a disc, one span after the other.
 class DiscSource : public PcmSource {
 public:
-    DiscSource(std::shared_ptr<Disc> disc, std::vector<Span> spans)
-        : disc_(std::move(disc)), spans_(std::move(spans)) {
+    /// `lost` becomes true where the disc is given up.
+    DiscSource(std::shared_ptr<Disc> disc, std::vector<Span> spans,
+               std::shared_ptr<std::atomic<bool>> lost)
+        : disc_(std::move(disc)), spans_(std::move(spans)), lost_(std::move(lost)) {
         rate = kDiscRate;
         channels = 2;
     }
@@ -64,7 +67,11 @@ private:
             ++span_;
             done_ = 0;
         }
-        if (span_ >= spans_.size() || unreadable_ >= kUnreadableInARow) {
+        if (unreadable_ >= kUnreadableInARow) {
+            *lost_ = true;
+            return false;
+        }
+        if (span_ >= spans_.size()) {
             return false;
         }
         const int count = std::min(kSectorsAtOnce, spans_[span_].sectors - done_);
@@ -82,6 +89,7 @@ private:
 
     std::shared_ptr<Disc> disc_;
     std::vector<Span> spans_;
+    std::shared_ptr<std::atomic<bool>> lost_;
     size_t span_ = 0;
     int done_ = 0;  // sectors of the span that were read
     int unreadable_ = 0;
@@ -96,6 +104,7 @@ struct CdAudio::Shared {
     bool known = false;  // the drive has answered
     platform::TrackTable tracks;
     std::shared_ptr<Disc> disc;
+    std::atomic<bool> lost{false};  // it could not be read any more
     Worker worker;
 };
 
@@ -137,15 +146,16 @@ Text CdAudio::Send(const platform::SoundCommand& command) {
 void CdAudio::Open() {
     if (shared_) {
         const std::lock_guard lock(shared_->mutex);
-        if (!shared_->known || (shared_->disc && shared_->tracks.Count() > 0)) {
+        if (!shared_->known || (shared_->disc && shared_->tracks.Count() > 0 && !shared_->lost)) {
             return;
         }
     }
-    // Also where it is open without a disc: one may have been put in.
+    // Also where it is open without a disc, or lost it: one may have been put in.
+    const bool again = shared_ != nullptr;
     Close();
     shared_ = std::make_shared<Shared>();
     byTracks_ = false;
-    volume_ = 1;
+    volume_ = again ? volume_ : 1;
     const bool asked = shared_->worker.Post([shared = shared_, open = openDisc_, name = device_] {
         std::shared_ptr<Disc> disc = open ? open(name) : nullptr;
         const std::lock_guard lock(shared->mutex);
@@ -216,8 +226,11 @@ void CdAudio::Play(TextView range) {
     media.wantsPosition = true;
     media.open = [shared = shared_, spans]() -> std::unique_ptr<PcmSource> {
         const std::lock_guard lock(shared->mutex);
-        return shared->disc && !spans.empty() ? std::make_unique<DiscSource>(shared->disc, spans)
-                                              : nullptr;
+        if (!shared->disc || spans.empty()) {
+            return nullptr;
+        }
+        return std::make_unique<DiscSource>(
+            shared->disc, spans, std::shared_ptr<std::atomic<bool>>(shared, &shared->lost));
     };
     startSector_ = spans.empty() ? asked->start : spans.front().sector;
     player_ = std::make_unique<Player>(std::move(media), output_);
@@ -241,16 +254,7 @@ Text CdAudio::Status(TextView what) {
     if (what == u"mode") {
         return !disc ? u"not ready" : player_ && player_->Playing() ? u"playing" : u"stopped";
     }
-    if (!disc) {
-        return {};
-    }
-    if (what == u"number of tracks") {
-        return text::FromUtf8(std::to_string(shared_->tracks.Count()));
-    }
-    if (what == u"current track") {
-        return text::FromUtf8(std::to_string(shared_->tracks.TrackAt(Sector())));
-    }
-    return what == u"position" ? shared_->tracks.PositionText(Sector(), byTracks_) : Text();
+    return disc ? shared_->tracks.Status(what, Sector(), byTracks_) : Text();
 }
 
 }  // namespace gst_adapter

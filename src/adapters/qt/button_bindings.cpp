@@ -22,9 +22,18 @@ ButtonBinding::~ButtonBinding() {
     button_.SetFocus = nullptr;
 }
 
+/// What some buttons say below their caption.
+QString ButtonBinding::Detail() const {
+    const model::PropertyBase* detail = button_.FindProperty("Detail");
+    const model::Value value = detail ? detail->Read() : model::Value(Text());
+    const Text* words = std::get_if<Text>(&value);
+    return words ? ToQt(*words) : QString();
+}
+
 void ButtonBinding::SyncOwn() {
     const QString caption = ToQt(button_.Caption());
-    face_.setText(caption);
+    const QString detail = Detail();
+    face_.setText(detail.isEmpty() ? caption : caption + '\n' + detail);
     if (const double enlargement = Enlargement(); enlargement > 0) {
         QFont font = QApplication::font(&face_);
         font.setPointSizeF(QFontInfo(font).pointSizeF() * enlargement);

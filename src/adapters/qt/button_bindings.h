@@ -19,6 +19,8 @@ protected:
     void SyncOwn() override;
 
 private:
+    QString Detail() const;
+
     model::Button& button_;
     QAbstractButton& face_;
     bool named_;  // by the form; else it is called by its caption

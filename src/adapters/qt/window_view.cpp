@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -19,6 +20,16 @@
 #include "model/controls.h"
 
 namespace qt_adapter {
+
+namespace {
+
+/// "Command3" of "Command3(7)"; empty for a control that is no element.
+QString NameOfArray(const std::string& name) {
+    const size_t index = name.find('(');
+    return index == std::string::npos ? QString() : QString::fromStdString(name.substr(0, index));
+}
+
+}  // namespace
 
 WindowView::WindowView(model::Window& window, FormLoader& loader, Gate& gate,
                        std::function<WindowView*(const QString&)> viewOf)
@@ -133,6 +144,7 @@ void WindowView::BindControls() {
             host_ = canvas;
         }
     }
+    const auto boxes = BoxesOfElements();
     for (model::Control* each : window_.Controls()) {
         if (!HasWidget(each->Kind()) || unseen.contains(QString::fromStdString(each->Name()))) {
             continue;
@@ -140,6 +152,8 @@ void WindowView::BindControls() {
         auto& control = static_cast<model::VisibleControl&>(*each);
         if (auto* widget = root_->findChild<QWidget*>(WidgetName(control.Name()))) {
             Bind(control, *widget, nullptr);
+        } else if (QWidget* box = boxes.value(NameOfArray(control.Name()))) {
+            MakeElement(control, *box);
         } else if (host_ && control.Visible) {
             MakeOverlay(control);
         } else if (host_) {
@@ -154,6 +168,33 @@ void WindowView::Bind(model::VisibleControl& control, QWidget& widget, const Can
     if (auto binding = MakeBinding(control, widget, {gate_, host, fullScreen_})) {
         bindings_.push_back(std::move(binding));
     }
+}
+
+QHash<QString, QWidget*> WindowView::BoxesOfElements() const {
+    QHash<QString, QWidget*> boxes;
+    for (QWidget* widget : root_->findChildren<QWidget*>()) {
+        if (const QString array = widget->property("elementsOf").toString(); !array.isEmpty()) {
+            auto* cells = new QGridLayout(widget);
+            cells->setContentsMargins({});
+            boxes[array] = widget;
+        }
+    }
+    return boxes;
+}
+
+/// At the next place of the box, line by line; the keyboard reaches it after the one before.
+void WindowView::MakeElement(model::VisibleControl& control, QWidget& box) {
+    QWidget* widget = MakePlainWidget(control.Kind(), &box);
+    if (!widget) {
+        return;
+    }
+    widget->setObjectName(WidgetName(control.Name()));
+    auto* cells = static_cast<QGridLayout*>(box.layout());
+    const int place = cells->count();
+    const int beside = std::max(1, box.property("elementsBeside").toInt());
+    QWidget::setTabOrder(place > 0 ? cells->itemAt(place - 1)->widget() : &box, widget);
+    cells->addWidget(widget, place / beside, place % beside);
+    Bind(control, *widget, nullptr);
 }
 
 void WindowView::MakeOverlay(model::VisibleControl& control) {

@@ -10,6 +10,8 @@
 //   canvas hostsObjects controls without a widget are made over this canvas when shown
 //   any    glyph, glyphRole  icon shape, and "highlight" for one on the accent colour
 //   any    focusKey     "Ctrl+F": gives it the keyboard
+//   any    elementsOf   name of a control array whose elements without a widget are made in it, in
+//                       lines of as many as elementsBeside says
 //   any    roomOf       name of a control whose Width and Height in the model follow this one's
 //   any    placed       stands and is as large as the model says, whatever its parent's layout
 //   button entry        menu entry that it stands for, with its mark and its being enabled
@@ -25,6 +27,7 @@
 // A label called windowCaption follows the window's caption.
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -71,6 +74,9 @@ private:
     void ApplyWindowKind();
     void BindControls();
     void Bind(model::VisibleControl& control, QWidget& widget, const CanvasWidget* host);
+    /// By the names of the arrays whose elements they take.
+    QHash<QString, QWidget*> BoxesOfElements() const;
+    void MakeElement(model::VisibleControl& control, QWidget& box);
     void MakeOverlay(model::VisibleControl& control);
     void DecorateWidgets();
     void Decorate(QWidget& widget);

@@ -65,16 +65,7 @@ Text VirtualCd::Status(TextView what) const {
     if (what == u"mode") {
         return !disc ? u"not ready" : Playing() ? u"playing" : u"stopped";
     }
-    if (!disc) {
-        return {};
-    }
-    if (what == u"number of tracks") {
-        return text::FromUtf8(std::to_string(disc_.Count()));
-    }
-    if (what == u"current track") {
-        return text::FromUtf8(std::to_string(disc_.TrackAt(Sector())));
-    }
-    return what == u"position" ? disc_.PositionText(Sector(), byTracks_) : Text();
+    return disc ? disc_.Status(what, Sector(), byTracks_) : Text();
 }
 
 }  // namespace virtual_adapter

@@ -10,7 +10,8 @@
 namespace virtual_adapter {
 
 /// The device cdaudio, as the desktop's: open, close, stop, play from PLACE [to PLACE],
-/// set time format tmsf, status ready, mode, number of tracks, current track, position.
+/// set time format tmsf, status ready, mode, number of tracks, current track, position,
+/// length track N.
 class VirtualCd {
 public:
     explicit VirtualCd(platform::EventLoop& loop) : loop_(loop) {}

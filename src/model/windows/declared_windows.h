@@ -25,10 +25,6 @@ struct Form13 : Window {  // linked sound assignment
     OptionButton Option1{this, "Option1"};
     OptionButton Option2{this, "Option2"};
 };
-struct Form14 : Window {
-    Form14() : Window("Form14", u"ＣＤプログラム選択") {}
-    CheckBox Check1{this, "Check1", u"プログラム再生終了でパラピコ停止"};
-};
 struct Form20 : Window {
     Form20() : Window("Form20", u"画像連動効果音(WAV)録音・再生") {}
 };
