@@ -44,6 +44,10 @@ void Restore(const EditedList& list, const RowSelection& selection) {
             box->SelectRows(first, count, true);
         }
         box->ListIndex = selection.current;
+        if (box->TopIndex == selection.top) {
+            box->TopIndex =
+                selection.top + 1;  // news also for a view that followed the current row
+        }
         box->TopIndex = selection.top;
     }
 }

@@ -17,8 +17,9 @@ bool ReadShowDocument(Application& app, TextView path);
 /// Writes the newest form, whole or not at all; names without folders when DistributionSaveFlag
 /// is 1. Adds ".kvs" to a path without extension. Rebuilds ScheduleFrom and ScheduleTo, sets the
 /// document's identity and the caption. A failure shows the platform's words: in a plain box where
-/// the file cannot be opened, under the title of saving where its content cannot be written.
-void WriteShowDocument(Application& app, TextView path);
+/// the file cannot be opened, under the title of saving where its content cannot be written; false
+/// then.
+bool WriteShowDocument(Application& app, TextView path);
 
 /// The text of a document that stands beside all its files, under that path: `named` says how a
 /// name goes into it, and there is no linked folder. Changes nothing.

@@ -131,7 +131,7 @@ void ShowWriter::WriteModesAndRows() {
 
 }  // namespace
 
-void WriteShowDocument(Application& app, TextView requestedPath) {
+bool WriteShowDocument(Application& app, TextView requestedPath) {
     auto& state = app.state;
     auto& form1 = app.windows.form1;
     auto& files = app.platform.files;
@@ -145,7 +145,7 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
         !distribution);
     if (!SaveDocumentFile(app, path, writer.Write(path))) {
         form1.MousePointer = model::kPointerNormal;
-        return;
+        return false;
     }
     if (distribution) {
         // Kept: for good, the program goes on without a linked folder.
@@ -161,6 +161,7 @@ void WriteShowDocument(Application& app, TextView requestedPath) {
     const auto date = files.LastWrite(path);
     state.DocumentFileDate = date ? platform::DateTimeText(*date) : Text();
     KnowSavedDocument(app);
+    return true;
 }
 
 Text TextOfCopiedShow(const Application& app, TextView path, const NameInFile& named) {

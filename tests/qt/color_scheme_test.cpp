@@ -7,6 +7,8 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QPalette>
+#include <algorithm>
+#include <cmath>
 
 #include "test_bus.h"
 
@@ -30,12 +32,28 @@ public:
     }
 };
 
+/// Of selected text, as WCAG reckons it.
+double SelectedContrast() {
+    const auto luminance = [](const QColor& color) {
+        const auto part = [](double value) {
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
+               0.0722 * part(color.blueF());
+    };
+    const QPalette palette = QApplication::palette();
+    const double one = luminance(palette.color(QPalette::Highlight)) + 0.05;
+    const double other = luminance(palette.color(QPalette::HighlightedText)) + 0.05;
+    return std::max(one, other) / std::min(one, other);
+}
+
 struct Scheme : testing::Test {
     TestBus daemon;
     QDBusConnection desktop = QDBusConnection::connectToBus(daemon.address, "portal");
     Portal portal;
     qt_adapter::SessionBus bus{daemon.address};
     const QColor light = QApplication::palette().window().color();
+    const QColor highlight = QApplication::palette().highlight().color();
 
     void SetUp() override {
         ASSERT_GT(light.lightness(), 128) << "the test begins with light colours";
@@ -59,9 +77,11 @@ TEST_F(Scheme, FollowsTheDesktopAtStartAndLater) {
         EXPECT_TRUE(WaitUntil(Dark));
         EXPECT_EQ(portal.asked, QStringList{"Read color-scheme"});
         EXPECT_GT(QApplication::palette().windowText().color().lightness(), 200);
+        EXPECT_GE(SelectedContrast(), 4.5);
         Change("org.freedesktop.appearance", "color-scheme", 2);
         EXPECT_TRUE(WaitUntil([] { return !Dark(); }));
         EXPECT_EQ(QApplication::palette().window().color(), light);
+        EXPECT_GE(SelectedContrast(), 4.5);
         Change("org.freedesktop.appearance", "color-scheme", 1);
         EXPECT_TRUE(WaitUntil(Dark));
         Change("org.freedesktop.appearance", "accent-color", 0);
@@ -71,6 +91,7 @@ TEST_F(Scheme, FollowsTheDesktopAtStartAndLater) {
         EXPECT_TRUE(Dark());
     }
     EXPECT_EQ(QApplication::palette().window().color(), light) << "it takes its colours with it";
+    EXPECT_EQ(QApplication::palette().highlight().color(), highlight);
 }
 
 TEST_F(Scheme, NoPreferenceKeepsTheToolkitsColours) {

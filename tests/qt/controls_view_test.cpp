@@ -5,6 +5,7 @@
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QListView>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -44,6 +45,7 @@ struct SampleWindow : model::Window {
     model::FileList File1{this, "File1", model::kSelectMany};
     model::FolderList Dir1{this, "Dir1"};
     model::DriveList Drive1{this, "Drive1"};
+    model::Label Notice{this, "Notice"};
 };
 
 struct ControlViews : testing::Test {
@@ -564,6 +566,22 @@ TEST_F(BrowserViews, PlacesByTheirLabels) {
 TEST_F(ControlViews, AWidgetThatDoesNotFitIsNotTied) {
     auto& box = Make<QComboBox>();
     EXPECT_EQ(qt_adapter::MakeBinding(window.Grid1, box, {gate}), nullptr);
+}
+
+TEST_F(ControlViews, NewWordsPass) {
+    QLabel label;
+    label.setProperty("passes", 1);
+    window.Notice.Caption = u"前のこと";
+    Bind(window.Notice, label);
+    window.Notice.Caption = Text();
+    window.Notice.Caption = u"保存しました";
+    EXPECT_EQ(label.text(), "保存しました");
+    while (!label.text().isEmpty()) {
+        desktop.Loop().PumpEvents();
+    }
+    window.Notice.Enabled = false;
+    EXPECT_EQ(label.text(), "") << "what has passed does not come back";
+    EXPECT_EQ(window.Notice.Caption(), u"保存しました");
 }
 
 }  // namespace

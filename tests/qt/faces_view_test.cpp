@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QHelpEvent>
-#include <QLabel>
 #include <QListView>
 #include <QMimeData>
 #include <QScrollBar>
@@ -13,8 +12,10 @@
 #include "adapters/qt/convert.h"
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/list_binding.h"
+#include "document/row_edits.h"
 #include "model/controls.h"
 #include "model/list_controls.h"
+#include "model/row_history.h"
 #include "model/window.h"
 #include "qt/widget_acts.h"
 
@@ -26,6 +27,7 @@ struct FaceWindow : model::Window {
     FaceWindow() : Window("Faces") { Visible = true; }
     model::CheckBox Check6{this, "Check6"};
     model::ListBox List1{this, "List1", model::kSelectMany};
+    model::Label Label4{this, "Label4"};
 };
 
 struct FaceView : testing::Test {
@@ -280,6 +282,31 @@ TEST_F(FaceView, TheFirstRowFollowsOnceRowsHaveCome) {
     EXPECT_LT(top(), 20);
 }
 
+TEST_F(FaceView, UndoBringsBackThePlace) {
+    Show({});
+    for (int row = 0; row < 300; ++row) {
+        list.AddItem(u"/写真/絵.jpg");
+    }
+    Pump();
+    list.Select(5, true);
+    list.ListIndex = 5;
+    list.TopIndex = 100;
+    Pump();
+    model::RowHistory history;
+    const document::EditedList edited{list, nullptr, window.Label4, history, {}};
+    document::AppendRows(edited, std::vector<model::ListRow>(200, {u"/写真/新.jpg", {}}));
+    Pump();
+    Click(103);
+    EXPECT_EQ(list.SelectedRows(), Numbers{103});
+    EXPECT_TRUE(document::Undo(edited));
+    Pump();
+    EXPECT_EQ(list.ListCount(), 300);
+    EXPECT_EQ(list.SelectedRows(), Numbers{5}) << "which is out of sight";
+    EXPECT_EQ(list.ListIndex(), 5);
+    EXPECT_EQ(list.TopIndex(), 100);
+    EXPECT_EQ(view.indexAt(QPoint(1, 1)).row(), 100);
+}
+
 TEST_F(FaceView, KeysWalkThroughTheGrid) {
     Show({u"a", u"b", u"c", u"d", u"e"});  // two in a line
     list.AsGrid = true;
@@ -346,14 +373,50 @@ TEST_F(FaceView, SaysItsMarksInWords) {
 
 TEST_F(FaceView, WordsStandInPlaceOfRows) {
     Show({});
-    const QLabel& words = *view.viewport()->findChild<QLabel*>();
-    EXPECT_TRUE(words.isVisible());
-    EXPECT_EQ(words.text(), "空です");
+    const auto& hint = *view.viewport()->findChild<qt_adapter::EmptyHint*>();
+    EXPECT_TRUE(hint.isVisible());
+    EXPECT_EQ(hint.Words(), "空です");
+    EXPECT_EQ(hint.accessibleName(), "空です");
+    EXPECT_EQ(hint.size(), view.viewport()->size());
     list.AddItem(u"a");
-    EXPECT_FALSE(words.isVisible());
+    EXPECT_FALSE(hint.isVisible());
     ShowOnly(u'b');
-    EXPECT_TRUE(words.isVisible());
-    EXPECT_EQ(words.text(), "ありません");
+    EXPECT_TRUE(hint.isVisible());
+    EXPECT_EQ(hint.Words(), "ありません");
+}
+
+/// Has no picture of one file, and takes its time for another.
+struct SlowThumbnails : platform::Thumbnails {
+    void Want(const void*, const std::vector<Text>& paths, int, Ready ready) override {
+        for (const Text& path : paths) {
+            if (path != u"slow.jpg") {
+                ready(path, nullptr);
+            }
+        }
+    }
+};
+
+TEST_F(FaceView, WhatCannotBeShownDoesNotLookLikeWhatComes) {
+    SlowThumbnails thumbnails;
+    list.thumbnails = &thumbnails;
+    list.face = [this](int row) {
+        model::RowFace face;
+        face.file = list.List(row);
+        return face;
+    };
+    Show({u"slow.jpg", u"damaged.jpg", u"film.mp4"});
+    view.grab();
+    const auto sign = [&](int row) {
+        return view.model()->index(row, 0).data(Qt::DecorationRole).value<QPixmap>().toImage();
+    };
+    EXPECT_NE(sign(0), sign(1));
+    EXPECT_NE(sign(1), sign(2));
+    EXPECT_NE(sign(0), sign(2));
+    const QPoint place = Place(1).center();
+    QHelpEvent help(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(view.viewport(), &help);
+    EXPECT_EQ(QToolTip::text(), "damaged.jpg\n画像を読めません");
+    binding.reset();
 }
 
 TEST_F(FaceView, RowsAreLetGoBetweenRows) {

@@ -13,6 +13,7 @@
 #include "adapters/qt/convert.h"
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/file_list_binding.h"
+#include "posix/ordinary_user.h"
 #include "posix/temporary_folder.h"
 
 namespace qt_adapter {
@@ -35,7 +36,8 @@ struct FileListView : testing::Test {
     posix_adapter::PosixFolders folders{files};
     imaging::Thumbnailer thumbnails{{.programFolder = folder.Path("program")}};
     FilesWindow window;
-    QListView view;
+    QWidget form;
+    QListView& view = *new QListView(&form);
     std::unique_ptr<FileListBinding> binding;
     std::vector<Text> clicked;
 
@@ -49,7 +51,16 @@ struct FileListView : testing::Test {
         }
         folder.Put("show/z bad.png", "no picture");
         folder.Put("show/.hidden.png", "x");
-        view.resize(640, 420);
+        form.resize(640, 300);
+        view.resize(640, 300);
+        view.setObjectName("File1");
+        view.setProperty("emptyWords", "空です");
+        for (const bool pictures : {false, true}) {
+            auto* button = new QToolButton(&form);
+            button->setObjectName(pictures ? "pictures" : "names");
+            button->setProperty("ofFiles", "File1");
+            button->setProperty("asPictures", pictures);
+        }
         window.File1.folders = &folders;
         window.File1.thumbnails = &thumbnails;
         window.File1.Click = [this] {
@@ -57,7 +68,14 @@ struct FileListView : testing::Test {
         };
         binding = std::make_unique<FileListBinding>(window.File1, view, Site{gate});
         window.File1.Path = folder.TextPath("show");
-        view.show();
+        form.show();
+    }
+    void TearDown() override { binding.reset(); }
+    QToolButton& Button(const char* wanted) { return *form.findChild<QToolButton*>(wanted); }
+    QString Hint() {
+        QCoreApplication::processEvents();
+        const auto& hint = *view.viewport()->findChild<EmptyHint*>();
+        return hint.isVisible() ? hint.Words() : QString();
     }
     void Key(int key, const QString& text = {}) {
         QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
@@ -94,16 +112,57 @@ TEST_F(FileListView, ShowsThumbnailsOfWhatIsSeen) {
 }
 
 TEST_F(FileListView, TheSwitchIsInSight) {
-    auto* button = view.findChild<QToolButton*>();
-    ASSERT_TRUE(button);
     int told = 0;
     window.File1.PicturesChanged = [&] { ++told; };
-    button->click();
+    EXPECT_TRUE(Button("names").isChecked());
+    Button("pictures").click();
     EXPECT_TRUE(window.File1.Pictures);
     EXPECT_EQ(told, 1);
     EXPECT_EQ(view.viewMode(), QListView::IconMode);
-    button->click();
+    EXPECT_TRUE(Button("pictures").isChecked());
+    EXPECT_FALSE(Button("names").isChecked());
+    Button("pictures").click();
+    EXPECT_TRUE(Button("pictures").isChecked()) << "it stays what it is";
+    Button("names").click();
     EXPECT_FALSE(window.File1.Pictures);
+    EXPECT_EQ(view.viewMode(), QListView::ListMode);
+}
+
+TEST_F(FileListView, NamesHaveRoomAndThumbnailsCanBeMadeOut) {
+    EXPECT_GE(view.visualRect(view.model()->index(0, 0)).height(), 20);
+    window.File1.ShowPictures(true);
+    EXPECT_GE(view.iconSize().width(), 80);
+    EXPECT_LE(view.iconSize().width(), 96);
+}
+
+TEST_F(FileListView, WithoutTheButtonsThereAreNamesAlone) {
+    binding.reset();
+    delete &Button("names");
+    delete &Button("pictures");
+    window.File1.Pictures = true;
+    binding = std::make_unique<FileListBinding>(window.File1, view, Site{gate});
+    EXPECT_EQ(view.viewMode(), QListView::ListMode);
+    EXPECT_TRUE(view.actions().isEmpty());
+}
+
+TEST_F(FileListView, SaysWhyItIsEmpty) {
+    EXPECT_EQ(Hint(), "");
+    std::filesystem::create_directories(folder.Path("none"));
+    window.File1.Path = folder.TextPath("none");
+    EXPECT_EQ(Hint(), "空です");
+    std::filesystem::create_directories(folder.Path("closed"));
+    std::filesystem::permissions(folder.Path("closed"), std::filesystem::perms::none);
+    std::filesystem::permissions(folder.Path("."), std::filesystem::perms::all);
+    {
+        const posix_adapter::AsOrdinaryUser rights;
+        ASSERT_TRUE(rights.Done());
+        window.File1.Path = folder.TextPath("closed");
+        EXPECT_EQ(Hint(), "このフォルダは読めません\n読み取りが許可されていません。");
+    }
+    window.File1.Path = folder.TextPath("gone");
+    EXPECT_EQ(Hint(), "このフォルダはなくなりました");
+    window.File1.Path = folder.TextPath("show");
+    EXPECT_EQ(Hint(), "");
 }
 
 TEST_F(FileListView, LettersJumpAndEnterClicks) {

@@ -183,6 +183,39 @@ TEST_F(Loops, BoxesAnswerWhatWasPressed) {
     EXPECT_EQ(press(QMessageBox::NoButton), platform::Answer::No) << "closed by its frame";
 }
 
+TEST_F(Loops, BoxesLookLikeBoxes) {
+    Qt::WindowFlags flags;
+    QImage sign;
+    const auto look = [&](int kind) {
+        loop.SetTimer(&keys[0], 1, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                loop.CancelTimer(&keys[0]);
+                flags = box->windowFlags();
+                sign = box->iconPixmap().toImage();
+                for (const QAbstractButton* button : box->buttons()) {
+                    EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+                }
+                box->close();
+            }
+        });
+        desktop.Dialogs().Message(u"本文", kind, u"題");
+        EXPECT_EQ(flags & Qt::WindowType_Mask, Qt::Dialog);
+        EXPECT_FALSE(flags & Qt::WindowMinMaxButtonsHint);
+        EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
+        return sign;
+    };
+    const QImage question = look(platform::kYesNoQuestion);
+    const QImage warning = look(platform::kExclamation);
+    const QImage information = look(platform::kInformation);
+    const QImage stop = look(platform::kStop);
+    EXPECT_FALSE(question.isNull());
+    EXPECT_NE(question, warning);
+    EXPECT_NE(question, information);
+    EXPECT_NE(information, stop);
+    EXPECT_NE(warning, stop);
+    EXPECT_TRUE(look(platform::kPlain).isNull());
+}
+
 TEST_F(Loops, BoxesWithoutATitleBearTheProgramsName) {
     QStringList titles;
     const auto close = [&] {

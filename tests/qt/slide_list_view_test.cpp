@@ -4,16 +4,22 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMainWindow>
+#include <QMenu>
 #include <QSplitter>
+#include <QTimer>
 #include <QToolButton>
 
 #include "adapters/qt/binding_table.h"
 #include "adapters/qt/convert.h"
 #include "adapters/qt/desktop.h"
 #include "adapters/qt/form_words.h"
+#include "adapters/qt/glyph_icon.h"
 #include "adapters/qt/glyph_shapes.h"
 #include "model/windows.h"
 #include "model/windows/slide_list.h"
@@ -113,6 +119,8 @@ TEST_F(SlideListForm, FitsAtItsSmallest) {
     root->resize(1, 1);
     Pump();
     EXPECT_EQ(root->size(), QSize(802, 583)) << "12030 by 8745 twips";
+    const QWidget& prompt = Find("Label6");
+    EXPECT_GE(prompt.width(), prompt.sizeHint().width()) << "all of the prompt";
     for (const QWidget* widget : root->findChildren<QWidget*>()) {
         const bool own = form3.FindControl(widget->objectName().toStdString()) != nullptr;
         if (!own || !widget->isVisible() || widget->property("placed").toBool()) {
@@ -191,6 +199,90 @@ TEST_F(SlideListForm, ButtonsStandForEntries) {
     EXPECT_NE(Find<QToolButton>("sorting").menu(), nullptr);
     form3.mnuSORT.Enabled = false;
     EXPECT_FALSE(Find("sorting").isEnabled());
+}
+
+TEST_F(SlideListForm, TheTitleNamesTheShow) {
+    EXPECT_EQ(root->windowTitle(), "スライドリスト");
+    form3.Document.Caption = u"海.kvs";
+    EXPECT_EQ(root->windowTitle(), "海.kvs - スライドリスト");
+    EXPECT_EQ(Find<QLabel>("Document").text(), "海.kvs");
+    EXPECT_EQ(qt_adapter::ToQt(form3.Caption()), "スライドリスト");
+    form3.Document.Caption = Text();
+    EXPECT_EQ(root->windowTitle(), "スライドリスト");
+}
+
+TEST_F(SlideListForm, ASearchIsSeenBelowTheList) {
+    form3.Label1.Visible = false;
+    Pump();
+    EXPECT_FALSE(Find("work").isVisible());
+    form3.Label1.Visible = true;
+    form3.Searched.Caption = Text(300, u'深');
+    form3.Found.Caption = u"3 フォルダ、12 枚";
+    Pump();
+    EXPECT_TRUE(Find("work").isVisible());
+    EXPECT_TRUE(Find("work").parentWidget()->rect().contains(Find("work").geometry()));
+    EXPECT_TRUE(Find<QLabel>("Searched").text().contains(u'…')) << "what is too long is cut";
+    EXPECT_EQ(Find<QLabel>("Searched").toolTip().size(), 300);
+    EXPECT_EQ(Find<QLabel>("Found").text(), "3 フォルダ、12 枚");
+    const auto sign = [&] {
+        return Find<QAbstractButton>("Command8").icon().pixmap(18, 18).toImage();
+    };
+    const QImage search = sign();
+    form3.Command8.Caption = u"中止";
+    EXPECT_EQ(sign(), qt_adapter::GlyphIcon("stop").pixmap(18, 18).toImage());
+    form3.Command8.Caption = u"検索";
+    EXPECT_EQ(sign(), search);
+}
+
+TEST_F(SlideListForm, TheContextMenuHasGroups) {
+    int raised = 0;
+    form3.Command13.Click = [&] { ++raised; };
+    form3.Command14.Enabled = false;
+    QStringList words;
+    const auto open = [&](const QString& chosen) {
+        words.clear();
+        QTimer::singleShot(0, root, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            for (QAction* action : menu->actions()) {
+                words += action->isSeparator() ? "-" : action->text();
+                if (!chosen.isEmpty() && action->text().startsWith(chosen)) {
+                    EXPECT_TRUE(action->isEnabled());
+                    action->trigger();
+                }
+                EXPECT_FALSE(action->text().startsWith("↓") && action->isEnabled());
+            }
+            menu->close();
+        });
+        QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(5, 5),
+                              Find("List1").mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&Find("List1"), &key);
+    };
+    open("↑");
+    EXPECT_EQ(words.join(' '),
+              "元に戻す(&U) やり直す(&R) - 切り取り(&T) コピー(&C) 貼り付け(&P) 選択取消(&D) - "
+              "↑  上へ ↓  下へ 並べ替え(&S) - ﾃｷｽﾄ編集 縮小変換コピー - "
+              "すべて選択(&A) 見つからないファイルを探す(&M)…");
+    EXPECT_EQ(raised, 1);
+}
+
+TEST_F(SlideListForm, GoesBackToItsPlace) {
+    form3.Visible = false;
+    form3.Left = 150 * 15;
+    form3.Top = 90 * 15;
+    form3.Visible = true;
+    Pump();
+    const QRect before = root->geometry();
+    form3.WindowState = model::kWindowMaximised;
+    Pump();
+    EXPECT_TRUE(root->isMaximized());
+    form3.WindowState = model::kWindowNormal;
+    form3.ResizeTo(12030, 8745);
+    Pump();
+    EXPECT_FALSE(root->isMaximized());
+    EXPECT_EQ(root->geometry(), QRect(before.topLeft(), QSize(802, 583)));
+    EXPECT_EQ(form3.Left(), 150 * 15);
+    EXPECT_EQ(form3.Top(), 90 * 15);
 }
 
 TEST_F(SlideListForm, KeysOfRowsAreTheListsAlone) {

@@ -344,6 +344,10 @@ TEST_F(Views, HintStandsOnlyWhileThereIsNothingToShow) {
         button->Enabled = false;
     }
     EXPECT_FALSE(hint->isHidden());
+    int lists = 0;
+    windows.form1.Command6.Click = [&] { ++lists; };
+    hint->findChild<QAbstractButton*>("hintMake")->click();
+    EXPECT_EQ(lists, 1) << "it leads to the slide list";
     windows.form1.MousePointer = model::kPointerBusy;
     EXPECT_TRUE(hint->isHidden());
     windows.form1.MousePointer = model::kPointerNormal;

@@ -6,6 +6,7 @@
 #include <QStyle>
 
 #include "adapters/qt/convert.h"
+#include "adapters/qt/row_height.h"
 
 namespace qt_adapter {
 
@@ -111,6 +112,7 @@ FolderBinding::FolderBinding(model::FolderList& dir, QTreeView& widget, const Si
     HearKeys();
     widget.setHeaderHidden(true);
     widget.setUniformRowHeights(true);
+    GiveRowsHeight(widget);
     widget.setModel(tree_.get());
     connect(&widget, &QTreeView::clicked, this, [this](const QModelIndex& index) {
         Opened(index);

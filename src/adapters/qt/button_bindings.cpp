@@ -4,6 +4,8 @@
 #include <QFontInfo>
 
 #include "adapters/qt/convert.h"
+#include "adapters/qt/form_words.h"
+#include "adapters/qt/glyph_icon.h"
 
 namespace qt_adapter {
 
@@ -34,6 +36,11 @@ void ButtonBinding::SyncOwn() {
     const QString caption = ToQt(button_.Caption());
     const QString detail = Detail();
     face_.setText(detail.isEmpty() ? caption : caption + '\n' + detail);
+    const QStringList other = Words(face_, "glyphFor");
+    if (other.size() == 2) {
+        face_.setIcon(
+            GlyphIcon(caption == other[0] ? other[1] : face_.property("glyph").toString()));
+    }
     if (const double enlargement = Enlargement(); enlargement > 0) {
         QFont font = QApplication::font(&face_);
         font.setPointSizeF(QFontInfo(font).pointSizeF() * enlargement);

@@ -6,6 +6,8 @@
 #include <QDBusPendingReply>
 #include <QPalette>
 #include <QStyle>
+#include <algorithm>
+#include <cmath>
 
 namespace qt_adapter {
 
@@ -19,7 +21,8 @@ constexpr const char* kKey = "color-scheme";
 
 constexpr uint kPreferDark = 1;  // 0 no preference, 2 light
 
-constexpr int kDarkBelow = 128;  // of 255
+constexpr int kDarkBelow = 128;         // of 255
+constexpr double kLeastContrast = 4.5;  // of selected text
 
 struct RoleColor {
     QPalette::ColorRole role;
@@ -40,7 +43,7 @@ constexpr RoleColor kDark[] = {
     {QPalette::Mid, 0xFF5A5A60},
     {QPalette::Dark, 0xFF19191B},
     {QPalette::Shadow, 0xFF000000},
-    {QPalette::Highlight, 0xFF3D8BD9},
+    {QPalette::Highlight, 0xFF2E6FB4},
     {QPalette::HighlightedText, 0xFFFFFFFF},
     {QPalette::Link, 0xFF6CB2F7},
     {QPalette::LinkVisited, 0xFFB79CF0},
@@ -56,6 +59,39 @@ constexpr RoleColor kDarkDisabled[] = {
 };
 
 constexpr QRgb kDarkMarkGround = 0xFF5A5A60;
+
+/// Of WCAG: from 1 to 21.
+double Contrast(const QColor& one, const QColor& other) {
+    const auto luminance = [](const QColor& color) {
+        const auto part = [](double value) {
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
+               0.0722 * part(color.blueF());
+    };
+    const double first = luminance(one), second = luminance(other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+/// The toolkit's own colours; only a highlight that is too light for the text on it becomes darker.
+void TakeOwnColors() {
+    constexpr int kDarker = 104;  // per cent
+    QApplication::setPalette(QPalette());
+    const QPalette given = QApplication::palette();
+    const QColor text = given.color(QPalette::HighlightedText);
+    QColor ground = given.color(QPalette::Highlight);
+    if (text.lightness() < kDarkBelow || Contrast(text, ground) >= kLeastContrast) {
+        return;
+    }
+    while (Contrast(text, ground) < kLeastContrast && ground.lightness() > 0) {
+        ground = ground.darker(kDarker);
+    }
+    QPalette palette;
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Highlight, ground);
+    }
+    QApplication::setPalette(palette);
+}
 
 QPalette DarkPalette() {
     QPalette palette;
@@ -79,11 +115,13 @@ QVariant Unwrapped(QVariant value) {
 }  // namespace
 
 ColorScheme::ColorScheme(SessionBus& bus) {
+    TakeOwnColors();
     bus.WhenConnected(*this, [this](QDBusConnection connection) { Ask(std::move(connection)); });
 }
 
 ColorScheme::~ColorScheme() {
     SetDark(false);
+    QApplication::setPalette(QPalette());
 }
 
 void ColorScheme::Ask(QDBusConnection bus) {
@@ -120,7 +158,11 @@ void ColorScheme::SetDark(bool dark) {
         return;
     }
     dark_ = dark;
-    QApplication::setPalette(dark ? DarkPalette() : QPalette());
+    if (dark) {
+        QApplication::setPalette(DarkPalette());
+    } else {
+        TakeOwnColors();
+    }
     // Their outlines are darker than the window: on a dark one the box itself must be seen.
     for (const char* marked : {"QCheckBox", "QRadioButton"}) {
         QPalette palette = QApplication::palette();

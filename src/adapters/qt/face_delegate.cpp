@@ -243,6 +243,10 @@ bool FaceDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     if (!face.aside.empty()) {
         words += '\n' + ToQt(face.aside);
     }
+    if (pictures_ && pictures_->Unreadable(index.row()) &&
+        (face.marks & model::kMarkMissing) == 0) {
+        words += QStringLiteral("\n画像を読めません");
+    }
     for (size_t i = 0; i < marks.size(); ++i) {
         if (parts.marks[i].contains(event->pos())) {
             words = ToQt(marks[i]->words);

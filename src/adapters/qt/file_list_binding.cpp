@@ -1,7 +1,7 @@
 #include "adapters/qt/file_list_binding.h"
 
 #include <QKeyEvent>
-#include <QStyle>
+#include <utility>
 
 #include "adapters/qt/convert.h"
 #include "text/paths.h"
@@ -10,8 +10,12 @@ namespace qt_adapter {
 
 namespace {
 
-constexpr int kPictureSide = 128;
-constexpr int kBesidePicture = 16;
+constexpr int kPictureSide = 88;
+constexpr int kBesidePicture = 14;
+
+bool CanBeRead(platform::Folders& folders, TextView path) {
+    return !folders.Read(path, u"", 0, [] { return false; }).identity.empty();
+}
 
 }  // namespace
 
@@ -19,29 +23,65 @@ FileListBinding::FileListBinding(model::FileList& list, QListView& view, const S
     : ListBinding(list, view, site),
       files_(list),
       face_(view),
-      switch_(new QAction(QStringLiteral("縮小画像で表示(&T)"), &view)) {
-    switch_->setCheckable(true);
-    switch_->setIcon(
-        QIcon::fromTheme(QStringLiteral("view-list-icons"),
-                         view.style()->standardIcon(QStyle::SP_FileDialogContentsView)));
-    view.addAction(switch_);
-    view.setContextMenuPolicy(Qt::ActionsContextMenu);
-    // In sight as well, at the foot of the scroll bar.
-    auto* button = new QToolButton;
-    button->setDefaultAction(switch_);
-    button->setAutoRaise(true);
-    button->setAccessibleName(QStringLiteral("縮小画像で表示"));
-    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    view.addScrollBarWidget(button, Qt::AlignBottom);
-    connect(switch_, &QAction::triggered, this, [this](bool on) {
-        Act([&] { files_.ShowPictures(on); });
-        SyncOwn();
-    });
+      hint_(std::make_unique<EmptyHint>(view)) {
+    FindButtons();
     ShowAs(files_.Pictures);
+    FollowHint();
+}
+
+void FileListBinding::FindButtons() {
+    for (QToolButton* button : face_.window()->findChildren<QToolButton*>()) {
+        if (button->property("ofFiles").toString() != face_.objectName() ||
+            face_.objectName().isEmpty()) {
+            continue;
+        }
+        button->setCheckable(true);
+        buttons_.push_back(button);
+        connect(button, &QToolButton::clicked, this,
+                [this, button] { Choose(button->property("asPictures").toBool()); });
+    }
+    if (buttons_.empty()) {
+        return;
+    }
+    switch_ = new QAction(QStringLiteral("縮小画像で表示(&T)"), &face_);
+    switch_->setCheckable(true);
+    face_.addAction(switch_);
+    face_.setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(switch_, &QAction::triggered, this, [this](bool on) { Choose(on); });
+}
+
+void FileListBinding::Choose(bool pictures) {
+    Act([&] { files_.ShowPictures(pictures); });
+    ShowAs(files_.Pictures);
+}
+
+/// Once for all changes between two turns of the event loop, as it may ask for the folder.
+void FileListBinding::FollowHint() {
+    if (std::exchange(hintQueued_, true)) {
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            hintQueued_ = false;
+            if (files_.ListCount() > 0 || !files_.folders || files_.Path().empty()) {
+                hint_->Say({}, {});
+            } else if (CanBeRead(*files_.folders, files_.Path())) {
+                hint_->Say(face_.property("emptyWords").toString(), {});
+            } else if (files_.folders->IsFolder(files_.Path())) {
+                hint_->Say(
+                    QStringLiteral("このフォルダは読めません\n読み取りが許可されていません。"),
+                    QStringLiteral("lock"));
+            } else {
+                hint_->Say(QStringLiteral("このフォルダはなくなりました"), {});
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 FileListBinding::~FileListBinding() {
     Rows().decoration = {};
+    delete switch_;
 }
 
 void FileListBinding::RowsChanged(model::Control& control, const model::RowChange& change) {
@@ -49,6 +89,7 @@ void FileListBinding::RowsChanged(model::Control& control, const model::RowChang
         pictures_->Forget();
     }
     ListBinding::RowsChanged(control, change);
+    FollowHint();
 }
 
 void FileListBinding::SyncOwn() {
@@ -56,6 +97,7 @@ void FileListBinding::SyncOwn() {
         ShowAs(files_.Pictures);
     }
     ListBinding::SyncOwn();
+    FollowHint();
 }
 
 bool FileListBinding::eventFilter(QObject* watched, QEvent* event) {
@@ -66,10 +108,15 @@ bool FileListBinding::eventFilter(QObject* watched, QEvent* event) {
 
 void FileListBinding::ShowAs(bool pictures) {
     shownAsPictures_ = pictures;
-    switch_->setChecked(pictures);
+    for (QToolButton* button : buttons_) {
+        button->setChecked(button->property("asPictures").toBool() == pictures);
+    }
+    if (switch_) {
+        switch_->setChecked(pictures);
+    }
     pictures_.reset();
     Rows().decoration = {};
-    const bool shown = pictures && files_.thumbnails != nullptr;
+    const bool shown = pictures && files_.thumbnails && !buttons_.empty();
     face_.setViewMode(shown ? QListView::IconMode : QListView::ListMode);
     face_.setMovement(QListView::Static);
     face_.setResizeMode(QListView::Adjust);

@@ -5,6 +5,23 @@
 
 namespace qt_adapter {
 
+namespace {
+
+/// A button whose caption is a sign alone is called by what it does, too.
+QString EntryWords(const QAbstractButton& button) {
+    const QString name = button.accessibleName();
+    return name.isEmpty() || name == button.text() ? button.text()
+                                                   : button.text() + QStringLiteral("  ") + name;
+}
+
+void AddButton(QMenu& menu, QAbstractButton& button) {
+    QAction* const entry = menu.addAction(button.icon(), EntryWords(button));
+    entry->setEnabled(button.isEnabled());
+    QObject::connect(entry, &QAction::triggered, &button, [&button] { button.click(); });
+}
+
+}  // namespace
+
 void TieToEntry(QToolButton& button, QAction& entry) {
     const auto follow = [&button, &entry] {
         button.setEnabled(entry.isEnabled());
@@ -28,15 +45,21 @@ void TieToMenu(QToolButton& button, QAction& menu) {
                      [&button, &menu] { button.setEnabled(menu.isEnabled()); });
 }
 
-void GiveContextMenu(QAbstractItemView& view, const QList<QAction*>& menus) {
+void GiveContextMenu(QAbstractItemView& view, const QList<ContextPlace>& places) {
     view.setContextMenuPolicy(Qt::CustomContextMenu);
     QObject::connect(&view, &QWidget::customContextMenuRequested, &view,
-                     [&view, menus](const QPoint& place) {
+                     [&view, places](const QPoint& where) {
                          QMenu menu(&view);
-                         menu.addActions(menus.front()->menu()->actions());
-                         menu.addSeparator();
-                         menu.addActions(menus.mid(1));
-                         menu.exec(view.viewport()->mapToGlobal(place));
+                         for (const ContextPlace& place : places) {
+                             if (place.action) {
+                                 menu.addAction(place.action);
+                             } else if (place.button) {
+                                 AddButton(menu, *place.button);
+                             } else {
+                                 menu.addSeparator();
+                             }
+                         }
+                         menu.exec(view.viewport()->mapToGlobal(where));
                      });
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "adapters/qt/row_height.h"
 #include "model/list_controls.h"
 
 namespace qt_adapter {
@@ -22,6 +23,8 @@ ListBinding::ListBinding(model::ListBox& list, QListView& view, const Site& site
     view.setModel(&rows_);
     if (auto* faces = qobject_cast<FaceView*>(&view); faces && list.face) {
         faces_ = std::make_unique<RowFaces>(list, rows_, *faces);
+    } else {
+        GiveRowsHeight(view);
     }
     HearKeys();
     view.viewport()->installEventFilter(this);
@@ -40,7 +43,7 @@ ListBinding::ListBinding(model::ListBox& list, QListView& view, const Site& site
             [this] { Act([this] { list_.PressAgain(); }); });
     connect(view.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         const QModelIndex top = view_.indexAt(QPoint(1, 1));
-        if (!following_ && top.isValid()) {
+        if (!following_ && !unsettled_ && top.isValid()) {
             const QScopedValueRollback<bool> guard(following_, true);
             list_.TopIndex = rows_.InList(top.row());
         }

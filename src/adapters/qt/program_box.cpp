@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "adapters/qt/box_look.h"
 #include "adapters/qt/convert.h"
 
 namespace qt_adapter {
@@ -90,12 +91,13 @@ ProgramBox::ProgramBox(const platform::ProgramQuestion& question, QWidget* paren
     if (!clock_) {
         clock_ = [this] { return static_cast<double>(ownClock_.nsecsElapsed()) / 1e6; };
     }
+    GiveBoxFrame(*this);
     setWindowTitle(QStringLiteral("パラピコ"));
     setCursor(Qt::ArrowCursor);
 
     auto* icon = new QLabel(this);
     const int side = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side));
+    icon->setPixmap(SignOf(QMessageBox::Warning, side, devicePixelRatioF()));
     auto* words = new QLabel(
         QStringLiteral("このスライドショーはプログラムを起動しようとしています。"), this);
     auto* head = new QHBoxLayout;

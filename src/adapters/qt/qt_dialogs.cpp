@@ -6,9 +6,11 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 #include <algorithm>
 #include <cstdio>
 
+#include "adapters/qt/box_look.h"
 #include "adapters/qt/convert.h"
 #include "adapters/qt/program_box.h"
 
@@ -113,10 +115,16 @@ platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
         return asks ? platform::Answer::No : platform::Answer::Ok;
     }
     QMessageBox box(IconOf(flags), TitleOr(title), Lines(text), QMessageBox::NoButton, BoxParent());
+    const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    if (const QPixmap sign = SignOf(box.icon(), side, box.devicePixelRatioF()); !sign.isNull()) {
+        box.setIconPixmap(sign);
+    }
+    GiveBoxFrame(box);
     box.setTextFormat(Qt::PlainText);
     box.setCursor(Qt::ArrowCursor);
     if (!asks) {
         box.addButton(QMessageBox::Ok);
+        PlainButtons(box);
         gate_.Exec(box);
         return platform::Answer::Ok;
     }
@@ -124,6 +132,7 @@ platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {
     yes->setText(QStringLiteral("はい(&Y)"));
     QPushButton* no = box.addButton(QMessageBox::No);
     no->setText(QStringLiteral("いいえ(&N)"));
+    PlainButtons(box);
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
     return gate_.Exec(box) == QMessageBox::Yes ? platform::Answer::Yes : platform::Answer::No;
@@ -137,11 +146,13 @@ platform::ProgramAnswer QtDialogs::AskProgram(const platform::ProgramQuestion& q
 
 std::optional<Text> QtDialogs::Input(TextView prompt, TextView title, TextView initial) {
     QInputDialog box(BoxParent());
+    GiveBoxFrame(box);
     box.setCursor(Qt::ArrowCursor);
     box.setInputMode(QInputDialog::TextInput);
     box.setWindowTitle(TitleOr(title));
     box.setLabelText(Lines(prompt));
     box.setTextValue(ToQt(initial));
+    PlainButtons(box);
     if (gate_.Exec(box) != QDialog::Accepted) {
         return std::nullopt;
     }
@@ -180,6 +191,7 @@ QStringList QtDialogs::Choose(const FileRequest& request, QFileDialog::FileMode 
     if (!name.isEmpty() && !IsPattern(name) && mode != QFileDialog::Directory) {
         box.selectFile(name);
     }
+    PlainButtons(box);
     if (gate_.Exec(box) != QDialog::Accepted || box.selectedFiles().isEmpty()) {
         return {};
     }

@@ -1,7 +1,5 @@
 #include "adapters/qt/row_faces.h"
 
-#include <QEvent>
-
 namespace qt_adapter {
 
 RowFaces::RowFaces(const model::ListBox& list, RowsModel& rows, FaceView& view)
@@ -9,24 +7,21 @@ RowFaces::RowFaces(const model::ListBox& list, RowsModel& rows, FaceView& view)
       rows_(rows),
       view_(view),
       delegate_(new FaceDelegate(list, rows, view)),
-      words_(new QLabel(view.viewport())) {
+      hint_(new EmptyHint(view)) {
     view.setItemDelegate(delegate_);
     view.setMouseTracking(true);  // for the marks' words
-    view.viewport()->installEventFilter(this);
-    words_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    words_->setAlignment(Qt::AlignCenter);
-    words_->setWordWrap(true);
-    words_->setForegroundRole(QPalette::PlaceholderText);
-    connect(&rows, &QAbstractItemModel::rowsInserted, this, [this] { FollowWords(); });
-    connect(&rows, &QAbstractItemModel::rowsRemoved, this, [this] { FollowWords(); });
-    connect(&rows, &QAbstractItemModel::modelReset, this, [this] { FollowWords(); });
+    const auto follow = [this] { FollowHint(); };
+    QObject::connect(&rows, &QAbstractItemModel::rowsInserted, hint_, follow);
+    QObject::connect(&rows, &QAbstractItemModel::rowsRemoved, hint_, follow);
+    QObject::connect(&rows, &QAbstractItemModel::modelReset, hint_, follow);
     FollowLook();
-    FollowWords();
+    FollowHint();
 }
 
 RowFaces::~RowFaces() {
     rows_.decoration = {};
     delegate_->ShowPictures(nullptr);
+    delete hint_;
 }
 
 void RowFaces::FollowLook() {
@@ -61,19 +56,17 @@ void RowFaces::Refresh() {
     }
 }
 
-void RowFaces::FollowWords() {
-    const char* property = list_.ListCount() == 0 ? "emptyWords" : "noneSeenWords";
-    words_->setVisible(rows_.rowCount() == 0);
-    if (!words_->isHidden()) {
-        words_->setText(view_.property(property).toString());
+void RowFaces::FollowHint() {
+    const bool empty = list_.ListCount() == 0;
+    const auto said = [&](const char* property) { return view_.property(property).toString(); };
+    hint_->InviteDrops(empty && list_.FilesDropped);
+    if (rows_.rowCount() > 0) {
+        hint_->Say({}, {});
+    } else if (empty) {
+        hint_->Say(said("emptyWords"), said("emptyGlyph"));
+    } else {
+        hint_->Say(said("noneSeenWords"), QStringLiteral("search"));
     }
-}
-
-bool RowFaces::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::Resize) {
-        words_->setGeometry(view_.viewport()->rect().adjusted(24, 0, -24, 0));
-    }
-    return false;
 }
 
 }  // namespace qt_adapter

@@ -1,17 +1,18 @@
 #include "adapters/qt/row_pictures.h"
 
 #include <QEvent>
-#include <QIcon>
 #include <QPainter>
-#include <QStyle>
 #include <QVariant>
 #include <algorithm>
+
+#include "adapters/qt/glyph_shapes.h"
 
 namespace qt_adapter {
 
 namespace {
 
 constexpr int kMostHeldKiB = 64 * 1024;
+constexpr double kSignShare = 0.42;  // of the square
 
 QPixmap Square(int side, double ratio) {
     QPixmap square(QSize(side, side) * ratio);
@@ -20,23 +21,33 @@ QPixmap Square(int side, double ratio) {
     return square;
 }
 
-/// A quiet frame where a picture will be.
-QPixmap Frame(const QWidget& widget, int side) {
+QColor Thinned(QColor color, float alpha) {
+    color.setAlphaF(alpha);
+    return color;
+}
+
+/// Quiet ground where a picture will be.
+QPixmap Ground(const QWidget& widget, int side) {
     QPixmap square = Square(side, widget.devicePixelRatioF());
     QPainter painter(&square);
-    QColor line = widget.palette().color(QPalette::Text);
-    line.setAlphaF(0.2F);
-    painter.setPen(line);
-    painter.drawRect(QRectF(0.5, side / 8.0 + 0.5, side - 1.0, side * 3 / 4.0 - 1.0));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Thinned(widget.palette().color(QPalette::Text), 0.08F));
+    painter.drawRoundedRect(QRectF(0, side / 8.0, side, side * 3 / 4.0), 4, 4);
     return square;
 }
 
-QPixmap WithIcon(const QWidget& widget, int side, QStyle::StandardPixmap which) {
-    QPixmap square = Frame(widget, side);
+/// In place of a picture that is not there.
+QPixmap Sign(const QWidget& widget, int side, const char* glyph) {
+    QPixmap square = Ground(widget, side);
     QPainter painter(&square);
-    const int icon = side / 3;
-    painter.drawPixmap(QRect((side - icon) / 2, (side - icon) / 2, icon, icon),
-                       widget.style()->standardIcon(which).pixmap(icon));
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = Thinned(widget.palette().color(QPalette::Text), 0.6F);
+    painter.setPen(Thinned(ink, 0.35F));
+    painter.drawRoundedRect(QRectF(0.5, side / 8.0 + 0.5, side - 1.0, side * 3 / 4.0 - 1.0), 4, 4);
+    const double shape = side * kSignShare;
+    PaintGlyph(painter, QRectF((side - shape) / 2, (side - shape) / 2, shape, shape),
+               ShapeOf(QLatin1String(glyph)), ink);
     return square;
 }
 
@@ -49,9 +60,9 @@ RowPictures::RowPictures(QListView& view, platform::Thumbnails& thumbnails, int 
       side_(side),
       pathOf_(std::move(pathOf)),
       held_(kMostHeldKiB),
-      waiting_(Frame(view, side)),
-      none_(WithIcon(view, side, QStyle::SP_FileIcon)),
-      film_(WithIcon(view, side, QStyle::SP_MediaPlay)) {
+      waiting_(Ground(view, side)),
+      none_(Sign(view, side, "broken")),
+      film_(Sign(view, side, "film")) {
     view.viewport()->installEventFilter(this);
 }
 
@@ -65,6 +76,11 @@ QPixmap RowPictures::Of(int row) const {
         return *picture;
     }
     return !without_.contains(path) ? waiting_ : text::IsVideoKind(path) ? film_ : none_;
+}
+
+bool RowPictures::Unreadable(int row) const {
+    const Text path = pathOf_(row);
+    return without_.contains(path) && !text::IsVideoKind(path);
 }
 
 void RowPictures::Forget() {

@@ -25,6 +25,9 @@ public:
     /// not there yet or there is none.
     QPixmap Of(int row) const;
 
+    /// The row's file is no film, and no picture could be made of it.
+    bool Unreadable(int row) const;
+
     /// The rows are others: what is held is let go.
     void Forget();
     /// Files may have changed: what is held is shown until it has been asked for anew.

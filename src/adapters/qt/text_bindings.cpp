@@ -1,5 +1,6 @@
 #include "adapters/qt/text_bindings.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -15,13 +16,46 @@ LabelBinding::LabelBinding(model::Label& label, QLabel& widget, const Site& site
     : ControlBinding(label, widget, site),
       label_(label),
       face_(widget),
-      onCanvas_(site.host != nullptr) {
+      onCanvas_(site.host != nullptr),
+      cut_(widget.property("elided").toBool()) {
     widget.setTextFormat(Qt::PlainText);
+    if (cut_) {
+        widget.installEventFilter(this);
+    }
+    passing_.setSingleShot(true);
+    passing_.setInterval(widget.property("passes").toInt());
+    connect(&passing_, &QTimer::timeout, &face_, &QLabel::clear);
     Sync();
 }
 
+void LabelBinding::ShowWords() {
+    face_.setText(
+        cut_ ? face_.fontMetrics().elidedText(shown_, Qt::ElideMiddle, face_.contentsRect().width())
+             : shown_);
+    if (cut_) {
+        face_.setToolTip(face_.text() == shown_ ? QString() : shown_);
+    }
+}
+
+bool LabelBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && (passing_.interval() == 0 || passing_.isActive())) {
+        ShowWords();
+    }
+    return ControlBinding::eventFilter(watched, event);
+}
+
 void LabelBinding::SyncOwn() {
-    face_.setText(ToQt(label_.Caption()));
+    const QString words = ToQt(label_.Caption());
+    const bool news = words != shown_;
+    shown_ = words;
+    if (passing_.interval() == 0) {
+        ShowWords();
+    } else if (news) {
+        ShowWords();
+        passing_.start();
+        QAccessibleEvent told(&face_, QAccessible::Alert);
+        QAccessible::updateAccessibility(&told);
+    }
     if (!label_.FontName().empty()) {
         TakeLook();
     }

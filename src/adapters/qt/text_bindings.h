@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 #include "adapters/qt/control_binding.h"
 #include "model/controls.h"
@@ -17,14 +18,19 @@ public:
 
 protected:
     void SyncOwn() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     int UnitsPerPixel() const override;
 
 private:
+    void ShowWords();
     void TakeLook();
 
     model::Label& label_;
     QLabel& face_;
     bool onCanvas_;
+    bool cut_;        // words that are too long lose their middle ("elided")
+    QTimer passing_;  // words go when it ends ("passes", milliseconds)
+    QString shown_;   // whole
 };
 
 class FrameBinding : public ControlBinding {

@@ -18,6 +18,7 @@ namespace qt_adapter {
 
 namespace {
 
+constexpr QLatin1String kSeen("seen:");
 constexpr QRgb kShapeOnStage = 0xFF5F6368;  // grey that is seen on black without shouting
 
 /// Tells a control's size in the model when its widget has another one.
@@ -75,6 +76,13 @@ void WindowView::Decorate(QWidget& widget) {
         connect(shortcut, &QShortcut::activated, &widget,
                 [&widget] { widget.setFocus(Qt::ShortcutFocusReason); });
     }
+    if (const QString name = widget.property("presses").toString(); !name.isEmpty()) {
+        auto* const button = qobject_cast<QAbstractButton*>(&widget);
+        auto* const pressed = root_->findChild<QAbstractButton*>(name);
+        if (button && pressed) {
+            connect(button, &QAbstractButton::clicked, pressed, &QAbstractButton::click);
+        }
+    }
     const std::string room = widget.property("roomOf").toString().toStdString();
     if (auto* control = dynamic_cast<model::VisibleControl*>(window_.FindControl(room))) {
         new RoomTeller(widget, *control, gate_);
@@ -85,7 +93,7 @@ void WindowView::Decorate(QWidget& widget) {
     }
     conditions_.push_back({&widget, terms});
     for (QString term : terms) {
-        model::Control* control = window_.FindControl(term.remove('!').toStdString());
+        model::Control* control = window_.FindControl(term.remove('!').remove(kSeen).toStdString());
         if (control) {
             control->Listen(this);
             heard_.push_back(control);
@@ -105,12 +113,12 @@ void WindowView::TieToMenus(QWidget& widget) {
             TieToMenu(*button, *menu);
         }
     } else if (auto* view = qobject_cast<QAbstractItemView*>(&widget)) {
-        QList<QAction*> menus;
-        for (const QString& name : Words(widget, "contextMenus")) {
-            menus += menu_->ActionOf(name);
+        QList<ContextPlace> places;
+        for (const QString& name : Words(widget, "contextMenu")) {
+            places += {menu_->ActionOf(name), root_->findChild<QAbstractButton*>(name)};
         }
-        if (!menus.isEmpty()) {
-            GiveContextMenu(*view, menus);
+        if (!places.isEmpty()) {
+            GiveContextMenu(*view, places);
         }
         for (const QString& name : Words(widget, "keysHere")) {
             KeepKeyIn(*view, *menu_->ActionOf(name));
@@ -130,10 +138,11 @@ void WindowView::ApplyConditions() {
         if (term == "idle") {
             return window_.MousePointer == model::kPointerNormal;
         }
+        const bool seen = term.startsWith(kSeen);
         const bool wanted = !term.startsWith('!');
-        const model::Control* control = window_.FindControl(term.remove('!').toStdString());
-        return control && HasWidget(control->Kind()) &&
-               static_cast<const model::VisibleControl*>(control)->Enabled == wanted;
+        const auto* control = dynamic_cast<const model::VisibleControl*>(
+            window_.FindControl(term.remove('!').remove(kSeen).toStdString()));
+        return control && (seen ? control->Visible : control->Enabled) == wanted;
     };
     for (const Condition& condition : conditions_) {
         for (QLabel* label : condition.widget->findChildren<QLabel*>()) {
@@ -142,7 +151,9 @@ void WindowView::ApplyConditions() {
                 label->setText(words);
             }
         }
-        condition.widget->adjustSize();
+        if (!condition.widget->parentWidget()->layout()) {
+            condition.widget->adjustSize();
+        }
         condition.widget->setVisible(
             std::all_of(condition.terms.begin(), condition.terms.end(), holds));
     }

@@ -205,6 +205,8 @@ void WindowView::FollowSize() {
 }
 
 void WindowView::FollowState() {
+    const bool comesBack = root_->isMaximized() && window_.WindowState == model::kWindowNormal;
+    const QPoint place = root_->normalGeometry().topLeft();
     Qt::WindowStates states = root_->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
     if (window_.WindowState == model::kWindowMinimised) {
         states |= Qt::WindowMinimized;
@@ -213,6 +215,10 @@ void WindowView::FollowState() {
     }
     if (states != root_->windowState()) {
         root_->setWindowState(states);
+    }
+    if (comesBack && !fullScreen_ && !countsPixels_) {
+        // Else the size that is set next counts from the corner of the maximised window.
+        root_->setGeometry({place, QSize(ToPixels(window_.Width), ToPixels(window_.Height))});
     }
 }
 

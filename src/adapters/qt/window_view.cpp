@@ -76,6 +76,9 @@ void WindowView::PropertyChanged(model::Control& control, model::PropertyBase& p
             unmade_.erase(found);
             MakeOverlay(wanted);
         }
+        if (title_ && &property == &title_->Caption) {
+            FollowCaption();
+        }
         ApplyConditions();
     } else if (&property == &window_.Visible) {
         FollowVisible();
@@ -117,6 +120,12 @@ void WindowView::Build() {
     DecorateWidgets();
     BindControls();
     GiveFirstFocus();
+    const std::string title = root_->property("titleOf").toString().toStdString();
+    title_ = dynamic_cast<model::Label*>(window_.FindControl(title));
+    if (title_) {
+        window_.FindControl(title)->Listen(this);
+        heard_.push_back(window_.FindControl(title));
+    }
     if (window_.Width == 0 && !fullScreen_) {
         // Not said by the model: the form's own size, as far as the monitor has room for it.
         const QSize size = root_->size().boundedTo(RoomForWindow());
@@ -210,7 +219,8 @@ void WindowView::MakeOverlay(model::VisibleControl& control) {
 
 void WindowView::FollowCaption() {
     const QString caption = ToQt(window_.Caption());
-    root_->setWindowTitle(caption);
+    const QString before = title_ ? ToQt(title_->Caption()) : QString();
+    root_->setWindowTitle(before.isEmpty() ? caption : before + QStringLiteral(" - ") + caption);
     if (auto* label = root_->findChild<QLabel*>("windowCaption")) {
         label->setText(label->fontMetrics().elidedText(caption, Qt::ElideMiddle, label->width()));
         label->setToolTip(caption);

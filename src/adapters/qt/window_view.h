@@ -6,9 +6,11 @@
 //                         scales; as large as a monitor it covers that one as full screen
 //   root   over         name of the window that this one stands above
 //   root   unseen       names of controls that are never shown
+//   root   titleOf      name of a label whose words stand before the caption in the title
 //   root   firstFocus   the widget that has the keyboard at first
 //   canvas hostsObjects controls without a widget are made over this canvas when shown
 //   any    glyph, glyphRole  icon shape, and "highlight" for one on the accent colour
+//   button glyphFor     "CAPTION GLYPH": its shape while that is its caption
 //   any    focusKey     "Ctrl+F": gives it the keyboard
 //   any    elementsOf   name of a control array whose elements without a widget are made in it, in
 //                       lines of as many as elementsBeside says
@@ -16,13 +18,20 @@
 //   any    placed       stands and is as large as the model says, whatever its parent's layout
 //   button entry        menu entry that it stands for, with its mark and its being enabled
 //   button menu         menu that it opens
-//   list   contextMenus "A B": entries of menu A and below them the menu B, at the mouse or keys
+//   list   contextMenu  "A - B": entries, menus and buttons in groups, at the mouse or the menu key
 //   list   keysHere     entries whose keys are theirs only while the list has the keyboard
-//   list   emptyWords, noneSeenWords  what stands in place of rows (faces only)
+//   list   emptyWords, emptyGlyph  what stands in place of rows; the first line stands out
+//   list   noneSeenWords  the same where a filter hides all rows (faces only)
+//   button ofFiles      name of a file list that it shows as names, or, with asPictures, thumbnails
 //   list   insertsWhile check box: while it is ticked, files that are dropped go in front of the
 //                       one selected row, else to the end
 //   line   escClears    Esc empties it
-//   any    showWhile    "idle A !B": shown while the pointer is normal, A enabled, B disabled
+//   any    showWhile    "idle A !B seen:C": shown while the pointer is normal, A enabled, B
+//   disabled,
+//                       C visible
+//   button presses      name of a button that a press on it presses
+//   label  elided       words that are too long lose their middle
+//   label  passes       milliseconds for which new words stand
 //   label  textWithDrop words used instead when the window takes dropped files
 // A label called windowCaption follows the window's caption.
 #pragma once
@@ -39,6 +48,7 @@
 #include "adapters/qt/control_binding.h"
 #include "adapters/qt/form_loader.h"
 #include "adapters/qt/menu_binding.h"
+#include "model/controls.h"
 #include "model/window.h"
 
 class QDropEvent;
@@ -119,6 +129,7 @@ private:
     std::vector<model::VisibleControl*> unmade_;  // get their widget when first shown
     std::vector<Condition> conditions_;
     std::vector<model::Control*> heard_;
+    const model::Label* title_ = nullptr;
 };
 
 }  // namespace qt_adapter

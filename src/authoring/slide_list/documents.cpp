@@ -1,5 +1,7 @@
 #include "authoring/slide_list/documents.h"
 
+#include <utility>
+
 #include "authoring/slide_list/linked_work.h"
 #include "authoring/slide_list/preview.h"
 #include "authoring/slide_list/remembered_files.h"
@@ -71,7 +73,9 @@ void SaveAs(Application& app, TextView title, int16_t distribution) {
         return;
     }
     app.state.DistributionSaveFlag = distribution;
-    document::WriteShowDocument(app, path);
+    if (document::WriteShowDocument(app, path)) {
+        SayDone(app.windows.form3, text::BareName(app.state.DocumentPath) + u" に保存しました");
+    }
     RememberFiles(app);
 }
 

@@ -7,6 +7,7 @@
 #include "document/interval.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
+#include "text/paths.h"
 
 namespace authoring {
 
@@ -43,13 +44,16 @@ Text ShowLength(int pictures, int films, double intervalMs) {
 }
 
 SlideListSigns::SlideListSigns(model::Application& app) : app_(app) {
+    app_.windows.form1.Listen(this);
     app_.windows.form1.Timer1.Listen(this);
     app_.windows.form3.List1.Listen(this);
+    SayDocument();
     PropertyChanged(app_.windows.form3.List1, app_.windows.form3.List1.AsGrid);
     RowsChanged(app_.windows.form3.List1, {model::RowChange::Cleared, 0});
 }
 
 SlideListSigns::~SlideListSigns() {
+    app_.windows.form1.Unlisten(this);
     app_.windows.form1.Timer1.Unlisten(this);
     app_.windows.form3.List1.Unlisten(this);
 }
@@ -58,6 +62,8 @@ void SlideListSigns::PropertyChanged(model::Control&, model::PropertyBase& prope
     model::Form3& form3 = app_.windows.form3;
     if (&property == &app_.windows.form1.Timer1.Interval) {
         SayLength();
+    } else if (&property == &app_.windows.form1.Caption) {
+        SayDocument();
     } else if (&property == &form3.List1.AsGrid) {
         form3.mnuFACE.Check(form3.List1.AsGrid ? 1 : 0);
     }
@@ -94,6 +100,11 @@ void SlideListSigns::Look(int row, int count) {
         films_ += static_cast<int>(film) - static_cast<int>(film_[place]);
         film_[place] = film;
     }
+}
+
+/// Whatever replaces the document says so in the main window's caption.
+void SlideListSigns::SayDocument() {
+    app_.windows.form3.Document.Caption = text::BareName(app_.state.DocumentPath);
 }
 
 void SlideListSigns::SayLength() {

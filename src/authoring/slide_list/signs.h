@@ -7,8 +7,9 @@
 
 namespace authoring {
 
-/// As long as it lives Form3's Length says how long the show lasts at the present interval, and
-/// the checked entry of mnuFACE how the rows are shown, whoever changes any of it.
+/// As long as it lives Form3's Length says how long the show lasts at the present interval, its
+/// Document what the show is called, and the checked entry of mnuFACE how the rows are shown,
+/// whoever changes any of it.
 class SlideListSigns : public model::Listener {
 public:
     explicit SlideListSigns(model::Application& app);
@@ -21,6 +22,7 @@ public:
 
 private:
     void Look(int row, int count);
+    void SayDocument();
     void SayLength();
 
     model::Application& app_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <string>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -33,6 +34,10 @@ bool IsExcluded(TextView folder) {
            upper.find(u"\\WINDOWS.OLD") != Text::npos;
 }
 
+Text NumberText(size_t number) {
+    return text::FromUtf8(std::to_string(number));
+}
+
 /// What is seen of a search, from its beginning to its end, however it is left.
 class SearchFace {
 public:
@@ -41,6 +46,8 @@ public:
     }
     ~SearchFace() {
         app_.state.SlideSearchActive = 0;
+        app_.windows.form3.Searched.Caption = Text();
+        app_.windows.form3.Found.Caption = Text();
         app_.windows.form3.Command8.Caption = u"検索";
         app_.windows.form3.File1.Pattern = Text(kSlidePatterns);
     }
@@ -61,6 +68,7 @@ public:
     /// True when the search was stopped.
     bool Walk(const Text& folder) {
         model::ShowState& state = app_.state;
+        searched_ = folder;
         const bool due = IsDue();
         if (due) {
             AddFound();
@@ -104,6 +112,7 @@ public:
     void AddFound() {
         if (folders_ > 0) {
             folders_ = 0;
+            all_ += found_.size();
             AddFiles(app_, std::exchange(found_, {}));
         }
     }
@@ -118,8 +127,16 @@ private:
     }
 
     void Pump() {
+        SayHowFar();
         work_.GoOn(0, 0);
         pumpedAt_ = app_.platform.loop.Milliseconds();
+    }
+
+    void SayHowFar() {
+        model::Form3& form3 = app_.windows.form3;
+        form3.Searched.Caption = searched_;
+        form3.Found.Caption = NumberText(entered_.size()) + u" フォルダ、" +
+                              NumberText(all_ + found_.size()) + u" 枚";
     }
 
     /// Within a folder that takes long to read.
@@ -158,7 +175,9 @@ private:
     LongWork work_;
     std::unordered_set<Text> entered_;  // identities
     std::vector<Text> found_;           // paths, not in the list yet
+    size_t all_ = 0;                    // files found before these
     int folders_ = 0;                   // that they were found in
+    Text searched_;                     // folder
     double pumpedAt_ = 0;
 };
 

@@ -21,6 +21,8 @@ struct Form3 : Window {
     FileList File1{this, "File1"};
     Label Label6{this, "Label6", u"↓画像・動画ファイルをドラッグ＆ドロップして下さい"};
     Label Label1{this, "Label1", u"検索中"};  // while a search runs
+    Label Searched{this, "Searched"};         // the folder that is searched just now
+    Label Found{this, "Found"};               // what the search has come to
 
     // The list.
     TextBox Filter{this, "Filter"};             // rows that do not hold it are not seen
@@ -43,6 +45,8 @@ struct Form3 : Window {
     Button Redo{this, "Redo", u"やり直す"};
     Button Relink{this, "Relink", u"見つからないファイルを探す…"};
     // The document.
+    Label Document{this, "Document"};  // its name
+    Label Notice{this, "Notice"};      // what was done last, for a glance
     Button Command15{this, "Command15", u"新規作成"};
     Button Command6{this, "Command6", u"開く"};
     Button Command7{this, "Command7", u"保存"};
