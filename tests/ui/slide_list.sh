@@ -28,12 +28,12 @@ column=443
 first=150 second=212 third=274
 
 # The tree stands at home; the row below it is the folder.
-Seen 'the folder' Click 100 197
-Seen 'the first file' Click 60 256
+Seen 'the folder' Click 100 218
+Seen 'the first file' Click 60 270
 WaitForColor $column $first '#FF0000' 'the first row is red'
-Click 60 270
+Click 60 292
 WaitForColor $column $second '#00FF00' 'the second row is green'
-Click 60 284
+Click 60 314
 WaitForColor $column $third '#0000FF' 'the third row is blue'
 
 # The third row is dragged in front of the first.
@@ -61,6 +61,11 @@ WaitForColor $column $first '#00FF00' 'the green row alone is seen'
 xdotool key ctrl+a Delete
 WaitForColor $column $first '#0000FF' 'all rows are there again'
 ExpectColor $column $third '#00FF00' 'the green one, too'
+
+# The menu key brings the list's menu.
+Click 600 $first
+Seen 'the menu of the list' xdotool key Menu
+Seen 'the list without its menu' xdotool key Escape
 
 Click 180 50    # save
 WaitForWindow 'ファイルの保存'

@@ -54,6 +54,12 @@ bool ChangedByOthers(Application& app, const Text& path) {
            platform::DateTimeText(*date) != state.DocumentFileDate;
 }
 
+/// The same words once more are news, too.
+void SayDone(model::Form3& form3, Text words) {
+    form3.Notice.Caption = Text();
+    form3.Notice.Caption = std::move(words);
+}
+
 void SaveAs(Application& app, TextView title, int16_t distribution) {
     platform::Dialogs::FileRequest request;
     request.save = true;

@@ -135,6 +135,36 @@ TEST(Save, NewDocumentHasNoNameYet) {
     EXPECT_EQ(desk.LineOf(u"C:\\show\\new.kvs", 27), u"C:\\show\\a.png");
 }
 
+/// Hears each change of a label's words.
+struct SaidWords : model::Listener {
+    explicit SaidWords(model::Label& label) : label_(label) { label_.Listen(this); }
+    ~SaidWords() override { label_.Unlisten(this); }
+    void PropertyChanged(model::Control&, model::PropertyBase&) override {
+        if (!label_.Caption().empty()) {
+            words.push_back(label_.Caption());
+        }
+    }
+    std::vector<Text> words;
+
+private:
+    model::Label& label_;
+};
+
+TEST(Save, SaysSoEachTime) {
+    Desk desk;
+    desk.Open(u"C:\\show\\two.kvs");
+    const SaidWords said(desk.form3.Notice);
+    for (int i = 0; i < 2; ++i) {
+        desk.dialogs.fileAnswers = {Text(u"C:\\show\\two.kvs")};
+        SaveDocument(desk.app);
+    }
+    EXPECT_EQ(said.words, (std::vector<Text>(2, u"two.kvs に保存しました")));
+    desk.dialogs.fileAnswers = {Text(u"C:\\show\\other.kvs")};
+    desk.files.writeError = u"書けません";
+    SaveDocument(desk.app);
+    EXPECT_EQ(said.words.size(), 2u) << "a failure has its own box";
+}
+
 TEST(Save, OpenDocumentsNameIsOffered) {
     Desk desk;
     desk.Open(u"C:\\show\\two.kvs");

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "document/interval.h"
+#include "document/main_caption.h"
 #include "document/slide_rows.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
@@ -69,6 +70,19 @@ TEST_F(Signs, FollowTheInterval) {
     EXPECT_EQ(Length(), u"約 1 分 20 秒");
     app.windows.form1.Timer1.Interval = 1;
     EXPECT_EQ(Length(), u"約 1 分 20 秒") << "a show's own short ticks are no interval";
+}
+
+TEST_F(Signs, NameTheDocument) {
+    const SlideListSigns signs(app);
+    EXPECT_EQ(form3.Document.Caption(), u"");
+    app.state.DocumentPath = u"D:\\show\\海.kvs";
+    document::ShowDocumentCaption(app);
+    EXPECT_EQ(form3.Document.Caption(), u"海.kvs");
+    app.windows.form1.Caption = u"a.png";  // a slide of the show
+    EXPECT_EQ(form3.Document.Caption(), u"海.kvs");
+    app.state.DocumentPath.clear();
+    document::ShowDocumentCaption(app);
+    EXPECT_EQ(form3.Document.Caption(), u"");
 }
 
 TEST_F(Signs, CheckTheChoiceOfFaces) {

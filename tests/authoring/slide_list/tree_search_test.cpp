@@ -51,6 +51,26 @@ TEST_F(TreeSearch, FilesComeAfterThoseOfTheSubfoldersWhichAreWalkedFromTheLastOn
     EXPECT_FALSE(document::UndoSlideRows(app));
 }
 
+TEST_F(TreeSearch, SaysWhereItIsAndWhatItFound) {
+    std::vector<Text> where, what;
+    loop.onPump = [&] {
+        const bool elsewhere = where.empty() || where.back() != form3.Searched.Caption();
+        if (state.SlideSearchActive == 1 && elsewhere) {
+            EXPECT_TRUE(form3.Label1.Visible);
+            where.push_back(form3.Searched.Caption);
+            what.push_back(form3.Found.Caption);
+        }
+    };
+    Search();
+    EXPECT_THAT(where, ElementsAre(u"D:\\t", u"D:\\t\\empty", u"D:\\t\\empty\\deep", u"D:\\t\\b",
+                                   u"D:\\t\\a", u"D:\\t\\a\\x"));
+    EXPECT_EQ(what.front(), u"0 フォルダ、0 枚");
+    EXPECT_EQ(what[3], u"3 フォルダ、1 枚") << "empty, deep and the root";
+    EXPECT_EQ(what.back(), u"5 フォルダ、3 枚");
+    EXPECT_EQ(form3.Searched.Caption(), u"");
+    EXPECT_EQ(form3.Found.Caption(), u"");
+}
+
 TEST_F(TreeSearch, ACancelledDialogSearchesNothing) {
     asked.clear();
     Search();
