@@ -204,6 +204,36 @@ TEST(StepCd, OnSlide1TheWishIsClearedUnlessPaused) {
     }
 }
 
+TEST(StepCd, ADiscThatIsTakenOutCostsTheMusicAndNotTheShow) {
+    for (const bool full : {false, true}) {
+        Show show(5);
+        show.state.SoundMode = 2;
+        show.state.AlwaysFullFlag = full ? 0 : 1;
+        show.state.FullStartConfirm = 1;
+        show.sound.cd.Insert({60, 60});
+        show.loop.At(4000, [&] { show.sound.cd.Insert({}); });
+        show.Start();
+        show.loop.Run(30000);
+        EXPECT_GE(show.Shown().size(), 5u);
+        EXPECT_EQ(show.CommandsFrom(u"play cdaudio"), Texts{u"play cdaudio from 1 to 2"});
+        EXPECT_TRUE(show.dialogs.messages.empty());
+    }
+}
+
+TEST(StepCd, WhatFollowsAtOnceSeesNoDiscStandStill) {
+    Show show(4);
+    show.state.SoundMode = 2;
+    show.state.ListErrorDelete = 1;
+    show.Break(2);
+    show.Break(3);
+    show.sound.cd.Insert({60, 60});
+    show.Start();
+    show.loop.Run(5000);
+    EXPECT_EQ(show.Shown(), (Numbers{1, 2}));
+    EXPECT_TRUE(show.CommandsFrom(u"stop cdaudio").empty());
+    EXPECT_EQ(show.CommandsFrom(u"status cdaudio position").size(), 4u);
+}
+
 TEST(StepCd, NoQuestionByHandOrPaused) {
     CdShow show;
     show.state.CdPaused = 1;

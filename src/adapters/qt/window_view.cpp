@@ -179,16 +179,26 @@ void WindowView::Bind(model::VisibleControl& control, QWidget& widget, const Can
     }
 }
 
-QHash<QString, QWidget*> WindowView::BoxesOfElements() const {
+QHash<QString, QWidget*> WindowView::BoxesOfElements() {
     QHash<QString, QWidget*> boxes;
     for (QWidget* widget : root_->findChildren<QWidget*>()) {
         if (const QString array = widget->property("elementsOf").toString(); !array.isEmpty()) {
             auto* cells = new QGridLayout(widget);
             cells->setContentsMargins({});
+            widget->installEventFilter(this);
             boxes[array] = widget;
         }
     }
     return boxes;
+}
+
+/// What its elements became while nothing was seen, the layouts around the box did not take up.
+void WindowView::GiveElementsRoom(QWidget& box) {
+    for (QWidget* around = &box; around && around != root_; around = around->parentWidget()) {
+        if (around->layout()) {
+            around->layout()->activate();
+        }
+    }
 }
 
 /// At the next place of the box, line by line; the keyboard reaches it after the one before.
@@ -231,6 +241,8 @@ bool WindowView::eventFilter(QObject* watched, QEvent* event) {
     if (watched != root_) {
         if (event->type() == QEvent::Expose) {
             Exposed();
+        } else if (event->type() == QEvent::Show && watched->property("elementsOf").isValid()) {
+            GiveElementsRoom(static_cast<QWidget&>(*watched));
         }
         return false;
     }

@@ -85,7 +85,8 @@ private:
     void BindControls();
     void Bind(model::VisibleControl& control, QWidget& widget, const CanvasWidget* host);
     /// By the names of the arrays whose elements they take.
-    QHash<QString, QWidget*> BoxesOfElements() const;
+    QHash<QString, QWidget*> BoxesOfElements();
+    void GiveElementsRoom(QWidget& box);
     void MakeElement(model::VisibleControl& control, QWidget& box);
     void MakeOverlay(model::VisibleControl& control);
     void DecorateWidgets();
