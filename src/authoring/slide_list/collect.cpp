@@ -7,8 +7,9 @@
 
 #include "authoring/shared/browser_memory.h"
 #include "authoring/shared/file_browser.h"
+#include "authoring/shared/list_work.h"
 #include "authoring/slide_list/collect_plan.h"
-#include "authoring/slide_list/list_work.h"
+#include "authoring/slide_list/slides.h"
 #include "document/show_document.h"
 #include "model/menu.h"
 #include "model/windows/slide_list.h"
@@ -83,7 +84,10 @@ private:
 class Collector {
 public:
     Collector(Application& app, const Text& folder)
-        : app_(app), folder_(text::WithSeparator(folder)), plan_(app), work_(app, u"作成中") {}
+        : app_(app),
+          folder_(text::WithSeparator(folder)),
+          plan_(app),
+          work_(Slides(app), u"作成中") {}
 
     /// What there is to say at the end.
     Text Run() {

@@ -1,8 +1,8 @@
 #include "authoring/slide_list/history.h"
 
 #include "authoring/shared/list_history.h"
-#include "authoring/slide_list/preview.h"
-#include "authoring/slide_list/selection.h"
+#include "authoring/shared/list_rows.h"
+#include "authoring/slide_list/slides.h"
 #include "authoring/slide_list/stopped_search.h"
 #include "document/slide_rows.h"
 #include "model/windows/slide_list.h"
@@ -22,9 +22,9 @@ void GoBack(Application& app, bool (*back)(Application& app)) {
         return;
     }
     app.state.SlideListDirty = 1;
-    DisableSlideButtons(app);
-    ClearPreview(app);
-    FollowSelection(app);
+    const ListWindow window = Slides(app);
+    window.deselected(app);
+    window.follow(app);
     if (app.state.SlideListEnd != slides) {
         playback::ForgetPrepared(app);
         playback::SetButtons(app, playback::Buttons::Idle);
@@ -39,11 +39,8 @@ void AttachHistory(Application& app) {
         {form3.history, form3.Undo, form3.Redo, form3.mnuUNDO, form3.mnuREDO},
         [&app] { GoBack(app, document::UndoSlideRows); },
         [&app] { GoBack(app, document::RedoSlideRows); });
-    form3.List1.RowsDragged = [&app](int before) {
-        if (!StoppedSearch(app)) {
-            document::MoveRows(document::SlideRows(app), SelectedSlides(app), before);
-            app.state.SlideListDirty = 1;
-        }
+    form3.List1.RowsDragged = [slides = Slides(app)](int before) {
+        MoveDraggedRows(slides, before);
     };
 }
 

@@ -10,6 +10,7 @@
 #include "authoring/shared/browser_memory.h"
 #include "authoring/slide_list/relink_search.h"
 #include "authoring/slide_list/selection.h"
+#include "authoring/slide_list/slides.h"
 #include "document/slide_rows.h"
 #include "model/monitors.h"
 #include "model/windows/relink_preview.h"
@@ -86,7 +87,7 @@ private:
         missing_.clear();
         found_.clear();
         {
-            ListWork work(app_, u"確認中");
+            ListWork work(Slides(app_), u"確認中");
             const auto& rows = app_.windows.form3.List1.Rows();
             const auto facts =
                 AskFacts(app_, work, {rows.begin(), rows.end()}, platform::FileInquiry::Presence);
@@ -128,7 +129,7 @@ private:
         RememberFolder(app_, *folder);
         Findings found;
         {
-            ListWork work(app_, u"検索中");
+            ListWork work(Slides(app_), u"検索中");
             found = SearchFolder(app_, work, *folder, left);
         }
         if (found.empty()) {
@@ -232,7 +233,7 @@ void AttachRelink(Application& app) {
     model::Form3& form3 = app.windows.form3;
     model::RelinkPreview& window = app.windows.relinkPreview;
     const auto relinking = std::make_shared<Relinking>(app);
-    AttachCommand(app, form3.mnuRELINK, u"", [relinking](Application&) { relinking->Run(); });
+    AttachCommand(Slides(app), form3.mnuRELINK, u"", [relinking] { relinking->Run(); });
     form3.Relink.Click = [&form3] { form3.mnuRELINK.Choose(); };
     window.OnLoad = [&app, &window] { model::CentreOnMonitor(app, window); };
     window.Check1.Click = [relinking] { relinking->Check1_Click(); };

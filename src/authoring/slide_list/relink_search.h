@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "authoring/slide_list/list_work.h"
+#include "authoring/shared/list_work.h"
 #include "authoring/slide_list/relink_match.h"
 
 namespace authoring {

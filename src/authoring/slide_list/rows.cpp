@@ -1,7 +1,7 @@
 #include "authoring/slide_list/rows.h"
 
-#include "authoring/slide_list/preview.h"
-#include "authoring/slide_list/selection.h"
+#include "authoring/shared/list_rows.h"
+#include "authoring/slide_list/slides.h"
 #include "authoring/slide_list/stopped_search.h"
 #include "document/main_caption.h"
 #include "document/slide_rows.h"
@@ -14,26 +14,9 @@ namespace {
 constexpr int kKeyInsert = 45;
 constexpr int kKeyDelete = 46;
 
-bool SomeAreHidden(const model::ListBox& list) {
-    for (int row = 0; row < list.ListCount(); ++row) {
-        if (!list.Seen(row)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 void Command4_Click(Application& app) {
-    const model::ListBox& list = app.windows.form3.List1;
-    if (StoppedSearch(app) || list.ListCount() == 0) {
-        return;
-    }
-    Text question = u"スライドリストをすべて消去しますか ?";
-    if (SomeAreHidden(list)) {
-        question += u"\r\n（絞り込みで表示されていない項目も消去されます。）";
-    }
-    if (app.platform.dialogs.Message(question, platform::kYesNoQuestion, u"一括取消") !=
-        platform::Answer::Yes) {
+    if (StoppedSearch(app) || app.windows.form3.List1.ListCount() == 0 ||
+        !AskToClear(Slides(app), u"スライドリストをすべて消去しますか ?")) {
         return;
     }
     model::ShowState& state = app.state;
@@ -48,19 +31,8 @@ void Command4_Click(Application& app) {
     }
     document::ShowDocumentCaption(app);
     state.ResumeIndex = 0;
-    DisableSlideButtons(app);
-    ClearPreview(app);
+    Slides(app).deselected(app);
     app.windows.SetPointer(model::kPointerNormal);
-}
-
-/// The nearest row in that direction that is seen; -1 at the end.
-int Neighbour(const model::ListBox& list, int row, int direction) {
-    for (int other = row + direction; other >= 0 && other < list.ListCount(); other += direction) {
-        if (list.Seen(other)) {
-            return other;
-        }
-    }
-    return -1;
 }
 
 /// Kept: the preview is on afterwards, whatever it was.
@@ -68,19 +40,10 @@ void MoveSlide(Application& app, int direction, TextView title) {
     if (StoppedSearch(app)) {
         return;
     }
-    model::Form3& form3 = app.windows.form3;
-    const std::optional<int> row = AskForOneSlide(app, title);
-    const int other = row ? Neighbour(form3.List1, *row, direction) : -1;
-    if (other < 0) {
+    if (!MoveSelectedRow(Slides(app), direction, title)) {
         return;
     }
-    document::SwapRows(document::SlideRows(app), *row, other);
-    for (model::ListBox* list : {&form3.List1, &form3.List2}) {
-        list->Select(*row, false);
-        list->Select(other, true);
-        list->ListIndex = other;
-    }
-    form3.Check1.Value = 1;
+    app.windows.form3.Check1.Value = 1;
     app.state.ListShowPicture = 1;
 }
 
@@ -98,13 +61,11 @@ void RemoveSelectedSlides(Application& app) {
     if (StoppedSearch(app)) {
         return;
     }
-    const std::vector<int> rows = SelectedSlides(app);
-    if (!rows.empty()) {
-        document::RemoveRows(document::SlideRows(app), rows);
+    const ListWindow slides = Slides(app);
+    if (RemoveSelectedRows(slides)) {
         app.state.ResumeIndex = 0;
     }
-    DisableSlideButtons(app);
-    ClearPreview(app);
+    slides.deselected(app);
 }
 
 void AttachRows(Application& app) {

@@ -1,5 +1,6 @@
 #include "authoring/slide_list/selection.h"
 
+#include "authoring/shared/list_window.h"
 #include "authoring/slide_list/preview.h"
 #include "document/linked_names.h"
 #include "macro/macro.h"
@@ -27,24 +28,11 @@ void List1_Click(Application& app) {
 }  // namespace
 
 std::vector<int> SelectedSlides(const Application& app) {
-    const model::ListBox& list = app.windows.form3.List1;
-    std::vector<int> rows = list.SelectedRows();
-    std::erase_if(rows, [&list](int row) { return !list.Seen(row); });
-    return rows;
-}
-
-std::optional<int> OnlySelectedSlide(const Application& app) {
-    const std::vector<int> rows = SelectedSlides(app);
-    return rows.size() == 1 ? std::optional(rows.front()) : std::nullopt;
+    return SelectedRows(app.windows.form3.List1);
 }
 
 std::optional<int> AskForOneSlide(Application& app, TextView title) {
-    const std::optional<int> row = OnlySelectedSlide(app);
-    if (!row) {
-        app.platform.dialogs.Message(u"リストから１項目だけ選んで行ってください。",
-                                     platform::kExclamation, title);
-    }
-    return row;
+    return AskForOneRow(app, app.windows.form3.List1, title);
 }
 
 int RowInSight(const Application& app) {
@@ -62,7 +50,7 @@ void FollowSelection(Application& app) {
     if (form3.Check1.Value == 0) {
         return;
     }
-    const std::optional<int> row = OnlySelectedSlide(app);
+    const std::optional<int> row = OnlySelectedRow(form3.List1);
     const Text slide = row ? form3.List1.List(*row) : Text();
     const bool picture = row && !text::IsVideoKind(slide);
     form3.Command25.Enabled = picture;

@@ -13,10 +13,8 @@ void AttachSelection(Application& app);
 /// Rows that are selected and seen, from the top.
 std::vector<int> SelectedSlides(const Application& app);
 
-/// The one row of these where there is exactly one.
-std::optional<int> OnlySelectedSlide(const Application& app);
-
-/// The same; otherwise a warning under that title says that one has to be chosen.
+/// The one row of these; where there is not exactly one, a warning under that title says that one
+/// has to be chosen.
 std::optional<int> AskForOneSlide(Application& app, TextView title);
 
 /// The current row; where the filter hides it the first one that is selected and seen. -1: none.

@@ -4,16 +4,19 @@
 
 #include "authoring/batch_conversion.h"
 #include "authoring/shared/file_browser.h"
+#include "authoring/shared/list_clipboard.h"
+#include "authoring/shared/list_filter.h"
+#include "authoring/shared/list_search.h"
+#include "authoring/shared/list_sorting.h"
 #include "authoring/shared/open_window.h"
 #include "authoring/slide_list/adding.h"
 #include "authoring/slide_list/check_boxes.h"
-#include "authoring/slide_list/clipboard_rows.h"
 #include "authoring/slide_list/commit.h"
 #include "authoring/slide_list/copies.h"
 #include "authoring/slide_list/documents.h"
 #include "authoring/slide_list/double_click.h"
-#include "authoring/slide_list/filter.h"
 #include "authoring/slide_list/history.h"
+#include "authoring/slide_list/kinds.h"
 #include "authoring/slide_list/linked_sound.h"
 #include "authoring/slide_list/linked_text.h"
 #include "authoring/slide_list/linked_work.h"
@@ -23,12 +26,12 @@
 #include "authoring/slide_list/rows.h"
 #include "authoring/slide_list/run_from_selection.h"
 #include "authoring/slide_list/selection.h"
-#include "authoring/slide_list/sorting.h"
+#include "authoring/slide_list/slides.h"
 #include "authoring/slide_list/stopped_search.h"
-#include "authoring/slide_list/tree_search.h"
 #include "document/main_caption.h"
 #include "model/monitors.h"
 #include "model/windows/declared_windows.h"
+#include "model/windows/file_search.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/sound_windows.h"
@@ -174,6 +177,20 @@ void AttachButtons(Application& app) {
     };
 }
 
+/// What every list of this kind can do.
+void AttachListAbilities(Application& app) {
+    model::Form3& form3 = app.windows.form3;
+    const ListWindow slides = Slides(app);
+    AttachTreeSearch({slides, form3.Dir1, form3.File1, kSlidePatterns, app.windows.form18,
+                      form3.Searched, form3.Found, u"枚"});
+    AttachClipboardRows(
+        slides, {form3.mnuCUT, form3.mnuCOPY, form3.mnuPASTE, form3.mnuREMOVE, form3.mnuALL},
+        [&app] { RemoveSelectedSlides(app); });
+    AttachSorting(slides, {form3.mnuSORTNAME, form3.mnuSORTDATE, form3.mnuSORTFOLDER,
+                           form3.mnuSHUFFLE, form3.mnuREVERSE, &form3.mnuSORTTAKEN});
+    AttachFilter(slides, form3.Filter, form3.SeenCount, u"枚");
+}
+
 }  // namespace
 
 void AttachSlideList(Application& app) {
@@ -189,14 +206,11 @@ void AttachSlideList(Application& app) {
     AttachLinkedSound(app);
     AttachDoubleClick(app);
     AttachRunFromSelection(app);
-    AttachTreeSearch(app);
     AttachCopies(app);
     AttachRowFaces(app);
     AttachHistory(app);
-    AttachClipboardRows(app);
-    AttachSorting(app);
-    AttachFilter(app);
     AttachRelink(app);
+    AttachListAbilities(app);
 }
 
 }  // namespace authoring

@@ -1,5 +1,5 @@
 // Cut, copy, paste and select all of Form3's rows.
-#include "authoring/slide_list/clipboard_rows.h"
+#include "authoring/shared/list_clipboard.h"
 
 #include <gtest/gtest.h>
 

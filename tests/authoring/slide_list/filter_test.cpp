@@ -1,5 +1,5 @@
 // The box above Form3's list.
-#include "authoring/slide_list/filter.h"
+#include "authoring/shared/list_filter.h"
 
 #include <gtest/gtest.h>
 

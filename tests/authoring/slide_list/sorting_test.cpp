@@ -1,5 +1,5 @@
 // The orders into which a person brings the rows of Form3.
-#include "authoring/slide_list/sorting.h"
+#include "authoring/shared/list_sorting.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,8 @@
-#include "authoring/slide_list/list_work.h"
+#include "authoring/shared/list_work.h"
 
 #include <algorithm>
 #include <string>
 #include <utility>
-
-#include "authoring/slide_list/stopped_search.h"
-#include "model/windows/slide_list.h"
 
 namespace authoring {
 
@@ -31,40 +28,44 @@ struct Asked {
 
 }  // namespace
 
-void AttachCommand(Application& app, model::MenuEntry& entry, TextView keys,
-                   std::function<void(Application&)> command) {
+void AttachCommand(const ListWindow& window, model::MenuEntry& entry, TextView keys,
+                   std::function<void()> command) {
     entry.Shortcut = Text(keys);
-    entry.Click = [&app, command = std::move(command)] {
-        if (!StoppedSearch(app)) {
-            command(app);
+    entry.Click = [window, command = std::move(command)] {
+        if (!StoppedWork(window)) {
+            command();
         }
     };
 }
 
-ListWork::ListWork(Application& app, Text doing)
-    : app_(app),
+void ShowStop(const ListWindow& window, bool runs) {
+    window.stop.Caption = runs ? Text(u"中止") : Text(window.stopCaption);
+    window.stop.Visible = runs || !window.stopCaption.empty();
+}
+
+ListWork::ListWork(const ListWindow& window, Text doing)
+    : window_(window),
       doing_(std::move(doing)),
-      work_(app, {app.windows.form3}, [&app] { return app.state.SlideSearchActive == 0; }) {
-    model::Form3& form3 = app.windows.form3;
-    app.state.SlideSearchActive = 1;
-    form3.Command8.Caption = u"中止";
-    form3.Label1.Caption = doing_;
-    form3.Label1.Visible = true;
+      work_(window.app, {window.window},
+            [&searching = window.searching] { return searching == 0; }) {
+    window_.searching = 1;
+    ShowStop(window_, true);
+    window_.doing.Caption = doing_;
+    window_.doing.Visible = true;
 }
 
 ListWork::~ListWork() {
-    model::Form3& form3 = app_.windows.form3;
-    app_.state.SlideSearchActive = 0;
-    form3.Command8.Caption = u"検索";
-    form3.Label1.Visible = false;
-    form3.Label1.Caption = u"検索中";
+    window_.searching = 0;
+    ShowStop(window_, false);
+    window_.doing.Visible = false;
+    window_.doing.Caption = u"検索中";
 }
 
 bool ListWork::GoOn(int64_t done, int64_t whole) {
-    const double now = app_.platform.loop.Milliseconds();
+    const double now = window_.app.platform.loop.Milliseconds();
     if (now - shownAt_ >= kBetweenTexts) {
         shownAt_ = now;
-        app_.windows.form3.Label1.Caption =
+        window_.doing.Caption =
             doing_ + u" " + NumberText(done) + (whole > 0 ? u" / " + NumberText(whole) : Text());
     }
     return work_.GoOn(done, whole);

@@ -1,4 +1,5 @@
-// What the commands on the rows of Form3 share: how they are reached, and work that takes long.
+// What the commands on the rows of a list window share: how they are reached, and work that takes
+// long.
 #pragma once
 
 #include <functional>
@@ -6,22 +7,22 @@
 #include <unordered_map>
 #include <vector>
 
+#include "authoring/shared/list_window.h"
 #include "authoring/shared/long_work.h"
-#include "model/application.h"
 #include "model/menu.h"
 
 namespace authoring {
 
 /// The entry carries the command out, unless it stops a search or a ListWork. `keys` as
 /// MenuEntry::Shortcut.
-void AttachCommand(Application& app, model::MenuEntry& entry, TextView keys,
-                   std::function<void(Application&)> command);
+void AttachCommand(const ListWindow& window, model::MenuEntry& entry, TextView keys,
+                   std::function<void()> command);
 
-/// Long work of Form3 that is seen and stopped as a search is: Command8 says so, Label1 says what
-/// is done and how far it is, and the window's commands stop it.
+/// Long work of a list that is seen and stopped as a search is: the window's `stop` says so,
+/// `doing` says what is done and how far it is, and the window's commands stop it.
 class ListWork {
 public:
-    ListWork(Application& app, Text doing);
+    ListWork(const ListWindow& window, Text doing);
     ~ListWork();
     ListWork(const ListWork&) = delete;
     ListWork& operator=(const ListWork&) = delete;
@@ -32,11 +33,14 @@ public:
     platform::Report Report() { return work_.Report(); }
 
 private:
-    Application& app_;
+    ListWindow window_;
     Text doing_;
     double shownAt_ = -1e9;  // milliseconds
     LongWork work_;
 };
+
+/// The window's `stop` is called 中止, or seen at all, while work runs.
+void ShowStop(const ListWindow& window, bool runs);
 
 using FactsOfFiles = std::unordered_map<Text, platform::FileFacts>;
 

@@ -1,4 +1,4 @@
-#include "authoring/slide_list/tree_search.h"
+#include "authoring/shared/list_search.h"
 
 #include <algorithm>
 #include <new>
@@ -7,13 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "authoring/shared/list_rows.h"
+#include "authoring/shared/list_work.h"
 #include "authoring/shared/long_work.h"
 #include "authoring/shared/open_window.h"
-#include "authoring/slide_list/adding.h"
-#include "authoring/slide_list/stopped_search.h"
-#include "document/slide_rows.h"
-#include "model/windows/file_search.h"
-#include "model/windows/slide_list.h"
 #include "text/paths.h"
 
 namespace authoring {
@@ -41,47 +38,46 @@ Text NumberText(size_t number) {
 /// What is seen of a search, from its beginning to its end, however it is left.
 class SearchFace {
 public:
-    explicit SearchFace(Application& app) : app_(app) {
-        app.windows.form3.Command8.Caption = u"中止";
-    }
+    explicit SearchFace(const SearchPlace& place) : place_(place) { ShowStop(place.list, true); }
     ~SearchFace() {
-        app_.state.SlideSearchActive = 0;
-        app_.windows.form3.Searched.Caption = Text();
-        app_.windows.form3.Found.Caption = Text();
-        app_.windows.form3.Command8.Caption = u"検索";
-        app_.windows.form3.File1.Pattern = Text(kSlidePatterns);
+        place_.list.searching = 0;
+        place_.searched.Caption = Text();
+        place_.found.Caption = Text();
+        ShowStop(place_.list, false);
+        place_.files.Pattern = Text(place_.pattern);
     }
     SearchFace(const SearchFace&) = delete;
     SearchFace& operator=(const SearchFace&) = delete;
 
 private:
-    Application& app_;
+    const SearchPlace& place_;
 };
 
 class TreeSearch {
 public:
-    explicit TreeSearch(Application& app)
-        : app_(app),
-          pattern_(app.state.SearchPattern),
-          work_(app, {app.windows.form3, &app.windows.form3.Label1}) {}
+    explicit TreeSearch(const SearchPlace& place)
+        : place_(place),
+          list_(place.list),
+          app_(list_.app),
+          pattern_(app_.state.SearchPattern),
+          work_(app_, {list_.window, &list_.doing}) {}
 
     /// True when the search was stopped.
     bool Walk(const Text& folder) {
-        model::ShowState& state = app_.state;
         searched_ = folder;
         const bool due = IsDue();
         if (due) {
             AddFound();
         }
-        state.SlideSearchActive = 1;
+        list_.searching = 1;
         if (due) {
             Pump();
         }
         if (!Goes()) {
             return true;
         }
-        if (state.SlideSearchStop == 1) {
-            state.SlideSearchStop = 0;
+        if (list_.full == 1) {
+            list_.full = 0;
             return true;
         }
         platform::FolderContent content = Read(folder);
@@ -113,12 +109,12 @@ public:
         if (folders_ > 0) {
             folders_ = 0;
             all_ += found_.size();
-            AddFiles(app_, std::exchange(found_, {}));
+            AddFolderFiles(list_, std::exchange(found_, {}));
         }
     }
 
 private:
-    bool Goes() const { return app_.state.SlideSearchActive == 1 && app_.windows.form3.Loaded; }
+    bool Goes() const { return list_.searching == 1 && list_.window.Loaded; }
 
     /// A clock that stands still, as a script's, has waited long enough.
     bool IsDue() const {
@@ -133,10 +129,9 @@ private:
     }
 
     void SayHowFar() {
-        model::Form3& form3 = app_.windows.form3;
-        form3.Searched.Caption = searched_;
-        form3.Found.Caption = NumberText(entered_.size()) + u" フォルダ、" +
-                              NumberText(all_ + found_.size()) + u" 枚";
+        place_.searched.Caption = searched_;
+        place_.found.Caption = NumberText(entered_.size()) + u" フォルダ、" +
+                               NumberText(all_ + found_.size()) + u' ' + Text(place_.unit);
     }
 
     /// Within a folder that takes long to read.
@@ -152,7 +147,7 @@ private:
 
     /// Rows that the list still takes, and one more that is refused.
     size_t Room() const {
-        const int room = app_.state.SlideListLimit - app_.windows.form3.List1.ListCount();
+        const int room = list_.limit - list_.list.rows.ListCount();
         return static_cast<size_t>(std::max(0, room)) + 1;
     }
 
@@ -170,6 +165,8 @@ private:
         }
     }
 
+    const SearchPlace& place_;
+    const ListWindow& list_;
     Application& app_;
     const Text pattern_;
     LongWork work_;
@@ -181,40 +178,41 @@ private:
     double pumpedAt_ = 0;
 };
 
-void Search(Application& app) {
-    const document::UndoStep step(document::SlideRows(app));
-    const SearchFace face(app);
-    TreeSearch search(app);
-    const Text root = app.windows.form3.Dir1.Path;  // a person may look elsewhere meanwhile
+void Search(const SearchPlace& place) {
+    const document::UndoStep step(place.list.list);
+    const SearchFace face(place);
+    TreeSearch search(place);
+    const Text root = place.dir.Path;  // a person may look elsewhere meanwhile
     try {
         search.Walk(root);
         search.AddFound();
     } catch (const std::bad_alloc&) {
-        app.platform.dialogs.Message(u"ﾘｽﾄ ﾎﾞｯｸｽがいっぱいになりました。検索を中止します。",
-                                     platform::kPlain, u"");
+        place.list.app.platform.dialogs.Message(
+            u"ﾘｽﾄ ﾎﾞｯｸｽがいっぱいになりました。検索を中止します。", platform::kPlain, u"");
     }
 }
 
-void Command8_Click(Application& app) {
-    if (StoppedSearch(app)) {
+void AskAndSearch(const SearchPlace& place) {
+    if (StoppedWork(place.list)) {
         return;
     }
-    model::FolderList& dir = app.windows.form3.Dir1;
+    Application& app = place.list.app;
+    model::FolderList& dir = place.dir;
     if (dir.ListIndex >= 0) {
         dir.Path = Text(dir.List(dir.ListIndex));
     }
     app.state.SearchPattern.clear();
-    OpenModal(app, app.windows.form18);
+    OpenModal(app, place.dialog);
     if (!app.state.SearchPattern.empty()) {
-        app.state.SlideSearchStop = 0;
-        Search(app);
+        place.list.full = 0;
+        Search(place);
     }
 }
 
 }  // namespace
 
-void AttachTreeSearch(Application& app) {
-    app.windows.form3.Command8.Click = [&app] { Command8_Click(app); };
+void AttachTreeSearch(const SearchPlace& place) {
+    place.list.stop.Click = [place] { AskAndSearch(place); };
 }
 
 }  // namespace authoring

@@ -1,35 +1,35 @@
-#include "authoring/slide_list/filter.h"
+#include "authoring/shared/list_filter.h"
 
 #include <algorithm>
 #include <deque>
 #include <memory>
 #include <string>
 
-#include "authoring/slide_list/preview.h"
-#include "authoring/slide_list/selection.h"
-#include "model/windows/slide_list.h"
 #include "text/search_fold.h"
 
 namespace authoring {
 
 namespace {
 
-using model::Application;
 
 /// Keeps count of the rows that are seen, however the list changes.
 class FilteredRows : public model::Listener {
 public:
     /// Lives in a handler of the box and so longer than the list.
-    explicit FilteredRows(model::Form3& form3) : form3_(form3) { form3_.List1.Listen(this); }
+    FilteredRows(model::ListBox& rows, model::TextBox& filter, model::Label& seenCount,
+                 TextView unit)
+        : rows_(rows), filter_(filter), seenCount_(seenCount), unit_(unit) {
+        rows_.Listen(this);
+    }
 
     /// The box has another text.
     void Follow() {
-        const Text sought = text::SearchFold(form3_.Filter.Content());
+        const Text sought = text::SearchFold(filter_.Content());
         following_ = true;
         if (sought.empty()) {
-            form3_.List1.ShowOnly({});
+            rows_.ShowOnly({});
         } else {
-            form3_.List1.ShowOnly([sought](const Text& row) {
+            rows_.ShowOnly([sought](const Text& row) {
                 return text::SearchFold(row).find(sought) != Text::npos;
             });
         }
@@ -39,7 +39,7 @@ public:
     }
 
     void RowsChanged(model::Control&, const model::RowChange& change) override {
-        if (following_ || form3_.Filter.Content().empty()) {
+        if (following_ || filter_.Content().empty()) {
             return;
         }
         if (change.kind == model::RowChange::Cleared) {
@@ -66,8 +66,8 @@ public:
 private:
     /// What was sought belonged to the rows that are gone.
     void Emptied() {
-        if (form3_.List1.ListCount() == 0) {
-            form3_.Filter.Content = Text();
+        if (rows_.ListCount() == 0) {
+            filter_.Content = Text();
             Follow();
         } else {
             CountAnew();
@@ -75,28 +75,28 @@ private:
     }
 
     void CountAnew() {
-        seen_.assign(static_cast<size_t>(form3_.List1.ListCount()), false);
+        seen_.assign(static_cast<size_t>(rows_.ListCount()), false);
         count_ = 0;
-        if (!form3_.Filter.Content().empty()) {
-            Look(0, form3_.List1.ListCount());
+        if (!filter_.Content().empty()) {
+            Look(0, rows_.ListCount());
         }
         ShowCount();
     }
 
     /// The current row, or else the first one that is seen.
     void ShowBeginning() {
-        const int current = form3_.List1.ListIndex;
+        const int current = rows_.ListIndex;
         const auto first = std::find(seen_.begin(), seen_.end(), true);
-        if (current >= 0 && form3_.List1.Seen(current)) {
-            form3_.List1.TopIndex = current;
+        if (current >= 0 && rows_.Seen(current)) {
+            rows_.TopIndex = current;
         } else if (first != seen_.end()) {
-            form3_.List1.TopIndex = static_cast<int>(first - seen_.begin());
+            rows_.TopIndex = static_cast<int>(first - seen_.begin());
         }
     }
 
     void Look(int first, int count) {
         for (int row = first; row < first + count; ++row) {
-            const bool seen = form3_.List1.Seen(row);
+            const bool seen = rows_.Seen(row);
             const bool before = seen_[static_cast<size_t>(row)];
             count_ += static_cast<int>(seen) - static_cast<int>(before);
             seen_[static_cast<size_t>(row)] = seen;
@@ -104,13 +104,17 @@ private:
     }
 
     void ShowCount() {
-        const bool filtered = !form3_.Filter.Content().empty();
-        form3_.SeenCount.Caption =
-            filtered ? u"（" + text::FromUtf8(std::to_string(count_)) + u"枚を表示）" : Text();
-        form3_.SeenCount.Visible = filtered;
+        const bool filtered = !filter_.Content().empty();
+        seenCount_.Caption =
+            filtered ? u"（" + text::FromUtf8(std::to_string(count_)) + Text(unit_) + u"を表示）"
+                     : Text();
+        seenCount_.Visible = filtered;
     }
 
-    model::Form3& form3_;
+    model::ListBox& rows_;
+    model::TextBox& filter_;
+    model::Label& seenCount_;
+    const TextView unit_;
     std::deque<bool> seen_;
     std::ptrdiff_t count_ = 0;
     bool following_ = false;
@@ -118,22 +122,21 @@ private:
 
 }  // namespace
 
-void AttachFilter(Application& app) {
-    model::Form3& form3 = app.windows.form3;
-    const auto rows = std::make_shared<FilteredRows>(form3);
+void AttachFilter(const ListWindow& window, model::TextBox& filter, model::Label& seenCount,
+                  TextView unit) {
+    const auto rows = std::make_shared<FilteredRows>(window.list.rows, filter, seenCount, unit);
     rows->Follow();
-    form3.Filter.Change = [&app, rows] {
+    filter.Change = [rows, window] {
         rows->Follow();
-        if (SelectedSlides(app).empty()) {
-            DisableSlideButtons(app);
-            ClearPreview(app);
+        if (SelectedRows(window.list.rows).empty()) {
+            window.deselected(window.app);
         } else {
-            FollowSelection(app);
+            window.follow(window.app);
         }
     };
-    form3.Filter.KeyDown = [&form3](int key) {
+    filter.KeyDown = [&filter](int key) {
         if (key == model::kKeyEscape) {
-            form3.Filter.Enter({});
+            filter.Enter({});
         }
     };
 }

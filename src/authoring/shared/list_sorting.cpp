@@ -1,4 +1,4 @@
-#include "authoring/slide_list/sorting.h"
+#include "authoring/shared/list_sorting.h"
 
 #include <algorithm>
 #include <numeric>
@@ -6,10 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "authoring/slide_list/list_work.h"
-#include "authoring/slide_list/selection.h"
-#include "document/slide_rows.h"
-#include "model/windows/slide_list.h"
+#include "authoring/shared/list_work.h"
 #include "text/natural_order.h"
 #include "text/paths.h"
 
@@ -17,38 +14,37 @@ namespace authoring {
 
 namespace {
 
-using model::Application;
 using platform::FileFacts;
 using platform::FileInquiry;
 
 using Rows = std::vector<int>;
 
 /// The selected rows where there are several, else all.
-Rows RowsToSort(const Application& app) {
-    Rows rows = SelectedSlides(app);
+Rows RowsToSort(const ListWindow& window) {
+    Rows rows = SelectedRows(window.list.rows);
     if (rows.size() < 2) {
-        rows.resize(static_cast<size_t>(app.windows.form3.List1.ListCount()));
+        rows.resize(static_cast<size_t>(window.list.rows.ListCount()));
         std::iota(rows.begin(), rows.end(), 0);
     }
     return rows;
 }
 
 /// `sorted` are the same rows in another order: they share their places out anew.
-void PutInOrder(Application& app, const Rows& places, const Rows& sorted) {
-    Rows order(static_cast<size_t>(app.windows.form3.List1.ListCount()));
+void PutInOrder(const ListWindow& window, const Rows& places, const Rows& sorted) {
+    Rows order(static_cast<size_t>(window.list.rows.ListCount()));
     std::iota(order.begin(), order.end(), 0);
     for (size_t i = 0; i < places.size(); ++i) {
         order[static_cast<size_t>(places[i])] = sorted[i];
     }
-    document::ReorderRows(document::SlideRows(app), order);
-    app.state.SlideListDirty = 1;
+    document::ReorderRows(window.list, order);
+    NoteChange(window);
 }
 
 /// By what `keyOf` makes of a path; rows with equal keys keep their order.
 template <class KeyOf, class Less>
-void SortBy(Application& app, KeyOf keyOf, Less less) {
-    const model::ListBox& list = app.windows.form3.List1;
-    const Rows places = RowsToSort(app);
+void SortBy(const ListWindow& window, KeyOf keyOf, Less less) {
+    const model::ListBox& list = window.list.rows;
+    const Rows places = RowsToSort(window);
     using Key = decltype(keyOf(Text()));
     std::vector<std::pair<Key, int>> keyed;
     keyed.reserve(places.size());
@@ -61,7 +57,7 @@ void SortBy(Application& app, KeyOf keyOf, Less less) {
     for (const auto& [key, row] : keyed) {
         sorted.push_back(row);
     }
-    PutInOrder(app, places, sorted);
+    PutInOrder(window, places, sorted);
 }
 
 Text NameKey(const Text& path) {
@@ -76,29 +72,29 @@ std::pair<Text, Text> FolderKey(const Text& path) {
     return {std::move(folder), NameKey(path)};
 }
 
-void SortByName(Application& app) {
-    SortBy(app, NameKey, text::NaturalLess);
+void SortByName(const ListWindow& window) {
+    SortBy(window, NameKey, text::NaturalLess);
 }
 
-void SortByFolder(Application& app) {
-    SortBy(app, FolderKey, [](const auto& a, const auto& b) {
+void SortByFolder(const ListWindow& window) {
+    SortBy(window, FolderKey, [](const auto& a, const auto& b) {
         return a.first != b.first ? text::NaturalLess(a.first, b.first)
                                   : text::NaturalLess(a.second, b.second);
     });
 }
 
 /// Files without a date go last. Rows may change while the files are asked about.
-void SortByDate(Application& app, FileInquiry::What what,
+void SortByDate(const ListWindow& window, FileInquiry::What what,
                 std::optional<platform::DateTime> FileFacts::*date) {
-    const model::ListBox& list = app.windows.form3.List1;
+    const model::ListBox& list = window.list.rows;
     std::vector<Text> paths;
-    for (const int row : RowsToSort(app)) {
+    for (const int row : RowsToSort(window)) {
         paths.push_back(list.List(row));
     }
     std::optional<FactsOfFiles> facts;
     {
-        ListWork work(app, u"確認中");
-        facts = AskFacts(app, work, std::move(paths), what);
+        ListWork work(window, u"確認中");
+        facts = AskFacts(window.app, work, std::move(paths), what);
     }
     if (!facts) {
         return;
@@ -107,38 +103,43 @@ void SortByDate(Application& app, FileInquiry::What what,
         const auto found = facts->find(path);
         return found == facts->end() ? std::nullopt : found->second.*date;
     };
-    SortBy(app, dateOf, [](const auto& a, const auto& b) { return a && (!b || *a < *b); });
+    SortBy(window, dateOf, [](const auto& a, const auto& b) { return a && (!b || *a < *b); });
 }
 
-void Shuffle(Application& app) {
-    const Rows places = RowsToSort(app);
+void Shuffle(const ListWindow& window) {
+    const Rows places = RowsToSort(window);
     Rows sorted = places;
     for (size_t left = sorted.size(); left > 1; --left) {
-        const auto drawn = static_cast<size_t>(app.platform.loop.Rnd() * static_cast<double>(left));
+        const auto drawn =
+            static_cast<size_t>(window.app.platform.loop.Rnd() * static_cast<double>(left));
         std::swap(sorted[left - 1], sorted[drawn]);
     }
-    PutInOrder(app, places, sorted);
+    PutInOrder(window, places, sorted);
 }
 
-void Reverse(Application& app) {
-    const Rows places = RowsToSort(app);
-    PutInOrder(app, places, Rows(places.rbegin(), places.rend()));
+void Reverse(const ListWindow& window) {
+    const Rows places = RowsToSort(window);
+    PutInOrder(window, places, Rows(places.rbegin(), places.rend()));
 }
 
 }  // namespace
 
-void AttachSorting(Application& app) {
-    model::Form3& form3 = app.windows.form3;
-    AttachCommand(app, form3.mnuSORTNAME, u"", SortByName);
-    AttachCommand(app, form3.mnuSORTTAKEN, u"", [](Application& application) {
-        SortByDate(application, FileInquiry::DateTaken, &FileFacts::taken);
+void AttachSorting(const ListWindow& window, const SortEntries& entries) {
+    const auto attach = [&window](model::MenuEntry& entry, auto sort) {
+        AttachCommand(window, entry, u"", [window, sort] { sort(window); });
+    };
+    attach(entries.name, SortByName);
+    attach(entries.date, [](const ListWindow& list) {
+        SortByDate(list, FileInquiry::Presence, &FileFacts::changed);
     });
-    AttachCommand(app, form3.mnuSORTDATE, u"", [](Application& application) {
-        SortByDate(application, FileInquiry::Presence, &FileFacts::changed);
-    });
-    AttachCommand(app, form3.mnuSORTFOLDER, u"", SortByFolder);
-    AttachCommand(app, form3.mnuSHUFFLE, u"", Shuffle);
-    AttachCommand(app, form3.mnuREVERSE, u"", Reverse);
+    attach(entries.folder, SortByFolder);
+    attach(entries.shuffle, Shuffle);
+    attach(entries.reverse, Reverse);
+    if (entries.taken) {
+        attach(*entries.taken, [](const ListWindow& list) {
+            SortByDate(list, FileInquiry::DateTaken, &FileFacts::taken);
+        });
+    }
 }
 
 }  // namespace authoring
