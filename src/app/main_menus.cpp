@@ -3,7 +3,7 @@
 #include "app/number_dialogs.h"
 #include "app/radio_choices.h"
 #include "app/sound_menu.h"
-#include "authoring/link_list.h"
+#include "authoring/link_list/rows.h"
 #include "authoring/shared/open_window.h"
 #include "authoring/slide_list/documents.h"
 #include "document/settings_to_controls.h"

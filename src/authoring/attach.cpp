@@ -1,6 +1,7 @@
 #include "authoring/attach.h"
 
 #include "authoring/batch_conversion.h"
+#include "authoring/link_list/window.h"
 #include "authoring/settings/cd_program.h"
 #include "authoring/settings/linked_folder.h"
 #include "authoring/settings/text_display.h"
@@ -16,6 +17,7 @@ void AttachWindows(model::Application& app) {
     AttachBatchConversion(app);
     AttachFileSearch(app);
     AttachSlideList(app);
+    AttachLinkList(app);
 }
 
 }  // namespace authoring

@@ -14,8 +14,12 @@ constexpr double kLongestMs = 2147483647;
 
 }  // namespace
 
+int32_t KeptInterval(int32_t milliseconds) {
+    return std::max(milliseconds, kShortestMs);
+}
+
 void TakeInterval(Application& app, int32_t milliseconds) {
-    const int32_t interval = std::max(milliseconds, kShortestMs);
+    const int32_t interval = KeptInterval(milliseconds);
     app.state.SlideIntervalSec =
         std::max<int32_t>(1, static_cast<int32_t>(text::RoundHalfEven(interval / 1000.0)));
     app.windows.form1.Timer1.Interval = interval;

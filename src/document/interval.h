@@ -7,6 +7,9 @@
 
 namespace document {
 
+/// What is kept of the interval of a file: at least 1000 ms.
+int32_t KeptInterval(int32_t milliseconds);
+
 /// Takes the interval of a file, at least 1000 ms: sets SlideIntervalSec (whole seconds) and the
 /// timer's interval.
 void TakeInterval(Application& app, int32_t milliseconds);

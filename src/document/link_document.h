@@ -13,7 +13,7 @@ bool ReadLinkDocument(Application& app, TextView path);
 
 /// Writes Form9's list, whole or not at all; names without folders when DistributionSaveFlag is 1.
 /// Adds ".kvl" to a path without extension. Sets path, name and caption as reading does. A failure
-/// shows the platform's words and changes nothing.
-void WriteLinkDocument(Application& app, TextView path);
+/// shows the platform's words, changes nothing and is answered with false.
+bool WriteLinkDocument(Application& app, TextView path);
 
 }  // namespace document

@@ -8,6 +8,7 @@
 #include "document/main_caption.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"
+#include "document/show_tag.h"
 #include "document/slide_rows.h"
 #include "document/state_files.h"
 #include "model/effect_speed.h"
@@ -88,17 +89,11 @@ void ShowReader::Read() {
 }
 
 void ShowReader::ReadTag() {
-    const TextView line = reader_.Line();
-    for (TextView longTag : {u"21vue31678", u"21vue316789", u"21vue3167893"}) {
-        if (line == longTag) {
-            tag_ = line.substr(2);
-            return;
-        }
-    }
-    tag_ = line.starts_with(u"vue") ? Text(line) : text::Mid(line, 2, 8);
-    if (tag_ != u"vue2" && !tag_.starts_with(u"vue3")) {
+    std::optional<Text> tag = ShowTag(reader_.Line());
+    if (!tag) {
         throw ReadFailure{};
     }
+    tag_ = std::move(*tag);
 }
 
 void ShowReader::ReadTiming() {

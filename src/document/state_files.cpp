@@ -4,6 +4,7 @@
 
 #include "document/line_reader.h"
 #include "document/line_writer.h"
+#include "document/link_rows.h"
 #include "document/unread_files.h"
 #include "model/windows/link_list.h"
 #include "model/windows/sound_windows.h"
@@ -37,14 +38,12 @@ Taken ReadLinks(Application& app, LineReader& reader) {
         state.LinkRepeat = reader.Int16();
         state.LinkCheck3 = reader.Int16();
         state.LinkDocumentName = reader.Line();
-        if (!state.LinkDocumentName.empty()) {
-            form9.Caption = u"ＫＶＳリンク - " + state.LinkDocumentName;
-        }
+        ShowLinkCaption(app);
         const int32_t count = reader.Int32();
-        form9.List1.Clear();
+        ClearRows(LinkRows(app));
         // What a run could not hold is left out.
         for (int32_t i = 0; i < std::min(count, model::kLinkListLast); ++i) {
-            form9.List1.AddItem(text::WithFolder(state.AppFolder, reader.Line()));
+            AppendRows(LinkRows(app), {{text::WithFolder(state.AppFolder, reader.Line()), {}}});
         }
         whole = count <= model::kLinkListLast && !reader.HoldsMore();
     } catch (const ReadFailure&) {
@@ -53,7 +52,7 @@ Taken ReadLinks(Application& app, LineReader& reader) {
     form9.Check1.Value = state.LinkAutoFlag;
     form9.Check2.Value = state.LinkRepeat;
     form9.Check3.Value = state.LinkCheck3;
-    form9.Label4.Caption = text::Trim(text::Str(form9.List1.ListCount()));
+    ForgetSteps(LinkRows(app));
     return whole ? Taken::Whole : Taken::Partly;
 }
 

@@ -21,7 +21,8 @@ enum RowMark : unsigned {
     kMarkMissing = 1,  // its file is not there
     kMarkText = 2,     // a linked text is
     kMarkSound = 4,    // a linked sound is
-    kMarkFilm = 8
+    kMarkFilm = 8,
+    kMarkRefused = 16  // its file is there but not what it should be
 };
 
 /// What is seen of a row in place of its text.

@@ -17,7 +17,7 @@ enum MousePointerShape : int { kPointerNormal = 0, kPointerBusy = 11, kPointerAr
 enum WindowStates : int { kWindowNormal = 0, kWindowMinimised = 1, kWindowMaximised = 2 };
 
 /// Numbers of keys.
-constexpr int kKeyEnter = 13, kKeyEscape = 27, kKeyF5 = 116;
+constexpr int kKeyEnter = 13, kKeyEscape = 27, kKeyInsert = 45, kKeyDelete = 46, kKeyF5 = 116;
 
 class Window : public VisibleControl {
 public:

@@ -3,7 +3,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +20,9 @@ struct FileFacts {
     std::optional<DateTime> changed;
     std::optional<DateTime> taken;      // by the camera; only where it was asked for
     std::optional<uint64_t> beginning;  // BeginningSum; only where it was asked for
+    /// All bytes of the file, of kMostContent at most; only where it was asked for. Null where they
+    /// cannot be read or are more.
+    std::shared_ptr<const std::string> content;
 };
 
 /// Bytes of a file's beginning by which it is known again under another name.
@@ -25,13 +30,16 @@ constexpr size_t kBeginningBytes = 4096;
 /// Of at most that many bytes. Equal bytes have equal sums, in every run.
 uint64_t BeginningSum(std::string_view bytes);
 
+/// Bytes of a document that is not too large to be looked at beside others.
+constexpr int64_t kMostContent = 16 << 20;
+
 /// Looks at files on workers, since a disk can be asleep or far away.
 class FileInquiry {
 public:
     virtual ~FileInquiry() = default;
 
-    /// The last two open the file; they answer what Presence does, too.
-    enum What { Presence, DateTaken, Beginning };
+    /// All but the first open the file; they answer what Presence does, too.
+    enum What { Presence, DateTaken, Beginning, Content };
     using Ready = std::function<void(const Text& path, const FileFacts& facts)>;
 
     /// `ready` is called once for each path, on the caller's thread: later from the event loop, in

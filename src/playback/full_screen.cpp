@@ -177,6 +177,9 @@ bool UnloadEndsShow(const model::ShowState& state) {
 void EndShowOnUnload(Application& app) {
     model::ShowState& state = app.state;
     state.FullScreenClosedByUser = 1;
+    if (state.LinkRunning == 1 && state.LinkWindowOpen == 1) {
+        state.LinkStoodAt = static_cast<int16_t>(state.LinkIndex - 1);
+    }
     state.LinkRunning = 0;
     state.LinkIndex = 0;
     EndRun(app);
@@ -271,6 +274,14 @@ void PlaceFullScreen(Application& app) {
     slidescreen.Width = monitor.width;
     slidescreen.Height = monitor.height;
     picture::SizeLayers(app);
+}
+
+void StartFullScreen(Application& app) {
+    ShowFileEntries(app, false);
+    app.windows.form1.Timer1.Enabled = false;
+    ResetRun(app);
+    PlaceFullScreen(app);
+    app.windows.slidescreen.Show();
 }
 
 void FollowMonitors(Application& app) {

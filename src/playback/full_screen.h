@@ -15,6 +15,10 @@ void PlaceFullScreen(Application& app);
 /// A picture that stands there alone is fitted to the new size; what macros drew on it goes.
 void FollowMonitors(Application& app);
 
+/// Begins a show there, or the chain that LinkRunning announces, whatever stands in the main
+/// window.
+void StartFullScreen(Application& app);
+
 /// The full-screen button.
 void Command4_Click(Application& app);
 

@@ -1,9 +1,12 @@
 #include "playback/link_run.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "document/show_document.h"
 #include "document/slide_rows.h"
 #include "macro/macro.h"
-#include "model/list_controls.h"
+#include "model/windows/link_list.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "text/paths.h"
@@ -48,6 +51,16 @@ Loading LoadEntry(Application& app, int entry) {
 
 }  // namespace
 
+void TakeLinkRows(Application& app) {
+    model::ShowState& state = app.state;
+    const model::ListBox& list = app.windows.form9.List1;
+    state.LinkList.Erase();
+    for (int row = 0; row < list.ListCount(); ++row) {
+        state.LinkList.Set(row + 1, list.List(row));
+    }
+    state.LinkEnd = static_cast<int16_t>(list.ListCount() + 1);
+}
+
 Loading LoadNextDocument(Application& app) {
     model::ShowState& state = app.state;
     for (int entry = state.LinkIndex; state.LinkBarren < state.LinkEnd - 1; ++entry) {
@@ -66,7 +79,7 @@ Loading LoadNextDocument(Application& app) {
 }
 
 bool LoadFirstDocument(Application& app) {
-    app.state.LinkIndex = 1;
+    app.state.LinkIndex = std::max<int16_t>(1, std::exchange(app.state.LinkStart, 0));
     app.state.LinkBarren = 0;
     const Loading result = LoadNextDocument(app);
     if (result == Loading::Nothing) {

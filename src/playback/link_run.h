@@ -13,7 +13,11 @@ enum class Loading {
     Refused,  // told, and the full screen is unloaded
 };
 
-/// Begins a run with the first document that can be opened. False when there is none, or when one
+/// LinkList and LinkEnd from the rows of Form9's List1.
+void TakeLinkRows(Application& app);
+
+/// Begins a run with the first document that can be opened, from the entry LinkStart on, which is
+/// forgotten. False when there is none, or when one
 /// was refused: the full screen is unloaded then.
 bool LoadFirstDocument(Application& app);
 

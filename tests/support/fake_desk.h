@@ -187,6 +187,9 @@ private:
             facts.there = true;
             facts.size = static_cast<int64_t>(file->content.size());
             facts.changed = file->date;
+            if (question.what == Content) {
+                facts.content = std::make_shared<const std::string>(file->content);
+            }
             if (question.what == Beginning) {
                 facts.beginning = platform::BeginningSum(file->content);
             }

@@ -46,6 +46,11 @@ FileFacts FactsOf(const Text& path, What what, posix_adapter::PathFinder& finder
     if (file.Valid() && what == platform::FileInquiry::DateTaken) {
         facts.taken =
             DateTaken([&](uint64_t at, size_t count) { return BytesAt(file.Get(), at, count); });
+    } else if (file.Valid() && what == platform::FileInquiry::Content) {
+        if (status.st_size <= platform::kMostContent) {
+            facts.content = std::make_shared<const std::string>(
+                BytesAt(file.Get(), 0, static_cast<size_t>(status.st_size)));
+        }
     } else if (file.Valid()) {
         facts.beginning = platform::BeginningSum(BytesAt(file.Get(), 0, platform::kBeginningBytes));
     }

@@ -26,6 +26,7 @@ struct Mark {
 };
 constexpr Mark kMarks[] = {
     {model::kMarkMissing, "missing", u"ファイルが見つかりません"},
+    {model::kMarkRefused, "missing", u"ショーとして読めません"},
     {model::kMarkFilm, "film", u"動画"},
     {model::kMarkText, "text", u"連動テキストあり"},
     {model::kMarkSound, "sound", u"連動音あり"},
@@ -206,7 +207,8 @@ void FaceDelegate::PaintMarks(QPainter& painter, const Parts& parts, const model
             parts.marks.front().united(parts.marks.back()).adjusted(-3, -2, 3, 2), 3, 3);
     }
     for (size_t i = 0; i < marks.size(); ++i) {
-        const bool missing = marks[i]->mark == model::kMarkMissing;
+        const bool missing =
+            marks[i]->mark == model::kMarkMissing || marks[i]->mark == model::kMarkRefused;
         PaintGlyph(painter, parts.marks[i], ShapeOf(QLatin1String(marks[i]->glyph)),
                    missing ? inks.warning : inks.text);
     }

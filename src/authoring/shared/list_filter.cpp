@@ -11,7 +11,6 @@ namespace authoring {
 
 namespace {
 
-
 /// Keeps count of the rows that are seen, however the list changes.
 class FilteredRows : public model::Listener {
 public:

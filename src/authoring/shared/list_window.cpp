@@ -1,5 +1,7 @@
 #include "authoring/shared/list_window.h"
 
+#include <utility>
+
 namespace authoring {
 
 std::vector<int> SelectedRows(const model::ListBox& list) {
@@ -32,6 +34,11 @@ void NoteChange(const ListWindow& window) {
     if (window.dirty) {
         *window.dirty = 1;
     }
+}
+
+void SayDone(model::Label& notice, Text words) {
+    notice.Caption = Text();
+    notice.Caption = std::move(words);
 }
 
 }  // namespace authoring

@@ -47,4 +47,7 @@ bool StoppedWork(const ListWindow& window);
 /// The rows are others from now on.
 void NoteChange(const ListWindow& window);
 
+/// Words that pass after a while; the same ones once more are news, too.
+void SayDone(model::Label& notice, Text words);
+
 }  // namespace authoring

@@ -1,7 +1,6 @@
 #include "authoring/slide_list/documents.h"
 
-#include <utility>
-
+#include "authoring/shared/list_window.h"
 #include "authoring/slide_list/linked_work.h"
 #include "authoring/slide_list/preview.h"
 #include "authoring/slide_list/remembered_files.h"
@@ -54,12 +53,6 @@ bool ChangedByOthers(Application& app, const Text& path) {
            platform::DateTimeText(*date) != state.DocumentFileDate;
 }
 
-/// The same words once more are news, too.
-void SayDone(model::Form3& form3, Text words) {
-    form3.Notice.Caption = Text();
-    form3.Notice.Caption = std::move(words);
-}
-
 void SaveAs(Application& app, TextView title, int16_t distribution) {
     platform::Dialogs::FileRequest request;
     request.save = true;
@@ -80,7 +73,8 @@ void SaveAs(Application& app, TextView title, int16_t distribution) {
     }
     app.state.DistributionSaveFlag = distribution;
     if (document::WriteShowDocument(app, path)) {
-        SayDone(app.windows.form3, text::BareName(app.state.DocumentPath) + u" に保存しました");
+        SayDone(app.windows.form3.Notice,
+                text::BareName(app.state.DocumentPath) + u" に保存しました");
     }
     RememberFiles(app);
 }

@@ -11,9 +11,6 @@ namespace authoring {
 
 namespace {
 
-constexpr int kKeyInsert = 45;
-constexpr int kKeyDelete = 46;
-
 void Command4_Click(Application& app) {
     if (StoppedSearch(app) || app.windows.form3.List1.ListCount() == 0 ||
         !AskToClear(Slides(app), u"スライドリストをすべて消去しますか ?")) {
@@ -48,9 +45,9 @@ void MoveSlide(Application& app, int direction, TextView title) {
 }
 
 void List1_KeyDown(Application& app, int code) {
-    if (code == kKeyInsert) {
+    if (code == model::kKeyInsert) {
         app.windows.form3.Check6.Press();
-    } else if (code == kKeyDelete) {
+    } else if (code == model::kKeyDelete) {
         RemoveSelectedSlides(app);
     }
 }
