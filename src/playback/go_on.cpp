@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "document/interval.h"
 #include "model/controls.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_screen.h"
@@ -78,10 +77,6 @@ void Begin(Application& app, const CauseRow& row) {
 void GoOn(Application& app, const CauseRow& row) {
     if (row.sound == ShowSound::AfterStep) {
         StartShowSound(app, row.byPerson);
-    }
-    if (app.windows.form1.Timer1.Interval < static_cast<int>(document::IntervalMs(app.state))) {
-        // The next slide follows at once: in so short a time no disc is seen to move.
-        app.state.LastCdTrackText.clear();
     }
     if (row.advances) {
         app.state.SlideIndex = static_cast<int16_t>(app.state.SlideIndex + 1);

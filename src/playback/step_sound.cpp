@@ -17,6 +17,8 @@ using BesideVideo = model::SoundModeRow::BesideVideo;
 
 constexpr int kSyncPollMs = 10;
 constexpr int kFadeStep = 20;
+constexpr size_t kPlaceInSeconds = 8;  // "tt:mm:ss" of "tt:mm:ss:ff"
+constexpr int kCdMovesMs = 50;         // some of the disc's frames
 
 /// The default sound's path, empty where none is set.
 Text DefaultSound(const model::ShowState& state) {
@@ -76,6 +78,19 @@ void StartMainChannel(Application& app) {
         state.*mode.piece = path;
     }
     sound::StartSound(app);
+}
+
+enum class CdSeen { Over, Moving, Stuck };
+
+/// A disc that was in the same second at the last slide. Slides can follow each other quickly, and
+/// what is heard begins late: `place` tells more than its second.
+CdSeen LookAtCd(Application& app, const Text& place) {
+    if (place.empty() || !sound::Reports(app, u"status cdaudio mode", u"playing")) {
+        return CdSeen::Over;
+    }
+    app.platform.loop.Sleep(kCdMovesMs);
+    return app.platform.sound.MciSendString(u"status cdaudio position") == place ? CdSeen::Stuck
+                                                                                 : CdSeen::Moving;
 }
 
 }  // namespace
@@ -151,16 +166,21 @@ void PollCd(Application& app) {
         return;
     }
     if (state.CdPaused == 0 && RunsForward(app)) {
-        const Text position =
-            text::Left(app.platform.sound.MciSendString(u"status cdaudio position"), 8);
-        bool stuck = false;
-        if (position == state.LastCdTrackText) {
-            stuck = !position.empty() && sound::Reports(app, u"status cdaudio mode", u"playing");
-            app.platform.sound.MciSendString(u"stop cdaudio");
+        const Text place = app.platform.sound.MciSendString(u"status cdaudio position");
+        const Text seconds = text::Left(place, kPlaceInSeconds);
+        auto why = sound::CdStart::TrackEnded;
+        if (seconds == state.LastCdTrackText) {
+            const CdSeen seen = LookAtCd(app, place);
+            if (seen != CdSeen::Moving) {
+                app.platform.sound.MciSendString(u"stop cdaudio");
+            }
+            if (seen == CdSeen::Stuck) {
+                why = sound::CdStart::TrackStuck;
+            }
         }
-        state.LastCdTrackText = position;
+        state.LastCdTrackText = seconds;
         if (sound::Reports(app, u"status cdaudio mode", u"stopped")) {
-            sound::StartCd(app, stuck ? sound::CdStart::TrackStuck : sound::CdStart::TrackEnded);
+            sound::StartCd(app, why);
             state.RestartSoundFlag = 0;
         }
     }

@@ -47,7 +47,7 @@ void ButtonBinding::SyncOwn() {
         face_.setFont(font);
     }
     if (!caption.isEmpty() && !named_) {
-        face_.setAccessibleName(caption);
+        face_.setAccessibleName(detail.isEmpty() ? caption : caption + ' ' + detail);
     }
 }
 
