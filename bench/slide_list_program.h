@@ -85,9 +85,14 @@ inline double Median(std::vector<double> values) {
 
 /// The program with its windows on an invisible display.
 struct Program {
-    /// `folder`: the program folder. `loop`: the desktop's, or one around it.
-    Program(qt_adapter::Desktop& given, const std::string& folder, platform::EventLoop& loop)
-        : desktop(given), silent(folder + "/"), thumbnails(given), app(Around(loop)) {
+    /// `folder`: the program folder. `loop`: the desktop's, or one around it. `files`: null for
+    /// AllThere.
+    Program(qt_adapter::Desktop& given, const std::string& folder, platform::EventLoop& loop,
+            platform::FileInquiry* files = nullptr)
+        : desktop(given),
+          silent(folder + "/"),
+          thumbnails(given),
+          app(Around(loop, files ? *files : inquiry)) {
         model::SetStartDefaults(app.state);
         app.state.AppFolder = text::FromUtf8(folder + "/");
         authoring::AttachWindows(app);
@@ -98,7 +103,7 @@ struct Program {
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    platform::Platform Around(platform::EventLoop& loop) {
+    platform::Platform Around(platform::EventLoop& loop, platform::FileInquiry& files) {
         const platform::Platform rest = silent.Get();
         return {loop,
                 rest.files,
@@ -116,7 +121,7 @@ struct Program {
                 rest.clipboard,
                 rest.wallpaper,
                 thumbnails,
-                inquiry};
+                files};
     }
     QListView& List() {
         return *desktop.WidgetOf(app.windows.form3)->findChild<QListView*>("List1");

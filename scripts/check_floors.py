@@ -15,13 +15,13 @@ FLOORS = {
     "macro": 6, "playback": 7, "authoring": 8, "app": 9,
 }
 ADAPTERS = {"qt", "gstreamer", "cdio", "imaging", "sandbox", "confine", "decoder", "svg",
-            "posix", "tracing", "virtual", "commands", "robot"}
+            "media", "posix", "tracing", "virtual", "commands", "robot"}
 # The robot plays a person on the virtual clock; what happens goes into the trace.
 # The disc reader feeds the sound. Program and decoder's process talk through the sandbox.
-ADAPTER_NEIGHBOURS = {"tracing": {"posix"}, "virtual": {"tracing"},
+ADAPTER_NEIGHBOURS = {"tracing": {"posix"}, "virtual": {"media", "tracing"},
                       "commands": {"posix", "tracing", "virtual"},
                       "robot": {"posix", "tracing", "virtual"}, "qt": {"posix"}, "cdio": {"gstreamer"},
-                      "sandbox": {"posix"}, "imaging": {"sandbox", "posix"},
+                      "sandbox": {"posix"}, "imaging": {"media", "sandbox", "posix"},
                       "confine": {"sandbox", "posix"}, "decoder": {"confine", "sandbox", "posix"},
                       "svg": {"confine", "sandbox"}}
 # A control belongs to a window, and a window is a control: one subject in two files.

@@ -13,6 +13,7 @@
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/sound_windows.h"
 #include "picture/effect_context.h"
 #include "playback/run.h"

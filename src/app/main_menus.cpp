@@ -14,7 +14,7 @@
 #include "model/windows/linked_folder.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/sound_list.h"
 #include "picture/overlay.h"
 #include "picture/screen.h"
 #include "playback/control_box.h"

@@ -28,6 +28,7 @@
 #include "model/windows/picture_holder.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "model/windows/sound_list.h"
 #include "picture/screen.h"
 #include "picture/video_window.h"
 #include "playback/control_box.h"
@@ -239,7 +240,8 @@ void RunProgram(Application& application, const StartOptions& options) {
     AttachMainMenus(application);
     authoring::AttachWindows(application);
     const authoring::SlideListSigns slideListSigns(application);
-    const authoring::WindowMemory windowMemory(application, {&application.windows.form3});
+    const authoring::WindowMemory windowMemory(
+        application, {&application.windows.form3, &application.windows.form10});
     const PlayMenu playMenu(application);
     AttachDroppedFiles(application);
     form1.OnLoad = [&] { Form1_Load(application, options.roomy); };

@@ -7,6 +7,7 @@
 #include "authoring/settings/text_display.h"
 #include "authoring/shared/file_search.h"
 #include "authoring/slide_list/window.h"
+#include "authoring/sound_list/window.h"
 
 namespace authoring {
 
@@ -18,6 +19,7 @@ void AttachWindows(model::Application& app) {
     AttachFileSearch(app);
     AttachSlideList(app);
     AttachLinkList(app);
+    AttachSoundList(app);
 }
 
 }  // namespace authoring

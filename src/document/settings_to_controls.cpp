@@ -4,6 +4,7 @@
 #include "model/windows/link_list.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 
@@ -72,14 +73,23 @@ void FollowMenuVisibility(Application& app) {
     form1.mnuKOICHI.Visible = model::SoundsWithPictures(state);
 }
 
+void FollowSoundListBoxes(Application& app) {
+    const ShowState& state = app.state;
+    model::Form10& form10 = app.windows.form10;
+    form10.Check1.Value = state.SoundListUsed;
+    form10.Check3.Value = state.SoundMode == model::kListSound ? 1 : 0;
+    form10.Check4.Value = state.SoundSyncFlag == 0 ? 1 : 0;
+    form10.Check5.Value = state.SoundListCheck5;
+    form10.Check6.Value = state.SoundListCheck6;
+}
+
 void FollowDocumentSettings(Application& app) {
     const ShowState& state = app.state;
     CheckMenus(app, false);
     FollowMenuVisibility(app);
     app.windows.form8.Check1.Value = state.MidiLinkedWavFlag;
     app.windows.form17.Check1.Value = state.Mp3LinkedWavFlag;
-    app.windows.form10.Check1.Value = state.SoundListUsed;
-    app.windows.form10.Check5.Value = state.SoundListCheck5;
+    FollowSoundListBoxes(app);
 }
 
 void FollowAllSettings(Application& app) {
@@ -95,7 +105,6 @@ void FollowAllSettings(Application& app) {
     auto& form15 = app.windows.form15;
     form15.Option1.Value = state.TextOriginScreen == 0;
     form15.Option2.Value = state.TextOriginScreen != 0;
-    app.windows.form10.Check6.Value = state.SoundListCheck6;
     auto& form9 = app.windows.form9;
     form9.Check1.Value = state.LinkAutoFlag;
     form9.Check2.Value = state.LinkRepeat;

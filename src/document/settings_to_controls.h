@@ -18,6 +18,9 @@ const std::vector<RadioMenu>& RadioMenus();
 /// Shows and hides the menus whose presence hangs on a setting.
 void FollowMenuVisibility(Application& app);
 
+/// The boxes of Form10.
+void FollowSoundListBoxes(Application& app);
+
 /// Checks and controls that a show document carries, and the visibility of the menus that depend
 /// on them.
 void FollowDocumentSettings(Application& app);

@@ -10,12 +10,14 @@
 #include "document/show_document.h"
 #include "document/show_tag.h"
 #include "document/slide_rows.h"
+#include "document/sound_rows.h"
 #include "document/state_files.h"
 #include "model/effect_speed.h"
 #include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/sound_windows.h"
 #include "text/numbers.h"
 #include "text/paths.h"
@@ -227,16 +229,17 @@ void ShowReader::ReadSoundList() {
         return;
     }
     const Mark mark(state_.ReadingDocument);
-    auto& form10 = app_.windows.form10;
     state_.SoundListCount = reader_.Count16();
     state_.SoundList.Erase();
-    form10.List1.Clear();
+    struct Shown {
+        Application& app;
+        int count = 0;
+        ~Shown() { ShowSounds(app, count); }
+    } shown{app_};
     for (int i = 1; i <= state_.SoundListCount; ++i) {
-        Text path = PathLine();
-        state_.SoundList.Set(i, path);
-        form10.List1.AddItem(std::move(path));
+        state_.SoundList.Set(i, PathLine());
+        shown.count = i;
     }
-    form10.Label4.Caption = text::Trim(text::Str(form10.List1.ListCount()));
     carriedSoundList_ = true;
 }
 

@@ -5,9 +5,10 @@
 #include "document/line_reader.h"
 #include "document/line_writer.h"
 #include "document/link_rows.h"
+#include "document/sound_rows.h"
 #include "document/unread_files.h"
 #include "model/windows/link_list.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/sound_list.h"
 #include "text/paths.h"
 
 namespace document {
@@ -59,27 +60,23 @@ Taken ReadLinks(Application& app, LineReader& reader) {
 /// For another tag nothing is touched. A file that ends early leaves what was read.
 Taken ReadSounds(Application& app, LineReader& reader) {
     auto& state = app.state;
-    auto& form10 = app.windows.form10;
     if (reader.AtEnd() || !reader.Line().starts_with(kSoundListTag)) {
         return Taken::Nothing;
     }
     bool whole = false;
     state.SoundListCount = 0;
     state.SoundList.Erase();
-    form10.List1.Clear();
     try {
         const int16_t count = reader.Count16();
         for (int i = 1; i <= count; ++i) {
-            Text path = text::WithFolder(state.AppFolder, reader.Line());
-            state.SoundList.Set(i, path);
-            form10.List1.AddItem(std::move(path));
+            state.SoundList.Set(i, text::WithFolder(state.AppFolder, reader.Line()));
             state.SoundListCount = static_cast<int16_t>(i);
         }
         whole = !reader.HoldsMore();
     } catch (const ReadFailure&) {
         // Kept: what stands before the fault is the list.
     }
-    form10.Label4.Caption = text::Trim(text::Str(form10.List1.ListCount()));
+    ShowSounds(app, state.SoundListCount);
     return whole ? Taken::Whole : Taken::Partly;
 }
 
@@ -159,7 +156,8 @@ void WriteSoundListFile(Application& app) {
     for (int i = 1; i <= state.SoundListCount; ++i) {
         writer.Line(state.SoundList(i));
     }
-    WriteProgramFile(app, SoundListPath(app), writer.Content());
+    app.state.SoundListUnwritten =
+        WriteProgramFile(app, SoundListPath(app), writer.Content()) ? 0 : 1;
 }
 
 }  // namespace document

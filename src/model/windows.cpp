@@ -14,6 +14,7 @@
 #include "model/windows/relink_preview.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 #include "model/windows/video_window.h"

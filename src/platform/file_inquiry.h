@@ -14,6 +14,15 @@
 
 namespace platform {
 
+/// How long a piece of sound plays.
+struct PieceLength {
+    double seconds = 0;
+    bool exact = true;  // false: reckoned from the file's size
+};
+
+/// Parts into which a piece's loudness is divided.
+constexpr size_t kSoundParts = 1000;
+
 struct FileFacts {
     bool there = false;  // a plain file that was found
     int64_t size = 0;    // bytes
@@ -23,6 +32,10 @@ struct FileFacts {
     /// All bytes of the file, of kMostContent at most; only where it was asked for. Null where they
     /// cannot be read or are more.
     std::shared_ptr<const std::string> content;
+    std::optional<PieceLength> length;  // of a sound; only where it was asked for
+    /// Loudest sample of each of kSoundParts equal parts, 255 for full; only where it was asked
+    /// for, and empty where it cannot be found out.
+    std::vector<uint8_t> levels;
 };
 
 /// Bytes of a file's beginning by which it is known again under another name.
@@ -38,8 +51,17 @@ class FileInquiry {
 public:
     virtual ~FileInquiry() = default;
 
-    /// All but the first open the file; they answer what Presence does, too.
-    enum What { Presence, DateTaken, Beginning, Content };
+    /// All but the first open the file; they answer what Presence does, too. SoundLength looks at
+    /// a sound's beginning, WholeSoundLength reads all of it, SoundLevels plays it out unheard.
+    enum What {
+        Presence,
+        DateTaken,
+        Beginning,
+        Content,
+        SoundLength,
+        WholeSoundLength,
+        SoundLevels
+    };
     using Ready = std::function<void(const Text& path, const FileFacts& facts)>;
 
     /// `ready` is called once for each path, on the caller's thread: later from the event loop, in

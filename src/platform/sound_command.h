@@ -14,6 +14,10 @@ struct SoundCommand {
     Text type;  // waveaudio, sequencer, MPEGVideo
 };
 
+/// What follows the alias in "set wav time format samples", up to the format's name. Pieces are
+/// played from their beginning, whatever number stands there, unless the format is milliseconds.
+constexpr TextView kTimeFormat = u"time format ";
+
 /// Words are compared as they stand, capitals included. A file's name ends at the last quote, as it
 /// may hold quotes itself. An opening that is not of the known form, or is without a closing quote,
 /// gives an empty verb.

@@ -5,6 +5,7 @@
 #include "adapters/commands/usage.h"
 #include "adapters/gstreamer/gst_sound.h"
 #include "adapters/gstreamer/gst_video.h"
+#include "adapters/gstreamer/sound_levels.h"
 #include "adapters/imaging/file_inquirer.h"
 #include "adapters/imaging/thumbnail_cache.h"
 #include "adapters/imaging/thumbnailer.h"
@@ -71,7 +72,11 @@ struct Desk {
           thumbnails({.programFolder = around.programFolder,
                       .cacheFolder = imaging::ThumbnailCache::OfDesktop(),
                       .post = PostTo(desktop)}),
-          fileInquiry({.programFolder = around.programFolder, .post = PostTo(desktop)}) {}
+          fileInquiry({.programFolder = around.programFolder,
+                       .post = PostTo(desktop),
+                       .levels = [](const std::string& nativePath, const auto& goOn) {
+                           return gst_adapter::LevelsOf(nativePath, platform::kSoundParts, goOn);
+                       }}) {}
 
     posix_adapter::PosixFileChanges posixChanges;
     tracing::TracedFileChanges fileChanges;

@@ -8,7 +8,7 @@
 #include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_screen.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/video_window.h"
 #include "sound/answer.h"
 #include "sound/cd.h"

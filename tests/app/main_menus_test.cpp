@@ -8,7 +8,7 @@
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/sound_list.h"
 
 namespace app_tests {
 namespace {

@@ -10,7 +10,7 @@
 #include "model/windows/linked_folder.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/sound_list.h"
 
 namespace app_tests {
 namespace {

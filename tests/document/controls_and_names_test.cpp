@@ -13,6 +13,7 @@
 #include "model/windows/link_list.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 

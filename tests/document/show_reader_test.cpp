@@ -7,6 +7,7 @@
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/sound_windows.h"
 
 namespace document_tests {

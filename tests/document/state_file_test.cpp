@@ -7,6 +7,7 @@
 #include "model/controls.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 #include "state_support.h"

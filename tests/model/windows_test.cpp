@@ -10,6 +10,7 @@
 #include "model/windows/control_box.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_screen.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/sound_windows.h"
 #include "platform/event_loop.h"
 

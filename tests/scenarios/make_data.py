@@ -96,6 +96,9 @@ Documents with sound (all without repetition):
                 edge_*_full.kvs the same in the full screen
 w1 and w2 are 320x240, olive.
 tree has pictures at several depths, folders that a search leaves out, and a link back to itself.
+songs has sounds at several depths, one in a folder that a search leaves out, one in folder.mp3.
+Sound lists, to be wavlist.dat: two.dat b.wav, a.mid; newer.dat has more after its tag, older.dat
+another tag, short.dat fewer lines than it says.
 odd has pictures whose names hold line ends, quotes, bytes that are no UTF-8, and 255 bytes.
 """
 
@@ -432,6 +435,10 @@ def main():
     files["a.mp3"] = files["c.mp3"] = mp3(768)
     files["no_sound.wav"] = files["bad.mp4"] = files["text.jpg"]
     files["quo\"te.png"], files["quo\"te.wav"] = files["a.png"], files["a.wav"]
+    files["two.dat"] = document(["WAV3.4", " 2 ", "b.wav", "a.mid"])
+    files["newer.dat"] = document(["WAV3.4 and more", " 1 ", "b.wav"])
+    files["older.dat"] = document(["WAV3.3", " 1 ", "b.wav"])
+    files["short.dat"] = document(["WAV3.4", " 3 ", "b.wav"])
     files["film.mp4"] = mp4(2500)
     files["cinema.mp4"] = mp4(2500, 1280, 720)
     files["held.mp4"] = mp4(2500, 1920, 1080, turned=True)
@@ -514,6 +521,12 @@ def main():
     (folder / "odd").mkdir(exist_ok=True)
     for name in (b"1\ra.png", b"2\nb.png", b"3\"c'd%s.png", b"4\x8aC.png", b"5" + b"x" * 250 + b".png"):
         (folder / "odd" / os.fsdecode(name)).write_bytes(picture)
+    for name, sound in {"1.wav": wav(1000), "x.txt": b"no sound", "a/2.mid": files["a.mid"],
+                        "a/3.MP3": files["a.mp3"], "b/4.wav": wav(65000),
+                        "folder.mp3/5.wav": wav(400),
+                        "Windows/WinSxS/no.wav": wav(400)}.items():
+        (folder / "songs" / name).parent.mkdir(parents=True, exist_ok=True)
+        (folder / "songs" / name).write_bytes(sound)
     loop = folder / "tree" / "b" / "loop"
     if not loop.is_symlink():
         loop.symlink_to("..")

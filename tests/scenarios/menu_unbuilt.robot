@@ -1,9 +1,6 @@
 # Entries and buttons whose windows are not built yet say so at each press, stay enabled, and leave the
 # main window where it is. A choice stands all the same.
-@100 menu mnuWAVLIST
 @300 menu mnuICHI
-@400 menu mnuURU
-@600 click Form1.Command10
 @700 click Form1.Command11
 @800 menu mnuSCHEDULE
 @900 menu mnuKOU 3
@@ -19,12 +16,8 @@ expect Form1.mnuRENF.Enabled true
 expect Form1.mnuICHI.Enabled true
 expect Form1.mnuURU.Enabled true
 expect Form1.Visible true
-expect Form9.Visible false
 
-expect-trace message t=100 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=300 title="" text=この版にはまだありません。 flags=0
-expect-trace message t=400 title="" text=この版にはまだありません。 flags=0
-expect-trace message t=600 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=700 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=800 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=900 title="" text=この版にはまだありません。 flags=0

@@ -6,7 +6,7 @@
 #include "model/controls.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_screen.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/video_window.h"
 #include "picture/video_window.h"
 #include "support/fake_platform.h"

@@ -150,6 +150,9 @@ class FakeFileInquiry : public platform::FileInquiry {
 public:
     explicit FakeFileInquiry(FakeFiles& files) : files_(files) {}
     std::map<Text, platform::DateTime> taken;
+    std::map<Text, platform::PieceLength> lengths;       // by the beginning
+    std::map<Text, platform::PieceLength> wholeLengths;  // of files that were read whole
+    std::map<Text, std::vector<uint8_t>> levels;
     bool late = false;        // answers wait for Answer
     std::vector<Text> asked;  // every path, in order
 
@@ -167,10 +170,13 @@ public:
     }
     void Answer() {
         while (!waiting_.empty()) {
-            const Question question = waiting_.front();
-            waiting_.erase(waiting_.begin());
-            question.ready(question.path, FactsOf(question));
+            AnswerOne();
         }
+    }
+    void AnswerOne() {
+        const Question question = waiting_.front();
+        waiting_.erase(waiting_.begin());
+        question.ready(question.path, FactsOf(question));
     }
 
 private:
@@ -193,6 +199,15 @@ private:
             if (question.what == Beginning) {
                 facts.beginning = platform::BeginningSum(file->content);
             }
+        }
+        const auto& known = question.what == WholeSoundLength ? wholeLengths : lengths;
+        const auto length = known.find(question.path);
+        const bool asksLength = question.what == SoundLength || question.what == WholeSoundLength;
+        if (asksLength && length != known.end()) {
+            facts.length = length->second;
+        }
+        if (question.what == SoundLevels && levels.contains(question.path)) {
+            facts.levels = levels.at(question.path);
         }
         const auto found = taken.find(question.path);
         if (question.what == DateTaken && found != taken.end()) {

@@ -1,5 +1,7 @@
 #include "adapters/gstreamer/gst_sound.h"
 
+#include <cmath>
+#include <string>
 #include <utility>
 
 #include "adapters/gstreamer/library.h"
@@ -10,6 +12,7 @@ namespace gst_adapter {
 namespace {
 
 constexpr int kFullVolume = 1000;
+constexpr double kMillisecondsASecond = 1000;
 constexpr int kAsynchronous = 1;
 constexpr int kLooped = 8;
 constexpr int kPumpMs = 10;
@@ -42,7 +45,7 @@ GstSound::GstSound(platform::Files& files, platform::EventLoop& loop,
 
 GstSound::~GstSound() {
     loop_.CancelTimer(this);
-    players_.clear();
+    pieces_.clear();
     effect_.reset();
     cd_.Send({u"close", u"cdaudio", {}, {}, {}});
     WaitForThreads(kFarewellMs);
@@ -57,36 +60,43 @@ Text GstSound::MciSendString(TextView text) {
         Open(command);
         return {};
     }
-    const auto found = players_.find(command.device);
-    if (found == players_.end()) {
+    const auto found = pieces_.find(command.device);
+    if (found == pieces_.end()) {
         return {};
     }
     if (command.verb == u"close") {
-        players_.erase(found);
+        pieces_.erase(found);
         return {};
     }
-    return Send(*found->second, command);
+    return Send(found->second, command);
 }
 
 void GstSound::Open(const platform::SoundCommand& command) {
     for (const TypeRow& row : kTypes) {
         if (command.type != row.type || command.device.empty() ||
-            players_.contains(command.device)) {
+            pieces_.contains(command.device)) {
             continue;
         }
         if (const auto path = files_.Find(command.file)) {
             Media media;
             media.kind = row.kind;
             media.nativePath = *path;
-            players_[command.device] = std::make_unique<Player>(std::move(media), output_);
+            pieces_[command.device].player = std::make_unique<Player>(std::move(media), output_);
         }
     }
 }
 
-Text GstSound::Send(Player& player, const platform::SoundCommand& command) {
+Text GstSound::Send(Piece& piece, const platform::SoundCommand& command) {
+    Player& player = *piece.player;
     if (command.verb == u"play" && command.rest.starts_with(u"from ")) {
-        // The only place that is ever asked for is 1, the first sample or millisecond.
-        player.Play();
+        const int place = platform::WholeNumber(TextView(command.rest).substr(5), 0);
+        player.Play(piece.inMilliseconds ? place / kMillisecondsASecond : 0);
+    } else if (command.verb == u"set" && command.rest.starts_with(platform::kTimeFormat)) {
+        piece.inMilliseconds = command.rest.ends_with(u" milliseconds");
+    } else if (command.verb == u"status" && command.rest == u"position" && piece.inMilliseconds) {
+        player.WantPosition();
+        return text::FromUtf8(
+            std::to_string(std::llround(player.Position() * kMillisecondsASecond)));
     } else if (command.verb == u"stop") {
         player.Stop();
     } else if (command.verb == u"setaudio" && command.rest.starts_with(u"volume to ")) {

@@ -3,10 +3,13 @@
 //   does
 //                                                              an alias that is open
 //   open cdaudio
-//   play A from N       the piece from its beginning; cdaudio: from N [to M], tracks
+//   set A time format milliseconds
+//   play A from N       in that format from there, else from the piece's beginning; cdaudio: from
+//                       N [to M], tracks
+//   status A position   in that format
 //   status A mode       "playing" from the play on until the end, else "stopped"; cdaudio more
 //   setaudio A volume to N    0 to 1000; other numbers change nothing
-//   set A …             taken; changes nothing but the time format of cdaudio
+//   set A …             else taken; changes nothing but the time format of cdaudio
 //   stop A, close A
 // Anything else, and anything sent to an alias that is not open, is answered by the empty text.
 // No call waits for the sound server.
@@ -42,13 +45,18 @@ public:
     void SndPlaySound(const std::optional<Text>& file, int flags) override;
 
 private:
+    struct Piece {
+        std::unique_ptr<Player> player;
+        bool inMilliseconds = false;  // the time format
+    };
+
     void Open(const platform::SoundCommand& command);
-    Text Send(Player& player, const platform::SoundCommand& command);
+    Text Send(Piece& piece, const platform::SoundCommand& command);
 
     platform::Files& files_;
     platform::EventLoop& loop_;
     std::shared_ptr<AudioOutput> output_;
-    std::map<Text, std::unique_ptr<Player>> players_;
+    std::map<Text, Piece> pieces_;
     std::unique_ptr<Player> effect_;  // of SndPlaySound
     int effects_ = 0;                 // counts SndPlaySound
     CdAudio cd_;

@@ -20,13 +20,14 @@ constexpr int kStalledPolls = 250;  // five seconds without progress after the l
 
 struct Player::Core : std::enable_shared_from_this<Player::Core> {
     Core(Media what, std::shared_ptr<AudioOutput> where)
-        : media(std::move(what)), output(std::move(where)) {}
+        : media(std::move(what)), output(std::move(where)), wantsPosition(media.wantsPosition) {}
 
     // Any thread.
     const Media media;
     const std::shared_ptr<AudioOutput> output;
     const std::shared_ptr<std::atomic<float>> volume = std::make_shared<std::atomic<float>>(1.0f);
     std::atomic<double> position{0};
+    std::atomic<bool> wantsPosition;
     std::mutex mutex;
     bool playing = false;
     int request = 0;  // counts Play and Stop: an end that comes late belongs to an older one
@@ -53,7 +54,7 @@ struct Player::Core : std::enable_shared_from_this<Player::Core> {
     void CloseGate(GstElement& entry);
     void OpenGate();
     void Drop();
-    void Start(int forRequest);
+    void Start(int forRequest, double from = 0);
     void Finish();
     void Take(StreamEvent event, int ofBuild);
     void GoOnSilently();
@@ -150,10 +151,10 @@ void Player::Core::Drop() {
     OpenGate();  // after the pipeline's end: nothing of it is heard any more
 }
 
-void Player::Core::Start(int forRequest) {
-    if (!pipeline || started) {
+void Player::Core::Start(int forRequest, double from) {
+    if (!pipeline || started || from > 0) {
         Drop();
-        Build(0);
+        Build(from);
     }
     started = true;
     startedRequest = forRequest;
@@ -229,10 +230,10 @@ void Player::Core::SetPolling() {
     if (!pipeline || !started) {
         return;
     }
-    const int interval = tail->endTime >= 0    ? kEndPollMs
-                         : !running            ? StartWatch::kPollMs
-                         : media.wantsPosition ? kPositionPollMs
-                                               : 0;
+    const int interval = tail->endTime >= 0 ? kEndPollMs
+                         : !running         ? StartWatch::kPollMs
+                         : wantsPosition    ? kPositionPollMs
+                                            : 0;
     worker.Poll(interval, [self = weak_from_this()] {
         if (const auto core = self.lock()) {
             core->PollNow();
@@ -270,10 +271,12 @@ Player::~Player() {
     Stop();
 }
 
-void Player::Play() {
+void Player::Play(double from) {
     const std::lock_guard lock(core_->mutex);
     const int request = ++core_->request;
-    core_->playing = core_->worker.Post([core = core_, request] { core->Start(request); });
+    core_->position = from;
+    core_->playing =
+        core_->worker.Post([core = core_, request, from] { core->Start(request, from); });
 }
 
 void Player::Stop() {
@@ -294,6 +297,12 @@ bool Player::Playing() const {
 
 double Player::Position() const {
     return core_->position;
+}
+
+void Player::WantPosition() {
+    if (!core_->wantsPosition.exchange(true)) {
+        core_->worker.Post([core = core_] { core->SetPolling(); });
+    }
 }
 
 }  // namespace gst_adapter

@@ -31,8 +31,9 @@ public:
     /// Stops and frees everything, some time later.
     ~Player();
 
-    /// From the beginning, also while playing.
-    void Play();
+    /// From that many seconds on, also while playing; from the beginning where the piece cannot
+    /// seek.
+    void Play(double from = 0);
     void Stop();
     /// Amplitude, 0 to 1. Set before Play, it is that of the first sample.
     void SetVolume(double amplitude);
@@ -41,6 +42,8 @@ public:
     bool Playing() const;
     /// Seconds heard since the beginning, as of a tenth of a second ago; 0 without wantsPosition.
     double Position() const;
+    /// As Media::wantsPosition, from now on.
+    void WantPosition();
 
 private:
     struct Core;

@@ -7,14 +7,17 @@
 #include <chrono>
 #include <condition_variable>
 #include <deque>
+#include <fstream>
 #include <map>
 #include <mutex>
 #include <new>
+#include <set>
 #include <system_error>
 #include <thread>
 #include <utility>
 
 #include "adapters/imaging/exif_date.h"
+#include "adapters/media/media_length.h"
 #include "adapters/posix/path_finder.h"
 #include "adapters/posix/posix_files.h"
 
@@ -29,7 +32,45 @@ namespace {
 constexpr size_t kMostAtOnce = 256;
 constexpr std::chrono::milliseconds kMomentToEnd{300};
 
-FileFacts FactsOf(const Text& path, What what, posix_adapter::PathFinder& finder) {
+std::optional<platform::PieceLength> LengthOf(int fd, What what) {
+    // The file that was looked at, whatever has its name by now.
+    std::ifstream file("/proc/self/fd/" + std::to_string(fd), std::ios::binary);
+    const auto length = media_adapter::LengthOfMedia(
+        file, what == platform::FileInquiry::SoundLength ? media_adapter::Reading::Beginning
+                                                         : media_adapter::Reading::Whole);
+    return length ? std::optional(platform::PieceLength{length->milliseconds / 1000, length->exact})
+                  : std::nullopt;
+}
+
+/// What is asked for beside Presence.
+void LookInto(const std::string& nativePath, What what, FileFacts& facts) {
+    const posix_adapter::Descriptor file = posix_adapter::OpenPlainFile(nativePath);
+    if (!file.Valid()) {
+        return;
+    }
+    switch (what) {
+        case platform::FileInquiry::DateTaken:
+            facts.taken = DateTaken(
+                [&](uint64_t at, size_t count) { return BytesAt(file.Get(), at, count); });
+            break;
+        case platform::FileInquiry::Content:
+            if (facts.size <= platform::kMostContent) {
+                facts.content = std::make_shared<const std::string>(
+                    BytesAt(file.Get(), 0, static_cast<size_t>(facts.size)));
+            }
+            break;
+        case platform::FileInquiry::Beginning:
+            facts.beginning =
+                platform::BeginningSum(BytesAt(file.Get(), 0, platform::kBeginningBytes));
+            break;
+        default:
+            facts.length = LengthOf(file.Get(), what);
+            break;
+    }
+}
+
+FileFacts FactsOf(const Text& path, What what, posix_adapter::PathFinder& finder,
+                  const FileInquirerOptions& options, const std::function<bool()>& goOn) {
     FileFacts facts;
     const std::optional<std::string> native = finder.Find(path);
     struct stat status {};
@@ -39,20 +80,10 @@ FileFacts FactsOf(const Text& path, What what, posix_adapter::PathFinder& finder
     facts.there = true;
     facts.size = status.st_size;
     facts.changed = posix_adapter::WrittenAt(status);
-    if (what == platform::FileInquiry::Presence) {
-        return facts;
-    }
-    const posix_adapter::Descriptor file = posix_adapter::OpenPlainFile(*native);
-    if (file.Valid() && what == platform::FileInquiry::DateTaken) {
-        facts.taken =
-            DateTaken([&](uint64_t at, size_t count) { return BytesAt(file.Get(), at, count); });
-    } else if (file.Valid() && what == platform::FileInquiry::Content) {
-        if (status.st_size <= platform::kMostContent) {
-            facts.content = std::make_shared<const std::string>(
-                BytesAt(file.Get(), 0, static_cast<size_t>(status.st_size)));
-        }
-    } else if (file.Valid()) {
-        facts.beginning = platform::BeginningSum(BytesAt(file.Get(), 0, platform::kBeginningBytes));
+    if (what == platform::FileInquiry::SoundLevels) {
+        facts.levels = options.levels ? options.levels(*native, goOn) : std::vector<uint8_t>();
+    } else if (what != platform::FileInquiry::Presence) {
+        LookInto(*native, what, facts);
     }
     return facts;
 }
@@ -109,7 +140,8 @@ struct FileInquirer::Core : std::enable_shared_from_this<Core> {
             }
             lock.unlock();
             try {
-                answer.facts = FactsOf(answer.path, what, finder);
+                answer.facts = FactsOf(answer.path, what, finder, options,
+                                       [this, number = answer.number] { return IsWanted(number); });
             } catch (const std::bad_alloc&) {
                 answer.facts = {};
             }
@@ -121,6 +153,12 @@ struct FileInquirer::Core : std::enable_shared_from_this<Core> {
         }
         --alive;
         changed.notify_all();
+    }
+
+    /// The question's owner still waits for it.
+    bool IsWanted(int64_t number) {
+        const std::lock_guard lock(mutex);
+        return !ending && wanted.contains(number);
     }
 
     /// With the mutex held.
@@ -166,6 +204,8 @@ struct FileInquirer::Core : std::enable_shared_from_this<Core> {
         const Ready ready = found->second.ready;
         if (--found->second.unanswered == 0) {
             asked.erase(found);
+            const std::lock_guard lock(mutex);
+            wanted.erase(answer.number);
         }
         ready(answer.path, answer.facts);
     }
@@ -179,6 +219,7 @@ struct FileInquirer::Core : std::enable_shared_from_this<Core> {
     std::mutex mutex;  // of all below
     std::condition_variable changed;
     std::vector<Question> questions;  // the newest at the end
+    std::set<int64_t> wanted;         // numbers of those that an owner still waits for
     std::deque<Answer> answers;
     bool posted = false;
     bool ending = false;
@@ -206,13 +247,14 @@ void FileInquirer::Ask(const void* owner, std::vector<Text> paths, What what, Re
             core.ownFinder.emplace(core.options.programFolder);
         }
         for (const Text& path : paths) {
-            ready(path, FactsOf(path, what, *core.ownFinder));
+            ready(path, FactsOf(path, what, *core.ownFinder, core.options, [] { return true; }));
         }
         return;
     }
     const int64_t number = ++core.lastNumber;
     core.asked[number] = {owner, std::move(ready), paths.size()};
     const std::lock_guard lock(core.mutex);
+    core.wanted.insert(number);
     core.questions.push_back(
         {number,
          what,
@@ -225,6 +267,7 @@ void FileInquirer::Forget(const void* owner) {
     Core& core = *core_;
     std::erase_if(core.asked, [&](const auto& entry) { return entry.second.owner == owner; });
     const std::lock_guard lock(core.mutex);
+    std::erase_if(core.wanted, [&](int64_t number) { return !core.asked.contains(number); });
     std::erase_if(core.questions, [&](const Core::Question& question) {
         return !core.asked.contains(question.number);
     });

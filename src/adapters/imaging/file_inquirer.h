@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/file_inquiry.h"
 
@@ -14,6 +15,11 @@ struct FileInquirerOptions {
     /// Runs a call on the asking thread, from its event loop. Empty: no threads; Ask answers.
     std::function<void(std::function<void()>)> post = {};
     int threads = 0;  // 0: kMostInquiring
+    /// Answers FileFacts::levels on a worker; `goOn` is asked often, and false ends it. Empty: no
+    /// levels.
+    std::function<std::vector<uint8_t>(const std::string& nativePath,
+                                       const std::function<bool()>& goOn)>
+        levels = {};
 };
 
 /// Mostly they wait for a disk, so their number has nothing to do with that of processors.

@@ -12,6 +12,7 @@
 #include "adapters/qt/number_bindings.h"
 #include "adapters/qt/panes_binding.h"
 #include "adapters/qt/picture_bindings.h"
+#include "adapters/qt/sound_slider.h"
 #include "adapters/qt/text_bindings.h"
 
 namespace qt_adapter {
@@ -55,6 +56,7 @@ constexpr KindRow kRows[] = {
     {ControlKind::FolderList, Tie<FolderBinding, model::FolderList, QTreeView>},
     {ControlKind::Grid, Tie<GridBinding, model::Grid, QTableView>},
     {ControlKind::Calendar, Tie<CalendarBinding, model::Calendar, QCalendarWidget>},
+    {ControlKind::ScrollBar, Tie<SoundBinding, model::SoundBar, SoundSlider>},
     {ControlKind::ScrollBar, Tie<ScrollBinding, model::ScrollBar, QAbstractSlider>},
     {ControlKind::PictureBox, Tie<PictureBinding, model::PictureBox, CanvasWidget>,
      Plain<CanvasWidget>},

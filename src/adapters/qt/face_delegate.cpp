@@ -92,12 +92,16 @@ int FaceDelegate::PictureSide(bool asGrid) {
     return asGrid ? kGridPicture : kLinePicture;
 }
 
+int FaceDelegate::LinePicture() const {
+    return list_.thumbnails ? kLinePicture : 0;
+}
+
 QSize FaceDelegate::RowSize(bool asGrid) const {
     const int line = view_.fontMetrics().height();
     if (asGrid) {
         return {kGridPicture + 2 * kGap, kGridPicture + line + 3 * kEdge};
     }
-    return {kLinePicture, std::max(kLinePicture, 2 * line) + kEdge};
+    return {kLinePicture, std::max(LinePicture(), 2 * line) + kEdge};
 }
 
 QSize FaceDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
@@ -124,9 +128,10 @@ FaceDelegate::Parts FaceDelegate::PartsOf(const QRect& place, const model::RowFa
     } else {
         const int middle = place.center().y();
         parts.number = QRect(place.left() + kEdge, place.top(), digits, place.height());
-        parts.picture = QRect(parts.number.right() + kGap, middle - kLinePicture / 2 + 1,
-                              kLinePicture, kLinePicture);
-        const int left = parts.picture.right() + kGap;
+        const int side = LinePicture();
+        parts.picture =
+            QRect(parts.number.right() + kGap, middle - kLinePicture / 2 + 1, side, side);
+        const int left = parts.picture.right() + (side > 0 ? kGap : 1);
         const int right = place.right() - kGap;
         const int top = middle - line;
         const int aside =

@@ -33,6 +33,8 @@ public:
 private:
     struct Inks;
     struct Parts;
+    /// Side of the picture of a line; 0 in a list without thumbnails.
+    int LinePicture() const;
     Parts PartsOf(const QRect& place, const model::RowFace& face) const;
     void PaintMarks(QPainter& painter, const Parts& parts, const model::RowFace& face,
                     const Inks& inks) const;

@@ -7,6 +7,7 @@
 #include "adapters/qt/face_view.h"
 #include "adapters/qt/image_widget.h"
 #include "adapters/qt/panes_binding.h"
+#include "adapters/qt/sound_slider.h"
 #include "adapters/qt/stage_widget.h"
 #include "adapters/qt/video_widget.h"
 
@@ -52,6 +53,8 @@ QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, con
         widget = new StageWidget(parent);
     } else if (className == "FaceView") {
         widget = new FaceView(parent);
+    } else if (className == "SoundSlider") {
+        widget = new SoundSlider(parent);
     } else if (className == "QSplitter") {
         widget = new PaneSplitter(parent);
     } else if (className == "VideoWidget") {

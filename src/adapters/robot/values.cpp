@@ -31,7 +31,7 @@ constexpr NamedArray kArrays[] = {
 constexpr std::pair<std::string_view, std::string_view> kOtherNames[] = {
     {"ListWindowPainted", "SlideListDirty"},     {"ListCheck2Flag", "ListDblClickRecord"},
     {"ListCheck3Flag", "ListDblClickWallpaper"}, {"ListCheck4Flag", "ListDblClickText"},
-    {"ListCheck5Flag", "ListDblClickStart"},
+    {"ListCheck5Flag", "ListDblClickStart"},     {"SoundListIndex", "SoundListPos"},
 };
 
 ScriptValue FromModel(const model::Value& value) {

@@ -1,10 +1,16 @@
 #include "adapters/virtual/virtual_sound.h"
 
 #include <algorithm>
+#include <cmath>
+#include <string>
 
-#include "adapters/virtual/media_length.h"
+#include "adapters/media/media_length.h"
 
 namespace virtual_adapter {
+
+using media_adapter::LengthOfMediaFile;
+using media_adapter::MediaKind;
+using media_adapter::MediaLength;
 
 namespace {
 
@@ -32,7 +38,12 @@ Text VirtualSound::MciSendString(TextView line) {
     }
     Piece& piece = found->second;
     if (command.verb == u"play" && command.rest.starts_with(u"from ")) {
-        piece.ends = loop_.Milliseconds() + piece.milliseconds;
+        piece.ends = loop_.Milliseconds() + piece.milliseconds - piece.PlaceOf(command.rest);
+    } else if (command.verb == u"set" && command.rest.starts_with(platform::kTimeFormat)) {
+        piece.inMilliseconds = command.rest.ends_with(u" milliseconds");
+    } else if (command.verb == u"status" && command.rest == u"position" && piece.inMilliseconds) {
+        const double left = std::max(0.0, piece.ends - loop_.Milliseconds());
+        return text::FromUtf8(std::to_string(std::llround(piece.milliseconds - left)));
     } else if (command.verb == u"stop") {
         piece.ends = 0;
     } else if (command.verb == u"close") {
@@ -41,6 +52,11 @@ Text VirtualSound::MciSendString(TextView line) {
         return loop_.Milliseconds() < piece.ends ? u"playing" : u"stopped";
     }
     return {};
+}
+
+double VirtualSound::Piece::PlaceOf(TextView from) const {
+    const int place = platform::WholeNumber(from.substr(from.find(u' ')), 0);
+    return inMilliseconds ? std::min<double>(place, milliseconds) : 0;
 }
 
 void VirtualSound::Open(const platform::SoundCommand& command) {

@@ -11,11 +11,12 @@
 
 namespace virtual_adapter {
 
-/// Understood are: open "FILE" type TYPE alias NAME, play NAME from 1, stop NAME, close NAME,
-/// status NAME mode ("playing" or "stopped"). Every file that exists can be opened; what cannot be
-/// played, or does not tell its length, is "stopped" as soon as it plays.
-/// The device cdaudio has a drive. Everything else answers with the empty text. A sound that is
-/// played synchronously lets its length pass, with the loop pumping.
+/// Understood are: open "FILE" type TYPE alias NAME, play NAME from N, stop NAME, close NAME, set
+/// NAME time format milliseconds, status NAME mode ("playing" or "stopped"), status NAME position.
+/// Places other than the beginning need that time format. Every file that exists can be opened;
+/// what cannot be played, or does not tell its length, is "stopped" as soon as it plays. The device
+/// cdaudio has a drive. Everything else answers with the empty text. A sound that is played
+/// synchronously lets its length pass, with the loop pumping.
 class VirtualSound : public platform::Sound {
 public:
     explicit VirtualSound(platform::EventLoop& loop) : cd(loop), loop_(loop) {}
@@ -31,7 +32,11 @@ public:
 private:
     struct Piece {
         double milliseconds = 0;
-        double ends = 0;  // ms of the loop; over: it does not play
+        double ends = 0;              // ms of the loop; over: it does not play
+        bool inMilliseconds = false;  // the time format
+
+        /// Milliseconds of the piece that "from N" means.
+        double PlaceOf(TextView from) const;
     };
 
     void Open(const platform::SoundCommand& command);

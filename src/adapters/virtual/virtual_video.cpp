@@ -2,10 +2,14 @@
 
 #include <fstream>
 
+#include "adapters/media/media_length.h"
 #include "adapters/virtual/film_size.h"
-#include "adapters/virtual/media_length.h"
 
 namespace virtual_adapter {
+
+using media_adapter::LengthOfMediaFile;
+using media_adapter::LooksLikeVideo;
+using media_adapter::MediaLength;
 
 namespace {
 

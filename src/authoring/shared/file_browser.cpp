@@ -1,5 +1,6 @@
 #include "authoring/shared/file_browser.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -61,6 +62,13 @@ void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& d
     file.PicturesChanged.Anew() = [&app, &file] { RememberPictures(app, file.Pictures); };
     OpenBrowser(app, drive, dir, folder);
     file.Refresh();
+}
+
+void RefreshFiles(Application& app, model::FileList& files) {
+    const std::vector<Text> now = app.platform.folders.Files(files.Path(), files.Pattern());
+    if (!std::equal(now.begin(), now.end(), files.Rows().begin(), files.Rows().end())) {
+        files.Refresh();
+    }
 }
 
 bool IsRefusedFolder(Application& app, TextView folder) {

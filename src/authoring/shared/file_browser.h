@@ -26,6 +26,10 @@ void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& d
 void OpenBrowser(Application& app, model::DriveList& drive, model::FolderList& dir,
                  model::FileList& file, const Text& folder);
 
+/// Reads the files anew, as when the window is come back to. A list that is the same keeps its
+/// place.
+void RefreshFiles(Application& app, model::FileList& files);
+
 /// The root and the folder that holds the users' home folders, with or without a separator at the
 /// end: no place to keep files in.
 bool IsRefusedFolder(Application& app, TextView folder);

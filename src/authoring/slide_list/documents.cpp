@@ -6,7 +6,7 @@
 #include "authoring/slide_list/remembered_files.h"
 #include "authoring/slide_list/selection.h"
 #include "authoring/slide_list/stopped_search.h"
-#include "authoring/sound_list.h"
+#include "authoring/sound_list/window.h"
 #include "document/main_caption.h"
 #include "document/settings_to_controls.h"
 #include "document/show_document.h"

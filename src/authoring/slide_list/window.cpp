@@ -34,7 +34,7 @@
 #include "model/windows/file_search.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/sound_list.h"
 #include "model/windows/text_display.h"
 #include "playback/run.h"
 
@@ -56,15 +56,6 @@ void Form_Load(Application& app) {
     OpenBrowser(app, form3.Drive1, form3.Dir1, form3.File1, app.platform.folders.Home());
 }
 
-/// A list that is the same keeps its place.
-void RefreshFiles(Application& app) {
-    model::FileList& files = app.windows.form3.File1;
-    const std::vector<Text> now = app.platform.folders.Files(files.Path(), files.Pattern());
-    if (!std::equal(now.begin(), now.end(), files.Rows().begin(), files.Rows().end())) {
-        files.Refresh();
-    }
-}
-
 /// Where it was put it stays while it is open; only the monitor in use can call it elsewhere.
 void TakePlace(Application& app) {
     model::Form3& form3 = app.windows.form3;
@@ -77,7 +68,7 @@ void TakePlace(Application& app) {
 
 void Form_Activate(Application& app) {
     app.windows.form3.Dir1.Refresh();
-    RefreshFiles(app);
+    RefreshFiles(app, app.windows.form3.File1);
     RefreshFaces(app);
     if (app.state.ListWasClicked == 1) {
         FollowSelection(app);

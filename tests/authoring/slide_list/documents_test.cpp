@@ -8,7 +8,7 @@
 #include "model/windows/link_list.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/sound_list.h"
 
 namespace authoring {
 namespace {

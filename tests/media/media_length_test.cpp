@@ -1,5 +1,5 @@
 // Lengths of media files, from bytes made by hand.
-#include "adapters/virtual/media_length.h"
+#include "adapters/media/media_length.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 
 #include "support/media_bytes.h"
 
-namespace virtual_adapter {
+namespace media_adapter {
 namespace {
 
 std::optional<MediaLength> LengthOf(const std::string& bytes) {
@@ -75,6 +75,73 @@ TEST(MediaLength, Mp3ByItsFrames) {
     EXPECT_FALSE(LengthOf(std::string("ID3\4\0\0\x7F\x7F\x7F\x7F", 10)));
 }
 
+std::optional<MediaLength> QuickLengthOf(const std::string& bytes) {
+    std::istringstream file(bytes);
+    return LengthOfMedia(file, Reading::Beginning);
+}
+
+constexpr double kFrameMs = 1152 * 1000.0 / 44100;
+
+/// A first frame that says how many follow, in place of the first one of `mp3`.
+std::string WithIndex(const std::string& mp3, const std::string& mark, size_t at, uint32_t frames,
+                      uint32_t bytes) {
+    std::string index = mark;
+    index += mark == "VBRI" ? media::Big(0, 6) + media::Big(bytes, 4) + media::Big(frames, 4)
+                            : media::Big(3, 4) + media::Big(frames, 4) + media::Big(bytes, 4);
+    return std::string(mp3).replace(at, index.size(), index);
+}
+
+TEST(MediaLength, AnMp3SaysItsLengthAtItsBeginning) {
+    const std::string mp3 = media::Mp3(101);
+    const auto size = static_cast<uint32_t>(mp3.size());
+    for (const auto& [mark, at] : {std::pair("Xing", 36), {"Info", 36}, {"VBRI", 36}}) {
+        SCOPED_TRACE(mark);
+        const std::string file = WithIndex(mp3, mark, static_cast<size_t>(at), 100, size);
+        const auto quick = QuickLengthOf(file);
+        ASSERT_TRUE(quick);
+        EXPECT_TRUE(quick->exact);
+        EXPECT_NEAR(quick->milliseconds, 100 * kFrameMs, 0.01);
+        // The frame that says it is not heard.
+        ExpectLength(file, MediaKind::Mp3, 100 * kFrameMs);
+    }
+}
+
+TEST(MediaLength, AnMp3WithoutThatIsReckonedFromItsSize) {
+    const std::string mp3 = media::Mp3(100);
+    const auto quick = QuickLengthOf(mp3 + std::string(4170, 'x'));
+    ASSERT_TRUE(quick);
+    EXPECT_FALSE(quick->exact);
+    EXPECT_NEAR(quick->milliseconds, 110 * kFrameMs, 0.01);
+    // After a tag, which is no sound.
+    const std::string tag = std::string("ID3\4\0\0\0\0\1\0", 10) + std::string(128, 'x');
+    EXPECT_NEAR(QuickLengthOf(tag + mp3)->milliseconds, 100 * kFrameMs, 0.01);
+    const auto whole = LengthOf(mp3 + std::string(4170, 'x'));
+    EXPECT_TRUE(whole->exact);
+    EXPECT_NEAR(whole->milliseconds, 100 * kFrameMs, 0.01);
+}
+
+TEST(MediaLength, AnMp3ThatIsShorterThanItSaysIsNotBelieved) {
+    const std::string mp3 = media::Mp3(101);
+    const auto size = static_cast<uint32_t>(mp3.size());
+    const std::string cut = WithIndex(mp3, "Xing", 36, 100, size).substr(0, 417 * 51);
+    EXPECT_FALSE(QuickLengthOf(cut)->exact);
+    EXPECT_NEAR(QuickLengthOf(cut)->milliseconds, 51 * kFrameMs, 0.01);
+    ExpectLength(cut, MediaKind::Mp3, 50 * kFrameMs);
+    const std::string lying = WithIndex(mp3, "Xing", 36, 0xFFFFFFFF, 0);
+    EXPECT_FALSE(QuickLengthOf(lying)->exact);
+    const std::string silent = WithIndex(mp3, "Info", 36, 0, 0);
+    EXPECT_FALSE(QuickLengthOf(silent)->exact);
+}
+
+TEST(MediaLength, TheOthersSayItExactlyAtTheirBeginning) {
+    for (const std::string& file : {media::Wav(1500), media::Midi({media::Note(480)})}) {
+        const auto quick = QuickLengthOf(file);
+        ASSERT_TRUE(quick);
+        EXPECT_TRUE(quick->exact);
+        EXPECT_NEAR(quick->milliseconds, LengthOf(file)->milliseconds, 0.01);
+    }
+}
+
 TEST(MediaLength, Mp4ByItsMovieHeader) {
     ExpectLength(media::Mp4(2500), MediaKind::Mp4, 2500);
     EXPECT_FALSE(LengthOf(media::Mp4(0)));
@@ -100,19 +167,21 @@ TEST(MediaLength, NothingElse) {
 TEST(MediaLength, DamagedFiles) {
     for (const std::string& whole :
          {media::Wav(10), media::Midi({media::Note(0) + media::Tempo(5, 1) + media::Note(99)}),
-          media::Mp3(3), media::Mp4(99)}) {
+          media::Mp3(3), WithIndex(media::Mp3(3), "Xing", 36, 2, 1251), media::Mp4(99)}) {
         for (size_t at = 0; at < whole.size(); ++at) {
             std::string cut = whole.substr(0, at);
             LengthOf(cut);
+            QuickLengthOf(cut);
             for (const char byte : {'\0', '\x7F', '\xFF'}) {
                 std::string changed = whole;
                 changed[at] = byte;
-                const auto length = LengthOf(changed);
-                EXPECT_LE(length ? length->milliseconds : 0, 24.0 * 3600 * 1000);
+                for (const auto& length : {LengthOf(changed), QuickLengthOf(changed)}) {
+                    EXPECT_LE(length ? length->milliseconds : 0, 24.0 * 3600 * 1000);
+                }
             }
         }
     }
 }
 
 }  // namespace
-}  // namespace virtual_adapter
+}  // namespace media_adapter

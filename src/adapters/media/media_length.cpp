@@ -1,4 +1,4 @@
-#include "adapters/virtual/media_length.h"
+#include "adapters/media/media_length.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace virtual_adapter {
+namespace media_adapter {
 
 namespace {
 
@@ -225,28 +225,86 @@ size_t TagBytes(std::string_view bytes) {
     return length + 10;
 }
 
-double Mp3Milliseconds(std::string_view bytes, uint64_t size) {
+/// An MP3 from its first frame on.
+struct Mp3Beginning {
+    std::string bytes;
+    uint64_t at = 0;  // of the first frame in the file
+    Mp3Frame frame;   // whole unless there is none
+};
+
+/// `most`: bytes that are read after a tag in front.
+Mp3Beginning BeginMp3(std::istream& file, size_t most) {
     constexpr size_t kFarthestFirstFrame = 65536;
-    size_t at = TagBytes(bytes);
-    const size_t last = std::min(bytes.size(), at + kFarthestFirstFrame);
-    while (at < last) {
+    const size_t tag = TagBytes(ReadAt(file, 0, 10));
+    std::string bytes = ReadAt(file, tag, most);
+    for (size_t at = 0; at < std::min(bytes.size(), kFarthestFirstFrame); ++at) {
         const Mp3Frame frame = FrameAt(bytes, at);
         if (frame.bytes > 0 &&
             (at + frame.bytes >= bytes.size() || FrameAt(bytes, at + frame.bytes).bytes > 0)) {
-            break;
+            return {bytes.substr(at), tag + at, frame};
         }
-        ++at;
     }
-    const size_t begin = at;
-    double milliseconds = 0;
-    for (Mp3Frame frame = FrameAt(bytes, at); frame.bytes > 0; frame = FrameAt(bytes, at)) {
+    return {};
+}
+
+/// What the writer of a file says in a first frame that is not heard.
+struct Mp3Index {
+    bool there = false;
+    uint32_t frames = 0, bytes = 0;  // 0: not said
+};
+
+Mp3Index IndexIn(std::string_view frame) {
+    constexpr size_t kOfOther = 36;
+    const bool first = (Byte(frame, 1) >> 3 & 3) == 3;
+    const bool mono = Byte(frame, 3) >> 6 == 3;
+    const size_t at = 4 + (first ? (mono ? 17 : 32) : (mono ? 9 : 17));
+    const std::string_view mark = frame.substr(std::min(at, frame.size()), 4);
+    if (mark == "Xing" || mark == "Info") {
+        const uint32_t said = Big(frame, at + 4, 4);
+        const bool frames = (said & 1) != 0, bytes = (said & 2) != 0;
+        return {true, frames ? Big(frame, at + 8, 4) : 0,
+                bytes ? Big(frame, at + (frames ? 12 : 8), 4) : 0};
+    }
+    if (frame.substr(std::min(kOfOther, frame.size()), 4) == "VBRI") {
+        return {true, Big(frame, kOfOther + 14, 4), Big(frame, kOfOther + 10, 4)};
+    }
+    return {};
+}
+
+MediaLength Mp3ByBeginning(std::istream& file, uint64_t size) {
+    constexpr size_t kRead = 80000;          // more than the farthest first frame
+    constexpr uint32_t kSmallestFrame = 24;  // bytes
+    const Mp3Beginning mp3 = BeginMp3(file, kRead);
+    if (mp3.frame.bytes == 0) {
+        return {MediaKind::Mp3, 0};
+    }
+    const uint64_t there = size - std::min(size, mp3.at);
+    const Mp3Index index = IndexIn(std::string_view(mp3.bytes).substr(0, mp3.frame.bytes));
+    const bool whole = index.bytes <= there && uint64_t(index.frames) * kSmallestFrame <= there;
+    if (index.frames > 0 && whole) {
+        return {MediaKind::Mp3, index.frames * mp3.frame.milliseconds};
+    }
+    return {
+        MediaKind::Mp3,
+        static_cast<double>(there) / static_cast<double>(mp3.frame.bytes) * mp3.frame.milliseconds,
+        false};
+}
+
+MediaLength Mp3ByFrames(std::istream& file, uint64_t size) {
+    const Mp3Beginning mp3 = BeginMp3(file, kMostBytesHeld);
+    const std::string_view bytes = mp3.bytes;
+    const bool silent = IndexIn(bytes.substr(0, mp3.frame.bytes)).there;
+    double milliseconds = silent ? -mp3.frame.milliseconds : 0;
+    size_t at = 0;
+    for (Mp3Frame frame = mp3.frame; frame.bytes > 0; frame = FrameAt(bytes, at)) {
         milliseconds += frame.milliseconds;
         at += frame.bytes;
     }
-    if (at > begin && size > bytes.size()) {
-        milliseconds *= static_cast<double>(size - begin) / static_cast<double>(at - begin);
+    const bool exact = size <= mp3.at + bytes.size();
+    if (at > 0 && !exact) {
+        milliseconds *= static_cast<double>(size - mp3.at) / static_cast<double>(at);
     }
-    return milliseconds;
+    return {MediaKind::Mp3, milliseconds, exact};
 }
 
 /// Where the inside of the box of that name lies between two places; an empty range without one.
@@ -322,7 +380,7 @@ bool LooksLikeVideo(platform::Files& files, TextView path) {
            (head.starts_with("RIFF") && head.ends_with("AVI "));
 }
 
-std::optional<MediaLength> LengthOfMedia(std::istream& file) {
+std::optional<MediaLength> LengthOfMedia(std::istream& file, Reading reading) {
     const uint64_t size = SizeOf(file);
     const std::string head = ReadAt(file, 0, 12);
     const auto whole = [&] {
@@ -336,7 +394,7 @@ std::optional<MediaLength> LengthOfMedia(std::istream& file) {
     } else if (IsMp4(head)) {
         found = {MediaKind::Mp4, Mp4Milliseconds(file, size)};
     } else if (head.starts_with("ID3") || (head.size() > 1 && Big(head, 0, 2) >> 5 == 0x7FF)) {
-        found = {MediaKind::Mp3, Mp3Milliseconds(whole(), size)};
+        found = reading == Reading::Whole ? Mp3ByFrames(file, size) : Mp3ByBeginning(file, size);
     }
     if (!(found.milliseconds > 0)) {
         return std::nullopt;
@@ -345,4 +403,4 @@ std::optional<MediaLength> LengthOfMedia(std::istream& file) {
     return found;
 }
 
-}  // namespace virtual_adapter
+}  // namespace media_adapter
