@@ -9,6 +9,7 @@
 #include "model/windows/link_list.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
+#include "sound/cd.h"
 #include "text/paths.h"
 
 namespace playback {
@@ -39,7 +40,7 @@ Loading LoadEntry(Application& app, int entry) {
     // be started twice.
     state.RestartSoundFlag = 0;
     state.RestartSoundMacro = 0;
-    state.CdProgramPosition = 0;  // its program is the document's own, too
+    sound::LeaveCd(app);
     document::CommitSlides(app);
     state.LinkIndex = static_cast<int16_t>(entry + 1);
     if (state.SlideListEnd <= 1) {

@@ -3,12 +3,14 @@
 #include "document/show_document.h"
 #include "macro/telop.h"
 #include "model/controls.h"
+#include "model/sound_modes.h"
 #include "model/windows/main_window.h"
 #include "picture/load.h"
 #include "playback/full_screen.h"
 #include "playback/go_on.h"
 #include "playback/macro_clicks.h"
 #include "playback/run.h"
+#include "sound/cd.h"
 #include "text/paths.h"
 
 namespace playback {
@@ -29,6 +31,9 @@ void FollowDocumentFile(Application& app) {
     if (date != state.DocumentFileDate) {
         state.BaseFolder = text::FolderPart(state.DocumentPath);
         document::ReadShowDocument(app, Text(state.DocumentPath));
+        if (state.SoundMode != model::kCdSound) {
+            sound::LeaveCd(app);
+        }
         state.ShowAbort = 0;  // refused and told: what there is plays on, whatever its first slide
         state.SlideIndex = 1;
     }

@@ -38,6 +38,11 @@ void Say(Application& app, TextView words) {
 
 constexpr TextView kNotReady = u"ＣＤが準備できていません。";
 
+void CloseDrive(Application& app) {
+    app.platform.sound.MciSendString(u"stop cdaudio");
+    app.platform.sound.MciSendString(u"close cdaudio");
+}
+
 void Refuse(Application& app, CdStart why, TextView words) {
     model::ShowState& state = app.state;
     const bool polled = why == CdStart::TrackEnded || why == CdStart::TrackStuck;
@@ -137,12 +142,21 @@ void StartCd(Application& app, CdStart why) {
 void StopCd(Application& app) {
     model::ShowState& state = app.state;
     if (state.SoundMode == model::kCdSound) {
-        app.platform.sound.MciSendString(u"stop cdaudio");
-        app.platform.sound.MciSendString(u"close cdaudio");
+        CloseDrive(app);
     }
     state.CdPaused = 0;
     state.CdPlaying = 0;
     state.CdStopPending = 0;
+}
+
+void LeaveCd(Application& app) {
+    model::ShowState& state = app.state;
+    if (state.CdPlaying > 0) {
+        CloseDrive(app);
+    }
+    state.CdPaused = 0;
+    state.CdPlaying = 0;
+    state.CdProgramPosition = 0;
 }
 
 DiscContents LookAtDisc(Application& app, bool withLengths) {

@@ -25,6 +25,9 @@ void StartCd(Application& app, CdStart why = CdStart::ByPerson);
 
 /// Stops the audio CD in mode 2; clears its flags in every mode.
 void StopCd(Application& app);
+/// Another document is in force now: stops what the one before started, whatever the mode, and
+/// forgets its pause and how far its program went.
+void LeaveCd(Application& app);
 
 struct DiscContents {
     int tracks = 0;             // 0 also for a disc that cannot be played

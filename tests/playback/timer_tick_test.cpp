@@ -5,6 +5,7 @@
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "show_support.h"
+#include "sound/cd.h"
 
 namespace playback_tests {
 namespace {
@@ -223,6 +224,17 @@ TEST(TickDocument, AChangedOneStartsOverInTheSameTick) {
     EXPECT_EQ(show.state.DocumentFileDate, platform::DateTimeText(show.files.Get(kDocument)->date));
     show.loop.Run(3000);
     EXPECT_EQ(show.state.CurrentPath, u"C:\\new\\y.png") << "read once";
+}
+
+TEST(TickDocument, AChangedOneThatLeavesTheCdStopsIt) {
+    DocumentShow show;
+    show.state.SoundMode = 2;
+    show.sound.cd.Insert({60, 60});
+    sound::StartCd(show.app);
+    show.Change({u"C:\\new\\x.png"});  // without sound
+    show.loop.Run(3000);
+    EXPECT_EQ(show.state.SoundMode, 7);
+    EXPECT_EQ(show.CommandsFrom(u"close cdaudio").size(), 1u);
 }
 
 TEST(TickDocument, AVanishedOneAndNoneAreNoHindrance) {

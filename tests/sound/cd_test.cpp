@@ -254,6 +254,25 @@ TEST(StopCd, SpeaksToTheDriveInItsModeOnly) {
     }
 }
 
+TEST(LeaveCd, StopsWhatADocumentBeforeStarted) {
+    for (const int16_t mode : {2, 7}) {
+        for (const bool plays : {false, true}) {
+            Rig rig;
+            rig.Program({u"2", u"1"});
+            if (plays) {
+                rig.Start();
+            }
+            rig.Pause(u"2");
+            rig.sound.commands.clear();
+            rig.state.SoundMode = mode;
+            sound::LeaveCd(rig.app);
+            EXPECT_EQ(rig.sound.commands,
+                      plays ? (Texts{u"stop cdaudio", u"close cdaudio"}) : Texts());
+            EXPECT_EQ(rig.state.CdPlaying + rig.state.CdPaused + rig.state.CdProgramPosition, 0);
+        }
+    }
+}
+
 TEST(LookAtDisc, LeavesAClosedDriveClosedAndAPlayingOnePlaying) {
     Rig rig;
     sound::DiscContents disc = sound::LookAtDisc(rig.app, true);
