@@ -1,6 +1,6 @@
 #include "document/show_facts.h"
 
-#include <algorithm>
+#include <string_view>
 
 #include "document/interval.h"
 #include "document/line_reader.h"
@@ -12,13 +12,75 @@ namespace document {
 
 namespace {
 
-/// Lines that a block of the tag has between the repeat mark and the slides.
+/// What the lines of a block hold: n a number of a setting, t one that is read as text, l a whole
+/// line, i an item with the line to itself.
 struct Block {
     TextView tag;
-    int lines;
+    std::string_view lines;
 };
-constexpr Block kBlocks[] = {{u"vue", 2},    {u"vue3", 9},    {u"vue31", 2},
-                             {u"vue316", 1}, {u"vue3167", 2}, {u"vue31678", 5}};
+/// Between interval and slides.
+constexpr Block kBlocks[] = {{u"vue", "nnl"},  {u"vue3", "lnnnnnnnl"}, {u"vue31", "nn"},
+                             {u"vue316", "n"}, {u"vue3167", "ln"},     {u"vue31678", "ntnni"}};
+
+void ReadLines(LineReader& reader, std::string_view lines) {
+    for (const char line : lines) {
+        switch (line) {
+            case 'n':
+                reader.Int16();
+                break;
+            case 't':
+                NumberOfItem(reader.Item());
+                break;
+            case 'l':
+                reader.Line();
+                break;
+            default:
+                reader.ItemOfLine();
+        }
+    }
+}
+
+/// Each where the file goes on.
+void ReadLinesIfAny(LineReader& reader, std::string_view lines) {
+    for (size_t i = 0; i < lines.size() && !reader.AtEnd(); ++i) {
+        ReadLines(reader, lines.substr(i, 1));
+    }
+}
+
+void ReadList(LineReader& reader) {
+    for (int left = reader.Count16(); left > 0; --left) {
+        reader.Line();
+    }
+}
+
+/// What follows the slides, which tells nothing: a fault in it refuses the document.
+void ReadRest(LineReader& reader, int slides) {
+    if (!reader.AtEnd()) {
+        reader.Number();
+        ReadLines(reader, "nn");  // overlap
+    }
+    if (!reader.AtEnd()) {
+        ReadList(reader);  // programme of a CD
+    }
+    ReadLinesIfAny(reader, "nnnnn");  // the screen
+    if (!reader.AtEnd() && reader.Int16() == 1) {
+        ReadList(reader);  // sounds
+    }
+    ReadLinesIfAny(reader, "nlnnnn");  // MP3 and modes
+    bool rowRead = false;
+    if (!reader.AtEnd()) {
+        const TextView item = reader.Item();
+        rowRead = item.starts_with(u'-');
+        if (!rowRead) {
+            NumberOfItem(item);
+            ReadLinesIfAny(reader, "n");
+        }
+    }
+    const int rows = reader.AtEnd() ? 0 : slides;
+    for (int row = rowRead ? 1 : 0; row < rows; ++row) {
+        reader.Item();
+    }
+}
 
 void ReadSlides(LineReader& reader, ShowFacts& facts) {
     const int32_t count = reader.Int32();
@@ -42,22 +104,22 @@ ShowFacts FactsOfShow(Text content) {
     try {
         const std::optional<Text> tag = ShowTag(reader.Line());
         if (!tag) {
-            return facts;
+            return {};
         }
         reader.Line();  // the document's own name
         facts.intervalMs = KeptInterval(reader.Int32());
-        reader.Int16();  // repeat
         for (const Block& block : kBlocks) {
-            for (int line = 0; tag->starts_with(block.tag) && line < block.lines; ++line) {
-                reader.Line();
+            if (tag->starts_with(block.tag)) {
+                ReadLines(reader, block.lines);
             }
         }
         ReadSlides(reader, facts);
+        ReadRest(reader, facts.pictures + facts.films);
         facts.accepted = true;
+        return facts;
     } catch (const ReadFailure&) {
-        // What was read so far stands.
+        return {};
     }
-    return facts;
 }
 
 }  // namespace document

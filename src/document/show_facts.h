@@ -6,14 +6,14 @@
 namespace document {
 
 struct ShowFacts {
-    bool accepted = false;  // begins as a show document does, down to its last slide
+    bool accepted = false;  // a show document that can be opened; all else is 0 where it is not
     int pictures = 0;
     int films = 0;
     double intervalMs = 0;
     Text first;  // path of the first slide as it is written; empty: none
 };
 
-/// Reads the text of a show document as far as its slides go.
+/// Reads the text of a show document and accepts what ReadShowDocument does.
 ShowFacts FactsOfShow(Text content);
 
 }  // namespace document

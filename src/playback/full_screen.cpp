@@ -177,8 +177,8 @@ bool UnloadEndsShow(const model::ShowState& state) {
 void EndShowOnUnload(Application& app) {
     model::ShowState& state = app.state;
     state.FullScreenClosedByUser = 1;
-    if (state.LinkRunning == 1 && state.LinkWindowOpen == 1) {
-        state.LinkStoodAt = static_cast<int16_t>(state.LinkIndex - 1);
+    if (state.LinkWindowOpen != 1) {
+        state.LinkStoodAt = 0;
     }
     state.LinkRunning = 0;
     state.LinkIndex = 0;

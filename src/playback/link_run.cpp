@@ -28,6 +28,7 @@ Loading LoadEntry(Application& app, int entry) {
         state.BaseFolder = folderBefore;
         return Loading::Nothing;
     }
+    state.LinkStoodAt = static_cast<int16_t>(entry);
     if (state.ShowAbort == 1) {
         app.windows.slidescreen.Unload();
         state.ShowAbort = 0;
@@ -81,6 +82,7 @@ Loading LoadNextDocument(Application& app) {
 
 bool LoadFirstDocument(Application& app) {
     app.state.LinkIndex = std::max<int16_t>(1, std::exchange(app.state.LinkStart, 0));
+    app.state.LinkStoodAt = app.state.LinkIndex;
     app.state.LinkBarren = 0;
     const Loading result = LoadNextDocument(app);
     if (result == Loading::Nothing) {

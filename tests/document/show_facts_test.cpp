@@ -3,8 +3,23 @@
 
 #include <gtest/gtest.h>
 
+#include "document_support.h"
+
 namespace document {
 namespace {
+
+using namespace document_tests;
+
+/// Accepted as the program would; and nothing is said of what is refused.
+void ExpectTheReadersWord(const std::string& bytes) {
+    Program program;
+    const ShowFacts facts = FactsOfShow(text::DecodeFile(bytes, program.codePage));
+    program.files.Put(kPath, bytes);
+    program.app.state.BaseFolder = kBase;
+    ReadShowDocument(program.app, kPath);
+    EXPECT_EQ(facts.accepted, program.Accepted());
+    EXPECT_TRUE(facts.accepted || (facts.pictures == 0 && facts.films == 0 && facts.first.empty()));
+}
 
 // The oldest form: no block of lines stands between the default sound and the slides.
 TEST(ShowFacts, OfTheOldestForm) {
@@ -34,6 +49,30 @@ TEST(ShowFacts, AFileThatEndsBeforeItsLastSlideIsNotAccepted) {
     EXPECT_FALSE(FactsOfShow(content).accepted);
     for (size_t length = 0; length < content.size(); ++length) {
         EXPECT_FALSE(FactsOfShow(content.substr(0, length)).accepted) << length;
+    }
+}
+
+TEST(ShowFacts, AreAcceptedAsTheReaderDoesCutAtEveryByte) {
+    Program made;
+    for (const Lines& lines : {FullDocument(), Without(FullDocument(), 47, 48)}) {
+        const std::string whole = text::EncodeFile(TextOf(lines), made.codePage);
+        for (size_t length = 0; length <= whole.size(); ++length) {
+            SCOPED_TRACE(length);
+            ExpectTheReadersWord(whole.substr(0, length));
+        }
+    }
+}
+
+TEST(ShowFacts, AreAcceptedAsTheReaderDoesGarbledAtEveryByte) {
+    Program made;
+    const std::string whole = text::EncodeFile(TextOf(FullDocument()), made.codePage);
+    for (size_t place = 0; place < whole.size(); ++place) {
+        for (const char garbage : {'x', '9', ',', '\n'}) {
+            SCOPED_TRACE(std::to_string(place) + " " + garbage);
+            std::string bytes = whole;
+            bytes[place] = garbage;
+            ExpectTheReadersWord(bytes);
+        }
     }
 }
 

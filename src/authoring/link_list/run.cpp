@@ -26,7 +26,7 @@ void Command1_Click(Application& app) {
         return;
     }
     playback::TakeLinkRows(app);
-    if (app.state.LinkList(1).empty()) {
+    if (app.state.LinkList(1).empty() || playback::RefusedByListWindow(app)) {
         return;
     }
     if (app.platform.dialogs.Message(u"ＫＶＳリンクをスタートしますか ?"
@@ -38,8 +38,10 @@ void Command1_Click(Application& app) {
 }
 
 void RunFromRow(Application& app, int row) {
-    playback::TakeLinkRows(app);
-    RunChain(app, row);
+    if (!playback::RefusedByListWindow(app)) {
+        playback::TakeLinkRows(app);
+        RunChain(app, row);
+    }
 }
 
 void List1_DblClick(Application& app) {
