@@ -264,6 +264,37 @@ TEST_F(FaceView, AFileThatHasChangedIsShownAnew) {
     binding.reset();
 }
 
+TEST_F(FaceView, ARowWithoutAFileHasPlainGround) {
+    struct NoThumbnails : platform::Thumbnails {
+        std::set<Text> wanted;
+        void Want(const void*, const std::vector<Text>& paths, int, Ready ready) override {
+            for (const Text& path : paths) {
+                wanted.insert(path);
+                ready(path, nullptr);
+            }
+        }
+    } thumbnails;
+    list.thumbnails = &thumbnails;
+    list.face = [this](int row) {
+        model::RowFace face;
+        face.file = row == 0 ? Text() : list.List(row);
+        return face;
+    };
+    Show({u"空", u"/写真/絵.jpg"});
+    Pump();
+    const auto darkest = [&](int row) {
+        const QImage image = view.grab(Place(row)).toImage();
+        int least = 255;
+        for (int x = 40; x < 80; ++x) {  // within the picture's square
+            least = std::min(least, qGray(image.pixel(x, image.height() / 2)));
+        }
+        return least;
+    };
+    EXPECT_EQ(thumbnails.wanted, std::set<Text>{u"/写真/絵.jpg"});
+    EXPECT_GT(darkest(0), darkest(1)) << "the broken picture stands in the second row alone";
+    binding.reset();
+}
+
 TEST_F(FaceView, TheFirstRowFollowsOnceRowsHaveCome) {
     Show({});
     const auto top = [&] { return view.indexAt(QPoint(1, 1)).row(); };

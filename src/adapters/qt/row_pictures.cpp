@@ -127,7 +127,8 @@ std::vector<Text> RowPictures::Missing() const {
             break;
         }
         const Text path = pathOf_(row);
-        if (stale_.contains(path) || (!held_.contains(path) && !without_.contains(path))) {
+        const bool known = held_.contains(path) || without_.contains(path);
+        if (!path.empty() && (stale_.contains(path) || !known)) {
             missing.push_back(path);
         }
     }

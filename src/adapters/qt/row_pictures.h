@@ -15,8 +15,9 @@ namespace qt_adapter {
 /// Lives as long as its view shows pictures.
 class RowPictures : public QObject {
 public:
-    /// `pathOf`: full path of a row's file. `side`: of the square for a picture, in the toolkit's
-    /// pixels. `thumbnails` must outlive this.
+    /// `pathOf`: full path of a row's file, empty where it has none: its place stays plain ground.
+    /// `side`: of the square for a picture, in the toolkit's pixels. `thumbnails` must outlive
+    /// this.
     RowPictures(QListView& view, platform::Thumbnails& thumbnails, int side,
                 std::function<Text(int row)> pathOf);
     ~RowPictures() override;
