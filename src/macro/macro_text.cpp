@@ -101,8 +101,8 @@ bool EditMacroText(Application& app, TextView slide) {
         }
     }
     if (!pending && !app.platform.system.OpenText(path)) {
-        app.platform.dialogs.Message(text::BareName(path) + u"が読込めません。",
-                                     platform::kExclamation, u"読込みエラー");
+        app.platform.dialogs.Message(path + u"\r\nを開く編集ソフトが見つかりません。",
+                                     platform::kExclamation, u"テキスト編集");
     }
     return true;
 }

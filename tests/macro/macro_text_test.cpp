@@ -143,7 +143,8 @@ TEST_F(MacroText, EditorThatDoesNotStartIsReported) {
     system.opens = false;
     EXPECT_TRUE(macro::EditMacroText(app, slide));
     ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(dialogs.messages[0].text, u"umi01.txtが読込めません。");
+    EXPECT_EQ(dialogs.messages[0].text, file + u"\r\nを開く編集ソフトが見つかりません。");
+    EXPECT_EQ(dialogs.messages[0].title, u"テキスト編集");
 }
 
 }  // namespace
