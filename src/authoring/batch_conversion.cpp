@@ -128,7 +128,9 @@ public:
             TextView words;
         } rows[] = {{linked_, u"連動ファイル："},
                     {asTheyAre_, u"縮小できない形式のため、そのままコピーした画像："},
-                    {replaced_, u"同じ名前のため、この実行中に上書きされた画像："}};
+                    {replaced_, u"同じ名前のため、この実行中に上書きされた画像："},
+                    {missing_, u"見つからなかったファイル："},
+                    {failed_, u"コピーできなかったファイル："}};
         for (const auto& row : rows) {
             if (row.number > 0) {
                 report += u"\r\n" + Text(row.words) + NumberText(row.number);
@@ -153,6 +155,7 @@ private:
     }
 
     Next AskAfterFailure(TextView target) {
+        ++failed_;
         const bool goesOn =
             Ask(Text(target) + u"\r\n変換コピーできませんでした。\r\n継続しますか ?", kErrorTitle);
         return goesOn ? Next::File : Next::End;
@@ -205,7 +208,11 @@ private:
     }
 
     Next ConvertSlide(const Text& source) {
-        if (text::IsVideoKind(source) || app_.platform.files.Dir(source).empty()) {
+        if (text::IsVideoKind(source)) {
+            return Next::File;
+        }
+        if (app_.platform.files.Dir(source).empty()) {
+            ++missing_;
             return Next::File;
         }
         const KindRow& kind = ChosenKind(form16_);
@@ -311,7 +318,8 @@ private:
     const Text folder_;
     LongWork work_;
     LinkedFiles linkedFiles_{app_};
-    int64_t number_ = 0, copied_ = 0, linked_ = 0, asTheyAre_ = 0, replaced_ = 0;
+    int64_t number_ = 0, copied_ = 0, linked_ = 0, asTheyAre_ = 0, replaced_ = 0, missing_ = 0,
+            failed_ = 0;
     bool lastCopied_ = false;
     bool replaces_ = false;  // what the run made of another source
     Text made_;              // the picture that was just written

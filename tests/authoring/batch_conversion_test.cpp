@@ -122,7 +122,7 @@ TEST_F(BatchConversion, CopiesWhatIsSelectedAndIsAPictureThatIsThere) {
     EXPECT_EQ(around.files.Get(u"D:\\out\\a.png")->content, "PIC 10 20");
     EXPECT_TRUE(around.imaging.converted.empty()) << "small ones are copied as they are";
     ASSERT_EQ(Boxes().size(), 1u);
-    EXPECT_EQ(Boxes()[0].text, u"2個の画像を変換コピーしました。");
+    EXPECT_EQ(Boxes()[0].text, u"2個の画像を変換コピーしました。\r\n見つからなかったファイル：1");
     EXPECT_EQ(ReadBrowserMemory(around.app).last, kOut);
 }
 
@@ -294,7 +294,7 @@ TEST_F(BatchConversion, AFalseJpegIsNotConverted) {
     EXPECT_EQ(Boxes()[0].text, u"D:\\out\\a.bmp\r\n変換コピーできませんでした。\r\n継続しますか ?");
     EXPECT_EQ(Boxes()[0].title, u"変換コピーエラー");
     EXPECT_EQ(Boxes()[0].flags, platform::kYesNoQuestion);
-    EXPECT_EQ(Boxes()[2].text, u"0個の画像を変換コピーしました。");
+    EXPECT_EQ(Boxes()[2].text, u"0個の画像を変換コピーしました。\r\nコピーできなかったファイル：2");
     EXPECT_FALSE(Exists(u"D:\\out\\c.bmp")) << "the no ended the run";
     Open();
     around.dialogs.messages.clear();
@@ -318,7 +318,8 @@ TEST_F(BatchConversion, AFailingCopyOrSaveAsks) {
         EXPECT_TRUE(
             Boxes()[0].text.ends_with(u"\r\n変換コピーできませんでした。\r\n継続しますか ?"));
         EXPECT_EQ(Boxes()[0].title, u"変換コピーエラー");
-        EXPECT_EQ(Boxes()[2].text, u"0個の画像を変換コピーしました。");
+        EXPECT_EQ(Boxes()[2].text,
+                  u"0個の画像を変換コピーしました。\r\nコピーできなかったファイル：2");
     }
     EXPECT_EQ(around.files.Below(kOut).size(), 1u);
 }
@@ -333,7 +334,7 @@ TEST_F(BatchConversion, APictureThatCannotBeReadAsks) {
     ASSERT_EQ(Boxes().size(), 2u);
     EXPECT_EQ(Boxes()[0].text, u"D:\\out\\a.png\r\n変換コピーできませんでした。\r\n継続しますか ?");
     EXPECT_EQ(Boxes()[0].title, u"変換コピーエラー");
-    EXPECT_EQ(Boxes()[1].text, u"1個の画像を変換コピーしました。");
+    EXPECT_EQ(Boxes()[1].text, u"1個の画像を変換コピーしました。\r\nコピーできなかったファイル：1");
     EXPECT_TRUE(Exists(u"D:\\out\\b.png"));
     EXPECT_FALSE(Exists(u"D:\\out\\a.png"));
 }
@@ -354,7 +355,8 @@ TEST_F(BatchConversion, ASourceThatVanishesMeanwhileAsks) {
         EXPECT_EQ(Boxes()[0].title, u"コピー");
         EXPECT_TRUE(
             Boxes()[1].text.ends_with(u"\r\n変換コピーできませんでした。\r\n継続しますか ?"));
-        EXPECT_EQ(Boxes()[2].text, u"1個の画像を変換コピーしました。");
+        EXPECT_EQ(Boxes()[2].text,
+                  u"1個の画像を変換コピーしました。\r\nコピーできなかったファイル：1");
         around.dialogs.whileOpen = nullptr;
     }
     EXPECT_EQ(around.files.Get(u"D:\\out\\a.bmp")->content, "old");

@@ -183,6 +183,39 @@ TEST_F(Loops, BoxesAnswerWhatWasPressed) {
     EXPECT_EQ(press(QMessageBox::NoButton), platform::Answer::No) << "closed by its frame";
 }
 
+TEST_F(Loops, BoxesStandOverTheWindowThatWasLastActive) {
+    QWidget first, last;
+    const auto parentOfBox = [&] {
+        const QWidget* parent = nullptr;
+        loop.SetTimer(&keys[0], 1, [&] {
+            if (QWidget* box = QApplication::activeModalWidget()) {
+                loop.CancelTimer(&keys[0]);
+                parent = box->parentWidget();
+                box->close();
+            }
+        });
+        desktop.Dialogs().Message(u"本文", platform::kPlain, u"題");
+        return parent;
+    };
+    for (QWidget* window : {&first, &last}) {
+        window->show();
+        window->activateWindow();
+        loop.PumpEvents();
+        ASSERT_EQ(QApplication::activeWindow(), window);
+    }
+    QWidget tool(nullptr, Qt::Tool);
+    tool.show();
+    tool.activateWindow();
+    loop.PumpEvents();
+    ASSERT_EQ(QApplication::activeWindow(), &tool);
+    EXPECT_EQ(parentOfBox(), &last);
+    last.hide();
+    tool.activateWindow();
+    loop.PumpEvents();
+    ASSERT_EQ(QApplication::activeWindow(), &tool);
+    EXPECT_EQ(parentOfBox(), &first);
+}
+
 TEST_F(Loops, BoxesLookLikeBoxes) {
     Qt::WindowFlags flags;
     QImage sign;

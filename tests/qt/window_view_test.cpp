@@ -236,6 +236,18 @@ TEST_F(WindowViews, EnterPressesTheButtonThatTheWindowNames) {
     EXPECT_EQ(presses, 1);
 }
 
+TEST_F(WindowViews, ADialogBeginsAtItsFirstControlEachTime) {
+    Show();
+    QWidget* first = Root().focusWidget();
+    ASSERT_NE(first, nullptr);
+    Find("Command1").setFocus();
+    EXPECT_NE(first, &Find("Command1"));
+    window.Hide();
+    window.Show();
+    Pump();
+    EXPECT_EQ(Root().focusWidget(), first);
+}
+
 TEST_F(WindowViews, TheProgramGivesAButtonTheKeyboard) {
     Show();
     Find("Text1").setFocus();

@@ -57,6 +57,7 @@ expect-trace message title=コピー先フォルダ未選択 text="/\r\nこの�
 expect-trace message title=変換コピー text=3個の画像を変換コピーしました。
 expect-trace message title=変換コピーエラー text~"out/false.bmp\r\n変換コピーできませんでした。\r\n継続しますか ?" flags=36
 expect-trace message title=コピー text~"out/large.png\r\nこのファイルはすでに存在します。\r\n上書きしますか ?" flags=36
+expect-trace message title=変換コピー text="1個の画像を変換コピーしました。\r\nコピーできなかったファイル：1"
 expect-trace message title=変換コピー text=0個の画像を変換コピーしました。
 expect-trace message title=変換コピー中止 text="変換コピーを中止しますか ?" flags=36 answer=no
 expect-trace message title=変換コピー text="変換コピーを中止しました。\r\n0個の画像を変換コピーしました。"

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStyle>
+#include <QWindow>
 #include <algorithm>
 #include <cstdio>
 
@@ -20,26 +21,6 @@ namespace {
 
 constexpr int kIconMask = 0x70;
 constexpr int kButtonMask = 0x0F;
-
-/// The window that a box stands over: the active one, else a full-screen one that would hide it.
-/// Small tool windows come and go and own no box.
-QWidget* BoxParent() {
-    if (QWidget* box = QApplication::activeModalWidget()) {
-        return box;
-    }
-    QWidget* active = QApplication::activeWindow();
-    if (active && active->windowType() != Qt::Tool) {
-        return active;
-    }
-    QWidget* visible = nullptr;
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->windowType() == Qt::Window &&
-            (!visible || window->isFullScreen())) {
-            visible = window;
-        }
-    }
-    return visible;
-}
 
 constexpr qsizetype kLongestLine = 600;  // of a box; documents may bring any length
 constexpr qsizetype kEndShown = 100;
@@ -106,6 +87,44 @@ QString DefaultSuffix(TextView filter) {
     const QString pattern = parts[1].section(';', 0, 0).trimmed();
     const QString suffix = pattern.section('.', -1);
     return pattern.contains('.') && !IsPattern(suffix) ? suffix : QString();
+}
+
+QtDialogs::QtDialogs(Gate& gate) : gate_(gate) {
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &watcher_,
+                     [this](const QWindow* window) { NoteActive(window); });
+}
+
+void QtDialogs::NoteActive(const QWindow* window) {
+    QWidget* widget = window ? QWidget::find(window->winId()) : nullptr;
+    if (widget && widget->windowType() == Qt::Window) {
+        std::erase_if(recent_, [&](const auto& other) { return !other || other == widget; });
+        recent_.insert(recent_.begin(), widget);
+    }
+}
+
+QWidget* QtDialogs::BoxParent() const {
+    if (QWidget* box = QApplication::activeModalWidget()) {
+        return box;
+    }
+    QWidget* active = QApplication::activeWindow();
+    if (active && active->windowType() != Qt::Tool) {
+        return active;
+    }
+    QWidget* visible = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowType() == Qt::Window &&
+            (!visible || window->isFullScreen())) {
+            visible = window;
+        }
+    }
+    if (!visible || !visible->isFullScreen()) {
+        for (const QPointer<QWidget>& window : recent_) {
+            if (window && window->isVisible()) {
+                return window;
+            }
+        }
+    }
+    return visible;
 }
 
 platform::Answer QtDialogs::Message(TextView text, int flags, TextView title) {

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QFileDialog>
+#include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 #include "adapters/qt/gate.h"
 #include "platform/dialogs.h"
@@ -20,7 +23,8 @@ QString DefaultSuffix(TextView filter);
 
 class QtDialogs : public platform::Dialogs {
 public:
-    explicit QtDialogs(Gate& gate) : gate_(gate) {}
+    /// The application is there already.
+    explicit QtDialogs(Gate& gate);
     platform::Answer Message(TextView text, int flags, TextView title) override;
     std::optional<Text> Input(TextView prompt, TextView title, TextView initial) override;
     std::optional<Text> ChooseFile(const FileRequest& request) override;
@@ -31,8 +35,15 @@ public:
 
 private:
     QStringList Choose(const FileRequest& request, QFileDialog::FileMode mode);
+    void NoteActive(const QWindow* window);
+    /// The window that a box stands over: the active one; while none is, for instance as another
+    /// box has just gone, a full-screen one that would hide it, else the one that was last active.
+    /// Small tool windows come and go and own no box.
+    QWidget* BoxParent() const;
 
     Gate& gate_;
+    QObject watcher_;                        // its connection ends with it
+    std::vector<QPointer<QWidget>> recent_;  // windows by when they were last active
     QString lastFolder_;
 };
 

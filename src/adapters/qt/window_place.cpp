@@ -101,14 +101,29 @@ void WindowView::FollowVisible() {
             root_->windowHandle()->setTransientParent(below->Widget()->windowHandle());
         }
     }
+    const bool appears = !root_->isVisible();
     root_->show();
     root_->raise();
+    if (appears && window_.EnterPresses) {
+        GiveKeyboardToFirst();
+    }
     if (!root_->testAttribute(Qt::WA_ShowWithoutActivating)) {
         root_->activateWindow();
         if (host_ && !root_->focusWidget()) {
             host_->setFocus();
         }
     }
+}
+
+/// A dialog begins at its first control each time, not where it was left: there Enter may mean
+/// something else.
+void WindowView::GiveKeyboardToFirst() {
+    QWidget* first = root_->nextInFocusChain();
+    while (first != root_ && (!first->isVisible() || !first->isEnabled() ||
+                              (first->focusPolicy() & Qt::TabFocus) == 0)) {
+        first = first->nextInFocusChain();
+    }
+    first->setFocus(Qt::TabFocusReason);
 }
 
 void WindowView::ShowFullScreen() {

@@ -96,6 +96,7 @@ private:
     void GiveFirstFocus();
 
     void FollowVisible();
+    void GiveKeyboardToFirst();
     void ShowFullScreen();
     void PlaceInPixels();
     QSize RoomForWindow() const;
