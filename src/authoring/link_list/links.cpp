@@ -30,6 +30,7 @@ ListWindow Links(Application& app) {
             .dirty = &app.state.LinkListDirty,
             .searching = app.state.LinkSearchActive,
             .full = app.state.LinkSearchStop,
+            .fullTitle = u"ＫＶＳリンク",
             .insert = form9.Check4,
             .doing = form9.Label1,
             .stop = form9.Stop,

@@ -13,7 +13,6 @@ namespace authoring {
 
 namespace {
 
-constexpr TextView kFullTitle = u"ＫＶＳリンク";
 constexpr TextView kFullTitleOfDrop = u"ＫＶＳリンクリスト";
 
 /// All rows go, and the link document that they came from.
@@ -58,10 +57,8 @@ void GoBack(Application& app, bool (*back)(Application& app)) {
 void AttachAdding(Application& app) {
     model::Form9& form9 = app.windows.form9;
     const ListWindow links = Links(app);
-    form9.File1.Click = [links, &form9] { AddClickedFile(links, form9.File1, kFullTitle); };
-    form9.Command3.Click = [links, &form9] {
-        AddFolderFiles(links, ShownFiles(form9.File1), kFullTitle);
-    };
+    form9.File1.Click = [links, &form9] { AddClickedFile(links, form9.File1); };
+    form9.Command3.Click = [links, &form9] { AddFolderFiles(links, ShownFiles(form9.File1)); };
     form9.List1.FilesDropped = [links](const std::vector<Text>& paths) {
         AddDroppedFiles(links, paths, kFullTitleOfDrop);
     };

@@ -20,7 +20,8 @@ bool ToldFull(const ListWindow& window, TextView title) {
     if (Room(window) > 0) {
         return false;
     }
-    window.app.platform.dialogs.Message(u"これ以上登録できません", platform::kPlain, title);
+    window.app.platform.dialogs.Message(u"これ以上登録できません", platform::kPlain,
+                                        title.empty() ? window.fullTitle : title);
     return true;
 }
 

@@ -19,6 +19,7 @@ struct ListWindow {
     int16_t* dirty;           // set with each change; null where nothing asks for it
     int16_t& searching;       // 1 while a search or other long work runs; who clears it stops it
     int16_t& full;            // 1 = adding found the list full
+    TextView fullTitle;       // of the box that says so
     model::CheckBox& insert;  // what is added comes in front of the selected row
     /// While work runs `doing` is seen, and `stop` is called 中止. `stopCaption` is its name else;
     /// a button without one is seen during work only.

@@ -26,6 +26,7 @@ ListWindow Slides(Application& app) {
             .dirty = &app.state.SlideListDirty,
             .searching = app.state.SlideSearchActive,
             .full = app.state.SlideSearchStop,
+            .fullTitle = u"ﾊﾟﾗﾋﾟｺ",
             .insert = form3.Check6,
             .doing = form3.Label1,
             .stop = form3.Command8,

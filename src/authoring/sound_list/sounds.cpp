@@ -28,6 +28,7 @@ ListWindow Sounds(Application& app) {
             .dirty = nullptr,
             .searching = app.state.SoundSearchActive,
             .full = app.state.SoundSearchStop,
+            .fullTitle = u"ﾊﾟﾗﾋﾟｺ",
             .insert = form10.Check2,
             .doing = form10.Label1,
             .stop = form10.Command8,

@@ -81,6 +81,16 @@ TEST_F(LinkList, The999thRowIsAddedAndReportedFullAtOnce) {
     EXPECT_EQ(form9.Label4.Caption(), u"999");
 }
 
+TEST_F(LinkList, APasteFillsTheListUnderItsOwnTitle) {
+    FillWith(997);
+    form9.List1.SelectRows(0, 4, true);
+    form9.mnuCOPY.Choose();
+    form9.List1.SelectRows(0, 4, false);
+    form9.mnuPASTE.Choose();
+    EXPECT_EQ(form9.List1.ListCount(), 999);
+    EXPECT_THAT(TakeMessages(), ElementsAre(u"ＫＶＳリンク|これ以上登録できません"));
+}
+
 TEST_F(LinkList, ADropTakesShowsOnly) {
     form9.List1.Drop({u"/x/b.KVS", u"/x/c.kvl", u"/x/a.png", u"/x/kvs", u"/x/a.kvs"});
     EXPECT_THAT(Rows(), ElementsAre(u"/x/b.KVS", u"/x/kvs", u"/x/a.kvs"));  // by three letters
