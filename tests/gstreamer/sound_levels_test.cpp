@@ -21,7 +21,7 @@ std::vector<float> Step(size_t silent, size_t loud) {
 
 TEST(SoundLevels, TheLoudestOfEachPart) {
     TemporaryFolder folder;
-    folder.Write("a.wav", WaveBytes(Step(8000, 24000)));
+    folder.Put("a.wav", WaveBytes(Step(8000, 24000)));
     const std::vector<uint8_t> levels = LevelsOf(folder.Path("a.wav"), 4, kGoOn);
     EXPECT_EQ(levels, (std::vector<uint8_t>{0, 255, 255, 255}));
     // More parts than there are moments: each comes several times.
@@ -30,7 +30,7 @@ TEST(SoundLevels, TheLoudestOfEachPart) {
 
 TEST(SoundLevels, OfMidiAndMp3) {
     TemporaryFolder folder;
-    folder.Write("a.mid", MidiBytes(400));
+    folder.Put("a.mid", MidiBytes(400));
     const std::vector<uint8_t> midi = LevelsOf(folder.Path("a.mid"), 10, kGoOn);
     ASSERT_EQ(midi.size(), 10u);
     EXPECT_GT(*std::max_element(midi.begin(), midi.end()), 4);
@@ -45,9 +45,9 @@ TEST(SoundLevels, OfMidiAndMp3) {
 
 TEST(SoundLevels, NothingOfWhatCannotBePlayedOrIsGivenUp) {
     TemporaryFolder folder;
-    folder.Write("text.mp3", "<!DOCTYPE html>");
-    folder.Write("empty.wav", "");
-    folder.Write("a.wav", WaveBytes(Tone(1)));
+    folder.Put("text.mp3", "<!DOCTYPE html>");
+    folder.Put("empty.wav", "");
+    folder.Put("a.wav", WaveBytes(Tone(1)));
     EXPECT_TRUE(LevelsOf(folder.Path("text.mp3"), 10, kGoOn).empty());
     EXPECT_TRUE(LevelsOf(folder.Path("empty.wav"), 10, kGoOn).empty());
     EXPECT_TRUE(LevelsOf(folder.Path("gone.wav"), 10, kGoOn).empty());

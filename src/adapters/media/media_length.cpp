@@ -233,10 +233,11 @@ struct Mp3Beginning {
 };
 
 /// `most`: bytes that are read after a tag in front.
-Mp3Beginning BeginMp3(std::istream& file, size_t most) {
+Mp3Beginning BeginMp3(std::istream& file, uint64_t size, size_t most) {
     constexpr size_t kFarthestFirstFrame = 65536;
     const size_t tag = TagBytes(ReadAt(file, 0, 10));
-    std::string bytes = ReadAt(file, tag, most);
+    const uint64_t there = size - std::min<uint64_t>(size, tag);
+    std::string bytes = ReadAt(file, tag, static_cast<size_t>(std::min<uint64_t>(there, most)));
     for (size_t at = 0; at < std::min(bytes.size(), kFarthestFirstFrame); ++at) {
         const Mp3Frame frame = FrameAt(bytes, at);
         if (frame.bytes > 0 &&
@@ -274,7 +275,7 @@ Mp3Index IndexIn(std::string_view frame) {
 MediaLength Mp3ByBeginning(std::istream& file, uint64_t size) {
     constexpr size_t kRead = 80000;          // more than the farthest first frame
     constexpr uint32_t kSmallestFrame = 24;  // bytes
-    const Mp3Beginning mp3 = BeginMp3(file, kRead);
+    const Mp3Beginning mp3 = BeginMp3(file, size, kRead);
     if (mp3.frame.bytes == 0) {
         return {MediaKind::Mp3, 0};
     }
@@ -291,7 +292,7 @@ MediaLength Mp3ByBeginning(std::istream& file, uint64_t size) {
 }
 
 MediaLength Mp3ByFrames(std::istream& file, uint64_t size) {
-    const Mp3Beginning mp3 = BeginMp3(file, kMostBytesHeld);
+    const Mp3Beginning mp3 = BeginMp3(file, size, kMostBytesHeld);
     const std::string_view bytes = mp3.bytes;
     const bool silent = IndexIn(bytes.substr(0, mp3.frame.bytes)).there;
     double milliseconds = silent ? -mp3.frame.milliseconds : 0;
