@@ -1,7 +1,9 @@
 // File changes, clipboard, wallpaper and thumbnails in memory.
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <map>
 #include <set>
 #include <utility>
 #include <vector>
@@ -175,7 +177,7 @@ public:
     }
     void AnswerOne() {
         const Question question = waiting_.front();
-        waiting_.erase(waiting_.begin());
+        waiting_.pop_front();
         question.ready(question.path, FactsOf(question));
     }
 
@@ -217,7 +219,7 @@ private:
     }
 
     FakeFiles& files_;
-    std::vector<Question> waiting_;
+    std::deque<Question> waiting_;
 };
 
 }  // namespace fakes
