@@ -32,6 +32,8 @@ test_packages=(
     libbenchmark-dev libturbojpeg0-dev libjpeg-dev libxcb1-dev libxcb-xtest0-dev
     gstreamer1.0-plugins-base-apps
     gstreamer1.0-tools
+    # A microphone for the tests.
+    pulseaudio
 )
 
 case ${1:-run} in

@@ -3,8 +3,9 @@
 #include "authoring/settings/cd_program.h"
 #include "authoring/shared/open_window.h"
 #include "model/sound_modes.h"
+#include "model/windows/background_sound.h"
 #include "model/windows/declared_windows.h"
-#include "model/windows/sound_windows.h"
+#include "model/windows/linked_sound.h"
 #include "text/paths.h"
 
 namespace app {
@@ -105,8 +106,8 @@ bool PrepareSoundMode(Application& app, int mode) {
 
 void FollowSoundMode(Application& app) {
     model::Form13& form13 = app.windows.form13;
-    form13.Option1.Value = app.state.SoundMode != model::kLinkedMp3Sound;
-    form13.Option2.Value = app.state.SoundMode == model::kLinkedMp3Sound;
+    form13.Option1.Value = app.state.SoundMode == model::kLinkedMp3Sound;
+    form13.Option2.Value = app.state.SoundMode != model::kLinkedMp3Sound;
 }
 
 void FollowCdOrder(Application& app, int16_t orderBefore) {

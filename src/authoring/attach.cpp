@@ -2,6 +2,9 @@
 
 #include "authoring/batch_conversion.h"
 #include "authoring/link_list/window.h"
+#include "authoring/linked_sound/copying.h"
+#include "authoring/linked_sound/recording.h"
+#include "authoring/settings/background_sound.h"
 #include "authoring/settings/cd_program.h"
 #include "authoring/settings/linked_folder.h"
 #include "authoring/settings/text_display.h"
@@ -20,6 +23,9 @@ void AttachWindows(model::Application& app) {
     AttachSlideList(app);
     AttachLinkList(app);
     AttachSoundList(app);
+    AttachRecording(app);
+    AttachCopying(app);
+    AttachBackgroundSound(app);
 }
 
 }  // namespace authoring

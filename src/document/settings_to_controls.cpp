@@ -1,11 +1,11 @@
 #include "document/settings_to_controls.h"
 
 #include "model/sound_modes.h"
+#include "model/windows/background_sound.h"
 #include "model/windows/link_list.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/sound_list.h"
-#include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 
 namespace document {

@@ -14,11 +14,11 @@
 #include "document/state_files.h"
 #include "model/effect_speed.h"
 #include "model/sound_modes.h"
+#include "model/windows/background_sound.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_list.h"
-#include "model/windows/sound_windows.h"
 #include "text/numbers.h"
 #include "text/paths.h"
 

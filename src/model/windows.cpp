@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/windows/background_sound.h"
 #include "model/windows/batch_conversion.h"
 #include "model/windows/cd_program.h"
 #include "model/windows/control_box.h"
@@ -9,13 +10,14 @@
 #include "model/windows/file_search.h"
 #include "model/windows/link_list.h"
 #include "model/windows/linked_folder.h"
+#include "model/windows/linked_sound.h"
 #include "model/windows/main_window.h"
 #include "model/windows/picture_holder.h"
+#include "model/windows/recording.h"
 #include "model/windows/relink_preview.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_list.h"
-#include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 #include "model/windows/video_window.h"
 

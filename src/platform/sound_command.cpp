@@ -1,5 +1,7 @@
 #include "platform/sound_command.h"
 
+#include <optional>
+
 namespace platform {
 
 namespace {
@@ -14,16 +16,11 @@ Text TakeWord(TextView& rest) {
     return word;
 }
 
-/// `"file" type T alias A`, the quotes included.
-SoundCommand ParseFileOpening(TextView rest) {
-    const size_t quote = rest.rfind(u'"');
-    if (quote == 0) {
-        return {};
-    }
+/// ` type T alias A`.
+SoundCommand ParseOpening(TextView verb, TextView file, TextView rest) {
     SoundCommand command;
-    command.verb = u"open";
-    command.file = Text(rest.substr(1, quote - 1));
-    rest.remove_prefix(quote + 1);
+    command.verb = Text(verb);
+    command.file = Text(file);
     if (TakeWord(rest) != u"type") {
         return {};
     }
@@ -35,18 +32,36 @@ SoundCommand ParseFileOpening(TextView rest) {
     return command;
 }
 
+/// The text between the first quote, with which it begins, and the last one; nullopt without that.
+std::optional<TextView> Quoted(TextView text) {
+    const size_t last = text.rfind(u'"');
+    return text.starts_with(u'"') && last > 0 ? std::optional(text.substr(1, last - 1))
+                                              : std::nullopt;
+}
+
 }  // namespace
 
 SoundCommand ParseSoundCommand(TextView text) {
     SoundCommand command;
     command.verb = TakeWord(text);
     const Text rest = text::Trim(text);
-    if (command.verb == u"open" && rest.starts_with(u'"')) {
-        return ParseFileOpening(rest);
-    }
     TextView tail = rest;
+    if (command.verb == u"open" && rest.starts_with(u'"')) {
+        const auto file = Quoted(rest);
+        return file ? ParseOpening(u"open", *file, tail.substr(file->size() + 2)) : SoundCommand();
+    }
     command.device = TakeWord(tail);
+    if (command.verb == u"open" && command.device == u"new") {
+        return ParseOpening(u"open new", {}, tail);
+    }
     command.rest = text::Trim(tail);
+    if (command.verb == u"save") {
+        const auto file = Quoted(command.rest);
+        if (!file) {
+            return {};
+        }
+        command.file = Text(*file);
+    }
     return command;
 }
 

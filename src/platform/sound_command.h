@@ -6,12 +6,11 @@
 namespace platform {
 
 struct SoundCommand {
-    Text verb;    // open, set, setaudio, play, status, stop, close
+    Text verb;    // open, open new, set, setaudio, play, record, status, stop, save, close
     Text device;  // the alias; of an opening, the alias that it gives
     Text rest;    // what follows the alias, without blanks around it
-    // Of "open" with a file:
-    Text file;  // without its quotes
-    Text type;  // waveaudio, sequencer, MPEGVideo
+    Text file;    // of "open" and "save": without its quotes
+    Text type;    // of both openings: waveaudio, sequencer, MPEGVideo
 };
 
 /// What follows the alias in "set wav time format samples", up to the format's name. Pieces are
@@ -19,8 +18,8 @@ struct SoundCommand {
 constexpr TextView kTimeFormat = u"time format ";
 
 /// Words are compared as they stand, capitals included. A file's name ends at the last quote, as it
-/// may hold quotes itself. An opening that is not of the known form, or is without a closing quote,
-/// gives an empty verb.
+/// may hold quotes itself. An opening or saving that is not of the known form, or is without a
+/// closing quote, gives an empty verb.
 SoundCommand ParseSoundCommand(TextView command);
 
 /// A whole number that is all of `value` but blanks before it; `otherwise` where it is none or

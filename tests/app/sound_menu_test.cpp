@@ -2,10 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "menu_support.h"
+#include "model/windows/background_sound.h"
 #include "model/windows/cd_program.h"
 #include "model/windows/declared_windows.h"
+#include "model/windows/linked_sound.h"
 #include "model/windows/main_window.h"
-#include "model/windows/sound_windows.h"
 
 namespace app_tests {
 namespace {
@@ -71,8 +72,8 @@ TEST(SoundModeMenu, EveryModeIsChosenWithItsBoxFirst) {
         }
         EXPECT_EQ(menus.dialogs.inputs.size(), mode == 1 ? 1u : 0u);
         EXPECT_EQ(menus.form1.mnuCDM.Visible, mode == 2);
-        EXPECT_EQ(windows.form13.Option1.Value, mode != 9);
-        EXPECT_EQ(windows.form13.Option2.Value, mode == 9);
+        EXPECT_EQ(windows.form13.Option1.Value, mode == 9) << "MP3";
+        EXPECT_EQ(windows.form13.Option2.Value, mode != 9) << "WAV";
     }
 }
 

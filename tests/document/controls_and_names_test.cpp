@@ -10,11 +10,11 @@
 #include "document/state_files.h"
 #include "document_support.h"
 #include "model/controls.h"
+#include "model/windows/background_sound.h"
 #include "model/windows/link_list.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/sound_list.h"
-#include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 
 namespace document_tests {

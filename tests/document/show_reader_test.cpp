@@ -4,11 +4,11 @@
 
 #include "document/slide_rows.h"
 #include "document_support.h"
+#include "model/windows/background_sound.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_list.h"
-#include "model/windows/sound_windows.h"
 
 namespace document_tests {
 namespace {

@@ -5,10 +5,10 @@
 #include <random>
 
 #include "model/controls.h"
+#include "model/windows/background_sound.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/sound_list.h"
-#include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 #include "state_support.h"
 #include "text/paths.h"

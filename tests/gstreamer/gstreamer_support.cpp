@@ -155,12 +155,12 @@ int64_t HeldKiB() {
 }
 
 Studio::Studio(std::vector<std::string> sinks, gst_adapter::OpenDisc openDisc, std::string cdDevice,
-               int searchLimitMs)
+               int searchLimitMs, gst_adapter::Microphones microphones)
     : files(folder.Path()),
       output(std::make_shared<gst_adapter::AudioOutput>(std::move(sinks),
                                                         std::chrono::milliseconds(searchLimitMs))),
       sound(std::make_unique<gst_adapter::GstSound>(files, loop, output, std::move(openDisc),
-                                                    std::move(cdDevice))) {
+                                                    std::move(cdDevice), std::move(microphones))) {
     ResetTestSink();
 }
 

@@ -91,7 +91,8 @@ void HoldTestSink(Hold what);
 /// A sound adapter in a folder of its own.
 struct Studio {
     explicit Studio(std::vector<std::string> sinks = {}, gst_adapter::OpenDisc openDisc = {},
-                    std::string cdDevice = {}, int searchLimitMs = kHangMs);
+                    std::string cdDevice = {}, int searchLimitMs = kHangMs,
+                    gst_adapter::Microphones microphones = {});
     /// Waits until nothing of it plays any more.
     ~Studio();
 

@@ -7,11 +7,13 @@
 #include <string>
 #include <vector>
 
+#include "model/windows/background_sound.h"
 #include "model/windows/control_box.h"
+#include "model/windows/linked_sound.h"
 #include "model/windows/main_window.h"
+#include "model/windows/recording.h"
 #include "model/windows/slide_screen.h"
 #include "model/windows/sound_list.h"
-#include "model/windows/sound_windows.h"
 #include "platform/event_loop.h"
 
 namespace model {

@@ -25,6 +25,29 @@ TEST(SoundCommand, WhatIsNoOpening) {
     }
 }
 
+TEST(SoundCommand, ANewRecording) {
+    const SoundCommand command = ParseSoundCommand(u"open new type waveaudio alias Rec");
+    EXPECT_EQ(command.verb, u"open new");
+    EXPECT_EQ(command.type, u"waveaudio");
+    EXPECT_EQ(command.device, u"Rec");
+    EXPECT_EQ(command.file, u"");
+    for (const Text text : {u"open new", u"open new type waveaudio", u"open new alias Rec"}) {
+        EXPECT_EQ(ParseSoundCommand(text).device, u"") << text::ToUtf8(text);
+    }
+}
+
+TEST(SoundCommand, ASaving) {
+    for (const Text file : {u"C:\\s\\a b.wav", u"/s/say \"hi\".wav", u"/s/\"", u"\"", u""}) {
+        const SoundCommand command = ParseSoundCommand(u"save Rec \"" + file + u"\"");
+        EXPECT_EQ(command.verb, u"save");
+        EXPECT_EQ(command.device, u"Rec");
+        EXPECT_EQ(command.file, file);
+    }
+    for (const Text text : {u"save Rec", u"save Rec a.wav", u"save Rec \"a.wav", u"save"}) {
+        EXPECT_EQ(ParseSoundCommand(text).verb, u"") << text::ToUtf8(text);
+    }
+}
+
 TEST(SoundCommand, WordsOfTheOthers) {
     const SoundCommand command = ParseSoundCommand(u" setaudio  mp3 volume to  980 ");
     EXPECT_EQ(command.verb, u"setaudio");

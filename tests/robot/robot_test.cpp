@@ -4,13 +4,13 @@
 
 #include "model/list_controls.h"
 #include "model/picture_controls.h"
+#include "model/windows/background_sound.h"
 #include "model/windows/control_box.h"
 #include "model/windows/link_list.h"
 #include "model/windows/linked_folder.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
 #include "model/windows/slide_screen.h"
-#include "model/windows/sound_windows.h"
 #include "model/windows/text_display.h"
 #include "robot/robot_run.h"
 

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "model/windows/background_sound.h"
 #include "model/windows/main_window.h"
 #include "model/windows/slide_list.h"
-#include "model/windows/sound_windows.h"
 #include "support/fake_platform.h"
 
 namespace robot {

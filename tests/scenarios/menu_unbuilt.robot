@@ -3,12 +3,6 @@
 @300 menu mnuICHI
 @700 click Form1.Command11
 @800 menu mnuSCHEDULE
-@900 menu mnuKOU 3
-expect SoundMode 3
-@1000 menu mnuKOU 4
-expect SoundMode 4
-@1100 menu mnuKOU 8
-expect SoundMode 8
 expect Form1.Command10.Enabled true
 expect Form1.Command11.Enabled true
 expect Form1.mnuWAVLIST.Enabled true
@@ -20,7 +14,4 @@ expect Form1.Visible true
 expect-trace message t=300 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=700 title="" text=この版にはまだありません。 flags=0
 expect-trace message t=800 title="" text=この版にはまだありません。 flags=0
-expect-trace message t=900 title="" text=この版にはまだありません。 flags=0
-expect-trace message t=1000 title="" text=この版にはまだありません。 flags=0
-expect-trace message t=1100 title="" text=この版にはまだありません。 flags=0
 expect-no act

@@ -7,6 +7,7 @@
 
 #include "adapters/posix/posix_files.h"
 #include "adapters/virtual/virtual_video.h"
+#include "platform/wave_format.h"
 #include "posix/temporary_folder.h"
 #include "support/fake_platform.h"
 #include "support/media_bytes.h"
@@ -180,6 +181,38 @@ TEST(VirtualVideo, WhatIsNoVideoNeverPlays) {
         device.video.Play();
         EXPECT_EQ(device.video.Status(), VideoState::Ready) << name;
     }
+}
+
+TEST(VirtualRecorder, SavesSilenceOfTheLengthThatPassed) {
+    Device device;
+    const Text path = device.Path("say \"hi\".wav");
+    EXPECT_FALSE(device.sound.Recording(u"Rec"));
+    device.Send(u"open new type waveaudio alias Rec");
+    device.Send(
+        u"set Rec channels 2 samplespersec 44100 bytespersec 176400 alignment 4 "
+        u"bitspersample 16");
+    EXPECT_FALSE(device.sound.Recording(u"Rec"));
+    device.Send(u"record Rec");
+    device.loop.Sleep(1000);
+    ASSERT_TRUE(device.sound.Recording(u"Rec"));
+    EXPECT_EQ(device.sound.Recording(u"Rec")->milliseconds, 1000);
+    EXPECT_EQ(device.sound.Recording(u"Rec")->peak, 0);
+    device.Send(u"stop Rec");
+    device.loop.Sleep(500);
+    EXPECT_FALSE(device.sound.Recording(u"Rec"));
+    EXPECT_EQ(device.Send(u"save Rec \"" + path + u"\""), u"saved");
+    device.Send(u"close Rec");
+    EXPECT_EQ(device.folder.Content("say \"hi\".wav"),
+              platform::WaveHeader({2, 44100}, 176400) + std::string(176400, '\0'));
+    EXPECT_EQ(device.Send(u"save Rec \"" + path + u"\""), u"") << "it was closed";
+}
+
+TEST(VirtualRecorder, SaysWhenItCannotSave) {
+    Device device;
+    device.Send(u"open new type waveaudio alias Rec");
+    device.Send(u"record Rec");
+    device.Send(u"stop Rec");
+    EXPECT_EQ(device.Send(u"save Rec \"/nowhere/at/all/a.wav\""), u"");
 }
 
 }  // namespace

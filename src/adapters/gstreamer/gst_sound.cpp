@@ -32,10 +32,12 @@ constexpr TypeRow kTypes[] = {
 }  // namespace
 
 GstSound::GstSound(platform::Files& files, platform::EventLoop& loop,
-                   std::shared_ptr<AudioOutput> output, OpenDisc openDisc, std::string cdDevice)
+                   std::shared_ptr<AudioOutput> output, OpenDisc openDisc, std::string cdDevice,
+                   Microphones microphones)
     : files_(files),
       loop_(loop),
       output_(std::move(output)),
+      microphones_(std::move(microphones)),
       cd_(std::move(openDisc), std::move(cdDevice), output_, loop) {
     loop_.SetTimer(this, kWarmUpAfterMs, [this] {
         loop_.CancelTimer(this);
@@ -46,6 +48,7 @@ GstSound::GstSound(platform::Files& files, platform::EventLoop& loop,
 GstSound::~GstSound() {
     loop_.CancelTimer(this);
     pieces_.clear();
+    recorders_.clear();
     effect_.reset();
     cd_.Send({u"close", u"cdaudio", {}, {}, {}});
     WaitForThreads(kFarewellMs);
@@ -59,6 +62,17 @@ Text GstSound::MciSendString(TextView text) {
     if (command.verb == u"open") {
         Open(command);
         return {};
+    }
+    if (command.verb == u"open new") {
+        OpenNew(command);
+        return {};
+    }
+    if (const auto recorder = recorders_.find(command.device); recorder != recorders_.end()) {
+        if (command.verb == u"close") {
+            recorders_.erase(recorder);
+            return {};
+        }
+        return Send(*recorder->second, command);
     }
     const auto found = pieces_.find(command.device);
     if (found == pieces_.end()) {
@@ -74,7 +88,7 @@ Text GstSound::MciSendString(TextView text) {
 void GstSound::Open(const platform::SoundCommand& command) {
     for (const TypeRow& row : kTypes) {
         if (command.type != row.type || command.device.empty() ||
-            pieces_.contains(command.device)) {
+            pieces_.contains(command.device) || recorders_.contains(command.device)) {
             continue;
         }
         if (const auto path = files_.Find(command.file)) {
@@ -108,6 +122,34 @@ Text GstSound::Send(Piece& piece, const platform::SoundCommand& command) {
         return player.Playing() ? u"playing" : u"stopped";
     }
     return {};
+}
+
+void GstSound::OpenNew(const platform::SoundCommand& command) {
+    if (command.type == u"waveaudio" && !command.device.empty() &&
+        !pieces_.contains(command.device) && !recorders_.contains(command.device)) {
+        recorders_[command.device] = std::make_unique<Recorder>(microphones_);
+    }
+}
+
+Text GstSound::Send(Recorder& recorder, const platform::SoundCommand& command) {
+    if (command.verb == u"set") {
+        platform::WaveFormat format;
+        if (platform::ReadWaveFormat(command.rest, format)) {
+            recorder.SetFormat(format);
+        }
+    } else if (command.verb == u"record") {
+        recorder.Record();
+    } else if (command.verb == u"stop") {
+        recorder.Stop();
+    } else if (command.verb == u"save") {
+        return recorder.Save(files_, command.file) ? u"saved" : u"";
+    }
+    return {};
+}
+
+std::optional<platform::RecordingState> GstSound::Recording(TextView alias) {
+    const auto found = recorders_.find(Text(alias));
+    return found == recorders_.end() ? std::nullopt : found->second->State();
 }
 
 void GstSound::SndPlaySound(const std::optional<Text>& file, int flags) {

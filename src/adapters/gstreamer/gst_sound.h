@@ -2,6 +2,8 @@
 //   open "FILE" type waveaudio|sequencer|MPEGVideo alias A    a missing file opens nothing, nor
 //   does
 //                                                              an alias that is open
+//   open new type waveaudio alias A    a recording, which "set A channels …" gives its format;
+//                                      record A, stop A, save A "FILE", close A
 //   open cdaudio
 //   set A time format milliseconds
 //   play A from N       in that format from there, else from the piece's beginning; cdaudio: from
@@ -12,7 +14,7 @@
 //   set A …             else taken; changes nothing but the time format of cdaudio
 //   stop A, close A
 // Anything else, and anything sent to an alias that is not open, is answered by the empty text.
-// No call waits for the sound server.
+// No call waits for the sound server; "save" waits for the disk.
 #pragma once
 
 #include <map>
@@ -23,6 +25,7 @@
 #include "adapters/gstreamer/cd_audio.h"
 #include "adapters/gstreamer/disc.h"
 #include "adapters/gstreamer/player.h"
+#include "adapters/gstreamer/recorder.h"
 #include "platform/event_loop.h"
 #include "platform/files.h"
 #include "platform/sound.h"
@@ -33,11 +36,12 @@ class GstSound : public platform::Sound {
 public:
     /// `loop` is pumped while a synchronous sound plays. `output` may be shared with the video.
     GstSound(platform::Files& files, platform::EventLoop& loop, std::shared_ptr<AudioOutput> output,
-             OpenDisc openDisc = {}, std::string cdDevice = {});
+             OpenDisc openDisc = {}, std::string cdDevice = {}, Microphones microphones = {});
     /// Ends every sound; waits a moment for that, no longer.
     ~GstSound() override;
 
     Text MciSendString(TextView command) override;
+    std::optional<platform::RecordingState> Recording(TextView alias) override;
 
     /// Flags: 1 asynchronous, 8 looped (with 1), 2 no default sound (there is none in any case).
     /// Without 1 it returns when the sound has ended, was replaced, or was ended by a handler that
@@ -51,12 +55,16 @@ private:
     };
 
     void Open(const platform::SoundCommand& command);
+    void OpenNew(const platform::SoundCommand& command);
     Text Send(Piece& piece, const platform::SoundCommand& command);
+    Text Send(Recorder& recorder, const platform::SoundCommand& command);
 
     platform::Files& files_;
     platform::EventLoop& loop_;
     std::shared_ptr<AudioOutput> output_;
     std::map<Text, Piece> pieces_;
+    const Microphones microphones_;
+    std::map<Text, std::unique_ptr<Recorder>> recorders_;
     std::unique_ptr<Player> effect_;  // of SndPlaySound
     int effects_ = 0;                 // counts SndPlaySound
     CdAudio cd_;

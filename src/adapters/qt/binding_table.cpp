@@ -58,6 +58,7 @@ constexpr KindRow kRows[] = {
     {ControlKind::Calendar, Tie<CalendarBinding, model::Calendar, QCalendarWidget>},
     {ControlKind::ScrollBar, Tie<SoundBinding, model::SoundBar, SoundSlider>},
     {ControlKind::ScrollBar, Tie<ScrollBinding, model::ScrollBar, QAbstractSlider>},
+    {ControlKind::ScrollBar, Tie<MeterBinding, model::ScrollBar, QProgressBar>},
     {ControlKind::PictureBox, Tie<PictureBinding, model::PictureBox, CanvasWidget>,
      Plain<CanvasWidget>},
     {ControlKind::Image, Tie<ImageBinding, model::Image, ImageWidget>},

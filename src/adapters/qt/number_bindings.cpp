@@ -28,6 +28,16 @@ void ScrollBinding::SyncOwn() {
     face_.setValue(bar_.Value);
 }
 
+MeterBinding::MeterBinding(model::ScrollBar& bar, QProgressBar& widget, const Site& site)
+    : ControlBinding(bar, widget, site), bar_(bar), face_(widget) {
+    Sync();
+}
+
+void MeterBinding::SyncOwn() {
+    face_.setRange(bar_.Min, bar_.Max);
+    face_.setValue(bar_.Value);
+}
+
 CalendarBinding::CalendarBinding(model::Calendar& calendar, QCalendarWidget& widget,
                                  const Site& site)
     : ControlBinding(calendar, widget, site), calendar_(calendar), face_(widget) {

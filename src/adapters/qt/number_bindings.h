@@ -3,6 +3,7 @@
 
 #include <QAbstractSlider>
 #include <QCalendarWidget>
+#include <QProgressBar>
 
 #include "adapters/qt/control_binding.h"
 #include "model/grid.h"
@@ -21,6 +22,19 @@ protected:
 private:
     model::ScrollBar& bar_;
     QAbstractSlider& face_;
+};
+
+/// The number is seen and cannot be moved.
+class MeterBinding : public ControlBinding {
+public:
+    MeterBinding(model::ScrollBar& bar, QProgressBar& widget, const Site& site);
+
+protected:
+    void SyncOwn() override;
+
+private:
+    model::ScrollBar& bar_;
+    QProgressBar& face_;
 };
 
 class CalendarBinding : public ControlBinding {

@@ -17,6 +17,10 @@ public:
         return result;
     }
 
+    std::optional<platform::RecordingState> Recording(TextView alias) override {
+        return sound_.Recording(alias);
+    }
+
     void SndPlaySound(const std::optional<Text>& file, int flags) override {
         if (file) {
             trace_.Event("sndPlaySound", {{"file", *file}, {"flags", static_cast<double>(flags)}});

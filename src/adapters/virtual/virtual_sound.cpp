@@ -28,6 +28,9 @@ Text VirtualSound::MciSendString(TextView line) {
     if (command.device == kCdDevice && command.file.empty()) {
         return cd.Send(command);
     }
+    if (const std::optional<Text> answer = recorder_.Send(command)) {
+        return *answer;
+    }
     if (command.verb == u"open") {
         Open(command);
         return {};

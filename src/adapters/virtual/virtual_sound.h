@@ -4,6 +4,7 @@
 #include <map>
 
 #include "adapters/virtual/virtual_cd.h"
+#include "adapters/virtual/virtual_recorder.h"
 #include "platform/event_loop.h"
 #include "platform/files.h"
 #include "platform/sound.h"
@@ -15,18 +16,24 @@ namespace virtual_adapter {
 /// NAME time format milliseconds, status NAME mode ("playing" or "stopped"), status NAME position.
 /// Places other than the beginning need that time format. Every file that exists can be opened;
 /// what cannot be played, or does not tell its length, is "stopped" as soon as it plays. The device
-/// cdaudio has a drive. Everything else answers with the empty text. A sound that is played
-/// synchronously lets its length pass, with the loop pumping.
+/// cdaudio has a drive, and recordings are VirtualRecorder's. Everything else answers with the
+/// empty text. A sound that is played synchronously lets its length pass, with the loop pumping.
 class VirtualSound : public platform::Sound {
 public:
-    explicit VirtualSound(platform::EventLoop& loop) : cd(loop), loop_(loop) {}
+    explicit VirtualSound(platform::EventLoop& loop) : cd(loop), loop_(loop), recorder_(loop) {}
 
     VirtualCd cd;  // empty
 
     /// Where files are found; without it none can be opened.
-    void Follow(platform::Files& files) { files_ = &files; }
+    void Follow(platform::Files& files) {
+        files_ = &files;
+        recorder_.Follow(files);
+    }
 
     Text MciSendString(TextView command) override;
+    std::optional<platform::RecordingState> Recording(TextView alias) override {
+        return recorder_.State(alias);
+    }
     void SndPlaySound(const std::optional<Text>& file, int flags) override;
 
 private:
@@ -44,7 +51,8 @@ private:
     platform::EventLoop& loop_;
     platform::Files* files_ = nullptr;
     std::map<Text, Piece> pieces_;  // by alias
-    int played_ = 0;                // sounds that SndPlaySound has begun or ended
+    VirtualRecorder recorder_;
+    int played_ = 0;  // sounds that SndPlaySound has begun or ended
 };
 
 }  // namespace virtual_adapter

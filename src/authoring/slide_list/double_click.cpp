@@ -36,7 +36,7 @@ void OfferRecording(Application& app, const Text& slide) {
     if (app.platform.dialogs.Message(sound + u"\r\nの画像連動効果音を録音しますか ?",
                                      platform::kYesNoQuestion,
                                      u"効果音録音") == platform::Answer::Yes) {
-        RecordLinkedSound(app);
+        RecordLinkedSound(app, slide);
     } else if (CanBeOpened(app, sound)) {
         AskToDeleteLinkedSound(app, slide, LinkedSound::Wav, sound);
     }

@@ -1,12 +1,13 @@
 #include "authoring/slide_list/linked_sound.h"
 
-#include "authoring/shared/open_window.h"
+#include "authoring/linked_sound/copying.h"
+#include "authoring/linked_sound/recording.h"
+#include "authoring/shared/list_window.h"
 #include "authoring/slide_list/linked_work.h"
 #include "authoring/slide_list/row_faces.h"
 #include "authoring/slide_list/selection.h"
 #include "document/linked_names.h"
 #include "model/sound_modes.h"
-#include "model/windows/declared_windows.h"
 #include "model/windows/slide_list.h"
 
 namespace authoring {
@@ -36,11 +37,30 @@ void Command19_Click(Application& app) {
                            document::LinkedName(app, slide, KindOf(kind).extension));
 }
 
+/// The slide may have other sounds now.
+void FollowSounds(Application& app, const Text& slide) {
+    for (const TextView extension : {u"wav", u"mp3"}) {
+        ForgetFacts(app, document::LinkedName(app, slide, extension));
+    }
+    if (OnlySelectedRow(app.windows.form3.List1)) {
+        FollowSelection(app);
+    }
+}
+
+void Command20_Click(Application& app) {
+    if (const std::optional<int> row = AskForOneSlide(app, u"連動音設定")) {
+        const Text slide = app.windows.form3.List1.List(*row);
+        OpenCopying(app, slide);
+        FollowSounds(app, slide);
+    }
+}
+
 }  // namespace
 
-void RecordLinkedSound(Application& app) {
+void RecordLinkedSound(Application& app, const Text& slide) {
     StopLinkedWork(app);
-    OpenModal(app, app.windows.form20);
+    OpenRecording(app, slide);
+    FollowSounds(app, slide);
 }
 
 void AskToDeleteLinkedSound(Application& app, const Text& slide, LinkedSound kind,
@@ -66,16 +86,12 @@ void AskToDeleteLinkedSound(Application& app, const Text& slide, LinkedSound kin
 void AttachLinkedSound(Application& app) {
     model::Form3& form3 = app.windows.form3;
     form3.Command18.Click = [&app] {
-        if (AskForOneSlide(app, u"連動録音")) {
-            RecordLinkedSound(app);
+        if (const std::optional<int> row = AskForOneSlide(app, u"連動録音")) {
+            RecordLinkedSound(app, app.windows.form3.List1.List(*row));
         }
     };
     form3.Command19.Click = [&app] { Command19_Click(app); };
-    form3.Command20.Click = [&app] {
-        if (AskForOneSlide(app, u"連動音設定")) {
-            OpenModal(app, app.windows.form13);
-        }
-    };
+    form3.Command20.Click = [&app] { Command20_Click(app); };
 }
 
 }  // namespace authoring

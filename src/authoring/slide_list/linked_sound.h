@@ -8,9 +8,8 @@ namespace authoring {
 /// Command18, Command19 and Command20.
 void AttachLinkedSound(Application& app);
 
-/// Opens the window that records the sound of List1's current slide: after a double click that one
-/// is not selected any more.
-void RecordLinkedSound(Application& app);
+/// Opens the window that records the slide's sound, and returns when it is closed.
+void RecordLinkedSound(Application& app, const Text& slide);
 
 enum class LinkedSound { Wav, Mp3 };
 /// Asks with the path `shown` whether the slide's sound is to be deleted, and deletes it on a yes.

@@ -1,6 +1,5 @@
 #include "authoring/slide_list/linked_work.h"
-
-#include "model/windows/declared_windows.h"
+#include "model/windows/recording.h"
 
 namespace authoring {
 

@@ -20,14 +20,6 @@ struct Form7 : Window {  // picture detail
 struct Form11 : Window {
     Form11() : Window("Form11", u"画像のコピー") {}
 };
-struct Form13 : Window {  // linked sound assignment
-    Form13() : Window("form13") {}
-    OptionButton Option1{this, "Option1"};
-    OptionButton Option2{this, "Option2"};
-};
-struct Form20 : Window {
-    Form20() : Window("Form20", u"画像連動効果音(WAV)録音・再生") {}
-};
 struct Form21 : Window {
     Form21() : Window("Form21", u"日付入力") {}
 };
