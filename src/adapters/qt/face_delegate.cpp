@@ -141,7 +141,9 @@ FaceDelegate::Parts FaceDelegate::PartsOf(const QRect& place, const model::RowFa
         parts.title = QRect(left, top, right - left - marksWidth, line);
         parts.detail = QRect(left, top + line, right - left - aside - (aside ? kGap : 0), line);
         parts.aside = QRect(right - aside, top + line, aside, line);
-        firstMark = {right - marksWidth + kMarkGap, top + (line - kMark) / 2};
+        // Clear of the words below it.
+        firstMark = {right - marksWidth + kMarkGap,
+                     top + std::min((line - kMark) / 2, line - kMark - 1)};
     }
     for (int i = 0; i < marks; ++i) {
         parts.marks.emplace_back(firstMark + QPoint(i * (kMark + kMarkGap), 0),
