@@ -1,6 +1,8 @@
 # Shows come into the list by a click, all at once and by a drop, change places and leave.
 menu mnuURU
 expect Form9.Visible true
+expect Form9.Left 5400
+expect Form9.Top 2400
 expect Form1.Visible false
 expect LinkListDirty 1
 set Form9.Dir1 .

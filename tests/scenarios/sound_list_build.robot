@@ -2,6 +2,9 @@
 # unheard: Form10.Command6
 menu mnuWAVLIST
 expect Form10.Visible true
+# In the middle of the monitor.
+expect Form10.Left 6300
+expect Form10.Top 2700
 expect Form1.Visible true
 expect Form10.File1.Pattern "*.wav;*.mid;*.mp3"
 expect Form10.Command6.Enabled false

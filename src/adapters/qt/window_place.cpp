@@ -104,7 +104,7 @@ void WindowView::FollowVisible() {
     const bool appears = !root_->isVisible();
     root_->show();
     root_->raise();
-    if (appears && window_.EnterPresses) {
+    if (appears && window_.EnterPresses && root_->property("firstFocus").isNull()) {
         GiveKeyboardToFirst();
     }
     if (!root_->testAttribute(Qt::WA_ShowWithoutActivating)) {

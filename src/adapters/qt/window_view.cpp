@@ -131,6 +131,11 @@ void WindowView::Build() {
         const QSize size = root_->size().boundedTo(RoomForWindow());
         window_.Width = size.width() * platform::kTwipsPerPixel;
         window_.Height = size.height() * platform::kTwipsPerPixel;
+        if (window_.Left != 0 || window_.Top != 0) {
+            // It was centred without a size.
+            window_.Left = window_.Left - window_.Width / 2;
+            window_.Top = window_.Top - window_.Height / 2;
+        }
     }
     FollowCaption();
     if (!fullScreen_) {
