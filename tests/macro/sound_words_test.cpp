@@ -237,7 +237,9 @@ TEST_F(SoundWords, SoundModeChangesWithItsMenus) {
     EXPECT_THAT(Commands(u"SoundSet=9\r\n"), IsEmpty()) << "linked sound comes with its slide";
     EXPECT_TRUE(form1.mnuKOICHI.Visible);
     EXPECT_FALSE(form1.mnuDOUKI.Visible);
-    EXPECT_THAT(Commands(u"SoundSet=2\r\n"), ElementsAre(u"status cdaudio mode"));
+    EXPECT_THAT(Commands(u"SoundSet=2\r\n"),
+                ElementsAre(u"status cdaudio mode", u"open cdaudio", u"status cdaudio ready"))
+        << "no disc is ready";
     EXPECT_TRUE(form1.mnuCDM.Visible);
     EXPECT_TRUE(form1.mnuKOU(2).Checked);
     EXPECT_FALSE(form1.mnuKOU(3).Checked);

@@ -175,12 +175,12 @@ void GstVideo::Core::Finish() {
 }
 
 void GstVideo::Core::AtEnd() {
-    const bool some = shown || sound->heard;
-    if (!loop || !some) {
+    // Of a short film that a busy machine plays, all pictures of a round can come too late.
+    everShown = everShown || shown || sound->heard;
+    if (!loop || !everShown) {
         Finish();
         return;
     }
-    everShown = true;
     shown = false;
     sound->heard = false;
     if (!gst_element_seek_simple(

@@ -111,7 +111,12 @@ void AttachFaces(Application& app) {
     model::Form10& form10 = app.windows.form10;
     const auto lengths = std::make_shared<SoundLengths>(app);
     form10.List1.face = [&app, lengths](int row) { return Face(app, *lengths, row); };
-    form10.OnActivate = [&app, lengths] { Form_Activate(app, *lengths); };
+    // It goes with the list that it listens to.
+    form10.OnActivate = [&app, listener = std::weak_ptr(lengths)] {
+        if (const auto known = listener.lock()) {
+            Form_Activate(app, *known);
+        }
+    };
 }
 
 }  // namespace
