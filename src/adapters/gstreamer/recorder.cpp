@@ -28,9 +28,9 @@ constexpr double kFullAmplitude = 32768;
 /// A file on a disk, without a name. -1: none can be made.
 int OpenTemporary() {
     const char* chosen = std::getenv("TMPDIR");
-    for (const char* folder : {chosen ? chosen : "", "/var/tmp", "/tmp"}) {
+    for (const char* folder : {chosen && *chosen ? chosen : "/var/tmp", "/var/tmp", "/tmp"}) {
         int file = open(folder, O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
-        if (file < 0) {  // some disks have names only
+        if (file < 0) {  // some disks have names only; mkostemp fills the six letters in
             std::string name = std::string(folder) + "/parapico-XXXXXX";
             file = mkostemp(name.data(), O_CLOEXEC);
             if (file >= 0) {
